@@ -1,0 +1,8 @@
+#include "mp/serializable.h"
+
+namespace mp
+{
+
+ISerializable::~ISerializable() = default;
+
+} // namespace mp
