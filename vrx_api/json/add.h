@@ -1,0 +1,57 @@
+#pragma once
+
+#include "kolt/log.h"
+
+#include <memory>
+#include <vector>
+
+namespace vrx
+{
+
+/// True for a null pointer, which is logged with the class's text.
+template <class T>
+bool refuseNull(const std::shared_ptr<T>& object, const char* refusal)
+{
+    if (object == nullptr)
+    {
+        kolt::log(kolt::kWarning, refusal);
+        return true;
+    }
+    return false;
+}
+
+/// Appends an object; a null pointer is refused.
+template <class T>
+void add(std::vector<std::shared_ptr<T>>& objects, const std::shared_ptr<T>& object, const char* refusal)
+{
+    if (!refuseNull(object, refusal))
+    {
+        objects.push_back(object);
+    }
+}
+
+/// Appends objects in their order; each null pointer is refused by itself.
+template <class T>
+void addAll(std::vector<std::shared_ptr<T>>& objects, const std::vector<std::shared_ptr<T>>& added, const char* refusal)
+{
+    // Objects may be added to their own vector, which grows meanwhile.
+    const std::size_t count = added.size();
+    objects.reserve(objects.size() + count);
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        const std::shared_ptr<T> object = added[i];
+        add(objects, object, refusal);
+    }
+}
+
+/// Replaces the objects; each null pointer is refused by itself.
+template <class T>
+void setAll(std::vector<std::shared_ptr<T>>& objects, const std::vector<std::shared_ptr<T>>& wanted,
+            const char* refusal)
+{
+    const std::vector<std::shared_ptr<T>> kept = wanted;
+    objects.clear();
+    addAll(objects, kept, refusal);
+}
+
+} // namespace vrx

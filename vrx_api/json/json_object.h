@@ -1,0 +1,29 @@
+#pragma once
+
+#include "vrx_api/json/json_value.h"
+#include "vrx_api/vrx_api_export.h"
+
+namespace vrx
+{
+
+/// The contract of every piece of data that crosses: it reads itself from a JSON value and writes itself to one.
+/// A model class forgives: a key that is missing or of another kind leaves its field as it is, and only a wrong kind of
+/// the whole value is logged. A class that throws says so.
+class VRX_API IJsonObject
+{
+public:
+    virtual ~IJsonObject();
+    virtual void readObject(const JsonValue& value) = 0;
+
+    /// Whatever the given value held is dropped. Keys are added by reference and strings are copied to the allocator.
+    virtual void writeObject(JsonValue& value, JsonAllocator& allocator) const = 0;
+
+protected:
+    IJsonObject() = default;
+    IJsonObject(const IJsonObject&) = default;
+    IJsonObject(IJsonObject&&) = default;
+    IJsonObject& operator=(const IJsonObject&) = default;
+    IJsonObject& operator=(IJsonObject&&) = default;
+};
+
+} // namespace vrx

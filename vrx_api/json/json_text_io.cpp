@@ -1,0 +1,161 @@
+#include "vrx_api/json/json_text_io.h"
+
+#include "vrx_api/json/json_children.h"
+
+#include <rapidjson/prettywriter.h>
+
+#include <stdexcept>
+#include <vector>
+
+namespace vrx
+{
+
+namespace
+{
+
+// A caller's stream is touched by one bulk write or one bulk read: unit by unit, libstdc++ turns U+FFFF into U+FFFD.
+struct WideBuffer
+{
+    using Ch = wchar;
+
+    void Put(Ch unit) { text.push_back(unit); }
+    void Flush() {}
+
+    wstring text;
+};
+
+using PlainWriter = rapidjson::Writer<WideBuffer, JsonEncoding, JsonEncoding>;
+using PrettyWriter = rapidjson::PrettyWriter<WideBuffer, JsonEncoding, JsonEncoding>;
+
+template <class Writer>
+bool writeScalar(Writer& writer, const JsonValue& value)
+{
+    switch (value.GetType())
+    {
+    case rapidjson::kNullType:
+        return writer.Null();
+    case rapidjson::kFalseType:
+    case rapidjson::kTrueType:
+        return writer.Bool(value.GetBool());
+    case rapidjson::kStringType:
+        return writer.String(value.GetString(), value.GetStringLength());
+    default:
+        break;
+    }
+    if (value.IsDouble())
+    {
+        return writer.Double(value.GetDouble());
+    }
+    if (value.IsInt64())
+    {
+        return writer.Int64(value.GetInt64());
+    }
+    return writer.Uint64(value.GetUint64());
+}
+
+// RapidJSON's own walk recurses, and a deep tree overflows the stack; this one keeps its own.
+// False when the tree holds what JSON text can't: a number that is not finite, or a name that is no string.
+template <class Writer>
+bool writeTree(Writer& writer, const JsonValue& root)
+{
+    std::vector<JsonChildren> open;
+    const JsonValue* value = &root;
+    while (true)
+    {
+        if (value->IsObject() || value->IsArray())
+        {
+            value->IsObject() ? writer.StartObject() : writer.StartArray();
+            open.emplace_back(*value);
+        }
+        else if (!writeScalar(writer, *value))
+        {
+            return false;
+        }
+        while (!open.empty() && open.back().atEnd())
+        {
+            open.back().isObject() ? writer.EndObject() : writer.EndArray();
+            open.pop_back();
+        }
+        if (open.empty())
+        {
+            return true;
+        }
+        const bool atName = open.back().atName();
+        value = &open.back().next();
+        if (atName && !value->IsString())
+        {
+            return false;
+        }
+    }
+}
+
+bool writeText(WideBuffer& buffer, const JsonDocument& document, bool pretty)
+{
+    if (pretty)
+    {
+        constexpr unsigned kIndent = 2;
+        PrettyWriter writer(buffer);
+        writer.SetIndent(' ', kIndent).SetFormatOptions(rapidjson::kFormatSingleLineArray);
+        return writeTree(writer, document);
+    }
+    PlainWriter writer(buffer);
+    return writeTree(writer, document);
+}
+
+wstring readAll(wistream& stream)
+{
+    wstring text;
+    const wistream::sentry ready(stream, true);
+    if (!ready)
+    {
+        return text;
+    }
+    auto& buffer = *stream.rdbuf();
+    using Traits = wistream::traits_type;
+    while (!Traits::eq_int_type(buffer.sgetc(), Traits::eof()))
+    {
+        const std::streamsize available = buffer.in_avail();
+        const std::size_t size = text.size();
+        text.resize(size + static_cast<std::size_t>(available > 0 ? available : 1));
+        const std::streamsize taken = buffer.sgetn(&text[size], static_cast<std::streamsize>(text.size() - size));
+        text.resize(size + static_cast<std::size_t>(taken));
+        if (taken <= 0)
+        {
+            break;
+        }
+    }
+    stream.setstate(std::ios_base::eofbit);
+    return text;
+}
+
+} // namespace
+
+wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool pretty)
+{
+    WideBuffer buffer;
+    const bool complete = writeText(buffer, document, pretty);
+    stream.write(buffer.text.data(), static_cast<std::streamsize>(buffer.text.size()));
+    stream.flush();
+    if (!complete)
+    {
+        throw std::runtime_error("Cannot write object into json document");
+    }
+    return stream;
+}
+
+wistream& JsonTextIO::read(wistream& stream, JsonDocument& document)
+{
+    const wstring text = readAll(stream);
+    JsonValue before;
+    static_cast<JsonValue&>(document).Swap(before);
+    // The recursive parser accepts the same texts, but overflows the stack on deep ones.
+    constexpr unsigned kFlags = rapidjson::kParseDefaultFlags | rapidjson::kParseIterativeFlag;
+    document.Parse<kFlags>(text.c_str());
+    if (document.HasParseError())
+    {
+        static_cast<JsonValue&>(document).Swap(before);
+    }
+    return stream;
+}
+
+} // namespace vrx

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "vrx_api/json/json_value.h"
+#include "vrx_api/vrx_api_export.h"
+
+namespace vrx
+{
+
+/// The text form of JSON on a wide stream, which holds one value and no more: no byte order mark, no terminator.
+class VRX_API JsonTextIO
+{
+public:
+    JsonTextIO() = delete;
+
+    /// Writes the document; with `pretty` one member stands on a line and an array stays on one.
+    /// Throws `std::runtime_error` when a number is not finite: JSON has no text for it. What stands before that number
+    /// is on the stream by then.
+    static wostream& write(wostream& stream, const JsonDocument& document, bool pretty);
+
+    /// Parses the stream up to its end or to a NUL. A text that is no JSON leaves the document as it was, with the
+    /// error in its parse result.
+    static wistream& read(wistream& stream, JsonDocument& document);
+};
+
+} // namespace vrx
