@@ -1,0 +1,318 @@
+#include "vrx_api/exchange/binary_tag.h"
+#include "vrx_api/exchange/json_binary_io.h"
+
+#include <algorithm>
+#include <cstring>
+#include <exception>
+#include <limits>
+#include <stdexcept>
+
+namespace vrx
+{
+
+namespace
+{
+
+constexpr std::size_t kTagSize = sizeof(std::uint32_t);
+constexpr std::size_t kSizeSize = sizeof(std::uint64_t);
+
+constexpr const char* kNoType = "Failed to parse all bytes of type";
+constexpr const char* kNoNumber = "Failed to read all the number of bytes";
+constexpr const char* kNoString = "Failed to read all the bytes of string";
+constexpr const char* kNoArray = "Failed to read all the bytes of array";
+
+// Decodes one value into a document as its events, from which the document allocates every container exactly.
+// A document takes any value in a name's place, as the format does.
+class Decoder
+{
+public:
+    Decoder(const char* data, std::size_t size)
+        : m_next(data)
+        , m_end(data + size)
+        , m_limit(m_end)
+    {
+    }
+
+    // The generator that a document is populated by; true when there is something to take.
+    bool operator()(JsonDocument& document)
+    {
+        m_document = &document;
+        try
+        {
+            decode();
+            return true;
+        }
+        catch (const std::exception&)
+        {
+            m_failure = std::current_exception();
+            return closeAfterFailure();
+        }
+    }
+
+    // Ends a decoding that failed, with the root as far as it came.
+    void finish(JsonValue& root) const
+    {
+        if (m_failure == nullptr)
+        {
+            return;
+        }
+        if (m_lastChildCutOff)
+        {
+            root.IsArray() ? static_cast<void>(root.PopBack())
+                           : static_cast<void>(root.EraseMember(root.MemberEnd() - 1));
+        }
+        std::rethrow_exception(m_failure);
+    }
+
+private:
+    struct Container
+    {
+        const char* end;
+        std::uint64_t count; // children, an object's names among them
+        bool object;
+
+        bool nameAlone() const { return object && count % 2 != 0; }
+    };
+
+    void decode()
+    {
+        decodeValue();
+        while (!m_open.empty())
+        {
+            if (m_next < m_limit || m_open.back().nameAlone())
+            {
+                ++m_open.back().count;
+                decodeValue();
+            }
+            else
+            {
+                close();
+            }
+        }
+    }
+
+    void decodeValue()
+    {
+        switch (static_cast<BinaryTag>(take<std::uint32_t>(kNoType)))
+        {
+        case BinaryTag::Null:
+            m_document->Null();
+            break;
+        case BinaryTag::False:
+            m_document->Bool(false);
+            break;
+        case BinaryTag::True:
+            m_document->Bool(true);
+            break;
+        case BinaryTag::Object:
+            open(true);
+            break;
+        case BinaryTag::Array:
+            open(false);
+            break;
+        case BinaryTag::String:
+            decodeString();
+            break;
+        case BinaryTag::Int:
+            m_document->Int(take<std::int32_t>(kNoNumber));
+            break;
+        case BinaryTag::Uint:
+            m_document->Uint(take<std::uint32_t>(kNoNumber));
+            break;
+        case BinaryTag::Int64:
+            m_document->Int64(take<std::int64_t>(kNoNumber));
+            break;
+        case BinaryTag::Uint64:
+            m_document->Uint64(take<std::uint64_t>(kNoNumber));
+            break;
+        case BinaryTag::Double:
+            m_document->Double(take<double>(kNoNumber));
+            break;
+        default:
+            throw std::invalid_argument("Unknown value type");
+        }
+    }
+
+    void decodeString()
+    {
+        const auto count = take<std::uint64_t>(kNoNumber);
+        if (count > remaining() / sizeof(wchar) || count > std::numeric_limits<rapidjson::SizeType>::max())
+        {
+            throw std::length_error(kNoString);
+        }
+        m_units.resize(static_cast<std::size_t>(count));
+        std::memcpy(m_units.data(), m_next, m_units.size() * sizeof(wchar));
+        m_next += m_units.size() * sizeof(wchar);
+        m_document->String(m_units.data(), static_cast<rapidjson::SizeType>(count), true);
+    }
+
+    void open(bool object)
+    {
+        const auto size = take<std::uint64_t>(kNoNumber);
+        if (size > remaining())
+        {
+            throw std::length_error(kNoArray);
+        }
+        object ? m_document->StartObject() : m_document->StartArray();
+        m_limit = m_next + size;
+        m_open.push_back({m_limit, 0, object});
+    }
+
+    void close()
+    {
+        const Container container = m_open.back();
+        const std::uint64_t children = container.object ? container.count / 2 : container.count;
+        if (children > std::numeric_limits<rapidjson::SizeType>::max())
+        {
+            throw std::length_error("Too many values in one array or object");
+        }
+        const auto count = static_cast<rapidjson::SizeType>(children);
+        container.object ? m_document->EndObject(count) : m_document->EndArray(count);
+        m_open.pop_back();
+        m_limit = m_open.empty() ? m_end : m_open.back().end;
+    }
+
+    // Closes what the failure left open; false when not even the root was begun. The value that failed was counted
+    // before it was decoded.
+    bool closeAfterFailure()
+    {
+        if (m_open.empty())
+        {
+            return false;
+        }
+        --m_open.back().count;
+        m_lastChildCutOff = m_open.size() > 1 || m_open.back().nameAlone();
+        while (!m_open.empty())
+        {
+            if (m_open.back().nameAlone())
+            {
+                m_document->Null();
+                ++m_open.back().count;
+            }
+            close();
+        }
+        return true;
+    }
+
+    std::size_t remaining() const { return static_cast<std::size_t>(m_limit - m_next); }
+
+    template <class T>
+    T take(const char* failure)
+    {
+        T value;
+        if (remaining() < sizeof(T))
+        {
+            throw std::length_error(failure);
+        }
+        std::memcpy(&value, m_next, sizeof(T));
+        m_next += sizeof(T);
+        return value;
+    }
+
+    const char* m_next;
+    const char* m_end;
+    const char* m_limit; // the end of the innermost open container
+    std::vector<Container> m_open;
+    wstring m_units;
+    JsonDocument* m_document = nullptr;
+    std::exception_ptr m_failure;
+    bool m_lastChildCutOff = false;
+};
+
+// Takes bytes from a stream that has its whole content at hand; how many there were.
+std::size_t takeBytes(std::istream& stream, std::vector<char>& bytes, std::uint64_t wanted)
+{
+    const std::size_t before = bytes.size();
+    while (bytes.size() - before < wanted)
+    {
+        const std::streamsize available = stream.rdbuf()->in_avail();
+        if (available <= 0)
+        {
+            break;
+        }
+        const std::size_t size = bytes.size();
+        const std::uint64_t missing = wanted - (size - before);
+        bytes.resize(size + static_cast<std::size_t>(std::min(missing, static_cast<std::uint64_t>(available))));
+        const std::streamsize taken = stream.readsome(&bytes[size], static_cast<std::streamsize>(bytes.size() - size));
+        bytes.resize(size + static_cast<std::size_t>(taken));
+        if (taken <= 0)
+        {
+            break;
+        }
+    }
+    return bytes.size() - before;
+}
+
+// How many bytes the payload of a value has behind its tag and, where it has one, its size.
+std::uint64_t payloadSize(BinaryTag tag, std::uint64_t size)
+{
+    return tag != BinaryTag::String ? size
+           : size > std::numeric_limits<std::uint64_t>::max() / sizeof(wchar)
+               ? std::numeric_limits<std::uint64_t>::max()
+               : size * sizeof(wchar);
+}
+
+bool hasSize(BinaryTag tag)
+{
+    return tag == BinaryTag::Object || tag == BinaryTag::Array || tag == BinaryTag::String;
+}
+
+std::uint64_t numberSize(BinaryTag tag)
+{
+    switch (tag)
+    {
+    case BinaryTag::Int:
+    case BinaryTag::Uint:
+        return sizeof(std::uint32_t);
+    case BinaryTag::Int64:
+    case BinaryTag::Uint64:
+    case BinaryTag::Double:
+        return sizeof(std::uint64_t);
+    default:
+        return 0;
+    }
+}
+
+// The bytes of one value, so that what stands behind it stays in the stream.
+std::vector<char> takeValue(std::istream& stream)
+{
+    std::vector<char> bytes;
+    if (takeBytes(stream, bytes, kTagSize) < kTagSize)
+    {
+        return bytes;
+    }
+    std::uint32_t number = 0;
+    std::memcpy(&number, bytes.data(), kTagSize);
+    const auto tag = static_cast<BinaryTag>(number);
+    if (!hasSize(tag))
+    {
+        takeBytes(stream, bytes, numberSize(tag));
+    }
+    else if (takeBytes(stream, bytes, kSizeSize) == kSizeSize)
+    {
+        std::uint64_t size = 0;
+        std::memcpy(&size, &bytes[kTagSize], kSizeSize);
+        takeBytes(stream, bytes, payloadSize(tag, size));
+    }
+    return bytes;
+}
+
+} // namespace
+
+void JsonBinaryIO::read(const char* data, std::uint64_t size, JsonValue& value, JsonAllocator& allocator)
+{
+    Decoder decoder(data, static_cast<std::size_t>(size));
+    JsonDocument document(&allocator);
+    document.Populate(decoder);
+    value.Swap(static_cast<JsonValue&>(document));
+    decoder.finish(value);
+}
+
+std::istream& JsonBinaryIO::read(std::istream& stream, JsonValue& value, JsonAllocator& allocator)
+{
+    const std::vector<char> bytes = takeValue(stream);
+    read(bytes.data(), bytes.size(), value, allocator);
+    return stream;
+}
+
+} // namespace vrx

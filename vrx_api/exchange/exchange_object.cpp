@@ -1,0 +1,81 @@
+#include "vrx_api/exchange/exchange_object.h"
+
+#include "kolt/log.h"
+#include "mp/shared_buffer.h"
+#include "vrx_api/exchange/compressor.h"
+#include "vrx_api/exchange/json_binary_io.h"
+
+#include <boost/uuid/random_generator.hpp>
+#include <boost/uuid/uuid_io.hpp>
+
+#include <string>
+#include <vector>
+
+namespace vrx
+{
+
+namespace
+{
+
+// The bytes of a buffer, which is removed from the system; decompressed if they say that they are compressed.
+std::vector<char> takeContent(const wstring& name)
+{
+    std::vector<char> bytes;
+    mp::SharedBuffer<char> buffer;
+    buffer.open(name, true);
+    buffer.read(bytes);
+    if (Compressor::isCompressed(bytes.data(), bytes.size()))
+    {
+        std::vector<char> plain;
+        Compressor::decompress(plain, bytes.data(), bytes.size());
+        return plain;
+    }
+    return bytes;
+}
+
+void decodeContent(const wstring& name, JsonDocument& document)
+{
+    const std::vector<char> bytes = takeContent(name);
+    JsonBinaryIO::read(bytes.data(), bytes.size(), document, document.GetAllocator());
+}
+
+} // namespace
+
+IExchangeObject::~IExchangeObject() = default;
+
+bool IExchangeObject::binary() const
+{
+    return false;
+}
+
+bool IExchangeObject::compress() const
+{
+    return false;
+}
+
+bool IExchangeObject::isLoaded() const
+{
+    return m_loaded;
+}
+
+void IExchangeObject::load()
+{
+    kolt::trace();
+    if (m_loaded || m_source.empty() || !binary())
+    {
+        return;
+    }
+    JsonDocument document;
+    decodeContent(m_source, document);
+    readObject(document);
+    m_loaded = true;
+}
+
+wstring IExchangeObject::generateUUID()
+{
+    boost::uuids::random_generator generate;
+    const std::string text = boost::uuids::to_string(generate());
+    return wstring(text.begin(), text.end());
+}
+
+} // namespace vrx

@@ -1,0 +1,37 @@
+#include "vrx_api/exchange/exchange_object_registry.h"
+
+namespace vrx
+{
+
+ExchangeObjectRegistry::ExchangeObjectRegistry() = default;
+ExchangeObjectRegistry::~ExchangeObjectRegistry() = default;
+
+ExchangeObjectRegistry& ExchangeObjectRegistry::instance()
+{
+    static ExchangeObjectRegistry registry;
+    return registry;
+}
+
+void ExchangeObjectRegistry::add(IExchangeObject* object)
+{
+    if (object != nullptr)
+    {
+        m_prototypes[object->objectName()] = object;
+    }
+}
+
+void ExchangeObjectRegistry::remove(IExchangeObject* object)
+{
+    if (object != nullptr)
+    {
+        m_prototypes.erase(object->objectName());
+    }
+}
+
+std::shared_ptr<IExchangeObject> ExchangeObjectRegistry::get(const wstring& name) const
+{
+    const auto found = m_prototypes.find(name);
+    return found == m_prototypes.end() ? nullptr : found->second->clone();
+}
+
+} // namespace vrx

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "vrx_api/exchange/exchange_object.h"
+
+#include <map>
+#include <memory>
+
+namespace vrx
+{
+
+/// Maps the name of an exchange class to its prototype. It is filled while the library is loaded and owns nothing.
+class VRX_API ExchangeObjectRegistry
+{
+public:
+    static ExchangeObjectRegistry& instance();
+
+    void add(IExchangeObject* object);
+
+    /// Removes the entry of the object's name, whichever object it holds.
+    void remove(IExchangeObject* object);
+
+    /// A new default object of the class of this name, or null.
+    std::shared_ptr<IExchangeObject> get(const wstring& name) const;
+
+private:
+    ExchangeObjectRegistry();
+    ~ExchangeObjectRegistry();
+
+    std::map<wstring, IExchangeObject*> m_prototypes;
+};
+
+} // namespace vrx

@@ -1,0 +1,128 @@
+#include "vrx_api/exchange/exchange_object_wrapper.h"
+
+#include "kolt/log.h"
+#include "mp/shared_buffer.h"
+#include "vrx_api/exchange/compressor.h"
+#include "vrx_api/exchange/exchange_object_registry.h"
+#include "vrx_api/exchange/json_binary_io.h"
+#include "vrx_api/json/json_read.h"
+#include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/json_write.h"
+#include "vrx_api/json/message.h"
+
+#include <stdexcept>
+#include <vector>
+
+namespace vrx
+{
+
+namespace
+{
+
+constexpr Key kName = WIDE("exchange_object_name");
+constexpr Key kBinary = WIDE("binary");
+constexpr Key kData = WIDE("exchange_object_data");
+
+constexpr int kDefaultCompression = -1;
+
+std::vector<char> encodeObject(const IExchangeObject& object)
+{
+    JsonDocument document;
+    object.writeObject(document, document.GetAllocator());
+    std::vector<char> bytes;
+    JsonBinaryIO::write(bytes, document);
+    return bytes;
+}
+
+std::vector<char> contentOf(const IExchangeObject& object)
+{
+    std::vector<char> bytes = encodeObject(object);
+    if (!object.compress())
+    {
+        return bytes;
+    }
+    std::vector<char> compressed;
+    Compressor::compress(compressed, bytes.data(), bytes.size(), kDefaultCompression);
+    return compressed;
+}
+
+// Leaves the object's binary form in the system and returns the name under which it is found there.
+wstring share(const IExchangeObject& object)
+{
+    const std::vector<char> bytes = contentOf(object);
+    const wstring name = IExchangeObject::generateUUID();
+    mp::SharedBuffer<char> buffer;
+    buffer.open(name, true);
+    buffer.write(bytes.data(), bytes.size());
+    // Nobody would ever be told of a buffer that could not be filled; a filled one is the reader's to remove.
+    buffer.setRemoveOnClose(false);
+    return name;
+}
+
+} // namespace
+
+void ExchangeObjectWrapper::writeObject(wostream& stream) const
+{
+    kolt::trace();
+    if (m_pObject == nullptr)
+    {
+        throw std::invalid_argument("ExchangeObjectWrapper::writeObject > m_pObject == nullptr");
+    }
+    JsonDocument document(rapidjson::kObjectType);
+    JsonAllocator& allocator = document.GetAllocator();
+    addMember(document, kName, encode(m_pObject->objectName(), allocator), allocator);
+    if (m_pObject->binary())
+    {
+        addMember(document, kBinary, JsonValue(true), allocator);
+        addMember(document, kData, encode(share(*m_pObject), allocator), allocator);
+    }
+    else
+    {
+        addMember(document, kData, encode(*m_pObject, allocator), allocator);
+    }
+    JsonTextIO::write(stream, document, true);
+}
+
+void ExchangeObjectWrapper::readObject(wistream& stream)
+{
+    kolt::trace();
+    JsonDocument document;
+    readMessage(stream, document);
+
+    const JsonValue* const name = find(document, kName);
+    if (name == nullptr || !name->IsString())
+    {
+        m_pObject.reset();
+        return;
+    }
+    m_pObject = ExchangeObjectRegistry::instance().get(wstring(textOf(*name)));
+    if (m_pObject == nullptr)
+    {
+        return;
+    }
+    const JsonValue* const data = find(document, kData);
+    if (data == nullptr)
+    {
+        kolt::log(kolt::kError, "ExchangeObjectWrapper JSON object has no Exchange Object data.");
+        return;
+    }
+    const JsonValue* const binary = find(document, kBinary);
+    if (binary == nullptr || !binary->IsTrue())
+    {
+        m_pObject->readObject(*data);
+        return;
+    }
+    if (!data->IsString())
+    {
+        kolt::log(kolt::kError,
+                  "ExchangeObjectWrapper JSON object should have UUID in Exchange Object Data field (if binary).");
+        return;
+    }
+    m_pObject->setSource(wstring(textOf(*data)));
+    if (!m_delayedLoading)
+    {
+        m_pObject->load();
+    }
+}
+
+} // namespace vrx

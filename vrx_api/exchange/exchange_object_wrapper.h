@@ -1,0 +1,36 @@
+#pragma once
+
+#include "mp/serializable.h"
+#include "vrx_api/exchange/exchange_object.h"
+
+#include <memory>
+
+namespace vrx
+{
+
+/// The envelope in which an exchange object crosses: a small JSON text that names the object and holds its JSON, or the
+/// name of the shared memory buffer that holds its binary form.
+class VRX_API ExchangeObjectWrapper : public mp::ISerializable
+{
+public:
+    /// Each call for a binary object makes a new buffer, which stays in the system until a reader loads it.
+    /// Throws `std::invalid_argument` without an object, and what shared memory, compression and text output throw.
+    void writeObject(wostream& stream) const override;
+
+    /// Throws `std::invalid_argument` for a text that is no JSON object, and what `IExchangeObject::load` throws. A
+    /// name that no class has gives a null object.
+    void readObject(wistream& stream) override;
+
+    const std::shared_ptr<IExchangeObject>& get() const { return m_pObject; }
+    void set(const std::shared_ptr<IExchangeObject>& object) { m_pObject = object; }
+
+    /// With delayed loading a binary object is only named by `readObject`; the caller loads it when it wants the
+    /// content.
+    void setDelayedLoading(bool delayed) { m_delayedLoading = delayed; }
+
+private:
+    std::shared_ptr<IExchangeObject> m_pObject;
+    bool m_delayedLoading = false;
+};
+
+} // namespace vrx

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "vrx_api/json/json_value.h"
+#include "vrx_api/vrx_api_export.h"
+
+#include <cstdint>
+#include <istream>
+#include <ostream>
+#include <vector>
+
+namespace vrx
+{
+
+/// The binary form of JSON: tagged little-endian values, in which no number is printed and no string escaped, so that a
+/// double comes back bit for bit. Neither direction recurses, whatever the depth of the tree.
+class VRX_API JsonBinaryIO
+{
+public:
+    JsonBinaryIO() = delete;
+
+    static std::ostream& write(std::ostream& stream, const JsonValue& value);
+
+    /// Decodes one value; bytes behind it stay in the stream, which must have its whole content at hand, as a string
+    /// stream has. Strings are copied to the allocator. Throws `std::length_error` for truncated data and
+    /// `std::invalid_argument` for an unknown tag; the value then holds what had been decoded so far.
+    static std::istream& read(std::istream& stream, JsonValue& value, JsonAllocator& allocator);
+
+    /// Replaces the bytes by the binary form of the value.
+    static void write(std::vector<char>& bytes, const JsonValue& value);
+
+    /// Decodes the value at the front of the bytes; throws as the reading of a stream does.
+    static void read(const char* data, std::uint64_t size, JsonValue& value, JsonAllocator& allocator);
+};
+
+} // namespace vrx
