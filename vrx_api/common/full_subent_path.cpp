@@ -1,0 +1,26 @@
+#include "vrx_api/common/full_subent_path.h"
+
+#include "vrx_api/json/fields.h"
+
+namespace vrx
+{
+
+template <class Self, class Fields>
+void ExcFullSubentPath::describe(Self& self, Fields& fields)
+{
+    fields.filled(WIDE("block_references"), self.m_refs);
+    fields.always(WIDE("body_id"), self.m_bodyId);
+    fields.always(WIDE("subent_id"), self.m_subentId);
+}
+
+void ExcFullSubentPath::readObject(const JsonValue& value)
+{
+    readFields(*this, value, "ExcFullSubentPath");
+}
+
+void ExcFullSubentPath::writeObject(JsonValue& value, JsonAllocator& allocator) const
+{
+    writeFields(*this, value, allocator);
+}
+
+} // namespace vrx

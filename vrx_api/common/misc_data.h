@@ -1,0 +1,67 @@
+#pragma once
+
+#include "vrx_api/json/json_object.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace vrx
+{
+
+/// A free property of CAD data. The value is text whatever its type: the library never converts or checks it.
+class VRX_API ExcMiscProperty : public IJsonObject
+{
+public:
+    enum class EType : std::int32_t
+    {
+        Unknown = 0,
+        String = 1,
+        Integer = 2,
+        Double = 3,
+        Boolean = 4,
+        DateTime = 5,
+    };
+
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+    const wstring& name() const { return m_name; }
+    ExcMiscProperty& setName(const wstring& name);
+
+    EType type() const { return m_type; }
+    ExcMiscProperty& setType(EType type);
+
+    const wstring& value() const { return m_value; }
+    ExcMiscProperty& setValue(const wstring& value);
+
+    ExcMiscProperty& set(EType type, const wstring& value);
+
+private:
+    friend struct FieldAccess;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
+    wstring m_name;
+    EType m_type = EType::Unknown;
+    wstring m_value;
+};
+
+/// The free properties of a model object in their order, duplicates allowed. Its JSON is an array.
+class VRX_API ExcMiscData : public IJsonObject
+{
+public:
+    /// Appends to the properties that are here.
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+    const std::vector<ExcMiscProperty>& properties() const { return m_properties; }
+    bool isEmpty() const { return m_properties.empty(); }
+    void emplaceProperty(const ExcMiscProperty& property) { m_properties.push_back(property); }
+    void emplaceProperty(ExcMiscProperty&& property) { m_properties.push_back(std::move(property)); }
+    void clearProperties() { m_properties.clear(); }
+
+private:
+    std::vector<ExcMiscProperty> m_properties;
+};
+
+} // namespace vrx

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "vrx_api/json/json_object.h"
+
+#include <cstdint>
+
+namespace vrx
+{
+
+/// Names a body or a part of it: the kind, and the position in the order in which the kernel lists that kind of the
+/// body.
+class VRX_API ExcSubentId : public IJsonObject
+{
+public:
+    /// The numbers are the ASCII codes of the names on the wire.
+    enum class EType : std::int32_t
+    {
+        Null = '0',
+        Body = 'b',
+        Edge = 'e',
+        Face = 'f',
+        Vertex = 'v',
+    };
+
+    ExcSubentId() = default;
+    ExcSubentId(EType type, std::uint64_t index)
+        : m_type(type)
+        , m_index(index)
+    {
+    }
+
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+    EType type() const { return m_type; }
+    void setType(EType type) { m_type = type; }
+
+    std::uint64_t index() const { return m_index; }
+    void setIndex(std::uint64_t index) { m_index = index; }
+
+private:
+    friend struct FieldAccess;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
+    EType m_type = EType::Null;
+    std::uint64_t m_index = 0;
+};
+
+} // namespace vrx

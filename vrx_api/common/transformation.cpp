@@ -1,0 +1,30 @@
+#include "vrx_api/common/transformation.h"
+
+#include "vrx_api/json/fields.h"
+
+namespace vrx
+{
+
+template <class Self, class Fields>
+void ExcTransformation::describe(Self& self, Fields& fields)
+{
+    fields.always(WIDE("affine"), self.m_affine);
+    fields.always(WIDE("translation"), self.m_translation);
+}
+
+// A value that is no object is passed over without a message.
+void ExcTransformation::readObject(const JsonValue& value)
+{
+    kolt::trace();
+    if (value.IsObject())
+    {
+        readMembers(*this, value);
+    }
+}
+
+void ExcTransformation::writeObject(JsonValue& value, JsonAllocator& allocator) const
+{
+    writeFields(*this, value, allocator);
+}
+
+} // namespace vrx

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "vrx_api/json/json_object.h"
+
+#include <array>
+#include <cstddef>
+
+namespace vrx
+{
+
+/// A point or a direction of N components. Its JSON is an array of N numbers, of which a reader takes those in front
+/// that were written as doubles.
+template <std::size_t N>
+class VRX_API ExcVectorBase : public IJsonObject
+{
+public:
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+
+    /// Throws `std::invalid_argument` for an index of N or more.
+    double& operator[](std::size_t index);
+    double operator[](std::size_t index) const;
+
+protected:
+    ExcVectorBase() = default;
+    explicit ExcVectorBase(const std::array<double, N>& components)
+        : m_components(components)
+    {
+    }
+
+    std::array<double, N> m_components{};
+};
+
+extern template class ExcVectorBase<2>;
+extern template class ExcVectorBase<3>;
+
+class VRX_API ExcVector2d : public ExcVectorBase<2>
+{
+public:
+    ExcVector2d() = default;
+    ExcVector2d(double x, double y)
+        : ExcVectorBase({x, y})
+    {
+    }
+
+    void set(double x, double y) { m_components = {x, y}; }
+};
+
+class VRX_API ExcVector3d : public ExcVectorBase<3>
+{
+public:
+    ExcVector3d() = default;
+    ExcVector3d(double x, double y, double z)
+        : ExcVectorBase({x, y, z})
+    {
+    }
+
+    void set(double x, double y, double z) { m_components = {x, y, z}; }
+};
+
+} // namespace vrx
