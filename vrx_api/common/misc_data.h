@@ -56,8 +56,11 @@ public:
 
     const std::vector<ExcMiscProperty>& properties() const { return m_properties; }
     bool isEmpty() const { return m_properties.empty(); }
+
+    /// Appends a copy, of a temporary too.
     void emplaceProperty(const ExcMiscProperty& property) { m_properties.push_back(property); }
-    void emplaceProperty(ExcMiscProperty&& property) { m_properties.push_back(std::move(property)); }
+    void emplaceProperty(ExcMiscProperty&& property) { emplaceProperty(static_cast<const ExcMiscProperty&>(property)); }
+
     void clearProperties() { m_properties.clear(); }
 
 private:

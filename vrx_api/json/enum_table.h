@@ -55,4 +55,19 @@ constexpr E enumValue(wstring_view name)
     return lowest->value;
 }
 
+/// The number of a name, or the given one for a name outside the table. For the few enumerations, all of them beside
+/// the model, that have a fallback of their own.
+template <class E>
+constexpr E enumValueOr(wstring_view name, E otherwise)
+{
+    for (const EnumName<E>& row : enumTable(otherwise))
+    {
+        if (row.name == name)
+        {
+            return row.value;
+        }
+    }
+    return otherwise;
+}
+
 } // namespace vrx

@@ -2,6 +2,8 @@
 
 #include "kolt/log.h"
 
+#include <limits>
+
 namespace vrx
 {
 
@@ -17,6 +19,12 @@ const JsonValue* find(const JsonValue& object, Key key)
         }
     }
     return nullptr;
+}
+
+const JsonValue* findString(const JsonValue& object, Key key)
+{
+    const JsonValue* const value = find(object, key);
+    return value != nullptr && value->IsString() ? value : nullptr;
 }
 
 bool isObject(const JsonValue& value, const char* className)
@@ -66,6 +74,15 @@ void decode(const JsonValue& value, double& field)
     if (value.IsDouble())
     {
         field = value.GetDouble();
+    }
+}
+
+void decode(const JsonValue& value, float& field)
+{
+    static_assert(std::numeric_limits<float>::is_iec559, "infinities take what is out of range");
+    if (value.IsDouble())
+    {
+        field = static_cast<float>(value.GetDouble());
     }
 }
 

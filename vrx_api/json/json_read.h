@@ -16,6 +16,9 @@ namespace vrx
 /// form can carry any value in a name's place.
 const JsonValue* find(const JsonValue& object, Key key);
 
+/// The value of the first member of this name if it is a string, or null.
+const JsonValue* findString(const JsonValue& object, Key key);
+
 /// The text of a string value, which ends at its first NUL.
 inline wstring_view textOf(const JsonValue& string)
 {
@@ -31,6 +34,10 @@ void decode(const JsonValue& value, std::int32_t& field);
 void decode(const JsonValue& value, std::uint32_t& field);
 void decode(const JsonValue& value, std::uint64_t& field);
 void decode(const JsonValue& value, double& field);
+
+/// A number out of the range becomes an infinity.
+void decode(const JsonValue& value, float& field);
+
 void decode(const JsonValue& value, wstring& field);
 
 /// A nested object gets the value whatever its kind.

@@ -60,6 +60,11 @@ JsonValue encode(double field, JsonAllocator&)
     return JsonValue(field);
 }
 
+JsonValue encode(float field, JsonAllocator&)
+{
+    return JsonValue(double{field});
+}
+
 JsonValue encode(const wstring& field, JsonAllocator& allocator)
 {
     return JsonValue(field.data(), static_cast<rapidjson::SizeType>(field.size()), allocator);

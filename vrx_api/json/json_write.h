@@ -24,6 +24,7 @@ JsonValue encode(std::int32_t field, JsonAllocator& allocator);
 JsonValue encode(std::uint32_t field, JsonAllocator& allocator);
 JsonValue encode(std::uint64_t field, JsonAllocator& allocator);
 JsonValue encode(double field, JsonAllocator& allocator);
+JsonValue encode(float field, JsonAllocator& allocator);
 JsonValue encode(const wstring& field, JsonAllocator& allocator);
 JsonValue encode(const IJsonObject& field, JsonAllocator& allocator);
 

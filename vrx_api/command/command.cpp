@@ -1,0 +1,148 @@
+#include "vrx_api/command/command.h"
+
+#include "kolt/log.h"
+#include "vrx_api/command/export_options_impl.h"
+#include "vrx_api/command/ferrant_interface_table.h"
+#include "vrx_api/command/import_options_impl.h"
+#include "vrx_api/command/required.h"
+#include "vrx_api/json/fields.h"
+#include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/message.h"
+
+#include <stdexcept>
+
+namespace vrx
+{
+
+static constexpr EnumName<Command::EType> kTypes[] = {
+    {Command::EType::Unknown, WIDE("unknown")}, {Command::EType::Info, WIDE("info")},
+    {Command::EType::Import, WIDE("import")},   {Command::EType::Export, WIDE("export")},
+    {Command::EType::Ping, WIDE("ping")},
+};
+static constexpr const auto& enumTable(Command::EType)
+{
+    return kTypes;
+}
+
+namespace
+{
+
+constexpr Key kInterface = WIDE("ferrant_interface");
+constexpr Key kCommand = WIDE("command");
+constexpr Key kOptions = WIDE("options");
+
+template <class Options>
+const FerrantOptions& requireHeld(const std::shared_ptr<Options>& options, const char* message)
+{
+    if (options == nullptr)
+    {
+        throw std::invalid_argument(message);
+    }
+    return *options;
+}
+
+template <class Options>
+void replaceByRead(std::shared_ptr<Options>& held, const std::shared_ptr<Options>& made, const JsonValue& value)
+{
+    made->readObject(value);
+    held = made;
+}
+
+} // namespace
+
+void Command::writeObject(wostream& stream) const
+{
+    kolt::trace();
+    JsonDocument document(rapidjson::kObjectType);
+    FieldWriter fields(document, document.GetAllocator());
+    fields.always(kInterface, m_internalInterface);
+    fields.always(kCommand, m_type);
+    if (carriesOptions())
+    {
+        fields.always(kOptions, options());
+    }
+    JsonTextIO::write(stream, document, true);
+}
+
+void Command::readObject(wistream& stream)
+{
+    kolt::trace();
+    JsonDocument document;
+    readMessage(stream, document);
+    if (const JsonValue* const name = findString(document, kInterface))
+    {
+        m_internalInterface = enumValueOr(textOf(*name), EFerrantInterface::UConnect);
+    }
+    m_type = enumValueOr(requiredText(document, kCommand, "Json document has no command type."), EType::Unknown);
+    if (carriesOptions())
+    {
+        const JsonValue* const options = find(document, kOptions);
+        if (options == nullptr || !options->IsObject())
+        {
+            throw std::invalid_argument(m_type == EType::Import ? "Import command should contain options."
+                                                                : "Export command should contain options.");
+        }
+        readOptions(*options);
+    }
+}
+
+// The options that an import or an export writes.
+const FerrantOptions& Command::options() const
+{
+    const bool isImport = m_type == EType::Import;
+    if (m_internalInterface == EFerrantInterface::Legacy)
+    {
+        throw std::invalid_argument(isImport ? "Import(LEGACY) command should contain import options(LEGACY)"
+                                             : "Export(LEGACY) command should contain export options(LEGACY)");
+    }
+    return isImport ? requireHeld(m_importOptions, "Import command should contain import options")
+                    : requireHeld(m_exportOptions, "Export command should contain export options");
+}
+
+void Command::readOptions(const JsonValue& value)
+{
+    const bool isImport = m_type == EType::Import;
+    if (m_internalInterface == EFerrantInterface::Legacy)
+    {
+        throw std::invalid_argument(isImport ? "Import(LEGACY) options cannot be read"
+                                             : "Export(LEGACY) options cannot be read");
+    }
+    if (isImport)
+    {
+        replaceByRead(m_importOptions, newImportOptions(), value);
+    }
+    else
+    {
+        replaceByRead(m_exportOptions, newExportOptions(), value);
+    }
+}
+
+std::shared_ptr<ImportOptions> Command::newImportOptions()
+{
+    return std::make_shared<ImportOptionsImpl>();
+}
+
+std::shared_ptr<ExportOptions> Command::newExportOptions()
+{
+    return std::make_shared<ExportOptionsImpl>();
+}
+
+void Command::setImportOptions(const std::shared_ptr<ImportOptions>& options)
+{
+    if (std::dynamic_pointer_cast<ImportOptionsImpl>(options) == nullptr)
+    {
+        throw std::invalid_argument("Wrong implementation of ImportOptions interface.");
+    }
+    m_importOptions = options;
+}
+
+void Command::setExportOptions(const std::shared_ptr<ExportOptions>& options)
+{
+    if (std::dynamic_pointer_cast<ExportOptionsImpl>(options) == nullptr)
+    {
+        throw std::invalid_argument("Wrong implementation of ExportOptions interface");
+    }
+    m_exportOptions = options;
+}
+
+} // namespace vrx

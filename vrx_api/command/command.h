@@ -1,0 +1,63 @@
+#pragma once
+
+#include "mp/serializable.h"
+#include "vrx_api/command/export_options.h"
+#include "vrx_api/command/ferrant_interface.h"
+#include "vrx_api/command/import_options.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace vrx
+{
+
+/// What the host asks of the translator. An import and an export carry options; copies of a command share them.
+class VRX_API Command : public mp::ISerializable
+{
+public:
+    enum class EType : std::int32_t
+    {
+        Unknown = 0,
+        Info = 1,
+        Import = 2,
+        Export = 3,
+        Ping = 4,
+    };
+
+    /// Throws `std::invalid_argument` when an import or an export has no options of its interface; the stream then has
+    /// nothing of it.
+    void writeObject(wostream& stream) const override;
+
+    /// Throws `std::invalid_argument` for a text that is no JSON object, has no type, or lacks its options. What was
+    /// read before stays.
+    void readObject(wistream& stream) override;
+
+    EType type() const { return m_type; }
+    void setType(EType type) { m_type = type; }
+
+    EFerrantInterface internalInterface() const { return m_internalInterface; }
+    void setInternalInterface(EFerrantInterface interfaceType) { m_internalInterface = interfaceType; }
+
+    static std::shared_ptr<ImportOptions> newImportOptions();
+    static std::shared_ptr<ExportOptions> newExportOptions();
+
+    /// Options that no factory of this class made, null among them, are refused with `std::invalid_argument`.
+    void setImportOptions(const std::shared_ptr<ImportOptions>& options);
+    std::shared_ptr<ImportOptions> importOptions() const { return m_importOptions; }
+
+    /// As for the import options.
+    void setExportOptions(const std::shared_ptr<ExportOptions>& options);
+    std::shared_ptr<ExportOptions> exportOptions() const { return m_exportOptions; }
+
+private:
+    bool carriesOptions() const { return m_type == EType::Import || m_type == EType::Export; }
+    const FerrantOptions& options() const;
+    void readOptions(const JsonValue& value);
+
+    EType m_type = EType::Unknown;
+    EFerrantInterface m_internalInterface = EFerrantInterface::UConnect;
+    std::shared_ptr<ImportOptions> m_importOptions;
+    std::shared_ptr<ExportOptions> m_exportOptions;
+};
+
+} // namespace vrx

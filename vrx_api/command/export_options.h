@@ -1,0 +1,21 @@
+#pragma once
+
+#include "vrx_api/command/ferrant_options.h"
+
+namespace vrx
+{
+
+/// The file of an export. The version of the target format and the geometry flags are agreed between host and
+/// translator. Made by the factories of `Command`. Reading throws `std::invalid_argument` when the file is missing.
+class VRX_API ExportOptions : public FerrantOptions
+{
+public:
+    EOperationType operationType() const override;
+
+    virtual const wstring& formatVersion() const = 0;
+    virtual void setFormatVersion(const wstring& version) = 0;
+    virtual int geometryFlags() const = 0;
+    virtual void setGeometryFlags(int flags) = 0;
+};
+
+} // namespace vrx

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "vrx_api/format_options/format_type.h"
+#include "vrx_api/json/json_object.h"
+
+namespace vrx
+{
+
+/// What a command works on.
+class VRX_API FerrantOptions : public IJsonObject
+{
+public:
+    virtual const wstring& file() const = 0;
+    virtual void setFile(const wstring& file) = 0;
+    virtual EOperationType operationType() const = 0;
+};
+
+} // namespace vrx

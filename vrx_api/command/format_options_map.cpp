@@ -1,0 +1,51 @@
+#include "vrx_api/command/format_options_map.h"
+
+#include "kolt/log.h"
+#include "mp/narrow.h"
+#include "vrx_api/json/json_write.h"
+
+#include <utility>
+
+namespace vrx
+{
+
+std::shared_ptr<IFormatOptions> FormatOptionsMap::get(EFormatType format) const
+{
+    const auto found = m_options.find(format);
+    return found == m_options.end() ? nullptr : found->second;
+}
+
+void FormatOptionsMap::set(std::shared_ptr<IFormatOptions> options)
+{
+    if (options != nullptr)
+    {
+        const EFormatType format = options->formatType();
+        m_options[format] = std::move(options);
+    }
+}
+
+void FormatOptionsMap::read(const JsonValue& array, const wstring& file)
+{
+    for (const JsonValue& element : array.GetArray())
+    {
+        std::shared_ptr<IFormatOptions> options = IFormatOptions::readOptions(element);
+        if (options == nullptr)
+        {
+            kolt::log(kolt::kError, "Specific format options cannot be read, file: .", mp::Narrow{file});
+        }
+        set(std::move(options));
+    }
+}
+
+JsonValue FormatOptionsMap::write(JsonAllocator& allocator) const
+{
+    JsonValue array(rapidjson::kArrayType);
+    array.Reserve(static_cast<rapidjson::SizeType>(m_options.size()), allocator);
+    for (const auto& [format, options] : m_options)
+    {
+        array.PushBack(encode(*options, allocator), allocator);
+    }
+    return array;
+}
+
+} // namespace vrx

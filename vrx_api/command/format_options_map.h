@@ -1,0 +1,39 @@
+#pragma once
+
+#include "vrx_api/format_options/format_options.h"
+#include "vrx_api/json/key.h"
+
+#include <map>
+#include <memory>
+
+namespace vrx
+{
+
+/// The settings of an import, by format. None of the objects is null.
+class FormatOptionsMap
+{
+public:
+    bool isEmpty() const { return m_options.empty(); }
+
+    std::shared_ptr<IFormatOptions> get(EFormatType format) const;
+
+    /// A null pointer is ignored.
+    void set(std::shared_ptr<IFormatOptions> options);
+
+    /// Adds the settings of an array, later ones replacing earlier ones of their format. Settings that can't be read
+    /// cost only a line in the log, which names the file of the import.
+    void read(const JsonValue& array, const wstring& file);
+
+    /// An array in the order of the formats' numbers.
+    JsonValue write(JsonAllocator& allocator) const;
+
+private:
+    std::map<EFormatType, std::shared_ptr<IFormatOptions>> m_options;
+};
+
+inline JsonValue encode(const FormatOptionsMap& options, JsonAllocator& allocator)
+{
+    return options.write(allocator);
+}
+
+} // namespace vrx

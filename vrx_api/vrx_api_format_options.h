@@ -1,0 +1,6 @@
+#pragma once
+
+#include "vrx_api/format_options/format_options.h"
+#include "vrx_api/format_options/format_type.h"
+#include "vrx_api/format_options/neutral_options.h"
+#include "vrx_api/format_options/shared_modes.h"
