@@ -1,0 +1,209 @@
+#include "vrx_api/visualization/visu_material.h"
+
+#include "vrx_api/json/add.h"
+#include "vrx_api/json/doubles.h"
+#include "vrx_api/json/fields.h"
+
+#include <cmath>
+
+namespace vrx
+{
+
+using Color = ExcVisuMaterial::Color;
+using EColorType = ExcVisuMaterial::EColorType;
+using ETextureType = ExcVisuMaterial::ETextureType;
+
+static_assert(sizeof(Color) == 16, "three channels and the alpha");
+
+static constexpr EnumName<EColorType> kColorTypes[] = {
+    {EColorType::Unknown, WIDE("unknown")},       {EColorType::Ambient, WIDE("ambient")},
+    {EColorType::Diffuse, WIDE("diffuse")},       {EColorType::Specular, WIDE("specular")},
+    {EColorType::Emissive, WIDE("emissive")},     {EColorType::Transparency, WIDE("transparency")},
+    {EColorType::Reflection, WIDE("reflection")},
+};
+static constexpr const auto& enumTable(EColorType)
+{
+    return kColorTypes;
+}
+
+static constexpr EnumName<ETextureType> kTextureTypes[] = {
+    {ETextureType::Unknown, WIDE("unknown")},   {ETextureType::Ambient, WIDE("ambient")},
+    {ETextureType::Diffuse, WIDE("diffuse")},   {ETextureType::Specular, WIDE("specular")},
+    {ETextureType::Emissive, WIDE("emissive")}, {ETextureType::Blending, WIDE("blending")},
+};
+static constexpr const auto& enumTable(ETextureType)
+{
+    return kTextureTypes;
+}
+
+// Red, green, blue and alpha, all of them doubles on the wire: an integer leaves its channel at zero.
+constexpr rapidjson::SizeType kColorNumbers = 4;
+
+// Truncated toward zero and cut to 16 bits as an integer is; a number that is not finite gives zero.
+static std::uint16_t toChannel(double number)
+{
+    constexpr double kRange = 65536.0;
+    return std::isfinite(number) ? static_cast<std::uint16_t>(static_cast<std::int32_t>(std::fmod(number, kRange))) : 0;
+}
+
+static Color toColor(const JsonValue& array)
+{
+    std::array<double, kColorNumbers> numbers{};
+    for (rapidjson::SizeType i = 0; i < kColorNumbers; ++i)
+    {
+        decode(array[i], numbers[i]);
+    }
+    return {toChannel(numbers[0]), toChannel(numbers[1]), toChannel(numbers[2]), numbers[3]};
+}
+
+// An entry is replaced as a whole.
+static void decode(const JsonValue& value, ExcVisuMaterial::Colors& field)
+{
+    if (!value.IsObject())
+    {
+        return;
+    }
+    for (const auto& member : value.GetObject())
+    {
+        if (!member.name.IsString() || !member.value.IsArray() || member.value.Size() < kColorNumbers)
+        {
+            kolt::log(kolt::kWarning, "ExcVisuMaterial: !colorType.IsString() || !colorValue.IsArray() || "
+                                      "colorValue.GetArray().Size() < 4");
+            continue;
+        }
+        field[enumValue<EColorType>(textOf(member.name))] = toColor(member.value);
+    }
+}
+
+static JsonValue encode(const Color& color, JsonAllocator& allocator)
+{
+    const auto number = [](std::uint16_t channel) -> double { return channel; };
+    return encodeDoubles<kColorNumbers>({number(color.red), number(color.green), number(color.blue), color.alpha},
+                                        allocator);
+}
+
+// The textures of a kind are appended to. An empty array makes no entry, and a member that is no array is an error,
+// where among the colours it is a warning.
+static void decode(const JsonValue& value, ExcVisuMaterial::Textures& field)
+{
+    if (!value.IsObject())
+    {
+        return;
+    }
+    for (const auto& member : value.GetObject())
+    {
+        if (!member.name.IsString() || !member.value.IsArray())
+        {
+            kolt::log(kolt::kError, "ExcVisuMaterial: !textureType.IsString() || !textureArray.IsArray()");
+            continue;
+        }
+        if (!member.value.Empty())
+        {
+            decode(member.value, field[enumValue<ETextureType>(textOf(member.name))]);
+        }
+    }
+}
+
+// One member an entry, under the name of its kind.
+template <class Entries>
+static JsonValue encodeByType(const Entries& entries, JsonAllocator& allocator)
+{
+    JsonValue object;
+    setObject(object, static_cast<rapidjson::SizeType>(entries.size()), allocator);
+    for (const auto& [type, entry] : entries)
+    {
+        object.AddMember(encodeName(enumName(type)), encode(entry, allocator), allocator);
+    }
+    return object;
+}
+
+static JsonValue encode(const ExcVisuMaterial::Colors& field, JsonAllocator& allocator)
+{
+    return encodeByType(field, allocator);
+}
+
+static JsonValue encode(const ExcVisuMaterial::Textures& field, JsonAllocator& allocator)
+{
+    return encodeByType(field, allocator);
+}
+
+// An array of another length is passed over as a whole, an element that is no double by itself.
+template <class Numbers>
+struct Bump
+{
+    Numbers& numbers;
+};
+template <class Numbers>
+Bump(Numbers&) -> Bump<Numbers>;
+
+template <class Numbers>
+static void decode(const JsonValue& value, const Bump<Numbers>& field)
+{
+    if (!value.IsArray() || value.Size() != field.numbers.size())
+    {
+        return;
+    }
+    for (rapidjson::SizeType i = 0; i < value.Size(); ++i)
+    {
+        decode(value[i], field.numbers[i]);
+    }
+}
+
+template <class Numbers>
+static JsonValue encode(const Bump<Numbers>& field, JsonAllocator& allocator)
+{
+    return encodeDoubles(field.numbers, allocator);
+}
+
+template <class Self, class Fields>
+void ExcVisuMaterial::describe(Self& self, Fields& fields)
+{
+    const Bump bump{self.m_bump};
+
+    fields.always(WIDE("name"), self.m_name);
+    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("colors"), self.m_colors);
+    fields.always(WIDE("shininess"), self.m_shininess);
+    fields.always(WIDE("bump"), bump);
+    fields.always(WIDE("bump_factor"), self.m_bumpFactor);
+    fields.always(WIDE("normal_map"), self.m_normalMap);
+    fields.always(WIDE("textures"), self.m_textures);
+}
+
+void ExcVisuMaterial::readObject(const JsonValue& value)
+{
+    readFields(*this, value, "ExcVisuMaterial");
+}
+
+void ExcVisuMaterial::writeObject(JsonValue& value, JsonAllocator& allocator) const
+{
+    writeFields(*this, value, allocator);
+}
+
+// A kind has no entry before its first texture is added.
+void ExcVisuMaterial::addTexture(ETextureType type, const std::shared_ptr<ExcVisuTexture>& texture)
+{
+    if (!refuseNull(texture, "ExcVisuMaterial: attempt to add null Texture object."))
+    {
+        m_textures[type].push_back(texture);
+    }
+}
+
+void ExcVisuMaterial::addTextures(ETextureType type, const std::vector<std::shared_ptr<ExcVisuTexture>>& textures)
+{
+    // The textures may be those of this very kind, which grow meanwhile.
+    const std::vector<std::shared_ptr<ExcVisuTexture>> added = textures;
+    for (const std::shared_ptr<ExcVisuTexture>& texture : added)
+    {
+        addTexture(type, texture);
+    }
+}
+
+void ExcVisuMaterial::setTextures(ETextureType type, const std::vector<std::shared_ptr<ExcVisuTexture>>& textures)
+{
+    const std::vector<std::shared_ptr<ExcVisuTexture>> wanted = textures;
+    m_textures[type].clear();
+    addTextures(type, wanted);
+}
+
+} // namespace vrx
