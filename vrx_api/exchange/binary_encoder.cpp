@@ -181,9 +181,8 @@ private:
     std::vector<Container> m_open;
 };
 
-} // namespace
-
-void JsonBinaryIO::write(std::vector<char>& bytes, const JsonValue& value)
+template <class Buffer>
+void encodeInto(Buffer& bytes, const JsonValue& value)
 {
     SizeSink size;
     Encoder<SizeSink>(size).encode(value);
@@ -193,9 +192,21 @@ void JsonBinaryIO::write(std::vector<char>& bytes, const JsonValue& value)
     Encoder<ByteSink>(sink).encode(value);
 }
 
+} // namespace
+
+void JsonBinaryIO::write(Bytes& bytes, const JsonValue& value)
+{
+    encodeInto(bytes, value);
+}
+
+void JsonBinaryIO::write(std::vector<char>& bytes, const JsonValue& value)
+{
+    encodeInto(bytes, value);
+}
+
 std::ostream& JsonBinaryIO::write(std::ostream& stream, const JsonValue& value)
 {
-    std::vector<char> bytes;
+    Bytes bytes;
     write(bytes, value);
     return stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
 }

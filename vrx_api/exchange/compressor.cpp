@@ -71,7 +71,8 @@ void setInput(z_stream& stream, const char* data, std::uint64_t size)
 }
 
 // Gives zlib up to `chunk` bytes behind what is written.
-void setOutput(z_stream& stream, std::vector<char>& out, std::size_t written, std::uint64_t chunk)
+template <class Buffer>
+void setOutput(z_stream& stream, Buffer& out, std::size_t written, std::uint64_t chunk)
 {
     const std::uint64_t most = std::numeric_limits<uInt>::max();
     const auto size = static_cast<std::size_t>(std::min(chunk, most));
@@ -99,11 +100,9 @@ std::uint64_t expectedSize(const char* data, std::uint64_t size)
     return told > size * kBestRatio ? usual : std::max<std::uint64_t>(told, 1);
 }
 
-} // namespace
-
-void Compressor::compress(std::vector<char>& out, const char* data, std::uint64_t size, int level)
+template <class Buffer>
+void deflateInto(Buffer& out, const char* data, std::uint64_t size, int level)
 {
-    kolt::trace();
     Deflater deflater(level);
     z_stream& stream = deflater.stream();
     setInput(stream, data, size);
@@ -118,9 +117,9 @@ void Compressor::compress(std::vector<char>& out, const char* data, std::uint64_
     out.resize(written);
 }
 
-void Compressor::decompress(std::vector<char>& out, const char* data, std::uint64_t size)
+template <class Buffer>
+void inflateInto(Buffer& out, const char* data, std::uint64_t size)
 {
-    kolt::trace();
     Inflater inflater;
     z_stream& stream = inflater.stream();
     setInput(stream, data, size);
@@ -139,6 +138,32 @@ void Compressor::decompress(std::vector<char>& out, const char* data, std::uint6
         chunk = std::max<std::uint64_t>(size * 2, 1);
     } while (result != Z_STREAM_END && stream.avail_out == 0);
     out.resize(written);
+}
+
+} // namespace
+
+void Compressor::compress(Bytes& out, const char* data, std::uint64_t size, int level)
+{
+    kolt::trace();
+    deflateInto(out, data, size, level);
+}
+
+void Compressor::compress(std::vector<char>& out, const char* data, std::uint64_t size, int level)
+{
+    kolt::trace();
+    deflateInto(out, data, size, level);
+}
+
+void Compressor::decompress(Bytes& out, const char* data, std::uint64_t size)
+{
+    kolt::trace();
+    inflateInto(out, data, size);
+}
+
+void Compressor::decompress(std::vector<char>& out, const char* data, std::uint64_t size)
+{
+    kolt::trace();
+    inflateInto(out, data, size);
 }
 
 void Compressor::compress(std::string& out, const char* data, std::uint64_t size, int level)

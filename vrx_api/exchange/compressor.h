@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vrx_api/exchange/bytes.h"
 #include "vrx_api/vrx_api_export.h"
 
 #include <cstdint>
@@ -17,11 +18,13 @@ public:
     Compressor() = delete;
 
     /// Replaces `out` by the gzip stream of the data; level -1 is zlib's default. Throws `std::runtime_error`.
+    static void compress(Bytes& out, const char* data, std::uint64_t size, int level);
     static void compress(std::vector<char>& out, const char* data, std::uint64_t size, int level);
     static void compress(std::string& out, const char* data, std::uint64_t size, int level);
 
     /// Replaces `out` by the plain data. A stream that was cut short gives what could be decompressed; a damaged one
     /// throws `std::runtime_error`.
+    static void decompress(Bytes& out, const char* data, std::uint64_t size);
     static void decompress(std::vector<char>& out, const char* data, std::uint64_t size);
     static void decompress(std::string& out, const char* data, std::uint64_t size);
 

@@ -18,24 +18,24 @@ namespace
 {
 
 // The bytes of a buffer, which is removed from the system; decompressed if they say that they are compressed.
-std::vector<char> takeContent(const wstring& name)
+Bytes takeContent(const wstring& name)
 {
     std::vector<char> bytes;
     mp::SharedBuffer<char> buffer;
     buffer.open(name, true);
     buffer.read(bytes);
-    if (Compressor::isCompressed(bytes.data(), bytes.size()))
+    if (!Compressor::isCompressed(bytes.data(), bytes.size()))
     {
-        std::vector<char> plain;
-        Compressor::decompress(plain, bytes.data(), bytes.size());
-        return plain;
+        return Bytes(bytes.begin(), bytes.end());
     }
-    return bytes;
+    Bytes plain;
+    Compressor::decompress(plain, bytes.data(), bytes.size());
+    return plain;
 }
 
 void decodeContent(const wstring& name, JsonDocument& document)
 {
-    const std::vector<char> bytes = takeContent(name);
+    const Bytes bytes = takeContent(name);
     JsonBinaryIO::read(bytes.data(), bytes.size(), document, document.GetAllocator());
 }
 

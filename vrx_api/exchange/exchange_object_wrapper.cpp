@@ -11,7 +11,6 @@
 #include "vrx_api/json/message.h"
 
 #include <stdexcept>
-#include <vector>
 
 namespace vrx
 {
@@ -25,23 +24,23 @@ constexpr Key kData = WIDE("exchange_object_data");
 
 constexpr int kDefaultCompression = -1;
 
-std::vector<char> encodeObject(const IExchangeObject& object)
+Bytes encodeObject(const IExchangeObject& object)
 {
     JsonDocument document;
     object.writeObject(document, document.GetAllocator());
-    std::vector<char> bytes;
+    Bytes bytes;
     JsonBinaryIO::write(bytes, document);
     return bytes;
 }
 
-std::vector<char> contentOf(const IExchangeObject& object)
+Bytes contentOf(const IExchangeObject& object)
 {
-    std::vector<char> bytes = encodeObject(object);
+    Bytes bytes = encodeObject(object);
     if (!object.compress())
     {
         return bytes;
     }
-    std::vector<char> compressed;
+    Bytes compressed;
     Compressor::compress(compressed, bytes.data(), bytes.size(), kDefaultCompression);
     return compressed;
 }
@@ -49,7 +48,7 @@ std::vector<char> contentOf(const IExchangeObject& object)
 // Leaves the object's binary form in the system and returns the name under which it is found there.
 wstring share(const IExchangeObject& object)
 {
-    const std::vector<char> bytes = contentOf(object);
+    const Bytes bytes = contentOf(object);
     const wstring name = IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, true);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vrx_api/exchange/bytes.h"
 #include "vrx_api/json/json_value.h"
 #include "vrx_api/vrx_api_export.h"
 
@@ -26,6 +27,7 @@ public:
     static std::istream& read(std::istream& stream, JsonValue& value, JsonAllocator& allocator);
 
     /// Replaces the bytes by the binary form of the value.
+    static void write(Bytes& bytes, const JsonValue& value);
     static void write(std::vector<char>& bytes, const JsonValue& value);
 
     /// Decodes the value at the front of the bytes; throws as the reading of a stream does.

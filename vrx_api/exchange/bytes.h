@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace vrx
+{
+
+/// Leaves new elements unset when they are given no value, so that a large buffer is not zeroed before it is filled.
+template <class T>
+class UnsetAllocator : public std::allocator<T>
+{
+public:
+    // The standard allocator's own would make containers rebind to it.
+    template <class U>
+    struct rebind // NOLINT(readability-identifier-naming): the standard's name
+    {
+        using other = UnsetAllocator<U>; // NOLINT(readability-identifier-naming)
+    };
+
+    template <class U, class... Values>
+    void construct(U* element, Values&&... values)
+    {
+        if constexpr (sizeof...(Values) == 0)
+        {
+            ::new (static_cast<void*>(element)) U;
+        }
+        else
+        {
+            ::new (static_cast<void*>(element)) U(std::forward<Values>(values)...);
+        }
+    }
+};
+
+using Bytes = std::vector<char, UnsetAllocator<char>>;
+
+} // namespace vrx
