@@ -33,7 +33,7 @@ ipc::permissions ownerOnly()
 
 // Sizing a POSIX object reserves no memory, and the first write to a page that the file system can't supply kills the
 // process. Reserved ahead, a full file system is an error like any other.
-void reserveMemory(const ipc::shared_memory_object& object, ipc::offset_t size)
+void reserveMemory(ipc::shared_memory_object& object, ipc::offset_t size)
 {
 #ifdef _WIN32
     static_cast<void>(object);
@@ -46,6 +46,8 @@ void reserveMemory(const ipc::shared_memory_object& object, ipc::offset_t size)
     } while (error == EINTR);
     if (error != 0)
     {
+        // Nobody must find a size that no memory stands behind.
+        object.truncate(0);
         throw ipc::interprocess_exception(ipc::error_info(error));
     }
 #endif

@@ -67,11 +67,11 @@ void append(std::vector<std::shared_ptr<T>>& objects, const std::shared_ptr<T>& 
 template <class T>
 void appendAll(std::vector<std::shared_ptr<T>>& objects, const std::vector<std::shared_ptr<T>>& added)
 {
-    // The list may be added to itself.
-    const std::vector<std::shared_ptr<T>> kept = added;
-    for (const std::shared_ptr<T>& object : kept)
+    // A list may be added to itself, and then grows meanwhile.
+    const std::size_t count = added.size();
+    for (std::size_t i = 0; i < count; ++i)
     {
-        append(objects, object);
+        append(objects, added[i]);
     }
 }
 

@@ -102,6 +102,20 @@ bool writeText(WideBuffer& buffer, const JsonDocument& document, bool pretty)
     return writeTree(writer, document);
 }
 
+// The first unit that a stream's buffer has no room for goes through its overflow, where U+FFFF is lost even in a bulk
+// write. So that none has to, as many blanks make room for a text that holds that unit.
+void makeRoom(wostream& stream, const wstring& text)
+{
+    constexpr wchar kLostUnit = 0xFFFF;
+    const wostream::pos_type begin = text.find(kLostUnit) == wstring::npos ? wostream::pos_type(-1) : stream.tellp();
+    if (begin != wostream::pos_type(-1))
+    {
+        const wstring blanks(text.size(), ' ');
+        stream.write(blanks.data(), static_cast<std::streamsize>(blanks.size()));
+        stream.seekp(begin);
+    }
+}
+
 wstring readAll(wistream& stream)
 {
     wstring text;
@@ -134,6 +148,7 @@ wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool
 {
     WideBuffer buffer;
     const bool complete = writeText(buffer, document, pretty);
+    makeRoom(stream, buffer.text);
     stream.write(buffer.text.data(), static_cast<std::streamsize>(buffer.text.size()));
     stream.flush();
     if (!complete)

@@ -180,30 +180,30 @@ void ExcVisuMaterial::writeObject(JsonValue& value, JsonAllocator& allocator) co
     writeFields(*this, value, allocator);
 }
 
-// A kind has no entry before its first texture is added.
+static constexpr const char* kNullTexture = "ExcVisuMaterial: attempt to add null Texture object.";
+
 void ExcVisuMaterial::addTexture(ETextureType type, const std::shared_ptr<ExcVisuTexture>& texture)
 {
-    if (!refuseNull(texture, "ExcVisuMaterial: attempt to add null Texture object."))
-    {
-        m_textures[type].push_back(texture);
-    }
+    addTextures(type, {texture});
 }
 
+// A kind has no entry before its first texture is added.
 void ExcVisuMaterial::addTextures(ETextureType type, const std::vector<std::shared_ptr<ExcVisuTexture>>& textures)
 {
-    // The textures may be those of this very kind, which grow meanwhile.
-    const std::vector<std::shared_ptr<ExcVisuTexture>> added = textures;
-    for (const std::shared_ptr<ExcVisuTexture>& texture : added)
+    std::vector<std::shared_ptr<ExcVisuTexture>> added;
+    addAll(added, textures, kNullTexture);
+    if (!added.empty())
     {
-        addTexture(type, texture);
+        std::vector<std::shared_ptr<ExcVisuTexture>>& stack = m_textures[type];
+        stack.insert(stack.end(), added.begin(), added.end());
     }
 }
 
 void ExcVisuMaterial::setTextures(ETextureType type, const std::vector<std::shared_ptr<ExcVisuTexture>>& textures)
 {
-    const std::vector<std::shared_ptr<ExcVisuTexture>> wanted = textures;
-    m_textures[type].clear();
-    addTextures(type, wanted);
+    std::vector<std::shared_ptr<ExcVisuTexture>> wanted;
+    addAll(wanted, textures, kNullTexture);
+    m_textures[type] = std::move(wanted);
 }
 
 } // namespace vrx

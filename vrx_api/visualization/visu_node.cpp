@@ -10,31 +10,44 @@
 namespace vrx
 {
 
-using ChildNodes = std::vector<std::shared_ptr<ExcVisuNode>>;
-
 static constexpr Key kChildNodes = WIDE("child_nodes");
 
 // The description only makes the places of the children, in the node or in its JSON. They are filled by a walk over the
 // tree that keeps a stack of its own, since a tree may be deeper than the thread's stack allows.
+template <class Nodes>
+struct ChildPlaces
+{
+    Nodes& nodes;
+};
+template <class Nodes>
+ChildPlaces(Nodes&) -> ChildPlaces<Nodes>;
 
-static void decode(const JsonValue& value, ChildNodes& field)
+template <class Nodes>
+static bool isEmpty(const ChildPlaces<Nodes>& field)
+{
+    return field.nodes.empty();
+}
+
+template <class Nodes>
+static void decode(const JsonValue& value, const ChildPlaces<Nodes>& field)
 {
     if (!value.IsArray())
     {
         return;
     }
-    field.reserve(field.size() + value.Size());
+    field.nodes.reserve(field.nodes.size() + value.Size());
     for (rapidjson::SizeType i = 0; i < value.Size(); ++i)
     {
-        field.push_back(std::make_shared<ExcVisuNode>());
+        field.nodes.push_back(std::make_shared<ExcVisuNode>());
     }
 }
 
-static JsonValue encode(const ChildNodes& field, JsonAllocator& allocator)
+template <class Nodes>
+static JsonValue encode(const ChildPlaces<Nodes>& field, JsonAllocator& allocator)
 {
     JsonValue array(rapidjson::kArrayType);
-    array.Reserve(static_cast<rapidjson::SizeType>(field.size()), allocator);
-    for (std::size_t i = 0; i < field.size(); ++i)
+    array.Reserve(static_cast<rapidjson::SizeType>(field.nodes.size()), allocator);
+    for (std::size_t i = 0; i < field.nodes.size(); ++i)
     {
         array.PushBack(JsonValue(), allocator);
     }
@@ -44,6 +57,8 @@ static JsonValue encode(const ChildNodes& field, JsonAllocator& allocator)
 template <class Self, class Fields>
 void ExcVisuNode::describe(Self& self, Fields& fields)
 {
+    const ChildPlaces childPlaces{self.m_childNodes};
+
     fields.always(WIDE("is_leaf"), self.m_leaf);
     fields.filled(WIDE("attributes"), self.m_attributes);
     fields.filled(WIDE("transformation"), self.m_transformation);
@@ -53,7 +68,7 @@ void ExcVisuNode::describe(Self& self, Fields& fields)
     fields.filled(WIDE("point_set"), self.m_pointSet);
     fields.always(WIDE("type"), self.m_type);
     fields.always(WIDE("group_name"), self.m_groupName);
-    fields.filled(kChildNodes, self.m_childNodes);
+    fields.filled(kChildNodes, childPlaces);
 }
 
 namespace
@@ -123,7 +138,7 @@ void ExcVisuNode::writeObject(JsonValue& value, JsonAllocator& allocator) const
 // Nodes that only this tree holds lose their children before they end, so that no end waits for another.
 ExcVisuNode::~ExcVisuNode()
 {
-    ChildNodes ending = std::move(m_childNodes);
+    std::vector<std::shared_ptr<ExcVisuNode>> ending = std::move(m_childNodes);
     while (!ending.empty())
     {
         const std::shared_ptr<ExcVisuNode> node = std::move(ending.back());
@@ -134,7 +149,7 @@ ExcVisuNode::~ExcVisuNode()
         }
         try
         {
-            ChildNodes& children = node->m_childNodes;
+            std::vector<std::shared_ptr<ExcVisuNode>>& children = node->m_childNodes;
             ending.insert(ending.end(), std::make_move_iterator(children.begin()),
                           std::make_move_iterator(children.end()));
             children.clear();
