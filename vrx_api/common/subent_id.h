@@ -4,6 +4,9 @@
 
 #include <cstdint>
 
+// The modelling kernel's class, which only those who handle bodies need to know.
+class ENTITY;
+
 namespace vrx
 {
 
@@ -37,6 +40,13 @@ public:
 
     std::uint64_t index() const { return m_index; }
     void setIndex(std::uint64_t index) { m_index = index; }
+
+    /// The nearest body above the entity, or null; a body itself is asked for what owns it.
+    static ENTITY* getOwnerBody(ENTITY* entity);
+
+    /// Names a live entity, or nothing if it is no body and no face, edge or vertex of one. Lists all parts of its kind
+    /// at each call. A part that the kernel does not list in its body gets the highest index there is.
+    static void fillSubentId(ExcSubentId& target, ENTITY* entity);
 
 private:
     friend struct FieldAccess;

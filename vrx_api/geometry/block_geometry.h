@@ -1,0 +1,61 @@
+#pragma once
+
+#include "vrx_api/exchange/exchange_object.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+// The modelling kernel's classes, which only those who handle bodies need to know.
+class ENTITY;
+class ENTITY_LIST;
+
+namespace vrx
+{
+
+class ExcSharedAcisBuffer;
+
+/// The bodies of one block, in the kernel's own format in a shared memory buffer that the JSON form names, with an id
+/// for each body. Copies share the buffer, which is closed when the last of them goes; a buffer that `load` opened is
+/// then removed from the system.
+class VRX_API ExcBlockGeometry : public IExchangeObject
+{
+public:
+    static const wstring s_objectName;
+    static const wstring& objName() { return s_objectName; }
+
+    void readObject(const JsonValue& value) override;
+    void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
+    const wstring& objectName() const override;
+    std::shared_ptr<IExchangeObject> clone() const override;
+    bool isLoaded() const override;
+
+    /// Opens the buffer that was read. A failure is logged.
+    void load() override;
+
+    std::uint64_t blockId() const { return m_blockId; }
+    void setBlockId(std::uint64_t id) { m_blockId = id; }
+
+    /// Whether the buffer is removed from the system when the last copy of this object goes.
+    void own(bool value);
+
+    /// Saves the bodies into a new buffer. A failure is logged and gives false; only a user's interrupt of the kernel
+    /// passes out as the kernel's exception, here and in `getGeometry`.
+    bool setGeometry(const ENTITY_LIST& entities, bool compress);
+
+    /// Restores the bodies, and appends them and their ids, both in the order in which they were saved; as often as
+    /// wanted. A failure is logged and gives false. Throws `mp::SharedMemoryException`, and `std::runtime_error` for
+    /// damaged compressed data.
+    bool getGeometry(ENTITY_LIST& entities, std::vector<std::uint64_t>& ids) const;
+
+    /// The id of a body: its address, which is unique within one run of the producer and a mere label elsewhere.
+    static std::uint64_t getEntityId(ENTITY* entity);
+
+private:
+    bool m_own = false;
+    std::uint64_t m_blockId = 0;
+    std::shared_ptr<ExcSharedAcisBuffer> m_buffer;
+    std::vector<std::uint64_t> m_bodyIds;
+};
+
+} // namespace vrx
