@@ -1,0 +1,376 @@
+#include "tests/support/corpus.h"
+#include "tests/support/envelope.h"
+#include "tests/support/helpers.h"
+#include "tests/support/model_row.h"
+#include "tests/support/shared_memory.h"
+#include "vrx_api/exchange/compressor.h"
+#include "vrx_api/exchange/json_binary_io.h"
+#include "vrx_api/exchange/static_exchange_object.h"
+#include "vrx_api/vrx_api_exchange_common.h"
+#include "vrx_api/vrx_api_exchange_object.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
+
+#include <regex>
+#include <set>
+
+using namespace vrx;
+using test::envelopeOf;
+using test::opened;
+using test::row;
+using test::wide;
+
+namespace
+{
+
+class StatusRows : public test::ModelRows
+{
+};
+
+const char* const kDefaultProgress = R"({"progress":0,"progress_max":100,"stage":""})";
+
+const test::ModelRow kRows[] = {
+    row<ExcStageFinished>("Stage", R"("visu_and_mech")", R"("visu_and_mech")"),
+    row<ExcStageFinished>("StageUnlisted", R"("Visualization")", R"("mechanical")"),
+    row<ExcStageFinished>("StageOfAnObjectIsSilent", R"({"stage":"mechanical"})", R"("unknown")"),
+    row<ExcMessage>("Message", R"({"message":"m"})", R"({"message":"m"})"),
+    row<ExcMessage>("MessageIsCutAtNul", R"({"message":"ab\u0000c"})", R"({"message":"ab"})"),
+    row<ExcMessage>("MessageOfTextIsSilent", R"("m")", R"({"message":""})"),
+    row<ExcLog>("Log", R"({"message":null})", R"({"message":""})"),
+    row<ExcProgress>("Progress", R"({"stage":"s","progress_max":-2147483648,"progress":2147483647})",
+                     R"({"progress":2147483647,"progress_max":-2147483648,"stage":"s"})"),
+    row<ExcProgress>("ProgressOfOneKey", R"({"progress":50})", R"({"progress":50,"progress_max":100,"stage":""})"),
+    row<ExcProgress>("ProgressOfWrongNumbers", R"({"progress":50.0,"progress_max":2147483648,"stage":1})",
+                     kDefaultProgress),
+    row<ExcProgress>("ProgressKeepsTheFirstOfTwoMembers", R"({"Progress":1,"progress":2,"progress":3})",
+                     R"({"progress":2,"progress_max":100,"stage":""})"),
+    row<ExcProgress>("ProgressOfAnArrayIsSilent", "[]", kDefaultProgress),
+};
+
+TEST_P(StatusRows, ReadAndWritten)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Status, StatusRows, testing::ValuesIn(kRows), StatusRows::nameOf);
+
+TEST(StatusObjects, WriteNoTraceLinesButForTheStage)
+{
+    const test::LogCapture log;
+    test::readText(*std::make_unique<ExcProgress>(), test::written(ExcProgress()));
+    test::readText(*std::make_unique<ExcLog>(), test::written(ExcLog(WIDE("l"))));
+    EXPECT_TRUE(log.lines("TRACE").empty());
+    test::readText(*std::make_unique<ExcStageFinished>(), test::written(ExcStageFinished()));
+    EXPECT_EQ(log.lines("TRACE").size(), 2U);
+}
+
+TEST(StatusObjects, CompareAndConvert)
+{
+    ExcProgress one;
+    ExcProgress other;
+    EXPECT_TRUE(one == other);
+    other.setStage(WIDE("s"));
+    EXPECT_FALSE(one == other);
+    EXPECT_EQ(test::written(ExcStageFinished(static_cast<ExcStageFinished::EStage>(99))), R"("unknown")");
+    EXPECT_EQ(test::written(ExcMessage(WIDE("text"))), test::written(ExcLog(wstring(WIDE("text")))));
+}
+
+const ExchangeObjectRegistry& registry()
+{
+    return ExchangeObjectRegistry::instance();
+}
+
+TEST(Registry, MakesNewObjectsOfEachName)
+{
+    const std::pair<const char*, bool> classes[] = {
+        {"exc_stage_finished", false}, {"exc_message", false},          {"exc_log", false},
+        {"exc_progress", false},       {"exc_product_structure", true},
+    };
+    for (const auto& [name, binary] : classes)
+    {
+        const auto object = registry().get(wide(name));
+        ASSERT_NE(object, nullptr) << name;
+        EXPECT_EQ(object->objectName(), wide(name));
+        EXPECT_EQ(object->binary(), binary) << name;
+        EXPECT_EQ(object->compress(), binary) << name;
+        EXPECT_FALSE(object->isLoaded());
+        EXPECT_NE(object, registry().get(wide(name)));
+    }
+    EXPECT_EQ(registry().get(WIDE("EXC_PROGRESS")), nullptr);
+    EXPECT_EQ(registry().get(wstring()), nullptr);
+    EXPECT_EQ(ExcLog::objName(), WIDE("exc_log"));
+}
+
+class Probe : public ExcProgress
+{
+public:
+    const wstring& objectName() const override
+    {
+        static const wstring name = WIDE("probe");
+        return name;
+    }
+    std::shared_ptr<IExchangeObject> clone() const override { return std::make_shared<Probe>(); }
+};
+
+TEST(Registry, HoldsAPrototypeAsLongAsItLives)
+{
+    ExchangeObjectRegistry::instance().add(nullptr);
+    ExchangeObjectRegistry::instance().remove(nullptr);
+    {
+        StaticExchangeObject<Probe> prototype;
+        prototype.setProgress(9);
+        const auto object = registry().get(WIDE("probe"));
+        ASSERT_NE(object, nullptr);
+        EXPECT_EQ(test::written(*object), kDefaultProgress);
+    }
+    EXPECT_EQ(registry().get(WIDE("probe")), nullptr);
+}
+
+TEST(Uuid, IsRandomAndOfVersionFour)
+{
+    std::set<wstring> all;
+    const std::regex form("[0-9a-f]{8}-[0-9a-f]{4}-4[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}");
+    for (int i = 0; i < 100; ++i)
+    {
+        const wstring uuid = IExchangeObject::generateUUID();
+        EXPECT_TRUE(std::regex_match(mp::toNarrow(uuid), form)) << mp::toNarrow(uuid);
+        all.insert(uuid);
+    }
+    EXPECT_EQ(all.size(), 100U);
+}
+
+std::string asciiOf(const std::string& envelope)
+{
+    return mp::toNarrow(test::unitsOf(envelope));
+}
+
+std::string envelopeOfText(const std::string& ascii)
+{
+    return test::bytesOf(wide(ascii));
+}
+
+std::string structureEnvelope(const wstring& source)
+{
+    return envelopeOfText(R"({"exchange_object_name":"exc_product_structure","binary":true,"exchange_object_data":")" +
+                          mp::toNarrow(source) + "\"}");
+}
+
+std::shared_ptr<ExcProductStructure> structureNamed(const wstring& name)
+{
+    auto structure = std::make_shared<ExcProductStructure>();
+    structure->setProductName(name);
+    return structure;
+}
+
+wstring nameOf(const std::shared_ptr<IExchangeObject>& structure)
+{
+    return std::dynamic_pointer_cast<ExcProductStructure>(structure)->productName();
+}
+
+TEST(Envelope, OfATextObjectIsItsJson)
+{
+    auto progress = std::make_shared<ExcProgress>();
+    progress->setProgress(3);
+    EXPECT_EQ(asciiOf(envelopeOf(progress)), "{\n"
+                                             "  \"exchange_object_name\": \"exc_progress\",\n"
+                                             "  \"exchange_object_data\": {\n"
+                                             "    \"progress\": 3,\n"
+                                             "    \"progress_max\": 100,\n"
+                                             "    \"stage\": \"\"\n"
+                                             "  }\n"
+                                             "}");
+    const auto stage = std::make_shared<ExcStageFinished>(ExcStageFinished::EStage::Mechanical);
+    EXPECT_EQ(asciiOf(envelopeOf(stage)), "{\n"
+                                          "  \"exchange_object_name\": \"exc_stage_finished\",\n"
+                                          "  \"exchange_object_data\": \"mechanical\"\n"
+                                          "}");
+    const auto back = opened(envelopeOf(progress));
+    EXPECT_TRUE(dynamic_cast<const ExcProgress&>(*back) == *progress);
+    EXPECT_FALSE(back->isLoaded());
+}
+
+TEST(Envelope, OfABinaryObjectNamesABuffer)
+{
+    const auto structure = structureNamed(WIDE("vise"));
+    const std::string envelope = envelopeOf(structure);
+    const std::string text = asciiOf(envelope);
+    std::smatch match;
+    const std::regex form("\\{\n  \"exchange_object_name\": \"exc_product_structure\",\n  \"binary\": true,\n"
+                          "  \"exchange_object_data\": \"([0-9a-f-]{36})\"\n\\}");
+    ASSERT_TRUE(std::regex_match(text, match, form)) << text;
+    const std::string second = envelopeOf(structure);
+    EXPECT_NE(second, envelope) << "each envelope has a buffer of its own";
+    opened(second);
+
+    const std::string content = test::takeBuffer(wide(match[1].str()));
+    std::string plain;
+    Compressor::decompress(plain, content.data(), content.size());
+    JsonDocument document;
+    JsonBinaryIO::read(plain.data(), plain.size(), document, document.GetAllocator());
+    EXPECT_EQ(test::textOf(document), test::written(*structure));
+}
+
+TEST(Envelope, WithoutAnObjectWritesNothing)
+{
+    mp::wostringstream stream;
+    EXPECT_EQ(test::thrownBy<std::invalid_argument>([&] { ExchangeObjectWrapper().writeObject(stream); }),
+              "ExchangeObjectWrapper::writeObject > m_pObject == nullptr");
+    EXPECT_TRUE(stream.str().empty());
+}
+
+TEST(Envelope, ThatIsNoObjectThrows)
+{
+    for (const char* const text : {"", "{} {}", "[]", "{"})
+    {
+        EXPECT_EQ(test::thrownBy<std::invalid_argument>([&] { opened(envelopeOfText(text)); }),
+                  "Invalid json document");
+    }
+}
+
+struct EnvelopeRow
+{
+    const char* in;
+    const char* object; // what the object writes, or "none"
+    std::vector<std::string> log;
+};
+
+TEST(Envelope, ThatNamesNothingUsableIsPassedOver)
+{
+    const EnvelopeRow rows[] = {
+        {R"({"exchange_object_data":{}})", "none", {}},
+        {R"({"exchange_object_name":5,"exchange_object_data":{}})", "none", {}},
+        {R"({"exchange_object_name":"exc_unheard_of","exchange_object_data":{}})", "none", {}},
+        {R"({"exchange_object_name":"exc_progress"})",
+         kDefaultProgress,
+         {"[ERROR] ExchangeObjectWrapper JSON object has no Exchange Object data."}},
+        {R"({"exchange_object_name":"exc_product_structure","binary":true,"exchange_object_data":5})",
+         R"({"product_name":"","product_configuration_name":"","units":"unknown","world_orientation":"unknown"})",
+         {"[ERROR] ExchangeObjectWrapper JSON object should have UUID in Exchange Object Data field (if binary)."}},
+        {R"({"exchange_object_name":"exc_product_structure","binary":false,"exchange_object_data":{"units":"meter"}})",
+         R"({"product_name":"","product_configuration_name":"","units":"meter","world_orientation":"unknown"})",
+         {}},
+        {R"({"exchange_object_name":"exc_progress","binary":1,"exchange_object_data":{"progress":2}})",
+         R"({"progress":2,"progress_max":100,"stage":""})",
+         {}},
+        {R"({"exchange_object_name":"exc_progress","binary":true,"exchange_object_data":"x"})", kDefaultProgress, {}},
+        {R"({"exchange_object_name":"exc_progress\u0000z","exchange_object_data":null})", kDefaultProgress, {}},
+        {R"({"exchange_object_name":"exc_stage_finished","exchange_object_data":"product_structure"})",
+         R"("product_structure")",
+         {}},
+    };
+    for (const EnvelopeRow& one : rows)
+    {
+        const test::LogCapture log;
+        const auto object = opened(envelopeOfText(one.in));
+        EXPECT_EQ(object == nullptr ? "none" : test::written(*object), one.object) << one.in;
+        EXPECT_EQ(log.complaints(), one.log) << one.in;
+    }
+}
+
+TEST(Load, IsOnceAndLater)
+{
+    const std::string envelope = envelopeOf(structureNamed(WIDE("vise")));
+    const auto object = opened(envelope, true);
+    EXPECT_FALSE(object->isLoaded());
+    EXPECT_EQ(nameOf(object), WIDE(""));
+    object->load();
+    EXPECT_TRUE(object->isLoaded());
+    EXPECT_EQ(nameOf(object), WIDE("vise"));
+    object->load();
+    EXPECT_EQ(test::thrownBy<std::length_error>([&] { opened(envelope); }), "Failed to parse all bytes of type");
+}
+
+TEST(Load, WithoutASourceDoesNothing)
+{
+    ExcProductStructure structure;
+    structure.load();
+    EXPECT_FALSE(structure.isLoaded());
+}
+
+TEST(Load, DecidesOnTheBytesWhetherTheyAreCompressed)
+{
+    // {"units": "inch"}
+    const std::string plain = test::bytes("03000000 2A00000000000000"
+                                          "05000000 0500000000000000 75006E00690074007300"
+                                          "05000000 0400000000000000 69006E0063006800");
+    std::string packed;
+    Compressor::compress(packed, plain.data(), plain.size(), 9);
+    for (const std::string& content : {plain, packed})
+    {
+        const auto object = opened(structureEnvelope(test::leaveBuffer(content)));
+        EXPECT_EQ(std::dynamic_pointer_cast<ExcProductStructure>(object)->units(), ELengthUnitType::Inch);
+    }
+}
+
+TEST(Load, ThatFailsRemovesTheBufferAndLeavesTheObjectUnloaded)
+{
+    const std::pair<const char*, const char*> contents[] = {
+        {"0B000000", "Unknown value type"},
+        {"0300", "Failed to parse all bytes of type"},
+        {"1F8B0800", "Failed to parse all bytes of type"},
+        {"1F8B0900 000000000003", "unknown compression method"},
+    };
+    for (const auto& [hex, text] : contents)
+    {
+        const wstring source = test::leaveBuffer(test::bytes(hex));
+        const auto object = opened(structureEnvelope(source), true);
+        EXPECT_EQ(test::thrownBy<std::exception>([&] { object->load(); }), text) << hex;
+        EXPECT_FALSE(object->isLoaded());
+        EXPECT_EQ(test::thrownBy<std::exception>([&] { object->load(); }), "Failed to parse all bytes of type");
+        EXPECT_EQ(test::takeBuffer(source), "");
+    }
+}
+
+TEST(Load, OfAWrongKindIsLoadedAllTheSame)
+{
+    const test::LogCapture log;
+    const auto object = opened(structureEnvelope(test::leaveBuffer(test::bytes("00000000"))));
+    EXPECT_TRUE(object->isLoaded());
+    EXPECT_EQ(log.lines("ERROR"),
+              std::vector<std::string>{"ExcProductStructure object should have a JSON object type."});
+}
+
+TEST(Load, WhileWritingFailsLeavesNothingBehind)
+{
+    EXPECT_THROW(opened(structureEnvelope(WIDE("no/such/folder/name"))), mp::SharedMemoryException);
+}
+
+TEST(Corpus, ArrivesByTextBinaryCompressionAndSharedMemory)
+{
+    for (const wstring& text : test::corpus())
+    {
+        JsonDocument document(rapidjson::kObjectType);
+        JsonValue value(text.data(), static_cast<rapidjson::SizeType>(text.size()), document.GetAllocator());
+        document.AddMember(WIDE("text"), value, document.GetAllocator());
+        const auto expectText = [&](const JsonDocument& arrived) {
+            const JsonValue& found = arrived[WIDE("text")];
+            EXPECT_TRUE(wstring(found.GetString(), found.GetStringLength()) == text) << mp::toNarrow(text.substr(0, 9));
+        };
+
+        for (const bool pretty : {false, true})
+        {
+            mp::wstringstream stream;
+            JsonTextIO::write(stream, document, pretty);
+            JsonDocument read;
+            JsonTextIO::read(stream, read);
+            expectText(read);
+        }
+
+        std::vector<char> form;
+        JsonBinaryIO::write(form, document);
+        std::string packed;
+        Compressor::compress(packed, form.data(), form.size(), -1);
+        std::vector<char> unpacked;
+        Compressor::decompress(unpacked, packed.data(), packed.size());
+        EXPECT_TRUE(unpacked == form);
+        JsonDocument read;
+        JsonBinaryIO::read(unpacked.data(), unpacked.size(), read, read.GetAllocator());
+        expectText(read);
+
+        // In a model object a text ends at its first NUL.
+        const wstring cut(text.c_str());
+        EXPECT_TRUE(nameOf(opened(envelopeOf(structureNamed(text)))) == cut);
+        const auto message = opened(envelopeOf(std::make_shared<ExcMessage>(text)));
+        EXPECT_TRUE(std::dynamic_pointer_cast<ExcMessage>(message)->get() == cut);
+    }
+}
+
+} // namespace

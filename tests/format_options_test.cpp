@@ -1,0 +1,160 @@
+#include "tests/support/model_row.h"
+#include "vrx_api/format_options/option_fields.h"
+#include "vrx_api/vrx_api_format_options.h"
+
+#include <gmock/gmock.h>
+
+using namespace vrx;
+using test::row;
+using testing::ElementsAre;
+
+namespace
+{
+
+constexpr const char* kOtherFormat = "[ERROR] FormatOptions format type doesn't match.";
+constexpr const char* kOtherOperation = "[ERROR] FormatOptions operation type doesn't match.";
+constexpr const char* kNoOptions = "[INFO] FormatOptions: No options for given format.";
+
+constexpr const char* kEmptyIGES =
+    R"({"operation_type":"import","format_type":"IGES","import_entities":"unknown","hidden_entities_mode":"unknown"})";
+constexpr const char* kEmptySTEP =
+    R"({"operation_type":"import","format_type":"STEP","layer_name_mode":"unknown","visu_pmi_mode":"unknown"})";
+constexpr const char* kNoPMI =
+    R"({"operation_type":"import","format_type":"STEP","layer_name_mode":"unknown","visu_pmi_mode":"none"})";
+constexpr const char* kEmptyJT =
+    R"({"operation_type":"import","format_type":"JT","edges_mode":"unknown","user_prop_mode":"unknown"})";
+constexpr const char* kEmptyParasolid =
+    R"({"operation_type":"import","format_type":"parasolid","hidden_entities_mode":"unknown"})";
+
+const test::ModelRow kRows[] = {
+    row<imp::OptionsIGES>("IGESOfNull", "null", kEmptyIGES,
+                          {"[ERROR] OptionsIGES object should have a JSON object type."}),
+    row<imp::OptionsIGES>("IGES",
+                          R"({"format_type":"IGES","import_entities":"root_only","hidden_entities_mode":"all"})",
+                          R"({"operation_type":"import","format_type":"IGES","import_entities":"root_only",)"
+                          R"("hidden_entities_mode":"all"})"),
+    row<imp::OptionsIGES>("IGESOfUnlistedNames",
+                          R"({"format_type":"IGES","import_entities":"root","hidden_entities_mode":"None"})",
+                          R"({"operation_type":"import","format_type":"IGES","import_entities":"root_and_nonroot",)"
+                          R"("hidden_entities_mode":"all"})"),
+
+    row<imp::OptionsSTEP>("STEPOfText", R"("STEP")", kEmptySTEP,
+                          {"[ERROR] OptionsSTEP object should have a JSON object type."}),
+    row<imp::OptionsSTEP>("STEP", R"({"format_type":"STEP","layer_name_mode":"saved_visu_rep","visu_pmi_mode":"all"})",
+                          R"({"operation_type":"import","format_type":"STEP","layer_name_mode":"saved_visu_rep",)"
+                          R"("visu_pmi_mode":"all"})"),
+    row<imp::OptionsSTEP>("STEPOfUnlistedNames",
+                          R"({"format_type":"STEP","layer_name_mode":"","visu_pmi_mode":"only_with_visible_links"})",
+                          R"({"operation_type":"import","format_type":"STEP","layer_name_mode":"asm_rep",)"
+                          R"("visu_pmi_mode":"all"})"),
+    row<imp::OptionsSTEP>("STEPOfWrongKinds", R"({"format_type":"STEP","layer_name_mode":1,"visu_pmi_mode":true})",
+                          kEmptySTEP),
+    // A mismatch is logged, and the rest is taken all the same.
+    row<imp::OptionsSTEP>("STEPOfAnotherFormat",
+                          R"({"operation_type":"import","format_type":"IGES","visu_pmi_mode":"none"})", kNoPMI,
+                          {kOtherFormat}),
+    row<imp::OptionsSTEP>("STEPOfNoFormat", R"({"visu_pmi_mode":"none"})", kNoPMI, {kOtherFormat}),
+    row<imp::OptionsSTEP>("STEPOfAFormatNumber", R"({"format_type":9,"operation_type":2})", kEmptySTEP, {kOtherFormat}),
+    row<imp::OptionsSTEP>("STEPOfAnotherOperation",
+                          R"({"operation_type":"Import","format_type":"IGES","visu_pmi_mode":"none"})", kNoPMI,
+                          {kOtherOperation}),
+
+    row<imp::OptionsJT>("JTOfAnArray", "[]", kEmptyJT, {"[ERROR] OptionsJT object should have a JSON object type."}),
+    row<imp::OptionsJT>("JT", R"({"format_type":"JT","edges_mode":"none","user_prop_mode":"translate_none"})",
+                        R"({"operation_type":"import","format_type":"JT","edges_mode":"none",)"
+                        R"("user_prop_mode":"translate_none"})"),
+    row<imp::OptionsJT>("JTOfUnlistedNames",
+                        R"({"format_type":"JT","edges_mode":"translate_none","user_prop_mode":"none"})",
+                        R"({"operation_type":"import","format_type":"JT","edges_mode":"all",)"
+                        R"("user_prop_mode":"translate_all"})"),
+
+    row<imp::OptionsParasolid>("ParasolidOfANumber", "4", kEmptyParasolid,
+                               {"[ERROR] OptionsParasolid object should have a JSON object type."}),
+    row<imp::OptionsParasolid>("ParasolidOfAnotherFormat",
+                               R"({"format_type":"Parasolid","hidden_entities_mode":"only_with_visible_links"})",
+                               R"({"operation_type":"import","format_type":"parasolid",)"
+                               R"("hidden_entities_mode":"only_with_visible_links"})",
+                               {kOtherFormat}),
+};
+
+class FormatOptionsRows : public test::ModelRows
+{
+};
+
+// A settings class of a host, for an export.
+class ExportSTEP : public exp::FormatOptions
+{
+public:
+    EFormatType formatType() const override { return EFormatType::STEP; }
+};
+
+} // namespace
+
+TEST_P(FormatOptionsRows, ReadAndWritten)
+{
+    check(GetParam());
+}
+
+INSTANTIATE_TEST_SUITE_P(FormatOptions, FormatOptionsRows, testing::ValuesIn(kRows), test::ModelRows::nameOf);
+
+TEST(FormatOptions, AreMadeByOperationAndFormat)
+{
+    const char* const kNoOperation = "[ERROR] FormatOptions object should contain operation type.";
+    const char* const kNoFormat = "[ERROR] FormatOptions object should contain format type.";
+    const struct
+    {
+        const char* in;
+        const char* out;
+        std::vector<std::string> log;
+    } rows[] = {
+        {R"({"operation_type":"import","format_type":"IGES"})", kEmptyIGES, {}},
+        {R"({"operation_type":"import","format_type":"STEP","visu_pmi_mode":"none"})", kNoPMI, {}},
+        {R"({"operation_type":"import","format_type":"JT"})", kEmptyJT, {}},
+        {R"({"operation_type":"import","format_type":"parasolid"})", kEmptyParasolid, {}},
+        {"[]", nullptr, {"[ERROR] FormatOptions object should have a JSON object type."}},
+        {R"({"format_type":"STEP"})", nullptr, {kNoOperation}},
+        {R"({"operation_type":1,"format_type":"STEP"})", nullptr, {kNoOperation}},
+        {R"({"operation_type":"export"})", nullptr, {kNoFormat}},
+        {R"({"operation_type":"import","format_type":9})", nullptr, {kNoFormat}},
+        {R"({"operation_type":"export","format_type":"STEP"})", nullptr, {}},
+        {R"({"operation_type":"Import","format_type":"STEP"})", nullptr, {}},
+        {R"({"operation_type":"import","format_type":"STL"})", nullptr, {kNoOptions}},
+        {R"({"operation_type":"import","format_type":"Step"})", nullptr, {kNoOptions}},
+    };
+    for (const auto& row : rows)
+    {
+        const test::LogCapture log;
+        const std::shared_ptr<IFormatOptions> options = IFormatOptions::readOptions(test::parsed(row.in));
+        EXPECT_EQ(log.complaints(), row.log) << row.in;
+        ASSERT_EQ(options == nullptr, row.out == nullptr) << row.in;
+        if (options != nullptr)
+        {
+            EXPECT_EQ(test::written(*options), row.out);
+        }
+    }
+}
+
+TEST(FormatOptions, OfAnExportTellTheirOperation)
+{
+    ExportSTEP options;
+    EXPECT_EQ(test::written(options), R"({"operation_type":"export","format_type":"STEP"})");
+    const test::LogCapture log;
+    test::readText(options, R"({"operation_type":"export","format_type":"STEP"})");
+    test::readText(options, R"({"format_type":"STEP"})");
+    test::readText(options, R"({"operation_type":"import"})");
+    test::readText(options, "null");
+    EXPECT_THAT(log.complaints(),
+                ElementsAre(kOtherOperation, "[ERROR] FormatOptions object should have a JSON object type."));
+}
+
+TEST(FormatOptions, ASetOfModesAddsAndIsSorted)
+{
+    using EMode = EPersistentNameProcessingModeType;
+    std::set<EMode> modes = {EMode::Instance};
+    decode(test::parsed(R"(["unknown","face",3,"vertex","face","Face"])"), modes);
+    decode(test::parsed(R"({"none":"none"})"), modes);
+    modes.insert(EMode{8});
+    JsonDocument document;
+    encode(modes, document.GetAllocator()).Swap(document);
+    EXPECT_EQ(test::textOf(document), R"(["vertex","edge","face","none","instance","unknown"])");
+}

@@ -1,0 +1,163 @@
+#include "mp/narrow.h"
+#include "tests/support/helpers.h"
+#include "tests/support/shared_memory.h"
+
+#include <gtest/gtest.h>
+
+#ifdef __linux__
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#endif
+
+using namespace mp;
+
+namespace
+{
+
+using Buffer = SharedBuffer<char>;
+
+TEST(Narrow, KeepsAscii)
+{
+    EXPECT_EQ(toNarrow(WIDE("Shared ~ 1")), "Shared ~ 1");
+    EXPECT_EQ(toWide("Shared ~ 1"), WIDE("Shared ~ 1"));
+    EXPECT_EQ(toNarrow(wstring()) + toNarrow(toWide(std::string_view("a\0b", 3))), std::string("a\0b", 3));
+}
+
+#ifndef _WIN32
+TEST(Narrow, IsUtf8)
+{
+    const std::pair<wstring, const char*> texts[] = {
+        {WIDE("\u007F\u0080\u07FF\u0800\uFFFF"), "7F C280 DFBF E0A080 EFBFBF"},
+        {WIDE("\U00010000\U0001F529\U0010FFFF"), "F0908080 F09F94A9 F48FBFBF"},
+    };
+    for (const auto& [wide, hex] : texts)
+    {
+        EXPECT_EQ(toNarrow(wide), test::bytes(hex));
+        EXPECT_EQ(toWide(test::bytes(hex)), wide);
+    }
+    const wchar high = 0xD800;
+    const wchar low = 0xDC00;
+    EXPECT_EQ(toNarrow(wstring{high, 'a', low, high}), test::bytes("EFBFBD 61 EFBFBD EFBFBD"));
+}
+
+TEST(Narrow, ReplacesEachMalformedByte)
+{
+    // A lone continuation, a cut sequence, an overlong one, a surrogate, a character behind the last.
+    const std::pair<const char*, std::size_t> texts[] = {
+        {"80", 1}, {"E282", 2}, {"C0AF", 2}, {"E08080", 3}, {"EDA080", 3}, {"F4908080", 4}, {"F5", 1}, {"FF", 1},
+    };
+    for (const auto& [hex, replaced] : texts)
+    {
+        EXPECT_EQ(toWide(test::bytes(hex) + 'a'), wstring(replaced, WIDE('\uFFFD')) + WIDE('a')) << hex;
+    }
+}
+#endif
+
+TEST(SharedBuffer, RefusesToWorkUnopened)
+{
+    Buffer buffer;
+    std::vector<char> bytes;
+    EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.open(wstring(), true); }),
+              "Shared variable name mustn't be empty");
+    const char* const unopened = "Shared buffer was not initialized";
+    EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.write("a", 1); }), unopened);
+    EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.read(bytes); }), unopened);
+    EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.clear(); }), unopened);
+}
+
+TEST(SharedBuffer, HoldsExactlyTheLastBytesUntilItIsRemoved)
+{
+    const wstring name = vrx::IExchangeObject::generateUUID();
+    const std::string content("\0\x1F"
+                              "abc\xFF",
+                              6);
+    {
+        Buffer writer;
+        writer.open(name, false);
+        std::vector<char> bytes(3, 'x');
+        writer.read(bytes);
+        EXPECT_TRUE(bytes.empty());
+        writer.write("a longer content", 16);
+        writer.write(content.data(), content.size());
+    }
+    EXPECT_EQ(test::takeBuffer(name), content);
+    EXPECT_EQ(test::takeBuffer(name), "");
+}
+
+TEST(SharedBuffer, IsSeenThroughTwoHandlesAndCleared)
+{
+    const wstring name = vrx::IExchangeObject::generateUUID();
+    Buffer writer;
+    Buffer reader;
+    writer.open(name, true);
+    reader.open(name, false);
+    writer.write("abc", 3);
+    std::vector<char> bytes;
+    reader.read(bytes);
+    EXPECT_EQ(std::string(bytes.begin(), bytes.end()), "abc");
+    writer.clear();
+    reader.read(bytes);
+    EXPECT_TRUE(bytes.empty());
+}
+
+TEST(SharedBuffer, CanNotWriteNothing)
+{
+    Buffer buffer;
+    buffer.open(vrx::IExchangeObject::generateUUID(), true);
+    buffer.write("abc", 3);
+    EXPECT_THROW(buffer.write("", 0), SharedMemoryException);
+    std::vector<char> bytes;
+    buffer.read(bytes);
+    EXPECT_TRUE(bytes.empty());
+}
+
+TEST(SharedBuffer, TurnsTheErrorsOfTheSystem)
+{
+    Buffer buffer;
+    EXPECT_THROW(buffer.open(wstring(5000, WIDE('n')), true), SharedMemoryException);
+    EXPECT_THROW(buffer.write("a", 1), SharedMemoryException);
+}
+
+#ifdef __linux__
+std::string fileOf(const wstring& name)
+{
+    return "/dev/shm/" + toNarrow(name);
+}
+
+TEST(SharedBuffer, IsForItsUserAlone)
+{
+    const mode_t before = umask(0);
+    Buffer buffer;
+    buffer.open(vrx::IExchangeObject::generateUUID(), true);
+    umask(before);
+    struct stat status = {};
+    ASSERT_EQ(stat(fileOf(buffer.name()).c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+}
+
+TEST(SharedBuffer, OfMoreThanTheSystemHoldsIsRefusedAndLeavesNothing)
+{
+    struct statvfs system = {};
+    ASSERT_EQ(statvfs("/dev/shm", &system), 0);
+    ASSERT_GT(system.f_blocks, 0U) << "shared memory without a limit";
+    const std::uint64_t tooMuch = std::uint64_t{system.f_blocks} * system.f_frsize + 4096;
+    struct stat status = {};
+    std::string file;
+    {
+        Buffer buffer;
+        buffer.open(vrx::IExchangeObject::generateUUID(), true);
+        file = fileOf(buffer.name());
+        EXPECT_THROW(buffer.write("not read", tooMuch), SharedMemoryException);
+
+        // Not the size that was wanted, whose first use would kill the process that comes to read.
+        ASSERT_EQ(stat(file.c_str(), &status), 0);
+        ASSERT_EQ(status.st_size, 0);
+        buffer.write("abc", 3);
+        ASSERT_EQ(stat(file.c_str(), &status), 0);
+        EXPECT_EQ(status.st_size, 3);
+    }
+    EXPECT_NE(stat(file.c_str(), &status), 0);
+}
+#endif
+
+} // namespace

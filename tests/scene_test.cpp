@@ -1,0 +1,292 @@
+#include "tests/support/model_row.h"
+#include "vrx_api/exchange/exchange_object_wrapper.h"
+#include "vrx_api/vrx_api_exchange_visualization.h"
+
+using namespace vrx;
+using test::row;
+
+namespace
+{
+
+class SceneRows : public test::ModelRows
+{
+};
+
+const char* const kNode = R"({"is_leaf":false,"type":"UNDEFINED","group_name":""})";
+const char* const kNoNode = "[ERROR] ExcVisuNode object should have a JSON object type.";
+const char* const kMesh = R"({"display_name":"","id":"","mechanical_id":"","geometry_type":"unknown"})";
+const char* const kView = R"({"display_name":"","id":"","mechanical_id":"","hidden":false,"origin":[0.0,0.0,0.0],)"
+                          R"("direction_u":[0.0,0.0,0.0],"direction_v":[0.0,0.0,0.0]})";
+const char* const kNoVector = "[ERROR] Exchange vector/point (2D/3D) object should have a JSON array type.";
+const char* const kCamera =
+    R"({"type":"undefined","name":"","eye":[0.0,0.0,0.0],"target":[0.0,0.0,0.0],"up":[0.0,0.0,0.0]})";
+const char* const kNoPlane = "[ERROR] ExcClippingPlane object should have a JSON object type.";
+const std::string kCapture =
+    R"({"display_name":"","id":"","mechanical_id":"","hidden":false,"active":false,"hidden_text":"",)"
+    R"("clipping_plane":null,"camera":)" +
+    std::string(kCamera) + "}";
+
+const test::ModelRow kRows[] = {
+    row<ExcVisuNode>("NodeDefault", "{}", kNode),
+    row<ExcVisuNode>("NodeOfNull", "null", kNode, {kNoNode}),
+    row<ExcVisuNode>(
+        "Node",
+        R"({"child_nodes":[{"type":"MESH","child_nodes":[{}]},{"group_name":"c"}],"group_name":"g","type":"ROOT",)"
+        R"("point_set":{},"pmi":{},"wire":{},"mesh":{},"transformation":{},"attributes":{},"is_leaf":true})",
+        (R"({"is_leaf":true,"attributes":{"hidden":false},"transformation":{"affine":[[1.0,0.0,0.0],[0.0,1.0,0.0],)"
+         R"([0.0,0.0,1.0]],"translation":[0.0,0.0,0.0]},"mesh":)" +
+         std::string(kMesh) + R"(,"wire":)" + kMesh + R"(,"pmi":{"display_name":"","id":"","mechanical_id":""},)" +
+         R"("point_set":)" + kMesh +
+         R"(,"type":"ROOT","group_name":"g","child_nodes":[{"is_leaf":false,"type":"MESH","group_name":"",)"
+         R"("child_nodes":[)" +
+         kNode + R"(]},{"is_leaf":false,"type":"UNDEFINED","group_name":"c"}]})")
+            .c_str()),
+    row<ExcVisuNode>("NodeOfWrongKindsPointsAtDefaults",
+                     R"({"mesh":5,"transformation":null,"is_leaf":0,"type":3,"child_nodes":{}})",
+                     (R"({"is_leaf":false,"transformation":{"affine":[[1.0,0.0,0.0],[0.0,1.0,0.0],[0.0,0.0,1.0]],)"
+                      R"("translation":[0.0,0.0,0.0]},"mesh":)" +
+                      std::string(kMesh) + R"(,"type":"UNDEFINED","group_name":""})")
+                         .c_str(),
+                     {"[ERROR] ExcVisuMesh object should have a JSON object type."}),
+    row<ExcVisuNode>("NodeOfAnUnknownType", R"({"type":"root"})",
+                     R"({"is_leaf":false,"type":"ACTIVEDRAWINGSHEET","group_name":""})"),
+    row<ExcVisuNode>(
+        "NodeKeepsTheNumberOfItsChildren", R"({"child_nodes":[1,{"mesh":0,"child_nodes":[null]},"",{"wire":0}]})",
+        (R"({"is_leaf":false,"type":"UNDEFINED","group_name":"","child_nodes":[)" + std::string(kNode) +
+         R"(,{"is_leaf":false,"mesh":)" + kMesh + R"(,"type":"UNDEFINED","group_name":"","child_nodes":[)" + kNode +
+         "]}," + kNode + R"(,{"is_leaf":false,"wire":)" + kMesh + R"(,"type":"UNDEFINED","group_name":""}]})")
+            .c_str(),
+        {kNoNode, "[ERROR] ExcVisuMesh object should have a JSON object type.", kNoNode, kNoNode,
+         "[ERROR] ExcVisuWire object should have a JSON object type."}),
+
+    row<ExcVisuView>("View",
+                     R"({"annotation_ids":["a",7,"b"],"direction_v":[7.0,8.0,9.0],"direction_u":[4.0,5.0,6.0],)"
+                     R"("origin":[1.0,2.0,3.0],"hidden":true,"mechanical_id":"m","id":"i","display_name":"d"})",
+                     R"({"display_name":"d","id":"i","mechanical_id":"m","hidden":true,"origin":[1.0,2.0,3.0],)"
+                     R"("direction_u":[4.0,5.0,6.0],"direction_v":[7.0,8.0,9.0],"annotation_ids":["a","b"]})"),
+    row<ExcVisuView>("ViewOfWrongKinds", R"({"annotation_ids":"a","origin":null,"hidden":1})", kView, {kNoVector}),
+    row<ExcVisuView>("ViewOfNull", "null", kView, {"[ERROR] ExcVisuView object should have a JSON object type."}),
+
+    row<ExcCamera>("CameraDefault", "{}", kCamera),
+    row<ExcCamera>("CameraOfNull", "null", kCamera, {"[ERROR] ExcCamera object should have a JSON object type."}),
+    row<ExcCamera>("CameraWritesNoParameterWhenUndefined",
+                   R"({"perspective_view_angle":45.0,"orthographic_zoom_factor":2.0})", kCamera),
+    row<ExcCamera>("CameraPerspective",
+                   R"({"up":[7.0,8.0,9.0],"target":[4.0,5.0,6.0],"eye":[1.0,2.0,3.0],"orthographic_zoom_factor":2.0,)"
+                   R"("perspective_view_angle":45.0,"name":"n","type":"perspective"})",
+                   R"({"type":"perspective","name":"n","perspective_view_angle":45.0,"eye":[1.0,2.0,3.0],)"
+                   R"("target":[4.0,5.0,6.0],"up":[7.0,8.0,9.0]})"),
+    row<ExcCamera>("CameraOfAnUnknownTypeIsOrthographic", R"({"type":"?","orthographic_zoom_factor":2.5})",
+                   R"({"type":"orthographic","name":"","orthographic_zoom_factor":2.5,"eye":[0.0,0.0,0.0],)"
+                   R"("target":[0.0,0.0,0.0],"up":[0.0,0.0,0.0]})"),
+    row<ExcCamera>("CameraOfAnIntegerAngle", R"({"type":"perspective","perspective_view_angle":45})",
+                   R"({"type":"perspective","name":"","perspective_view_angle":0.0,"eye":[0.0,0.0,0.0],)"
+                   R"("target":[0.0,0.0,0.0],"up":[0.0,0.0,0.0]})"),
+
+    row<ExcClippingPlane>("PlaneDefaultIsNull", "{}", "null"),
+    row<ExcClippingPlane>("PlaneOfNull", "null", "null", {kNoPlane}),
+    row<ExcClippingPlane>("PlaneTakesVIntoU", R"({"v":[0.0,1.0,0.0],"u":[1.0,0.0,0.0],"origin":[1.0,2.0,3.0]})",
+                          R"({"origin":[1.0,2.0,3.0],"u":[0.0,1.0,0.0],"v":[0.0,0.0,0.0]})"),
+    row<ExcClippingPlane>("PlaneOfAVectorOfAnyKind", R"({"u":[1.0],"v":null})",
+                          R"({"origin":[0.0,0.0,0.0],"u":[1.0,0.0,0.0],"v":[0.0,0.0,0.0]})", {kNoVector}),
+    row<ExcClippingPlane>("PlaneCoefficients", R"({"plane_coefficients":[1.0,2.0,3.0,4.0,5.0]})",
+                          R"({"plane_coefficients":[1.0,2.0,3.0,4.0]})"),
+    row<ExcClippingPlane>("PlaneCoefficientsEndEarly", R"({"plane_coefficients":[1.0,2.0]})",
+                          R"({"plane_coefficients":[1.0,2.0,0.0,0.0]})"),
+    row<ExcClippingPlane>("PlaneCoefficientsEndAtAnInteger", R"({"plane_coefficients":[1.0,2,3.0,4.0]})",
+                          R"({"plane_coefficients":[1.0,0.0,0.0,0.0]})"),
+    row<ExcClippingPlane>("PlaneOfNoCoefficients", R"({"plane_coefficients":[]})",
+                          R"({"plane_coefficients":[0.0,0.0,0.0,0.0]})"),
+    row<ExcClippingPlane>("PlaneCoefficientsOfAWrongKind", R"({"plane_coefficients":{}})", "null"),
+    row<ExcClippingPlane>("PlaneInBothForms", R"({"plane_coefficients":[1.0,2.0,3.0,4.0],"origin":[1.0,2.0,3.0]})",
+                          R"({"origin":[1.0,2.0,3.0],"u":[0.0,0.0,0.0],"v":[0.0,0.0,0.0],)"
+                          R"("plane_coefficients":[1.0,2.0,3.0,4.0]})"),
+
+    row<ExcVisuCapture>("CaptureDefault", "{}", kCapture.c_str()),
+    row<ExcVisuCapture>("CaptureOfNull", "null", kCapture.c_str(),
+                        {"[ERROR] ExcVisuCapture object should have a JSON object type."}),
+    row<ExcVisuCapture>("CaptureWithoutPlaneIsLogged", kCapture.c_str(), kCapture.c_str(), {kNoPlane}),
+    row<ExcVisuCapture>(
+        "Capture",
+        R"({"bodies":[{"type":"visu","id":"v"},5],"fta_constructed_geometry_ids":["f",null],)"
+        R"("annotation_ids":["a",7,"b\u0000c"],"camera":{"name":"c"},"clipping_plane":{"origin":[1.0]},)"
+        R"("hidden_text":"t","active":true,"hidden":true,"mechanical_id":"m","id":"i",)"
+        R"("display_name":"d"})",
+        R"({"display_name":"d","id":"i","mechanical_id":"m","hidden":true,"active":true,)"
+        R"("hidden_text":"t","clipping_plane":{"origin":[1.0,0.0,0.0],"u":[0.0,0.0,0.0],)"
+        R"("v":[0.0,0.0,0.0]},"camera":{"type":"undefined","name":"c","eye":[0.0,0.0,0.0],)"
+        R"("target":[0.0,0.0,0.0],"up":[0.0,0.0,0.0]},"annotation_ids":["a","","b"],)"
+        R"("fta_constructed_geometry_ids":["f",""],)"
+        R"("bodies":[{"type":"visu","id":"v"},{"type":"unknown"}]})",
+        {"[ERROR] ExcEntity object should have a JSON object type."}),
+
+    row<ExcVisualizationData>("DataDefault", "{}", R"({"units":"unknown"})"),
+    row<ExcVisualizationData>("DataOfNull", "null", R"({"units":"unknown"})",
+                              {"[ERROR] ExcVisualizationData object should have a JSON object type."}),
+    row<ExcVisualizationData>("Data", R"({"captures":[{}],"views":[{}],"units":"inch","scene_root_nodes":[{},[]]})",
+                              (R"({"scene_root_nodes":[)" + std::string(kNode) + "," + kNode +
+                               R"(],"units":"inch","views":[)" + kView + R"(],"captures":[)" + kCapture + "]}")
+                                  .c_str(),
+                              {kNoNode}),
+    row<ExcVisualizationData>("DataOfWrongKinds", R"({"captures":{},"views":1,"units":"in","scene_root_nodes":null})",
+                              R"({"units":"centimeter"})"),
+
+    row<ExcBlockVisualization>("BlockDefault", "{}", R"({"block_id":0})"),
+    row<ExcBlockVisualization>("BlockOfNull", "null", R"({"block_id":0})",
+                               {"[ERROR] ExcBlockVisualization object should have a JSON object type."}),
+    row<ExcBlockVisualization>("Block", R"({"visualization_data":{},"block_id":18446744073709551615})",
+                               R"({"block_id":18446744073709551615,"visualization_data":{"units":"unknown"}})"),
+    row<ExcBlockVisualization>("BlockOfWrongKinds", R"({"block_id":-1,"visualization_data":null})",
+                               R"({"block_id":0,"visualization_data":{"units":"unknown"}})",
+                               {"[ERROR] ExcVisualizationData object should have a JSON object type."}),
+    row<ExcRootAssemblyVisualization>("Root", R"({"block_id":1,"visualization_data":{"units":"mile"}})",
+                                      R"({"visualization_data":{"units":"mile"}})"),
+    row<ExcRootAssemblyVisualization>("RootOfNull", "null", "{}",
+                                      {"[ERROR] ExcRootAssemblyVisualization object should have a JSON object type."}),
+};
+
+TEST_P(SceneRows, ReadAndWritten)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Visualization, SceneRows, testing::ValuesIn(kRows), SceneRows::nameOf);
+
+TEST(ClippingPlane, KeepsItsVAndItsFlagsOnReading)
+{
+    ExcClippingPlane plane;
+    plane.setVectorV(ExcVector3d(0.5, 0.5, 0.5));
+    plane.setCoefficient(ExcClippingPlane::CoefficientB, 2.0).setCoefficient(ExcClippingPlane::CoefficientD, 4.0);
+    plane.setHasCoefficients(true);
+    test::readText(plane, R"({"v":[0.0,1.0,0.0]})");
+    EXPECT_EQ(test::written(plane), R"({"origin":[0.0,0.0,0.0],"u":[0.0,1.0,0.0],"v":[0.5,0.5,0.5],)"
+                                    R"("plane_coefficients":[0.0,2.0,0.0,4.0]})");
+    test::readText(plane, "{}");
+    EXPECT_TRUE(plane.hasPlane());
+    EXPECT_TRUE(plane.hasCoefficients());
+}
+
+TEST(Scene, AppendsWhatItReads)
+{
+    const char* const text = R"({"scene_root_nodes":[{"child_nodes":[{}],"mesh":{}}],"views":[{}],"captures":[{}]})";
+    auto data = test::readFrom<ExcVisualizationData>(text);
+    test::readText(data, text);
+    EXPECT_EQ(data.sceneRootNodes().size(), 2U);
+    EXPECT_EQ(data.views().size(), 2U);
+    EXPECT_EQ(data.captures().size(), 2U);
+    ExcVisuNode& node = *data.sceneRootNodes().front();
+    const std::shared_ptr<ExcVisuMesh> mesh = node.mesh();
+    test::readText(node, R"({"child_nodes":[{"type":"PMI"},{"type":"NOTE"}],"mesh":{}})");
+    EXPECT_EQ(test::written(*node.childNodes()[0]), kNode);
+    EXPECT_EQ(node.childNodes()[1]->type(), ExcVisuNode::EType::PMI);
+    EXPECT_EQ(node.childNodes()[2]->type(), ExcVisuNode::EType::NOTE);
+    EXPECT_NE(node.mesh(), mesh);
+}
+
+TEST(Scene, RefusesNulls)
+{
+    ExcVisuNode node;
+    ExcVisuCapture capture;
+    ExcVisualizationData data;
+    const test::LogCapture log;
+    node.setChildNodes({nullptr, nullptr});
+    node.addChildNode(nullptr);
+    capture.addLinkedElement(nullptr);
+    data.addSceneRootNodes({nullptr});
+    data.addView(nullptr);
+    data.setCaptures({nullptr, std::make_shared<ExcVisuCapture>()});
+    EXPECT_EQ(test::written(node), kNode);
+    EXPECT_EQ(data.captures().size(), 1U);
+    const std::string nullChild = "ExcVisuNode: attempt to add null child Visu Node object.";
+    EXPECT_EQ(log.lines("WARNING"),
+              (std::vector<std::string>{nullChild, nullChild, nullChild,
+                                        "ExcVisuCapture: attempt to add null Linked Element object.",
+                                        "ExcVisualizationData: attempt to add null Scene Root Visu Node object.",
+                                        "ExcVisualizationData: attempt to add null Visu View object.",
+                                        "ExcVisualizationData: attempt to add null Visu Capture object."}));
+}
+
+TEST(Scene, FrozenNumbersOfNodes)
+{
+    const std::pair<const char*, int> rows[] = {{"UNDEFINED", 0},         {"POINTSET", 9},      {"DATUM_SIMPLE", 17},
+                                                {"GEOMTOL_FLATNESS", 35}, {"DRAWINGSHEET", 58}, {"DRAWINGSHEETS", 60}};
+    for (const auto& [name, number] : rows)
+    {
+        const auto node = test::readFrom<ExcVisuNode>(R"({"type":")" + std::string(name) + "\"}");
+        EXPECT_EQ(static_cast<int>(node.type()), number) << name;
+    }
+    ExcVisuNode node;
+    node.setType(static_cast<ExcVisuNode::EType>(61));
+    EXPECT_EQ(test::written(node), kNode);
+}
+
+TEST(Scene, CrossesThroughSharedMemory)
+{
+    const auto sent = std::make_shared<ExcBlockVisualization>();
+    test::readText(*sent,
+                   R"({"block_id":7,"visualization_data":{"scene_root_nodes":[{"mesh":{"faces":[)"
+                   R"({"vertices":[0.1,-2.5,1e38],"polygons":[{"type":3,"indices":[0,1,2]}]}]}}],"units":"inch"}})");
+    const auto root = std::make_shared<ExcRootAssemblyVisualization>();
+    root->setVisualizationData(sent->visualizationData());
+    for (const std::shared_ptr<IExchangeObject>& object :
+         {std::shared_ptr<IExchangeObject>(sent), std::shared_ptr<IExchangeObject>(root)})
+    {
+        ExchangeObjectWrapper envelope;
+        envelope.set(object);
+        wstringstream stream;
+        envelope.writeObject(stream);
+        ExchangeObjectWrapper received;
+        received.readObject(stream);
+        ASSERT_NE(received.get(), nullptr);
+        EXPECT_TRUE(received.get()->isLoaded());
+        EXPECT_EQ(received.get()->objectName(), object->objectName());
+        EXPECT_EQ(test::written(*received.get()), test::written(*object));
+    }
+}
+
+// Far more levels than a stack holds.
+constexpr std::size_t kDeep = 100000;
+
+JsonDocument deepTree()
+{
+    std::string text;
+    for (std::size_t i = 0; i < kDeep; ++i)
+    {
+        text += R"({"child_nodes":[{"type":"NOTE"},)";
+    }
+    text += R"({"type":"ROOT"})";
+    for (std::size_t i = 0; i < kDeep; ++i)
+    {
+        text += "]}";
+    }
+    return test::parsed(text);
+}
+
+TEST(Scene, IsReadWrittenCopiedAndEndedAtAnyDepth)
+{
+    test::LogFile::close(); // a trace line a node and direction
+    const auto node = std::make_shared<ExcVisuNode>();
+    node->readObject(deepTree());
+    JsonDocument document;
+    node->writeObject(document, document.GetAllocator());
+    ExcVisuNode copy;
+    copy.readObject(document);
+    const ExcVisuNode sharing = copy;
+    ExcVisuNode below = *sharing.childNodes()[1];
+    EXPECT_EQ(sharing.childNodes()[0]->type(), ExcVisuNode::EType::NOTE);
+    copy = ExcVisuNode();
+
+    // The walk down lets go of all that it has passed.
+    std::shared_ptr<ExcVisuNode> deepest = sharing.childNodes()[1];
+    below = ExcVisuNode();
+    std::size_t levels = 1;
+    while (deepest->childNodes().size() == 2)
+    {
+        deepest = deepest->childNodes()[1];
+        ++levels;
+    }
+    EXPECT_EQ(levels, kDeep);
+    EXPECT_EQ(deepest->type(), ExcVisuNode::EType::ROOT);
+    test::LogFile::instance().open();
+}
+
+} // namespace
