@@ -1,0 +1,8 @@
+#include "fuzz/support.h"
+#include "vrx_api/vrx_api_command.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    fuzz::crossText<vrx::Command>(data, size);
+    return 0;
+}
