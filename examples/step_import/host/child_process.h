@@ -1,0 +1,35 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+
+/// A program running as a child, with a pipe to its standard input and one from its standard output; its standard error
+/// is ours. POSIX only.
+class ChildProcess
+{
+public:
+    /// Throws std::system_error when the program cannot be started.
+    explicit ChildProcess(const std::string& program);
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    /// Ends the child if it still runs.
+    ~ChildProcess();
+
+    int input() const { return m_input; }
+    int output() const { return m_output; }
+
+    /// Kills the child, if it still runs, and tells in words how it ended.
+    std::string end();
+
+    /// From now on SIGINT, SIGTERM and SIGHUP kill this child instead of this process: the end of its output then
+    /// brings us to our clearing up.
+    void takeInterrupts();
+    static bool wasInterrupted();
+
+private:
+    pid_t m_process = -1;
+    int m_input = -1;
+    int m_output = -1;
+};

@@ -1,0 +1,147 @@
+#include "scene_page.h"
+
+#include "page_json.h"
+#include "placement.h"
+#include "scene_json.h"
+#include "viewer_page.h"
+
+#include <memory>
+#include <stdexcept>
+#include <vector>
+
+namespace
+{
+
+using References = std::vector<std::shared_ptr<vrx::ExcBlockReference>>;
+
+// An id as text: a number of 64 bits is not safe in the page.
+std::string idText(std::uint64_t id)
+{
+    return std::to_string(id);
+}
+
+void reference(PageJson& json, const vrx::ExcBlockReference& reference)
+{
+    json.StartObject();
+    json.field("blockId", idText(reference.blockId()));
+    json.field("name", reference.name());
+    json.field("persistentId", reference.persistentId());
+    json.field("guid", reference.guid());
+    json.color(reference.color());
+    json.Key("hidden");
+    json.Bool(reference.isHidden() || reference.isSuppressed());
+    json.numbers("matrix", Placement(reference.transformation()).columns());
+    json.EndObject();
+}
+
+void references(PageJson& json, const References& all)
+{
+    json.Key("references");
+    json.StartArray();
+    for (const std::shared_ptr<vrx::ExcBlockReference>& one : all)
+    {
+        reference(json, *one);
+    }
+    json.EndArray();
+}
+
+void properties(PageJson& json, const vrx::ExcMiscData& data)
+{
+    json.Key("properties");
+    json.StartArray();
+    for (const vrx::ExcMiscProperty& property : data.properties())
+    {
+        json.StartObject();
+        json.field("name", property.name());
+        json.field("value", property.value());
+        json.EndObject();
+    }
+    json.EndArray();
+}
+
+// Within a script element of HTML no "<" may stand.
+std::string withoutTags(const std::string& json)
+{
+    std::string text;
+    text.reserve(json.size());
+    for (const char character : json)
+    {
+        character == '<' ? text += "\\u003c" : text += character;
+    }
+    return text;
+}
+
+} // namespace
+
+void ScenePage::add(const vrx::ExcBlockVisualization& block)
+{
+    if (block.visualizationData())
+    {
+        m_shapes[block.blockId()] = scene_json::shape(*block.visualizationData());
+        m_units.insert(block.visualizationData()->units());
+    }
+}
+
+void ScenePage::add(const vrx::ExcRootAssemblyVisualization& root)
+{
+    if (root.visualizationData())
+    {
+        m_annotations = scene_json::annotations(*root.visualizationData());
+        m_views = scene_json::views(*root.visualizationData());
+        m_units.insert(root.visualizationData()->units());
+    }
+}
+
+std::string ScenePage::html(const vrx::ExcProductStructure& structure) const
+{
+    for (const vrx::ELengthUnitType units : m_units)
+    {
+        if (units != structure.units())
+        {
+            throw std::runtime_error("there is a scene in the unit " + mp::toNarrow(vrx::enumToString(units)) +
+                                     ", but the product is in " + mp::toNarrow(vrx::enumToString(structure.units())));
+        }
+    }
+    std::string page;
+    for (const std::string_view piece : kViewerPage)
+    {
+        page += piece;
+    }
+    static const std::string s_place = "{{scene}}";
+    return page.replace(page.find(s_place), s_place.size(), withoutTags(scene(structure)));
+}
+
+std::string ScenePage::scene(const vrx::ExcProductStructure& structure) const
+{
+    PageJson json;
+    json.StartObject();
+    json.field("title", structure.productName());
+    json.field("units", vrx::enumToString(structure.units()));
+    references(json, structure.rootBlockReferences());
+    json.Key("blocks");
+    json.StartArray();
+    for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
+    {
+        json.StartObject();
+        json.field("id", idText(block->id()));
+        json.field("name", block->name());
+        json.Key("isPart");
+        json.Bool(block->isPart());
+        references(json, block->blockReferences());
+        properties(json, block->miscData());
+        const auto shape = m_shapes.find(block->id());
+        if (shape != m_shapes.end())
+        {
+            json.Key("shape");
+            json.raw(shape->second);
+        }
+        json.EndObject();
+    }
+    json.EndArray();
+    json.Key("annotations");
+    json.raw(m_annotations);
+    json.Key("views");
+    json.raw(m_views);
+    json.EndObject();
+    return json.text();
+}

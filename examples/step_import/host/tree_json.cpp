@@ -1,0 +1,185 @@
+#include "mp/narrow.h"
+#include "product_tree.h"
+#include "tree_output.h"
+
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
+
+#include <ostream>
+#include <string>
+
+namespace
+{
+
+class TreeWriter
+{
+public:
+    explicit TreeWriter(const vrx::ExcProductStructure& structure)
+        : m_structure(structure)
+        , m_writer(m_buffer)
+    {
+        m_writer.SetIndent(' ', 2);
+        m_writer.SetFormatOptions(rapidjson::kFormatSingleLineArray);
+    }
+
+    std::string text()
+    {
+        m_writer.StartObject();
+        field("product", m_structure.productName());
+        field("units", vrx::enumToString(m_structure.units()));
+        properties(m_structure.miscData());
+        blocks();
+        tree();
+        m_writer.EndObject();
+        return m_buffer.GetString();
+    }
+
+private:
+    void string(const mp::wstring& text)
+    {
+        const std::string narrow = mp::toNarrow(text);
+        m_writer.String(narrow.c_str(), static_cast<rapidjson::SizeType>(narrow.size()));
+    }
+
+    void field(const char* key, const mp::wstring& text)
+    {
+        m_writer.Key(key);
+        string(text);
+    }
+
+    void properties(const vrx::ExcMiscData& data)
+    {
+        static const char* const s_types[] = {"unknown", "string", "integer", "double", "boolean", "date_time"};
+        m_writer.Key("properties");
+        m_writer.StartArray();
+        for (const vrx::ExcMiscProperty& property : data.properties())
+        {
+            m_writer.StartObject();
+            field("name", property.name());
+            m_writer.Key("type");
+            m_writer.String(s_types[static_cast<std::size_t>(property.type())]);
+            field("value", property.value());
+            m_writer.EndObject();
+        }
+        m_writer.EndArray();
+    }
+
+    void blocks()
+    {
+        m_writer.Key("blocks");
+        m_writer.StartArray();
+        for (const auto& block : m_structure.blocks())
+        {
+            m_writer.StartObject();
+            m_writer.Key("id");
+            m_writer.Uint64(block->id());
+            field("name", block->name());
+            field("storage_name", block->storageName());
+            m_writer.Key("is_part");
+            m_writer.Bool(block->isPart());
+            properties(block->miscData());
+            m_writer.EndObject();
+        }
+        m_writer.EndArray();
+    }
+
+    void tree()
+    {
+        m_writer.Key("tree");
+        m_writer.StartArray();
+        std::size_t open = 0; // nodes whose children are being written
+        for (const ProductTreeNode& node : productTree(m_structure, ESiblings::Separate))
+        {
+            closeTo(open, node.depth);
+            instance(node);
+            ++open;
+        }
+        closeTo(open, 0);
+        m_writer.EndArray();
+    }
+
+    void closeTo(std::size_t& open, std::size_t depth)
+    {
+        for (; open > depth; --open)
+        {
+            m_writer.EndArray();
+            m_writer.EndObject();
+        }
+    }
+
+    void instance(const ProductTreeNode& node)
+    {
+        const vrx::ExcBlockReference& reference = *node.references.front();
+        m_writer.StartObject();
+        field("name", reference.name());
+        field("block", node.block ? node.block->name() : mp::wstring());
+        m_writer.Key("block_id");
+        m_writer.Uint64(reference.blockId());
+        if (node.state == ProductTreeNode::EState::Recursion)
+        {
+            m_writer.Key("holds_itself");
+            m_writer.Bool(true);
+        }
+        field("persistent_id", reference.persistentId());
+        color(reference.color());
+        m_writer.Key("hidden");
+        m_writer.Bool(reference.isHidden());
+        m_writer.Key("suppressed");
+        m_writer.Bool(reference.isSuppressed());
+        transformation(reference.transformation());
+        properties(reference.miscData());
+        m_writer.Key("children");
+        m_writer.StartArray();
+    }
+
+    void color(const vrx::ExcColor& color)
+    {
+        m_writer.Key("color");
+        if (!color.hasRGB())
+        {
+            m_writer.Null();
+            return;
+        }
+        m_writer.StartArray();
+        for (const auto channel : {vrx::ExcColor::ChannelRed, vrx::ExcColor::ChannelGreen, vrx::ExcColor::ChannelBlue,
+                                   vrx::ExcColor::ChannelAlpha})
+        {
+            m_writer.Uint(color[channel]);
+        }
+        m_writer.EndArray();
+    }
+
+    void transformation(const vrx::ExcTransformation& transformation)
+    {
+        m_writer.Key("affine");
+        m_writer.StartArray();
+        for (std::size_t row = 0; row < 3; ++row)
+        {
+            vector(transformation.affine()[row]);
+        }
+        m_writer.EndArray();
+        m_writer.Key("translation");
+        vector(transformation.translation());
+    }
+
+    void vector(const vrx::ExcVector3d& vector)
+    {
+        m_writer.StartArray();
+        for (std::size_t i = 0; i < 3; ++i)
+        {
+            m_writer.Double(vector[i]);
+        }
+        m_writer.EndArray();
+    }
+
+    const vrx::ExcProductStructure& m_structure;
+    rapidjson::StringBuffer m_buffer;
+    rapidjson::PrettyWriter<rapidjson::StringBuffer> m_writer;
+};
+
+} // namespace
+
+void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure)
+{
+    stream << TreeWriter(structure).text() << '\n';
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "mp/wide.h"
+
+/// Names of the properties that the translator derives itself; a host may look for them. All others are the file's own.
+/// Lengths, areas and volumes are in the units of the product structure.
+namespace property_names
+{
+
+// of every block
+inline const mp::wchar* const kPartNumber = WIDE("part number");
+inline const mp::wchar* const kVersion = WIDE("version");
+
+// of a part
+inline const mp::wchar* const kSolids = WIDE("solids");      // integer
+inline const mp::wchar* const kShells = WIDE("open shells"); // integer: those outside of solids
+inline const mp::wchar* const kFaces = WIDE("faces");        // integer
+inline const mp::wchar* const kMaterial = WIDE("material");
+inline const mp::wchar* const kDensity = WIDE("density"); // double, g/cm3
+inline const mp::wchar* const kLayer = WIDE("layer");     // one property for each layer
+inline const mp::wchar* const kArea = WIDE("surface area");
+inline const mp::wchar* const kVolume = WIDE("volume");
+inline const mp::wchar* const kCentroid = WIDE("centroid"); // text of three numbers with blanks between
+
+// of the product, from the head of the file
+inline const mp::wchar* const kFileLengthUnit = WIDE("length unit of the file");
+
+} // namespace property_names

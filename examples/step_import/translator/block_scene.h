@@ -1,0 +1,11 @@
+#pragma once
+
+#include "vrx_api/vrx_api_exchange_visualization.h"
+
+#include <TDF_Label.hxx>
+
+#include <memory>
+
+/// The scene of one part, in the part's own coordinates: ROOT, below it GEOMETRY with MESHES and WIRES, and below these
+/// one node for each body. Null for a part without a shape.
+std::shared_ptr<vrx::ExcVisuNode> blockScene(const TDF_Label& part);

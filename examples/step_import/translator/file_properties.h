@@ -1,0 +1,35 @@
+#pragma once
+
+#include "vrx_api/vrx_api_exchange_common.h"
+
+#include <StepData_StepModel.hxx>
+#include <StepRepr_PropertyDefinitionRepresentation.hxx>
+
+#include <map>
+#include <set>
+
+struct StepModel;
+
+/// The properties that a STEP file holds as text and numbers: those in its head, and the user-defined attributes of its
+/// products and usages. The reader does not bring these into the XDE document.
+class FileProperties
+{
+public:
+    explicit FileProperties(const StepModel& model);
+
+    const vrx::ExcMiscData& head() const { return m_head; }
+
+    /// Appends the attributes of a product definition or of a usage.
+    void addTo(vrx::ExcMiscData& data, const Handle(Standard_Transient) & entity) const;
+
+    /// True if the file gives a material to the product definition. The XDE document takes other attributes for one.
+    bool hasMaterial(const Handle(Standard_Transient) & product) const;
+
+private:
+    void readHead(const StepModel& model, const Handle(StepData_StepModel) & entities);
+    void readAttributes(const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes);
+
+    vrx::ExcMiscData m_head;
+    std::map<const Standard_Transient*, vrx::ExcMiscData> m_attributes;
+    std::set<const Standard_Transient*> m_withMaterial;
+};

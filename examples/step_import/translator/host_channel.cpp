@@ -1,0 +1,84 @@
+#include "host_channel.h"
+
+#include "../framing.h"
+#include "../shared_buffers.h"
+#include "mp/narrow.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <system_error>
+
+namespace
+{
+
+int takeOutput()
+{
+    const int output = ::dup(STDOUT_FILENO);
+    if (output < 0 || ::dup2(STDERR_FILENO, STDOUT_FILENO) < 0)
+    {
+        throw std::system_error(errno, std::generic_category(), "cannot take standard output");
+    }
+    return output;
+}
+
+std::string environment(const char* name)
+{
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
+} // namespace
+
+HostChannel::HostChannel()
+    : m_output(takeOutput())
+    , m_dieAfter(environment("STEP_TRANSLATOR_DIE_AFTER"))
+{
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
+std::optional<mp::wstring> HostChannel::receive()
+{
+    return framing::read(STDIN_FILENO);
+}
+
+void HostChannel::send(const mp::ISerializable& message)
+{
+    framing::write(m_output, framing::toText(message));
+}
+
+void HostChannel::send(const std::shared_ptr<vrx::IExchangeObject>& object)
+{
+    vrx::ExchangeObjectWrapper envelope;
+    envelope.set(object);
+    const mp::wstring text = framing::toText(envelope);
+    try
+    {
+        framing::write(m_output, text);
+    }
+    catch (...)
+    {
+        const mp::wstring buffer = shared_buffers::nameIn(text);
+        if (!buffer.empty())
+        {
+            shared_buffers::remove(buffer);
+        }
+        throw;
+    }
+    if (mp::toNarrow(object->objectName()) == m_dieAfter)
+    {
+        std::raise(SIGKILL);
+    }
+}
+
+void HostChannel::message(const std::string& text)
+{
+    send(std::make_shared<vrx::ExcMessage>(mp::toWide(text)));
+}
+
+void HostChannel::log(const std::string& text)
+{
+    send(std::make_shared<vrx::ExcLog>(mp::toWide(text)));
+}

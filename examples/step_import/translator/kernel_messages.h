@@ -1,0 +1,26 @@
+#pragma once
+
+#include <Message_Printer.hxx>
+
+#include <string>
+
+class HostChannel;
+
+/// Sends what the modelling kernel reports to the host's log and remembers the last failure among it.
+class KernelMessages : public Message_Printer
+{
+public:
+    explicit KernelMessages(HostChannel& channel)
+        : m_channel(channel)
+    {
+    }
+
+    const std::string& lastFailure() const { return m_lastFailure; }
+
+protected:
+    void send(const TCollection_AsciiString& text, const Message_Gravity gravity) const override;
+
+private:
+    HostChannel& m_channel;
+    mutable std::string m_lastFailure;
+};

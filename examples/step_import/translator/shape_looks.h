@@ -1,0 +1,32 @@
+#pragma once
+
+#include "mp/wide.h"
+#include "vrx_api/vrx_api_exchange_common.h"
+
+#include <NCollection_DataMap.hxx>
+#include <TDF_Label.hxx>
+#include <TopLoc_Location.hxx>
+#include <TopTools_ShapeMapHasher.hxx>
+
+/// What the XDE document says of the looks of a product's shapes: of the bodies and faces that have a label.
+class ShapeLooks
+{
+public:
+    struct Look
+    {
+        mp::wstring name;
+        vrx::ExcColor color; // without RGB: no colour of its own
+        bool hidden = false;
+    };
+
+    explicit ShapeLooks(const TDF_Label& product);
+
+    /// Of a shape within the product's shape, or null.
+    const Look* of(const TopoDS_Shape& shape) const { return m_looks.Seek(shape); }
+
+private:
+    void add(const TDF_Label& label, const TopLoc_Location& place);
+    void addComponents(const TDF_Label& label, const TopLoc_Location& place);
+
+    NCollection_DataMap<TopoDS_Shape, Look, TopTools_ShapeMapHasher> m_looks;
+};

@@ -1,0 +1,189 @@
+#include "translator.h"
+
+#include "../framing.h"
+#include "import_progress.h"
+#include "mp/narrow.h"
+#include "pmi_summary.h"
+#include "product_structure_builder.h"
+#include "step_reader.h"
+#include "visualization_builder.h"
+#include "vrx_api/vrx_api_exchange_object.h"
+#include "vrx_api/vrx_api_ferrant_info.h"
+#include "vrx_api/vrx_api_format_options.h"
+
+#include <OSD.hxx>
+#include <OSD_Exception.hxx>
+#include <Standard_ErrorHandler.hxx>
+#include <Standard_Failure.hxx>
+#include <Standard_Version.hxx>
+
+#include <exception>
+#include <new>
+#include <optional>
+#include <string>
+
+namespace
+{
+
+vrx::Result result(vrx::Result::ECode code, const std::string& message)
+{
+    vrx::Result result;
+    result.setCode(code);
+    result.setMessage(mp::toWide(message));
+    result.setFinished(true);
+    return result;
+}
+
+vrx::Result error(const std::string& message)
+{
+    return result(vrx::Result::ECode::Error, message);
+}
+
+// Layers: those that the assembly's shapes are on are sent with the blocks, unless the host wants the layer names of
+// the saved views only. PMI: read unless the host wants none. "Unknown" leaves it to us: all is read.
+StepReadingOptions readingOptions(const vrx::ImportOptions& options)
+{
+    StepReadingOptions reading;
+    const auto step = std::dynamic_pointer_cast<vrx::imp::OptionsSTEP>(options.formatOptions(vrx::EFormatType::STEP));
+    if (step)
+    {
+        reading.layers = step->layerNameProcessingMode() != vrx::ELayerNameProcessingModeType::SavedVisuRep;
+        reading.pmi = step->visuPMIProcessingMode() != vrx::EVisuPMIProcessingMode::None;
+    }
+    return reading;
+}
+
+} // namespace
+
+void Translator::run()
+{
+    OSD::SetSignal(false);
+    std::optional<mp::wstring> text;
+    while (m_kernelIsIntact && (text = m_channel.receive()))
+    {
+        answer(*text);
+    }
+}
+
+void Translator::answer(const mp::wstring& text)
+{
+    vrx::Command command;
+    try
+    {
+        framing::fromText(text, command);
+    }
+    catch (const std::exception& failure)
+    {
+        m_channel.send(error(std::string("This is no command: ") + failure.what()));
+        return;
+    }
+    switch (command.type())
+    {
+    case vrx::Command::EType::Info:
+        sendInfo();
+        break;
+    case vrx::Command::EType::Ping:
+        m_channel.send(result(vrx::Result::ECode::Ok, ""));
+        break;
+    case vrx::Command::EType::Import:
+        m_channel.send(import(command));
+        break;
+    case vrx::Command::EType::Export:
+        m_channel.send(error("This translator does not export."));
+        break;
+    default:
+        m_channel.send(error("This translator does not know the command."));
+        break;
+    }
+}
+
+void Translator::sendInfo()
+{
+    vrx::FerrantInfo info;
+    info.setName(WIDE("step_translator"));
+    info.setVersion(mp::toWide(STEP_TRANSLATOR_VERSION));
+    info.setRequestedInterface(vrx::EFerrantInterface::UConnect);
+    info.newThirdpartyCore().setName(WIDE("Open CASCADE Technology")).setVersion(mp::toWide(OCC_VERSION_COMPLETE));
+    info.newImportFormat()
+        .setDescription(WIDE("STEP files (AP203, AP214, AP242)"))
+        .addExtension(WIDE("stp"))
+        .addExtension(WIDE("step"))
+        .addExtension(WIDE("p21"))
+        .addFilterExtensions(WIDE("stp;step;p21"));
+    m_channel.send(info);
+}
+
+vrx::Result Translator::import(const vrx::Command& command)
+{
+    try
+    {
+        // Damaged files do crash the kernel: its signals become exceptions from here on.
+        OCC_CATCH_SIGNALS
+        if (command.internalInterface() == vrx::EFerrantInterface::Legacy || !command.importOptions())
+        {
+            return error("This translator does not take legacy commands.");
+        }
+        return translate(*command.importOptions());
+    }
+    catch (const OSD_Exception& crash)
+    {
+        // Nothing was cleared up on the way here: the answer is the last thing that this process does.
+        m_kernelIsIntact = false;
+        return error(std::string("The file is damaged, or too much for the modelling kernel, which crashed (") +
+                     crash.DynamicType()->Name() + ").");
+    }
+    catch (const Standard_Failure& failure)
+    {
+        return error(std::string("The modelling kernel failed: ") + failure.GetMessageString());
+    }
+    catch (const std::bad_alloc&)
+    {
+        return error("There is not enough memory for this file.");
+    }
+    catch (const std::exception& failure)
+    {
+        return error(failure.what());
+    }
+}
+
+vrx::Result Translator::translate(const vrx::ImportOptions& options)
+{
+    ImportProgress progress(m_channel);
+    const StepReadingOptions reading = readingOptions(options);
+    const StepModel model = readStep(mp::toNarrow(options.file()), reading, m_channel, progress);
+    if (reading.pmi)
+    {
+        sendPmiSummary(model, m_channel);
+    }
+
+    progress.beginStage("Sending the product structure", 60);
+    ProductStructureBuilder builder(model);
+    const std::shared_ptr<vrx::ExcProductStructure> structure = builder.build();
+    m_channel.send(structure);
+    m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
+
+    sendVisualization(VisualizationBuilder(model, *structure, builder.blocks()), *structure, progress);
+    return model.warning.empty() ? result(vrx::Result::ECode::Ok, "")
+                                 : result(vrx::Result::ECode::Warning, model.warning);
+}
+
+void Translator::sendVisualization(const VisualizationBuilder& builder, const vrx::ExcProductStructure& structure,
+                                   ImportProgress& progress)
+{
+    progress.beginStage("Drawing the parts", 100);
+    if (const std::shared_ptr<vrx::ExcRootAssemblyVisualization> root = builder.root())
+    {
+        m_channel.send(root);
+        m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::RootVisualization));
+    }
+    double done = 0;
+    for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
+    {
+        if (const std::shared_ptr<vrx::ExcBlockVisualization> scene = builder.block(*block))
+        {
+            m_channel.send(scene);
+        }
+        progress.advance(++done / static_cast<double>(structure.blocks().size()));
+    }
+    m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::Visualization));
+}

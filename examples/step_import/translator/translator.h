@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host_channel.h"
+#include "vrx_api/vrx_api_command.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
+
+#include <memory>
+
+class ImportProgress;
+class VisualizationBuilder;
+
+/// Answers commands until the host closes the pipe.
+class Translator
+{
+public:
+    void run();
+
+private:
+    void answer(const mp::wstring& text);
+    void sendInfo();
+    vrx::Result import(const vrx::Command& command);
+    vrx::Result translate(const vrx::ImportOptions& options);
+    void sendVisualization(const VisualizationBuilder& builder, const vrx::ExcProductStructure& structure,
+                           ImportProgress& progress);
+
+    HostChannel m_channel;
+    bool m_kernelIsIntact = true;
+};

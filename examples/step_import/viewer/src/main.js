@@ -1,0 +1,64 @@
+// The page: puts the scene that the host wrote into the picture and the panels around it.
+
+import { Model } from './model.js';
+import { Selection } from './selection.js';
+import { Stage } from './stage.js';
+import { TreeView } from './tree.js';
+import { buildSavedViews, buildToolbar } from './views.js';
+
+const kClickSlack = 4; // pixels that the pointer may move within a click
+
+const element = (id) => document.getElementById(id);
+const model = new Model(JSON.parse(element('scene').textContent));
+const canvas = element('canvas');
+const stage = new Stage(canvas, model);
+const selection = new Selection(stage, element('details'));
+
+function fit(node = selection.node) {
+  const meshes = node ? [...node.all()].map((part) => part.mesh).filter(Boolean) : [];
+  const direction = stage.controls.target.clone().sub(stage.camera.position);
+  const perspective = Boolean(stage.camera.isPerspectiveCamera);
+  stage.look({ direction, up: stage.camera.up.clone(), objects: meshes.length ? meshes : undefined, perspective });
+}
+
+const tree = new TreeView(element('tree'), model, {
+  onSelect: (node) => selection.set(node),
+  onShow: () => stage.draw(),
+  onLook: (node) => fit(node),
+});
+selection.onChange = () => tree.select(selection.node);
+
+function describe() {
+  const nodes = [...model.nodes()];
+  const parts = nodes.filter((node) => node.block?.isPart).length;
+  const count = (number, noun) => `${number.toLocaleString('en')} ${noun}${number === 1 ? '' : 's'}`;
+  const facts = [count(parts, 'part')];
+  if (nodes.length > parts) facts.push(count(nodes.length - parts, 'assembly').replace('assemblys', 'assemblies'));
+  if (model.annotations.length) facts.push(count(model.annotations.length, 'annotation'));
+  if (model.units) facts.push(model.units);
+  return facts.join(' · ');
+}
+document.title = model.title;
+element('title').textContent = model.title;
+element('summary').textContent = describe();
+element('filter').hidden = [...model.nodes()].length < 8;
+element('filter').oninput = (event) => tree.filter(event.target.value);
+buildToolbar(element('toolbar'), stage, () => fit());
+buildSavedViews(element('views'), stage, model.views);
+
+let pressed = null;
+canvas.addEventListener('pointerdown', (event) => (pressed = event));
+canvas.addEventListener('pointerup', (event) => {
+  if (!pressed || Math.hypot(event.clientX - pressed.clientX, event.clientY - pressed.clientY) > kClickSlack) return;
+  const hit = stage.pick(event.offsetX, event.offsetY);
+  selection.set(hit?.node ?? null, hit?.face);
+});
+window.addEventListener('keydown', (event) => {
+  if (event.target instanceof HTMLInputElement && event.target.type === 'search') return;
+  if (event.key === 'Escape') selection.set(null);
+  if (event.key === 'f') fit();
+});
+
+stage.render();
+// For programs that look at the page: the figures of the last drawing and the selection.
+window.viewer = { model, stage, selection };

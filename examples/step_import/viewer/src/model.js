@@ -1,0 +1,125 @@
+// The scene as the host wrote it, made ready to be drawn: the product tree, and one set of buffers for each block.
+
+import { BufferAttribute, BufferGeometry } from 'three';
+import { LineSegmentsGeometry } from 'three/addons/lines/LineSegmentsGeometry.js';
+
+function bytes(base64) {
+  const text = atob(base64 ?? '');
+  const result = new Uint8Array(text.length);
+  for (let i = 0; i < text.length; i++) result[i] = text.charCodeAt(i);
+  return result.buffer;
+}
+
+export const floats = (base64) => new Float32Array(bytes(base64));
+
+const colorKey = (color) => (color ? color.join(',') : '');
+
+// Triangles are sorted by the faces' colours, so that faces of one colour are drawn at once.
+function buildFaces(shape) {
+  const source = new Uint32Array(bytes(shape.triangles));
+  let first = 0;
+  const faces = shape.faces.map((face) => {
+    const mesh = shape.meshes[face.mesh];
+    const begin = first;
+    first += face.triangles * 3;
+    return { ...face, mesh, color: face.color ?? mesh.color, begin, end: first };
+  });
+  faces.sort((a, b) => (colorKey(a.color) < colorKey(b.color) ? -1 : colorKey(a.color) > colorKey(b.color) ? 1 : 0));
+
+  const index = new Uint32Array(source.length);
+  const geometry = new BufferGeometry();
+  const colors = [];
+  let at = 0;
+  for (const face of faces) {
+    index.set(source.subarray(face.begin, face.end), at);
+    const count = face.end - face.begin;
+    face.begin = at;
+    face.end = at += count;
+    if (!colors.length || colorKey(colors.at(-1)) !== colorKey(face.color)) {
+      colors.push(face.color ?? null);
+      geometry.addGroup(face.begin, 0, colors.length - 1);
+    }
+    geometry.groups.at(-1).count += count;
+  }
+  geometry.setAttribute('position', new BufferAttribute(floats(shape.positions), 3));
+  geometry.setAttribute('normal', new BufferAttribute(floats(shape.normals), 3));
+  geometry.setIndex(new BufferAttribute(index, 1));
+  return { geometry, faces, colors };
+}
+
+// A block's shape, shared by all the places where the block stands.
+class Shape {
+  constructor(data) {
+    Object.assign(this, buildFaces(data));
+    this.meshes = data.meshes;
+    this.color = data.color;
+    const segments = floats(data.segments);
+    this.edges = segments.length ? new LineSegmentsGeometry().setPositions(segments) : null;
+    if (this.edges) this.edges.computeBoundingBox();
+    this.geometry.computeBoundingBox();
+    this.geometry.computeBoundingSphere();
+  }
+
+  // The face of a triangle that a ray has met.
+  faceOfTriangle(triangle) {
+    let low = 0;
+    let high = this.faces.length - 1;
+    while (low < high) {
+      const middle = (low + high + 1) >> 1;
+      if (this.faces[middle].begin <= triangle * 3) low = middle;
+      else high = middle - 1;
+    }
+    return this.faces[low];
+  }
+
+  // The triangles of one face, on the vertices of the whole shape.
+  faceGeometry(face) {
+    const geometry = new BufferGeometry();
+    geometry.setAttribute('position', this.geometry.getAttribute('position'));
+    geometry.setAttribute('normal', this.geometry.getAttribute('normal'));
+    geometry.setIndex(new BufferAttribute(this.geometry.index.array.subarray(face.begin, face.end), 1));
+    return geometry;
+  }
+}
+
+// One place of a block in the product tree. `path` holds the blocks on the way, against a tree that bites its tail.
+class TreeNode {
+  constructor(model, reference, parent, path) {
+    this.model = model;
+    this.reference = reference;
+    this.parent = parent;
+    this.block = model.blocks.get(reference.blockId);
+    this.name = reference.name || this.block?.name || 'unnamed';
+    this.color = reference.color ?? parent?.color;
+    this.visible = !reference.hidden;
+    const within = [...path, reference.blockId];
+    this.children = (this.block?.references ?? [])
+      .filter((child) => !within.includes(child.blockId))
+      .map((child) => new TreeNode(model, child, this, within));
+  }
+
+  *all() {
+    const left = [this];
+    while (left.length) {
+      const node = left.pop();
+      yield node;
+      left.push(...node.children.slice().reverse());
+    }
+  }
+}
+
+export class Model {
+  constructor(scene) {
+    this.title = scene.title;
+    this.units = scene.units;
+    this.views = scene.views ?? [];
+    this.annotations = scene.annotations ?? [];
+    this.blocks = new Map(scene.blocks.map((block) => [block.id, block]));
+    for (const block of scene.blocks) block.shape = block.shape && new Shape(block.shape);
+    this.roots = scene.references.map((reference) => new TreeNode(this, reference, null, []));
+  }
+
+  *nodes() {
+    for (const root of this.roots) yield* root.all();
+  }
+}

@@ -1,0 +1,307 @@
+// The 3D picture: lights, cameras, the model's objects, and drawing when something has changed.
+
+import {
+  AmbientLight,
+  Box3,
+  Color,
+  DirectionalLight,
+  DoubleSide,
+  Group,
+  Matrix4,
+  Mesh,
+  MeshStandardMaterial,
+  NeutralToneMapping,
+  Object3D,
+  OrthographicCamera,
+  PerspectiveCamera,
+  Plane,
+  PMREMGenerator,
+  Raycaster,
+  Scene,
+  SRGBColorSpace,
+  Vector2,
+  Vector3,
+  WebGLRenderer,
+} from 'three';
+import { OrbitControls } from 'three/addons/controls/OrbitControls.js';
+import { RoomEnvironment } from 'three/addons/environments/RoomEnvironment.js';
+import { LineMaterial } from 'three/addons/lines/LineMaterial.js';
+import { LineSegments2 } from 'three/addons/lines/LineSegments2.js';
+import { LineSegmentsGeometry } from 'three/addons/lines/LineSegmentsGeometry.js';
+
+import { floats } from './model.js';
+
+const kNoColor = [176, 182, 190];
+const kEdgeColor = 0x1c2430;
+const kAnnotationColor = [23, 92, 211];
+const kFieldOfView = 26;
+const kFitMargin = 1.06;
+export const kIsometric = { direction: new Vector3(-1, 1.25, -0.85), up: new Vector3(0, 0, 1) };
+
+const srgb = (color) => new Color().setRGB(color[0] / 255, color[1] / 255, color[2] / 255, SRGBColorSpace);
+
+export class Stage {
+  constructor(canvas, model) {
+    Object3D.DEFAULT_UP.set(0, 0, 1);
+    this.model = model;
+    this.renderer = new WebGLRenderer({ canvas, antialias: true, alpha: true });
+    this.renderer.setPixelRatio(window.devicePixelRatio);
+    this.renderer.toneMapping = NeutralToneMapping;
+    this.scene = new Scene();
+    this.materials = new Map();
+    this.clipping = [];
+    this.onDraw = () => {};
+    this.#addLights();
+    this.#addModel();
+    this.#addAnnotations();
+    this.camera = new PerspectiveCamera(kFieldOfView);
+    this.scene.add(this.camera);
+    this.#resize();
+    this.look(kIsometric);
+    new ResizeObserver(() => this.#resize()).observe(canvas.parentElement);
+  }
+
+  #addLights() {
+    const generator = new PMREMGenerator(this.renderer);
+    this.scene.environment = generator.fromScene(new RoomEnvironment(), 0.04).texture;
+    this.scene.environmentIntensity = 0.55;
+    this.scene.environmentRotation.x = Math.PI / 2; // the room's up is y
+    generator.dispose();
+    this.scene.add(new AmbientLight(0xffffff, 0.25));
+    this.sun = new DirectionalLight(0xffffff, 1.7);
+    this.scene.add(this.sun, this.sun.target);
+  }
+
+  #surface(color) {
+    const [red, green, blue, alpha = 255] = color ?? kNoColor;
+    const key = [red, green, blue, alpha].join();
+    if (!this.materials.has(key)) {
+      const material = new MeshStandardMaterial({
+        color: srgb([red, green, blue]),
+        roughness: 0.52,
+        metalness: 0.08,
+        side: DoubleSide,
+        polygonOffset: true, // lets the edges stand in front of the faces that they bound
+        polygonOffsetFactor: 1,
+        polygonOffsetUnits: 1,
+        transparent: alpha < 255,
+        opacity: alpha / 255,
+        depthWrite: alpha === 255,
+        clippingPlanes: this.clipping,
+      });
+      this.materials.set(key, material);
+    }
+    return this.materials.get(key);
+  }
+
+  #line(color, width) {
+    return new LineMaterial({ color, linewidth: width, clippingPlanes: this.clipping });
+  }
+
+  #addModel() {
+    this.edgeMaterial = this.#line(kEdgeColor, 1.15);
+    this.edges = [];
+    this.root = new Group();
+    this.scene.add(this.root);
+    for (const node of this.model.nodes()) {
+      const group = (node.object = new Group());
+      (node.parent?.object ?? this.root).add(group);
+      if (node.reference.matrix) group.applyMatrix4(new Matrix4().fromArray(node.reference.matrix));
+      group.visible = node.visible;
+      if (node.block?.shape) this.#addShape(node, node.block.shape);
+    }
+    this.root.updateMatrixWorld(true);
+  }
+
+  #addShape(node, shape) {
+    const color = node.color ?? shape.color;
+    const materials = shape.colors.map((own) => this.#surface(own ?? color));
+    const mesh = new Mesh(shape.geometry, materials);
+    mesh.userData.node = node;
+    node.mesh = mesh;
+    node.object.add(mesh);
+    if (shape.edges) {
+      const edges = new LineSegments2(shape.edges, this.edgeMaterial);
+      edges.raycast = () => {};
+      this.edges.push(edges);
+      node.object.add(edges);
+    }
+  }
+
+  #addAnnotations() {
+    this.annotations = new Group();
+    this.scene.add(this.annotations);
+    for (const annotation of this.model.annotations) {
+      const geometry = new LineSegmentsGeometry().setPositions(floats(annotation.segments));
+      const lines = new LineSegments2(geometry, this.#line(srgb(annotation.color ?? kAnnotationColor), 1.6));
+      lines.raycast = () => {};
+      lines.userData.annotation = annotation;
+      this.annotations.add(lines);
+    }
+  }
+
+  setEdges(shown) {
+    for (const edges of this.edges) edges.visible = shown;
+    this.draw();
+  }
+
+  // Shows those annotations whose id is in the list, or all for null.
+  setAnnotations(ids) {
+    for (const lines of this.annotations.children) {
+      lines.visible = !ids || ids.includes(lines.userData.annotation.id);
+    }
+    this.draw();
+  }
+
+  // Cuts away what lies behind the plane a x + b y + c z + d = 0, or nothing.
+  setClipping(coefficients) {
+    this.clipping.length = 0;
+    if (coefficients) {
+      const [a, b, c, d] = coefficients;
+      this.clipping.push(new Plane(new Vector3(a, b, c), d));
+    }
+    this.renderer.localClippingEnabled = this.clipping.length > 0;
+    for (const material of this.materials.values()) material.needsUpdate = true;
+    this.draw();
+  }
+
+  visibleMeshes() {
+    const meshes = [];
+    this.root.traverseVisible((object) => object.userData.node && meshes.push(object));
+    return meshes;
+  }
+
+  #corners(objects) {
+    const corners = [];
+    for (const object of objects) {
+      if (!object.geometry.boundingBox) object.geometry.computeBoundingBox();
+      const { min, max } = object.geometry.boundingBox;
+      if (min.x > max.x) continue;
+      for (let i = 0; i < 8; i++) {
+        const corner = new Vector3(i & 1 ? max.x : min.x, i & 2 ? max.y : min.y, i & 4 ? max.z : min.z);
+        corners.push(corner.applyMatrix4(object.matrixWorld));
+      }
+    }
+    return corners;
+  }
+
+  #shown() {
+    const lines = this.annotations.visible ? this.annotations.children.filter((object) => object.visible) : [];
+    return [...this.visibleMeshes(), ...lines];
+  }
+
+  // Looks along a direction, so that the objects, by default all that is shown, fill the picture.
+  look({ direction, up, objects, perspective = true }) {
+    const forward = direction.clone().normalize();
+    const right = new Vector3().crossVectors(forward, up).normalize();
+    const upward = new Vector3().crossVectors(right, forward);
+    const corners = this.#corners(objects ?? this.#shown());
+    if (!corners.length) corners.push(new Vector3(-1, -1, -1), new Vector3(1, 1, 1));
+
+    const box = new Box3();
+    for (const corner of corners) box.expandByPoint(new Vector3(corner.dot(right), corner.dot(upward), corner.dot(forward)));
+    const middle = box.getCenter(new Vector3());
+    const target = new Vector3()
+      .addScaledVector(right, middle.x)
+      .addScaledVector(upward, middle.y)
+      .addScaledVector(forward, middle.z);
+
+    const size = box.getSize(new Vector3());
+    const height = Math.max(size.y, size.x / this.aspect, 1e-6) * kFitMargin;
+    let distance = size.length() * 2;
+    if (perspective) {
+      const tangent = Math.tan(((kFieldOfView / 2) * Math.PI) / 180) / kFitMargin;
+      distance = 0;
+      for (const corner of corners) {
+        const across = Math.abs(corner.dot(right) - middle.x) / this.aspect;
+        const along = Math.abs(corner.dot(upward) - middle.y);
+        distance = Math.max(distance, middle.z - corner.dot(forward) + Math.max(across, along) / tangent);
+      }
+    }
+    const eye = target.clone().addScaledVector(forward, -distance);
+    this.setCamera({ eye, target, up: upward, turntable: up, height: perspective ? 0 : height });
+  }
+
+  // Places the camera: orthographic when a height of the picture in model units is given.
+  setCamera({ eye, target, up, turntable = up, height = 0, angle = kFieldOfView }) {
+    this.scene.remove(this.camera);
+    this.camera = height ? new OrthographicCamera() : new PerspectiveCamera(angle);
+    this.height = height;
+    this.camera.up.copy(turntable);
+    this.camera.position.copy(eye);
+    this.scene.add(this.camera);
+    this.controls?.dispose();
+    this.controls = new OrbitControls(this.camera, this.renderer.domElement);
+    this.controls.target.copy(target);
+    this.controls.zoomToCursor = true;
+    this.controls.addEventListener('change', () => this.draw());
+    this.#shapeCamera();
+    this.controls.update();
+    this.draw();
+  }
+
+  #shapeCamera() {
+    if (this.camera.isPerspectiveCamera) {
+      this.camera.aspect = this.aspect;
+    } else {
+      const half = this.height / 2;
+      Object.assign(this.camera, { left: -half * this.aspect, right: half * this.aspect, top: half, bottom: -half });
+    }
+  }
+
+  // The near and far planes hug the model, which keeps the depth buffer fine enough for its edges.
+  #placePlanes() {
+    const box = new Box3();
+    for (const corner of this.#corners(this.#shown())) box.expandByPoint(corner);
+    if (box.isEmpty()) box.set(new Vector3(-1, -1, -1), new Vector3(1, 1, 1));
+    const radius = box.getSize(new Vector3()).length() / 2 + 1e-6;
+    const forward = this.camera.getWorldDirection(new Vector3());
+    const depth = box.getCenter(new Vector3()).sub(this.camera.position).dot(forward);
+    const far = depth + radius;
+    this.camera.far = Math.max(far, radius);
+    this.camera.near = this.camera.isPerspectiveCamera ? Math.max(depth - radius, this.camera.far / 2000) : depth - radius;
+    this.camera.updateProjectionMatrix();
+  }
+
+  #placeSun() {
+    const offset = new Vector3(-0.35, 0.55, 1).applyQuaternion(this.camera.quaternion);
+    this.sun.target.position.copy(this.controls.target);
+    this.sun.position.copy(this.controls.target).add(offset);
+  }
+
+  #resize() {
+    const { clientWidth: width, clientHeight: height } = this.renderer.domElement.parentElement;
+    this.aspect = Math.max(width, 1) / Math.max(height, 1);
+    this.renderer.setSize(width, height, false);
+    if (this.controls) {
+      this.#shapeCamera();
+      this.render();
+    }
+  }
+
+  // What lies under a point of the canvas, in pixels from its top left: the tree node and its face.
+  pick(x, y) {
+    const canvas = this.renderer.domElement;
+    const pointer = new Vector2((x / canvas.clientWidth) * 2 - 1, 1 - (y / canvas.clientHeight) * 2);
+    const ray = new Raycaster();
+    ray.setFromCamera(pointer, this.camera);
+    const hits = ray.intersectObjects(this.visibleMeshes(), false);
+    const hit = hits.find(({ point }) => this.clipping.every((plane) => plane.distanceToPoint(point) >= 0));
+    if (!hit) return null;
+    const node = hit.object.userData.node;
+    return { node, face: node.block.shape.faceOfTriangle(hit.faceIndex) };
+  }
+
+  draw() {
+    this.wanted ??= requestAnimationFrame(() => this.render());
+  }
+
+  render() {
+    if (this.wanted) cancelAnimationFrame(this.wanted);
+    this.wanted = undefined;
+    this.#placePlanes();
+    this.#placeSun();
+    this.renderer.render(this.scene, this.camera);
+    this.onDraw();
+  }
+}

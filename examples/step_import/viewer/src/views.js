@@ -1,0 +1,93 @@
+// The ways of looking at the model: the standard directions, and the views that were saved in the file.
+
+import { Vector3 } from 'three';
+
+import { kIsometric } from './stage.js';
+
+const kStandard = {
+  Iso: kIsometric,
+  Front: { direction: new Vector3(0, 1, 0), up: new Vector3(0, 0, 1) },
+  Top: { direction: new Vector3(0, 0, -1), up: new Vector3(0, 1, 0) },
+  Right: { direction: new Vector3(-1, 0, 0), up: new Vector3(0, 0, 1) },
+};
+
+function button(text, action, title = '') {
+  const result = document.createElement('button');
+  result.textContent = text;
+  result.title = title;
+  result.onclick = () => action(result);
+  return result;
+}
+
+function toggle(text, shown, action) {
+  const result = button(text, () => {
+    const pressed = result.ariaPressed !== 'true';
+    result.ariaPressed = pressed;
+    action(pressed);
+  });
+  result.ariaPressed = shown;
+  return result;
+}
+
+function divider() {
+  return document.createElement('hr');
+}
+
+export function buildToolbar(bar, stage, onFit) {
+  for (const [name, look] of Object.entries(kStandard)) {
+    bar.append(button(name, () => stage.look(look), `Look at the whole model: ${name.toLowerCase()}`));
+  }
+  bar.append(button('Fit', onFit, 'Fill the picture with what is selected, or with all (F)'));
+  bar.append(divider());
+  bar.append(toggle('Edges', true, (shown) => stage.setEdges(shown)));
+  if (stage.annotations.children.length) {
+    bar.append(
+      toggle('PMI', true, (shown) => {
+        stage.annotations.visible = shown;
+        stage.draw();
+      })
+    );
+  }
+}
+
+const vector = ([x, y, z]) => new Vector3(x, y, z);
+
+// A view without a size of its own shows the whole model from its direction.
+function show(stage, view) {
+  const { camera } = view;
+  stage.setClipping(view.clipping ?? null);
+  stage.setAnnotations(view.annotationIds.length ? view.annotationIds : null);
+  const eye = vector(camera.eye);
+  const target = vector(camera.target);
+  const up = vector(camera.up);
+  const direction = target.clone().sub(eye);
+  if (camera.height || camera.angle) {
+    stage.setCamera({ eye, target, up, height: camera.height, angle: camera.angle || undefined });
+  } else {
+    stage.look({ direction, up, perspective: false });
+  }
+}
+
+export function buildSavedViews(bar, stage, views) {
+  if (!views.length) return;
+  bar.hidden = false;
+  const label = document.createElement('span');
+  label.textContent = 'Saved views';
+  bar.append(label);
+  const choose = (chosen, action) => {
+    for (const other of bar.querySelectorAll('button')) other.ariaPressed = other === chosen;
+    action();
+  };
+  for (const view of views) {
+    bar.append(button(view.name || view.id, (self) => choose(self, () => show(stage, view))));
+  }
+  const all = button('All', (self) =>
+    choose(self, () => {
+      stage.setClipping(null);
+      stage.setAnnotations(null);
+      stage.look(kIsometric);
+    })
+  );
+  all.ariaPressed = true;
+  bar.append(all);
+}
