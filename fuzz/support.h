@@ -7,13 +7,12 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <optional>
 #include <stdexcept>
 
 namespace fuzz
 {
 
-/// What is no exception but must hold; otherwise the input is a finding.
+/// Makes the input a finding when the condition does not hold.
 inline void require(bool condition)
 {
     if (!condition)
@@ -60,8 +59,22 @@ inline vrx::Bytes encoded(const vrx::IJsonObject& object)
     return encoded(document);
 }
 
-/// Has an exchange object take a tree in its binary form, and another take what the first writes. Forms that are no
-/// tree are refused; a tree of any shape is not.
+/// The binary form that an exchange object writes once it has taken one, which must be a tree of any shape.
+inline vrx::Bytes crossed(const vrx::IExchangeObject& prototype, const vrx::JsonValue& tree)
+{
+    const auto object = prototype.clone();
+    object->readObject(tree);
+    return encoded(*object);
+}
+
+inline vrx::Bytes crossed(const vrx::IExchangeObject& prototype, const vrx::Bytes& form)
+{
+    vrx::JsonDocument document;
+    require(decodes(form.data(), form.size(), document));
+    return crossed(prototype, document);
+}
+
+/// Sends an exchange object over and over. Bytes that are no binary form are refused; a tree of any shape is not.
 inline void crossBinary(const vrx::IExchangeObject& prototype, const char* data, std::size_t size)
 {
     vrx::JsonDocument document;
@@ -69,15 +82,9 @@ inline void crossBinary(const vrx::IExchangeObject& prototype, const char* data,
     {
         return;
     }
-    const auto object = prototype.clone();
-    object->readObject(document);
-    const vrx::Bytes written = encoded(*object);
-    vrx::JsonDocument again;
-    require(decodes(written.data(), written.size(), again));
-    const auto other = prototype.clone();
-    other->readObject(again);
-    // Some keys are only read or only written, but what has crossed once has its shape.
-    require(encoded(*other).size() <= written.size());
+    // Some keys are only read or only written, and a null can come back as an object; then nothing changes any more.
+    const vrx::Bytes second = crossed(prototype, crossed(prototype, document));
+    require(crossed(prototype, second).size() == second.size());
 }
 
 /// Has a whole message read a text; what it then writes must be read, too.
@@ -94,6 +101,11 @@ void crossText(const std::uint8_t* data, std::size_t size)
     }
     catch (const std::invalid_argument&)
     {
+        return;
+    }
+    catch (const std::runtime_error&)
+    {
+        // A number of the text was beyond the doubles.
         return;
     }
     Message again;

@@ -183,7 +183,7 @@ void expectNames(const std::vector<wstring>& names, E ofUnlisted)
 {
     for (std::size_t number = 0; number < names.size(); ++number)
     {
-        const E value = static_cast<E>(number);
+        const auto value = static_cast<E>(number);
         EXPECT_EQ(enumToString(value), names[number].empty() ? WIDE("unknown") : names[number]) << number;
         if (!names[number].empty())
         {

@@ -65,7 +65,7 @@ TEST_F(LoggerHolderTest, BeginsAFileAndAppendsToIt)
     EXPECT_THAT(enabledLevels(), ElementsAre(true, true, false, false, false, false));
     LoggerHolder::initLogger(3, m_path.string());
     test::LogFile::close();
-    const char* const separator = "\\[INFO\\]    \\[.......... ........\\] =+";
+    const char* const separator = R"(\[INFO\]    \[.......... ........\] =+)";
     EXPECT_THAT(linesOf(m_path),
                 ElementsAre(MatchesRegex(separator), testing::EndsWith("] Logger initialized with level 2"),
                             MatchesRegex(separator), testing::EndsWith("] Logger initialized with level 3")));

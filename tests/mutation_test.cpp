@@ -97,7 +97,7 @@ std::map<std::string, std::string> membersOf(const IJsonObject& object)
 // Reads a document directly, and by way of its binary form.
 std::shared_ptr<IJsonObject> readBothWays(const Subject& subject, const JsonDocument& document)
 {
-    const auto object = subject.make();
+    auto object = subject.make();
     object->readObject(document);
 
     std::vector<char> form;

@@ -98,7 +98,7 @@ TEST(Road, EveryTextComesBackAsItWent)
 {
     for (const mp::wstring& text : test::corpus())
     {
-        const mp::wstring cut(text.c_str());
+        const mp::wstring cut = text.substr(0, text.find(mp::wchar()));
         const auto message = std::make_shared<ExcMessage>(text);
         const auto structure = std::make_shared<ExcProductStructure>();
         structure->setProductName(text);

@@ -14,7 +14,7 @@
 ///   ping    one `Result`
 ///   import  any number of envelopes, then one `Result`
 ///   other   one `Result`, an error
-/// It ends when its standard input is closed.
+/// It ends when its standard input is closed, and when the modelling kernel has failed, behind that answer.
 namespace framing
 {
 

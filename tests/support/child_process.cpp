@@ -105,7 +105,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command)
     m_process = numberOf(process.hProcess);
 }
 
-void ChildProcess::write(std::string_view bytes)
+void ChildProcess::write(std::string_view bytes) const
 {
     while (!bytes.empty())
     {
@@ -116,7 +116,7 @@ void ChildProcess::write(std::string_view bytes)
     }
 }
 
-std::size_t ChildProcess::readSome(char* bytes, std::size_t size)
+std::size_t ChildProcess::readSome(char* bytes, std::size_t size) const
 {
     DWORD count = 0;
     return ReadFile(handleOf(m_output), bytes, static_cast<DWORD>(size), &count, nullptr) != 0 ? count : 0;
@@ -170,6 +170,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command)
     posix_spawn_file_actions_adddup2(&actions, fromChild[1], STDOUT_FILENO);
     std::vector<std::string> words = command;
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words)
     {
         arguments.push_back(word.data());
@@ -191,7 +192,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command)
     m_process = process;
 }
 
-void ChildProcess::write(std::string_view bytes)
+void ChildProcess::write(std::string_view bytes) const
 {
     while (!bytes.empty())
     {
@@ -201,7 +202,7 @@ void ChildProcess::write(std::string_view bytes)
     }
 }
 
-std::size_t ChildProcess::readSome(char* bytes, std::size_t size)
+std::size_t ChildProcess::readSome(char* bytes, std::size_t size) const
 {
     ssize_t count = 0;
     do

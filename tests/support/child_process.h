@@ -17,7 +17,7 @@ public:
     ChildProcess& operator=(const ChildProcess&) = delete;
     ~ChildProcess();
 
-    void write(std::string_view bytes);
+    void write(std::string_view bytes) const;
     void closeInput();
 
     /// All output up to its end.
@@ -33,7 +33,7 @@ public:
 
 private:
     /// Up to this many bytes; none at the end of the output.
-    std::size_t readSome(char* bytes, std::size_t size);
+    std::size_t readSome(char* bytes, std::size_t size) const;
 
     // Process ids and descriptors on POSIX, handles on Windows; -1 for none.
     std::intptr_t m_process = -1;

@@ -15,6 +15,9 @@ namespace test
 class LogFile
 {
 public:
+    LogFile(const LogFile&) = delete;
+    LogFile& operator=(const LogFile&) = delete;
+
     static LogFile& instance()
     {
         static LogFile file;
@@ -37,8 +40,6 @@ public:
 
 private:
     LogFile() { open(); }
-    LogFile(const LogFile&) = delete;
-    LogFile& operator=(const LogFile&) = delete;
     ~LogFile()
     {
         close();

@@ -22,7 +22,7 @@ inline std::string takeBuffer(const mp::wstring& name)
 /// Leaves bytes in the system under a new name.
 inline mp::wstring leaveBuffer(std::string_view bytes)
 {
-    const mp::wstring name = vrx::IExchangeObject::generateUUID();
+    mp::wstring name = vrx::IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, false);
     buffer.write(bytes.data(), bytes.size());

@@ -162,8 +162,7 @@ int show(const ScenePage& page, const vrx::ExcProductStructure& structure, const
     }
     catch (const std::runtime_error& failure)
     {
-        std::cerr << "step_host: " << failure.what() << '
-';
+        std::cerr << "step_host: " << failure.what() << '\n';
         return kNoPage;
     }
 }

@@ -72,9 +72,9 @@ private:
         {
             for (const std::array<double, 4>& row : m_rows)
             {
-                target.push_back(static_cast<float>(
-                    row[0] * static_cast<double>(source[i]) + row[1] * static_cast<double>(source[i + 1]) +
-                    row[2] * static_cast<double>(source[i + 2]) + row[3] * weight));
+                target.push_back(static_cast<float>(row[0] * static_cast<double>(source[i]) +
+                                                    row[1] * static_cast<double>(source[i + 1]) +
+                                                    row[2] * static_cast<double>(source[i + 2]) + row[3] * weight));
             }
         }
     }

@@ -1,6 +1,9 @@
 #include "product_tree.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
+#include <map>
 #include <memory>
 #include <set>
 #include <stdexcept>
@@ -10,43 +13,38 @@ namespace
 
 using References = std::vector<std::shared_ptr<vrx::ExcBlockReference>>;
 
-const std::size_t kMaxLines = 10 * 1000 * 1000;
+const std::size_t kMaxLines = 1000 * 1000;
 
-bool sameColor(const vrx::ExcColor& a, const vrx::ExcColor& b)
+// Equal for references that look alike: block, colour, hidden, suppressed.
+using Look = std::array<std::uint64_t, 4>;
+
+Look look(const vrx::ExcBlockReference& reference)
 {
-    if (a.hasRGB() != b.hasRGB() || a.hasAlpha() != b.hasAlpha())
+    const vrx::ExcColor& color = reference.color();
+    Look look{reference.blockId(), 0, reference.isHidden(), reference.isSuppressed()};
+    if (color.hasRGB())
     {
-        return false;
-    }
-    for (const auto channel : {vrx::ExcColor::ChannelRed, vrx::ExcColor::ChannelGreen, vrx::ExcColor::ChannelBlue,
-                               vrx::ExcColor::ChannelAlpha})
-    {
-        if (a[channel] != b[channel])
+        for (const auto channel : {vrx::ExcColor::ChannelRed, vrx::ExcColor::ChannelGreen, vrx::ExcColor::ChannelBlue,
+                                   vrx::ExcColor::ChannelAlpha})
         {
-            return false;
+            look[1] = look[1] << 16 | color[channel];
         }
+        look[2] |= 2;
     }
-    return true;
-}
-
-bool looksAlike(const vrx::ExcBlockReference& a, const vrx::ExcBlockReference& b)
-{
-    return a.blockId() == b.blockId() && a.isHidden() == b.isHidden() && a.isSuppressed() == b.isSuppressed() &&
-           sameColor(a.color(), b.color());
+    return look;
 }
 
 std::vector<ProductTreeNode> level(const vrx::ExcProductStructure& structure, const References& references,
                                    std::size_t depth, ESiblings siblings)
 {
     std::vector<ProductTreeNode> nodes;
+    std::map<Look, std::size_t> alike;
     for (const std::shared_ptr<vrx::ExcBlockReference>& reference : references)
     {
-        const auto alike = std::find_if(nodes.begin(), nodes.end(), [&](const ProductTreeNode& node) {
-            return looksAlike(*node.references.front(), *reference);
-        });
-        if (siblings == ESiblings::Collapsed && alike != nodes.end())
+        const auto [known, isNew] = alike.emplace(look(*reference), nodes.size());
+        if (siblings == ESiblings::Collapsed && !isNew)
         {
-            alike->references.push_back(reference.get());
+            nodes[known->second].references.push_back(reference.get());
             continue;
         }
         ProductTreeNode node;
@@ -93,7 +91,7 @@ std::vector<ProductTreeNode> productTree(const vrx::ExcProductStructure& structu
         lines.push_back(node);
         if (lines.size() + waiting.size() > kMaxLines)
         {
-            throw std::length_error("the product tree has more than ten million lines");
+            throw std::length_error("the product tree has more than a million lines");
         }
     }
     return lines;

@@ -29,6 +29,6 @@ enum class ESiblings
 };
 
 /// The tree in the order of its lines, each node in front of its children. Throws std::length_error for a tree of more
-/// than ten million lines: some thousand blocks that hold each other twice would never end. The nodes point into the
-/// structure.
+/// than a million lines: a few dozen blocks, each holding the next one twice, would fill the memory. The nodes point
+/// into the structure.
 std::vector<ProductTreeNode> productTree(const vrx::ExcProductStructure& structure, ESiblings siblings);

@@ -203,8 +203,9 @@ private:
     static bool isTriangle(const vrx::ExcVisuFace::Polygon& polygon, std::size_t vertices)
     {
         return polygon.type == scene_conventions::kTriangle && polygon.indices.size() == 3 &&
-               std::all_of(polygon.indices.begin(), polygon.indices.end(), [vertices](std::int32_t index)
-                           { return index >= 0 && static_cast<std::size_t>(index) < vertices; });
+               std::all_of(polygon.indices.begin(), polygon.indices.end(), [vertices](std::int32_t index) {
+                   return index >= 0 && static_cast<std::size_t>(index) < vertices;
+               });
     }
 
     std::vector<float> m_positions;

@@ -23,7 +23,7 @@ private:
     std::string scene(const vrx::ExcProductStructure& structure) const;
 
     std::map<std::uint64_t, std::string> m_shapes; // by the block's id
-    std::set<vrx::ELengthUnitType> m_units;    // of all scenes
+    std::set<vrx::ELengthUnitType> m_units;        // of all scenes
     std::string m_annotations = "[]";
     std::string m_views = "[]";
 };

@@ -34,7 +34,7 @@ public:
     virtual void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) = 0;
 
     /// Whether an object in shared memory is worth loading; the others are dropped.
-    virtual bool wants(const vrx::IExchangeObject& object) = 0;
+    virtual bool wants(const vrx::IExchangeObject&) { return true; }
 };
 
 /// A running translator: sends commands, hands on what comes back. Each operation throws TranslatorFailure when the

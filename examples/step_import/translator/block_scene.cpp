@@ -68,7 +68,7 @@ private:
             {
                 addMesh(part, look);
             }
-            else
+            else if (!own || !own->hidden) // a hidden one would have no node of its own to say so
             {
                 TopoDS_Builder().Add(loose, part);
             }

@@ -135,8 +135,8 @@ private:
         Handle(TCollection_HAsciiString) name;
         bool capping = false;
         vrx::ExcClippingPlane result;
-        if (labels.IsEmpty() || !XCAFDoc_DocumentTool::ClippingPlaneTool(m_label)->GetClippingPlane(
-                                    labels.First(), plane, name, capping))
+        if (labels.IsEmpty() ||
+            !XCAFDoc_DocumentTool::ClippingPlaneTool(m_label)->GetClippingPlane(labels.First(), plane, name, capping))
         {
             return result;
         }

@@ -12,7 +12,6 @@
 #include "vrx_api/vrx_api_format_options.h"
 
 #include <OSD.hxx>
-#include <OSD_Exception.hxx>
 #include <Standard_ErrorHandler.hxx>
 #include <Standard_Failure.hxx>
 #include <Standard_Version.hxx>
@@ -117,7 +116,7 @@ vrx::Result Translator::import(const vrx::Command& command)
 {
     try
     {
-        // Damaged files do crash the kernel: its signals become exceptions from here on.
+        // Damaged files do crash the kernel: its signals become exceptions here.
         OCC_CATCH_SIGNALS
         if (command.internalInterface() == vrx::EFerrantInterface::Legacy || !command.importOptions())
         {
@@ -125,16 +124,13 @@ vrx::Result Translator::import(const vrx::Command& command)
         }
         return translate(*command.importOptions());
     }
-    catch (const OSD_Exception& crash)
-    {
-        // Nothing was cleared up on the way here: the answer is the last thing that this process does.
-        m_kernelIsIntact = false;
-        return error(std::string("The file is damaged, or too much for the modelling kernel, which crashed (") +
-                     crash.DynamicType()->Name() + ").");
-    }
     catch (const Standard_Failure& failure)
     {
-        return error(std::string("The modelling kernel failed: ") + failure.GetMessageString());
+        // The kernel turns its crashes into such failures too, with nothing cleared up on the way: the answer is the
+        // last thing that this process does.
+        m_kernelIsIntact = false;
+        return error(std::string("The file is damaged, or too much for the modelling kernel: ") +
+                     failure.GetMessageString());
     }
     catch (const std::bad_alloc&)
     {

@@ -51,8 +51,9 @@ function buildFaces(shape) {
 class Shape {
   constructor(data) {
     Object.assign(this, buildFaces(data));
-    this.meshes = data.meshes;
     this.color = data.color;
+    const largest = this.geometry.groups.reduce((a, b) => (b.count > a.count ? b : a), { count: 0 });
+    this.mainColor = this.colors[largest.materialIndex] ?? null; // null: the part's or the reference's
     const segments = floats(data.segments);
     this.edges = segments.length ? new LineSegmentsGeometry().setPositions(segments) : null;
     if (this.edges) this.edges.computeBoundingBox();

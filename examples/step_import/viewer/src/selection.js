@@ -67,7 +67,7 @@ export class Selection {
     this.panel.replaceChildren();
     if (!node) return;
     const { block, reference } = node;
-    this.#head(node.name, block?.isPart ? 'Part' : 'Assembly', node.color ?? block?.shape?.color);
+    this.#head(node.name, block?.isPart ? 'Part' : 'Assembly', block?.shape?.mainColor ?? node.color ?? block?.shape?.color);
     const where = [];
     for (let above = node.parent; above; above = above.parent) where.unshift(above.name);
     this.#rows([
@@ -80,9 +80,9 @@ export class Selection {
     ]);
     if (face) {
       const mesh = face.mesh;
-      this.#head(`Face ${face.id}`, 'Face', face.color ?? node.color);
+      this.#head(`Face ${face.id}`, 'Face', face.color ?? node.color ?? block.shape.color);
       this.#rows([
-        ['Mechanical id', face.mechanicalId !== face.id && face.mechanicalId],
+        ['Mechanical id', face.mechanicalId],
         ['Body', [mesh.name !== node.name && mesh.name, mesh.id].filter(Boolean).join(' · ')],
         ['Triangles', face.triangles.toLocaleString('en')],
       ]);

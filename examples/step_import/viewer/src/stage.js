@@ -34,8 +34,8 @@ import { floats } from './model.js';
 const kNoColor = [176, 182, 190];
 const kEdgeColor = 0x1c2430;
 const kAnnotationColor = [23, 92, 211];
-const kFieldOfView = 26;
-const kFitMargin = 1.06;
+const kFieldOfView = 22; // degrees
+const kFitMargin = 1.1;
 export const kIsometric = { direction: new Vector3(-1, 1.25, -0.85), up: new Vector3(0, 0, 1) };
 
 const srgb = (color) => new Color().setRGB(color[0] / 255, color[1] / 255, color[2] / 255, SRGBColorSpace);
@@ -64,11 +64,11 @@ export class Stage {
   #addLights() {
     const generator = new PMREMGenerator(this.renderer);
     this.scene.environment = generator.fromScene(new RoomEnvironment(), 0.04).texture;
-    this.scene.environmentIntensity = 0.55;
+    this.scene.environmentIntensity = 0.5;
     this.scene.environmentRotation.x = Math.PI / 2; // the room's up is y
     generator.dispose();
-    this.scene.add(new AmbientLight(0xffffff, 0.25));
-    this.sun = new DirectionalLight(0xffffff, 1.7);
+    this.scene.add(new AmbientLight(0xffffff, 0.15));
+    this.sun = new DirectionalLight(0xffffff, 1.5);
     this.scene.add(this.sun, this.sun.target);
   }
 
@@ -133,7 +133,7 @@ export class Stage {
     this.scene.add(this.annotations);
     for (const annotation of this.model.annotations) {
       const geometry = new LineSegmentsGeometry().setPositions(floats(annotation.segments));
-      const lines = new LineSegments2(geometry, this.#line(srgb(annotation.color ?? kAnnotationColor), 1.6));
+      const lines = new LineSegments2(geometry, this.#line(srgb(annotation.color ?? kAnnotationColor), 1.1));
       lines.raycast = () => {};
       lines.userData.annotation = annotation;
       this.annotations.add(lines);
@@ -190,8 +190,10 @@ export class Stage {
     return [...this.visibleMeshes(), ...lines];
   }
 
-  // Looks along a direction, so that the objects, by default all that is shown, fill the picture.
-  look({ direction, up, objects, perspective = true }) {
+  // Looks along a direction, so that the objects, by default all that is shown, fill the picture. They do so again in a
+  // picture of another size, until someone turns the model.
+  look(how) {
+    const { direction, up, objects, perspective = true } = how;
     const forward = direction.clone().normalize();
     const right = new Vector3().crossVectors(forward, up).normalize();
     const upward = new Vector3().crossVectors(right, forward);
@@ -219,21 +221,24 @@ export class Stage {
       }
     }
     const eye = target.clone().addScaledVector(forward, -distance);
-    this.setCamera({ eye, target, up: upward, turntable: up, height: perspective ? 0 : height });
+    this.setCamera({ eye, target, up, height: perspective ? 0 : height });
+    this.fitted = how;
   }
 
   // Places the camera: orthographic when a height of the picture in model units is given.
-  setCamera({ eye, target, up, turntable = up, height = 0, angle = kFieldOfView }) {
+  setCamera({ eye, target, up, height = 0, angle = kFieldOfView }) {
+    this.fitted = null;
     this.scene.remove(this.camera);
     this.camera = height ? new OrthographicCamera() : new PerspectiveCamera(angle);
     this.height = height;
-    this.camera.up.copy(turntable);
+    this.camera.up.copy(up); // the model turns around this axis
     this.camera.position.copy(eye);
     this.scene.add(this.camera);
     this.controls?.dispose();
     this.controls = new OrbitControls(this.camera, this.renderer.domElement);
     this.controls.target.copy(target);
     this.controls.zoomToCursor = true;
+    this.controls.addEventListener('start', () => (this.fitted = null));
     this.controls.addEventListener('change', () => this.draw());
     this.#shapeCamera();
     this.controls.update();
@@ -273,6 +278,7 @@ export class Stage {
     const { clientWidth: width, clientHeight: height } = this.renderer.domElement.parentElement;
     this.aspect = Math.max(width, 1) / Math.max(height, 1);
     this.renderer.setSize(width, height, false);
+    if (this.fitted) this.look(this.fitted);
     if (this.controls) {
       this.#shapeCamera();
       this.render();

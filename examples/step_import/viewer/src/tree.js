@@ -44,7 +44,7 @@ export class TreeView {
     };
 
     row.append(arrow, box);
-    if (node.block?.shape) row.append(swatch(node.block.shape.faces[0]?.color ?? node.color ?? node.block.shape.color));
+    if (node.block?.shape) row.append(swatch(node.block.shape.mainColor ?? node.color ?? node.block.shape.color));
     row.append(name);
     if (node.children.length) {
       const count = document.createElement('span');

@@ -1,0 +1,58 @@
+#include "body_figures.h"
+
+#include <BRepBndLib.hxx>
+#include <BRepGProp.hxx>
+#include <GProp_GProps.hxx>
+#include <TopExp.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+
+#include <iomanip>
+#include <locale>
+#include <sstream>
+
+namespace
+{
+
+int count(const TopoDS_Shape& shape, TopAbs_ShapeEnum type)
+{
+    TopTools_IndexedMapOfShape map;
+    TopExp::MapShapes(shape, type, map);
+    return map.Extent();
+}
+
+} // namespace
+
+BodyFigures figuresOf(const TopoDS_Shape& shape)
+{
+    BodyFigures figures;
+    figures.faces = count(shape, TopAbs_FACE);
+    figures.edges = count(shape, TopAbs_EDGE);
+    figures.vertices = count(shape, TopAbs_VERTEX);
+    // A triangulation, which is not sent, must not count.
+    GProp_GProps surface;
+    BRepGProp::SurfaceProperties(shape, surface, false, false);
+    figures.area = surface.Mass();
+    GProp_GProps solid;
+    BRepGProp::VolumeProperties(shape, solid, false, false, false);
+    figures.volume = solid.Mass();
+    BRepBndLib::Add(shape, figures.box, false);
+    return figures;
+}
+
+std::string figuresText(const BodyFigures& figures)
+{
+    std::ostringstream stream;
+    stream.imbue(std::locale::classic());
+    stream << std::setprecision(12) << figures.faces << " faces, " << figures.edges << " edges, " << figures.vertices
+           << " vertices, area " << figures.area << ", volume " << figures.volume;
+    if (figures.box.IsVoid())
+    {
+        return stream.str() + ", no box";
+    }
+    double low[3] = {};
+    double high[3] = {};
+    figures.box.Get(low[0], low[1], low[2], high[0], high[1], high[2]);
+    stream << ", box (" << low[0] << ' ' << low[1] << ' ' << low[2] << ") to (" << high[0] << ' ' << high[1] << ' '
+           << high[2] << ')';
+    return stream.str();
+}

@@ -1,0 +1,29 @@
+#!/usr/bin/env bash
+# What cannot be imported ends with the exit code and the message that help.
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+expect 2 "no file" "$host"
+expect 2 "no option --frobnicate" "$host" --frobnicate "$vise"
+expect 2 "--pmi takes all or none" "$host" --pmi some "$vise"
+expect 3 "does not read files like $scratch/part.igs" "$host" "$scratch/part.igs"
+expect 3 "STEP files (AP203, AP214, AP242)|stp;step;p21" "$host" "$scratch/part.igs"
+expect 4 "cannot start $scratch/none" "$host" --translator "$scratch/none" "$vise"
+expect 4 "The translator does not say what it is." "$host" --translator "$(command -v cat)" "$vise"
+
+expect 1 "There is no file $scratch/missing.step." "$host" "$scratch/missing.step"
+mkdir "$scratch/folder.step"
+expect 1 "folder.step is not a file." "$host" "$scratch/folder.step"
+: >"$scratch/empty.step"
+expect 1 "empty.step is empty." "$host" "$scratch/empty.step"
+echo "hello" >"$scratch/text.step"
+expect 1 "text.step is not a STEP file: it does not begin with ISO-10303-21." "$host" "$scratch/text.step"
+head -c 100000 "$vise" >"$scratch/cut.step"
+expect 1 "cut.step is cut off: its end, END-ISO-10303-21, is missing." "$host" "$scratch/cut.step"
+{ sed '/^DATA;/q' "$vise"; echo 'ENDSEC;'; echo 'END-ISO-10303-21;'; } >"$scratch/hollow.step"
+expect 1 "hollow.step holds no product." "$host" "$scratch/hollow.step"
+
+# Damage in the middle: the rest is imported, with a warning.
+sed 's/^\(#[0-9]* = \)ADVANCED_FACE(/\1ADVANCED_FARCE(/' "$vise" >"$scratch/faces.step"
+expect 0 "geometric entities could not be read. The model may be incomplete." "$host" "$scratch/faces.step"
+sed '100s/^/) nonsense ;; (/' "$vise" >"$scratch/syntax.step"
+expect 0 "The file has errors of syntax" "$host" "$scratch/syntax.step"

@@ -1,0 +1,58 @@
+#!/usr/bin/env bash
+# A translator that dies in the middle, or a host that is interrupted, leaves no shared memory behind.
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+# Runs the translator and keeps a copy of what it sends.
+recorder=$scratch/recorder
+cat >"$recorder" <<END
+#!/bin/sh
+"$translator" | tee "$scratch/frames"
+END
+chmod +x "$recorder"
+
+# buffers_told_of: the names of the shared memory in the recorded frames, which are UTF-16.
+buffers_told_of() {
+    tr -d '\000' <"$scratch/frames" | grep -aoE '"exchange_object_data": "[0-9a-f-]{36}"' | cut -d'"' -f4
+}
+
+none_is_left() {
+    local count=0
+    for buffer in $(buffers_told_of); do
+        [[ ! -e /dev/shm/$buffer ]] || fail "shared memory $buffer is left, $1"
+        count=$((count + 1))
+    done
+    [[ $count -gt 0 ]] || fail "the translator told of no shared memory, $1"
+}
+
+for object in exc_product_structure exc_block_visualization; do
+    export STEP_TRANSLATOR_DIE_AFTER=$object
+    expect 4 "The translator died: it was ended by signal 9" "$host" "$vise"
+    expect 4 "The translator died" "$host" --translator "$recorder" "$vise"
+    none_is_left "killed after $object"
+done
+unset STEP_TRANSLATOR_DIE_AFTER
+
+expect 0 "" "$host" --translator "$recorder" "$vise"
+none_is_left "after a whole import"
+
+# A translator that hangs, with buffers told of, and a host that is told to end.
+cat >"$recorder" <<END
+#!/bin/sh
+STEP_TRANSLATOR_DIE_AFTER=exc_product_structure "$translator" | tee "$scratch/frames"
+touch "$scratch/hangs"
+exec sleep 100
+END
+rm -f "$scratch/frames"
+"$host" --translator "$recorder" "$vise" >"$scratch/out" 2>"$scratch/err" &
+process=$!
+for _ in $(seq 300); do
+    [[ ! -e $scratch/hangs ]] || break
+    sleep 0.1
+done
+[[ -e $scratch/hangs ]] || fail "the translator never came to its end"
+kill -TERM "$process"
+result=0
+wait "$process" || result=$?
+[[ $result -eq 5 ]] || fail "exit code $result instead of 5 after an interrupt"
+grep -qF "interrupted" "$scratch/err" || fail "the host does not say that it was interrupted"
+none_is_left "interrupted"

@@ -1,0 +1,53 @@
+#include "block_bodies.h"
+
+#include "../body_figures.h"
+#include "../kernel_bodies.h"
+#include "mp/narrow.h"
+#include "solid_body.h"
+#include "translation_error.h"
+
+#include <TopExp.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+
+namespace
+{
+
+TopTools_IndexedMapOfShape solidsOf(const TopoDS_Shape& shape)
+{
+    TopTools_IndexedMapOfShape solids;
+    if (!shape.IsNull())
+    {
+        TopExp::MapShapes(shape, TopAbs_SOLID, solids);
+    }
+    return solids;
+}
+
+} // namespace
+
+std::shared_ptr<vrx::ExcBlockGeometry> blockBodies(const vrx::ExcBlock& block, const TopoDS_Shape& shape)
+{
+    KernelBodies bodies;
+    for (const TopoDS_Shape& solid : solidsOf(shape))
+    {
+        addSolidBody(solid, bodies.list());
+    }
+    auto geometry = std::make_shared<vrx::ExcBlockGeometry>();
+    geometry->setBlockId(block.id());
+    geometry->own(true);
+    if (!geometry->setGeometry(bodies.list(), false))
+    {
+        throw TranslationError("The bodies of " + mp::toNarrow(block.name()) + " could not be put in shared memory.");
+    }
+    return geometry;
+}
+
+std::vector<std::string> figuresOfBodies(const vrx::ExcBlock& block, const TopoDS_Shape& shape)
+{
+    std::vector<std::string> lines;
+    for (const TopoDS_Shape& solid : solidsOf(shape))
+    {
+        lines.push_back("block " + std::to_string(block.id()) + " body " + std::to_string(lines.size() + 1) + ": " +
+                        figuresText(figuresOf(solid)));
+    }
+    return lines;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "vrx_api/vrx_api_exchange_mechanical.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
+
+#include <TopoDS_Shape.hxx>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+/// The solids of a part as bodies in shared memory, in the order of the solids. The buffer is removed with the object
+/// until `own(false)` is called. Throws TranslationError when they could not be put there.
+std::shared_ptr<vrx::ExcBlockGeometry> blockBodies(const vrx::ExcBlock& block, const TopoDS_Shape& shape);
+
+/// A line for each of these bodies, with what is measured of its solid here.
+std::vector<std::string> figuresOfBodies(const vrx::ExcBlock& block, const TopoDS_Shape& shape);
