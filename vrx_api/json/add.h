@@ -36,7 +36,6 @@ void addAll(std::vector<std::shared_ptr<T>>& objects, const std::vector<std::sha
 {
     // Objects may be added to their own vector, which grows meanwhile.
     const std::size_t count = added.size();
-    objects.reserve(objects.size() + count);
     for (std::size_t i = 0; i < count; ++i)
     {
         const std::shared_ptr<T> object = added[i];

@@ -107,7 +107,10 @@ bool writeText(WideBuffer& buffer, const JsonDocument& document, bool pretty)
 void makeRoom(wostream& stream, const wstring& text)
 {
     constexpr wchar kLostUnit = 0xFFFF;
-    const wostream::pos_type begin = text.find(kLostUnit) == wstring::npos ? wostream::pos_type(-1) : stream.tellp();
+    // Only a string buffer keeps the room that was made, and only there seeking back is sure.
+    const bool keepsRoom = dynamic_cast<std::basic_stringbuf<wchar>*>(stream.rdbuf()) != nullptr;
+    const bool needed = keepsRoom && text.find(kLostUnit) != wstring::npos;
+    const wostream::pos_type begin = needed ? stream.tellp() : wostream::pos_type(-1);
     if (begin != wostream::pos_type(-1))
     {
         const wstring blanks(text.size(), ' ');

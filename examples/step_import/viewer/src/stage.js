@@ -64,11 +64,11 @@ export class Stage {
   #addLights() {
     const generator = new PMREMGenerator(this.renderer);
     this.scene.environment = generator.fromScene(new RoomEnvironment(), 0.04).texture;
-    this.scene.environmentIntensity = 0.5;
+    this.scene.environmentIntensity = 0.45;
     this.scene.environmentRotation.x = Math.PI / 2; // the room's up is y
     generator.dispose();
     this.scene.add(new AmbientLight(0xffffff, 0.15));
-    this.sun = new DirectionalLight(0xffffff, 1.5);
+    this.sun = new DirectionalLight(0xffffff, 1.3);
     this.scene.add(this.sun, this.sun.target);
   }
 
