@@ -20,7 +20,7 @@ enum class FaultKind
 
 struct Fault
 {
-    FaultKind kind;
+    FaultKind kind = FaultKind::Fail;
     std::optional<std::string> text;
 
     error_info* info() const { return text ? makeErrorInfo(*text) : nullptr; }

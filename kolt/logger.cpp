@@ -2,6 +2,7 @@
 
 #include <ctime>
 #include <iomanip>
+#include <locale>
 #include <memory>
 #include <thread>
 #include <utility>
@@ -52,6 +53,8 @@ ILogger::~ILogger() = default;
 Logger::Logger(const std::string& path)
     : m_file(path, std::ios::out | std::ios::app)
 {
+    // The locale of a host may group the digits of numbers.
+    m_file.imbue(std::locale::classic());
 }
 
 bool Logger::isOpen() const

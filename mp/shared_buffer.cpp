@@ -12,6 +12,7 @@
 #endif
 
 #include <cstring>
+#include <utility>
 
 namespace mp
 {
@@ -80,7 +81,7 @@ SharedBuffer<char>::~SharedBuffer()
     m_object.reset();
     if (m_removeOnClose)
     {
-        ipc::shared_memory_object::remove(toNarrow(m_name).c_str());
+        ipc::shared_memory_object::remove(m_narrowName.c_str());
     }
 }
 
@@ -90,12 +91,14 @@ void SharedBuffer<char>::open(const wstring& name, bool removeOnClose)
     {
         throw SharedMemoryException(WIDE("Shared variable name mustn't be empty"));
     }
+    std::string narrowName = toNarrow(name);
     withTurnedErrors([&] {
-        m_object = std::make_unique<ipc::shared_memory_object>(ipc::open_or_create, toNarrow(name).c_str(),
-                                                               ipc::read_write, ownerOnly());
+        m_object = std::make_unique<ipc::shared_memory_object>(ipc::open_or_create, narrowName.c_str(), ipc::read_write,
+                                                               ownerOnly());
     });
     m_removeOnClose = removeOnClose;
     m_name = name;
+    m_narrowName = std::move(narrowName);
 }
 
 void SharedBuffer<char>::write(const char* data, std::uint64_t size)

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace boost::interprocess
@@ -53,6 +54,7 @@ private:
 
     std::unique_ptr<boost::interprocess::shared_memory_object> m_object;
     wstring m_name;
+    std::string m_narrowName;
     bool m_removeOnClose = false;
 };
 

@@ -107,7 +107,7 @@ TEST(Vector, KeepsWhatAShortArrayDoesNotGive)
 TEST(Vector, IsReadWithATraceLineAndWrittenWithoutOne)
 {
     const test::LogCapture reading;
-    const ExcVector3d vector = test::readFrom<ExcVector3d>("[]");
+    const auto vector = test::readFrom<ExcVector3d>("[]");
     ASSERT_EQ(reading.lines("TRACE").size(), 1U);
     EXPECT_NE(reading.lines("TRACE").front().find("): readObject"), std::string::npos);
 

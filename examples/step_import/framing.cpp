@@ -18,8 +18,8 @@ namespace framing
 namespace
 {
 
-const std::uint32_t kMaxUnits = 64 * 1024 * 1024; // bulk data travels in shared memory: a longer text is no message
-const std::size_t kPiece = 1024 * 1024;
+const std::uint32_t kMaxUnits = 1U << 26; // bulk data travels in shared memory: a longer text is no message
+const std::size_t kPiece = 1U << 20;
 
 [[noreturn]] void fail(const char* what)
 {

@@ -18,9 +18,6 @@ inline const mp::wchar* const kFaces = WIDE("faces");        // integer
 inline const mp::wchar* const kMaterial = WIDE("material");
 inline const mp::wchar* const kDensity = WIDE("density"); // double, g/cm3
 inline const mp::wchar* const kLayer = WIDE("layer");     // one property for each layer
-inline const mp::wchar* const kArea = WIDE("surface area");
-inline const mp::wchar* const kVolume = WIDE("volume");
-inline const mp::wchar* const kCentroid = WIDE("centroid"); // text of three numbers with blanks between
 
 // of the product, from the head of the file
 inline const mp::wchar* const kFileLengthUnit = WIDE("length unit of the file");

@@ -18,14 +18,20 @@ mp::wstring nameIn(const mp::wstring& envelope)
     {
         return {};
     }
-    const auto binary = document.FindMember(WIDE("binary"));
     const auto data = document.FindMember(WIDE("exchange_object_data"));
-    if (binary == document.MemberEnd() || !binary->value.IsTrue() || data == document.MemberEnd() ||
-        !data->value.IsString())
+    if (data == document.MemberEnd())
     {
         return {};
     }
-    return data->value.GetString();
+    if (data->value.IsObject())
+    {
+        const auto bodies = data->value.FindMember(WIDE("shared_acis_buffer_name"));
+        const bool named = bodies != data->value.MemberEnd() && bodies->value.IsString();
+        return named ? bodies->value.GetString() : mp::wstring();
+    }
+    const auto binary = document.FindMember(WIDE("binary"));
+    const bool named = binary != document.MemberEnd() && binary->value.IsTrue() && data->value.IsString();
+    return named ? data->value.GetString() : mp::wstring();
 }
 
 void remove(const mp::wstring& name) noexcept

@@ -6,7 +6,8 @@
 namespace shared_buffers
 {
 
-/// The name of the buffer that an envelope's text tells of; empty for an object that travels as text.
+/// The name of the buffer that an envelope's text tells of, for a whole object or for the bodies of a block; empty for
+/// an object that needs none.
 mp::wstring nameIn(const mp::wstring& envelope);
 
 /// Takes the buffer out of the system. Does not throw: it is used while something else has failed already.

@@ -14,6 +14,8 @@ template <std::size_t N>
 class VRX_API ExcVectorBase : public IJsonObject
 {
 public:
+    ExcVectorBase() = default;
+
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
@@ -22,7 +24,6 @@ public:
     double operator[](std::size_t index) const;
 
 protected:
-    ExcVectorBase() = default;
     explicit ExcVectorBase(const std::array<double, N>& components)
         : m_components(components)
     {

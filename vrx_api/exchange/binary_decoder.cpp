@@ -40,14 +40,17 @@ public:
         try
         {
             decode();
-            return true;
+            m_begun = true;
         }
         catch (const std::exception&)
         {
             m_failure = std::current_exception();
-            return closeAfterFailure();
+            m_begun = closeAfterFailure();
         }
+        return m_begun;
     }
+
+    bool begun() const { return m_begun; }
 
     // Ends a decoding that failed, with the root as far as it came.
     void finish(JsonValue& root) const
@@ -148,14 +151,15 @@ private:
 
     void open(bool object)
     {
+        object ? m_document->StartObject() : m_document->StartArray();
+        m_open.push_back({m_next, 0, object});
         const auto size = take<std::uint64_t>(kNoNumber);
         if (size > remaining())
         {
             throw std::length_error(kNoArray);
         }
-        object ? m_document->StartObject() : m_document->StartArray();
         m_limit = m_next + size;
-        m_open.push_back({m_limit, 0, object});
+        m_open.back().end = m_limit;
     }
 
     void close()
@@ -173,14 +177,17 @@ private:
     }
 
     // Closes what the failure left open; false when not even the root was begun. The value that failed was counted
-    // before it was decoded.
+    // before it was decoded, unless it is the innermost container itself, whose size failed.
     bool closeAfterFailure()
     {
         if (m_open.empty())
         {
             return false;
         }
-        --m_open.back().count;
+        if (m_open.back().count != 0)
+        {
+            --m_open.back().count;
+        }
         m_lastChildCutOff = m_open.size() > 1 || m_open.back().nameAlone();
         while (!m_open.empty())
         {
@@ -216,6 +223,7 @@ private:
     wstring m_units;
     JsonDocument* m_document = nullptr;
     std::exception_ptr m_failure;
+    bool m_begun = false;
     bool m_lastChildCutOff = false;
 };
 
@@ -304,7 +312,10 @@ void JsonBinaryIO::read(const char* data, std::uint64_t size, JsonValue& value, 
     Decoder decoder(data, static_cast<std::size_t>(size));
     JsonDocument document(&allocator);
     document.Populate(decoder);
-    value.Swap(static_cast<JsonValue&>(document));
+    if (decoder.begun())
+    {
+        value.Swap(static_cast<JsonValue&>(document));
+    }
     decoder.finish(value);
 }
 

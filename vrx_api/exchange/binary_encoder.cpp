@@ -144,7 +144,7 @@ private:
     struct Container
     {
         JsonChildren children;
-        std::size_t sizePosition;
+        std::size_t sizePosition = 0;
     };
 
     // True when the value is a container, whose children come next.

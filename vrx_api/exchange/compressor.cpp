@@ -85,10 +85,13 @@ void setOutput(z_stream& stream, Buffer& out, std::size_t written, std::uint64_t
 }
 
 // A gzip stream ends with the size of its content modulo 2^32 (RFC 1952, section 2.3.1). It is only a hint: the bytes
-// may lie, so that it is bounded by what deflate can reach at best, which is 1032 to 1 (zlib's technical notes).
+// may lie, so that it is bounded by what deflate can reach at best, which is 1032 to 1 (zlib's technical notes), and
+// for much memory by what models reach.
 std::uint64_t expectedSize(const char* data, std::uint64_t size)
 {
     constexpr std::uint64_t kBestRatio = 1032;
+    constexpr std::uint64_t kUsualRatio = 32;
+    constexpr std::uint64_t kMuchMemory = std::uint64_t{256} << 20;
     constexpr std::uint64_t kSmallestGzip = 18;
     const auto byte = [data](std::uint64_t at) { return std::uint64_t{static_cast<unsigned char>(data[at])}; };
     const std::uint64_t usual = std::max<std::uint64_t>(size * 2, 1);
@@ -97,7 +100,8 @@ std::uint64_t expectedSize(const char* data, std::uint64_t size)
         return usual;
     }
     const std::uint64_t told = byte(size - 4) | byte(size - 3) << 8 | byte(size - 2) << 16 | byte(size - 1) << 24;
-    return told > size * kBestRatio ? usual : std::max<std::uint64_t>(told, 1);
+    const std::uint64_t bound = std::min(size * kBestRatio, std::max(size * kUsualRatio, kMuchMemory));
+    return told > bound ? usual : std::max<std::uint64_t>(told, 1);
 }
 
 template <class Buffer>

@@ -49,7 +49,7 @@ Bytes contentOf(const IExchangeObject& object)
 wstring share(const IExchangeObject& object)
 {
     const Bytes bytes = contentOf(object);
-    const wstring name = IExchangeObject::generateUUID();
+    wstring name = IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, true);
     buffer.write(bytes.data(), bytes.size());

@@ -160,10 +160,11 @@ TopoDS_Shape revolveAboutZ(const Profile& profile)
 TopoDS_Shape hexagonAlongZ(double zLow, double zHigh, double width)
 {
     const double corner = width / std::sqrt(3.0);
-    std::vector<gp_Pnt> corners;
-    for (int i = 0; i < 6; ++i)
+    std::vector<gp_Pnt> corners(6);
+    for (std::size_t i = 0; i < corners.size(); ++i)
     {
-        corners.emplace_back(corner * std::cos(i * kPi / 3), corner * std::sin(i * kPi / 3), zLow);
+        const double angle = static_cast<double>(i) * kPi / 3;
+        corners[i] = gp_Pnt(corner * std::cos(angle), corner * std::sin(angle), zLow);
     }
     return prism(corners, gp_Vec(0, 0, zHigh - zLow));
 }

@@ -8,6 +8,8 @@ Has a translator import a STEP file and prints the product tree on standard outp
 error.
 
   --json               the tree as JSON
+  --bodies             the exact bodies of each part: their faces, edges and vertices, area, volume and box, measured
+                       from what arrived; not with --json
   --properties         the free properties of the product and of each block below their lines
   --layers MODE        layer names: asm_rep (with the blocks) or saved_visu_rep (not with the blocks)
   --pmi MODE           product manufacturing information: all or none
@@ -89,6 +91,10 @@ Arguments parseArguments(int argc, char** argv)
         {
             arguments.help = true;
         }
+        else if (argument == "--bodies")
+        {
+            arguments.bodies = true;
+        }
         else if (argument == "--json")
         {
             arguments.json = true;
@@ -129,6 +135,10 @@ Arguments parseArguments(int argc, char** argv)
         {
             throw UsageError("there is no option " + std::string(argument));
         }
+    }
+    if (arguments.bodies && arguments.json)
+    {
+        throw UsageError("--bodies goes with the tree as text");
     }
     if (arguments.file.empty() && !arguments.help)
     {

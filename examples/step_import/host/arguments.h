@@ -11,6 +11,7 @@ struct Arguments
     std::string translator; // empty: the one beside this program
     std::string view;       // the page to write, or empty
     std::string picture;    // the picture to make, or empty
+    bool bodies = false;
     bool help = false;
     bool json = false;
     bool properties = false;

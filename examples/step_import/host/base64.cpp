@@ -2,7 +2,7 @@
 
 std::string base64(const std::vector<unsigned char>& bytes)
 {
-    static const char s_digits[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    static const char kDigits[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     std::string text;
     text.reserve((bytes.size() + 2) / 3 * 4);
     for (std::size_t i = 0; i < bytes.size(); i += 3)
@@ -11,10 +11,10 @@ std::string base64(const std::vector<unsigned char>& bytes)
         const unsigned bits = static_cast<unsigned>(bytes[i]) << 16 |
                               (left > 1 ? static_cast<unsigned>(bytes[i + 1]) << 8 : 0U) |
                               (left > 2 ? static_cast<unsigned>(bytes[i + 2]) : 0U);
-        text += s_digits[bits >> 18];
-        text += s_digits[bits >> 12 & 63];
-        text += left > 1 ? s_digits[bits >> 6 & 63] : '=';
-        text += left > 2 ? s_digits[bits & 63] : '=';
+        text += kDigits[bits >> 18];
+        text += kDigits[bits >> 12 & 63];
+        text += left > 1 ? kDigits[bits >> 6 & 63] : '=';
+        text += left > 2 ? kDigits[bits & 63] : '=';
     }
     return text;
 }

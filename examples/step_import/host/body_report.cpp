@@ -1,7 +1,7 @@
 #include "body_report.h"
 
 #include "../kernel_bodies.h"
-#include "mp/narrow.h"
+#include "printable.h"
 #include "translator_session.h"
 
 #include <BinTools.hxx>
@@ -98,17 +98,6 @@ TopoDS_Shape shapeOf(const ENTITY& entity)
         throw TranslatorFailure("The B-rep of a body can not be read.");
     }
     return shape;
-}
-
-// Names come from files: nothing in them may steer the terminal.
-std::string printable(const mp::wstring& text)
-{
-    std::string name = mp::toNarrow(text);
-    for (char& c : name)
-    {
-        c = static_cast<unsigned char>(c) < 0x20 || c == 0x7F ? ' ' : c;
-    }
-    return name;
 }
 
 } // namespace

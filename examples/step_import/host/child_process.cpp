@@ -1,29 +1,27 @@
 #include "child_process.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <system_error>
-
-extern char** environ;
 
 namespace
 {
 
-volatile sig_atomic_t s_interrupted = 0;
-volatile pid_t s_interruptee = -1;
+volatile sig_atomic_t interrupted = 0;
+volatile pid_t interruptee = -1;
 
 extern "C" void onInterrupt(int)
 {
-    s_interrupted = 1;
-    if (s_interruptee > 0)
+    interrupted = 1;
+    if (interruptee > 0)
     {
-        kill(s_interruptee, SIGKILL);
+        kill(interruptee, SIGKILL);
     }
 }
 
@@ -122,7 +120,7 @@ std::string ChildProcess::end()
         }
         ::usleep(10000);
     }
-    s_interruptee = -1;
+    interruptee = -1;
     m_process = -1;
     if (WIFSIGNALED(status))
     {
@@ -132,9 +130,9 @@ std::string ChildProcess::end()
     return "it exited with code " + std::to_string(WEXITSTATUS(status));
 }
 
-void ChildProcess::takeInterrupts()
+void ChildProcess::takeInterrupts() const
 {
-    s_interruptee = m_process;
+    interruptee = m_process;
     struct sigaction action = {};
     action.sa_handler = onInterrupt;
     action.sa_flags = SA_RESTART;
@@ -147,5 +145,5 @@ void ChildProcess::takeInterrupts()
 
 bool ChildProcess::wasInterrupted()
 {
-    return s_interrupted != 0;
+    return interrupted != 0;
 }

@@ -25,7 +25,7 @@ public:
 
     /// From now on SIGINT, SIGTERM and SIGHUP kill this child instead of this process: the end of its output then
     /// brings us to our clearing up.
-    void takeInterrupts();
+    void takeInterrupts() const;
     static bool wasInterrupted();
 
 private:

@@ -1,6 +1,7 @@
 // A host for STEP files: has the translator import a file, prints its product tree and shows the model.
 
 #include "arguments.h"
+#include "body_report.h"
 #include "mp/narrow.h"
 #include "page_picture.h"
 #include "progress_bar.h"
@@ -87,10 +88,18 @@ public:
         {
             m_page.add(*root);
         }
+        else if (const auto bodies = std::dynamic_pointer_cast<vrx::ExcBlockGeometry>(object))
+        {
+            m_bodies.add(*bodies);
+        }
     }
 
     bool wants(const vrx::IExchangeObject& object) override
     {
+        if (object.objectName() == vrx::ExcBlockGeometry::objName())
+        {
+            return m_arguments.bodies;
+        }
         const bool structure = object.objectName() == vrx::ExcProductStructure::objName();
         return structure || !m_arguments.view.empty() || !m_arguments.picture.empty();
     }
@@ -103,12 +112,14 @@ public:
 
     const std::shared_ptr<vrx::ExcProductStructure>& structure() const { return m_structure; }
     const ScenePage& page() const { return m_page; }
+    const BodyReport& bodies() const { return m_bodies; }
 
 private:
     const Arguments& m_arguments;
     ProgressBar m_bar;
     std::shared_ptr<vrx::ExcProductStructure> m_structure;
     ScenePage m_page;
+    BodyReport m_bodies;
 };
 
 std::string defaultTranslator()
@@ -191,6 +202,7 @@ int import(const Arguments& arguments)
 
     std::shared_ptr<vrx::ExcProductStructure> structure;
     ScenePage page;
+    BodyReport bodies;
     {
         Listener listener(arguments);
         const vrx::Result result = session.import(options, listener);
@@ -204,6 +216,7 @@ int import(const Arguments& arguments)
         }
         structure = listener.structure();
         page = listener.page();
+        bodies = listener.bodies();
     }
     if (!structure)
     {
@@ -216,6 +229,10 @@ int import(const Arguments& arguments)
     else
     {
         printText(std::cout, *structure, arguments.properties);
+    }
+    if (arguments.bodies)
+    {
+        bodies.print(std::cout, *structure);
     }
     return show(page, *structure, arguments);
 }

@@ -3,19 +3,17 @@
 #include "write_text.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <stdexcept>
 #include <vector>
-
-extern char** environ;
 
 namespace
 {
@@ -53,6 +51,7 @@ private:
 bool run(std::vector<std::string> words)
 {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words)
     {
         arguments.push_back(word.data());
@@ -111,7 +110,7 @@ void takePicture(const std::string& html, const std::string& picture)
         "--disable-quic", "--user-data-dir=" + folder.path() + "/profile"};
     if (::geteuid() == 0)
     {
-        words.push_back("--no-sandbox"); // Chromium refuses to run as root with it
+        words.emplace_back("--no-sandbox"); // Chromium refuses to run as root with it
     }
     words.push_back("file://" + page);
 

@@ -13,7 +13,7 @@ namespace
 
 using References = std::vector<std::shared_ptr<vrx::ExcBlockReference>>;
 
-const std::size_t kMaxLines = 1000 * 1000;
+const std::size_t kMaxLines = 1000000;
 
 // Equal for references that look alike: block, colour, hidden, suppressed.
 using Look = std::array<std::uint64_t, 4>;

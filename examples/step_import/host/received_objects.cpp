@@ -18,7 +18,7 @@ void ReceivedObjects::add(const std::shared_ptr<vrx::IExchangeObject>& object, c
 std::shared_ptr<vrx::IExchangeObject> ReceivedObjects::loadFirst()
 {
     // Loading removes the buffer; when it fails, the entry stays and the destructor does.
-    const std::shared_ptr<vrx::IExchangeObject> object = m_waiting.front().object;
+    std::shared_ptr<vrx::IExchangeObject> object = m_waiting.front().object;
     object->load();
     m_waiting.pop_front();
     return object;

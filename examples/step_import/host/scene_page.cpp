@@ -107,8 +107,8 @@ std::string ScenePage::html(const vrx::ExcProductStructure& structure) const
     {
         page += piece;
     }
-    static const std::string s_place = "{{scene}}";
-    return page.replace(page.find(s_place), s_place.size(), withoutTags(scene(structure)));
+    static const std::string kPlace = "{{scene}}";
+    return page.replace(page.find(kPlace), kPlace.size(), withoutTags(scene(structure)));
 }
 
 std::string ScenePage::scene(const vrx::ExcProductStructure& structure) const

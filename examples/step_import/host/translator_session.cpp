@@ -62,6 +62,31 @@ void loadAll(ReceivedObjects& waiting, ImportListener& listener)
     }
 }
 
+void open(const mp::wstring& envelope, ReceivedObjects& waiting, ImportListener& listener)
+{
+    vrx::ExchangeObjectWrapper wrapper;
+    wrapper.setDelayedLoading(true);
+    framing::fromText(envelope, wrapper);
+
+    const mp::wstring buffer = shared_buffers::nameIn(envelope);
+    if (!wrapper.get())
+    {
+        // A newer translator may send what we do not know.
+        if (!buffer.empty())
+        {
+            shared_buffers::remove(buffer);
+        }
+    }
+    else if (buffer.empty())
+    {
+        handOn(wrapper.get(), listener);
+    }
+    else
+    {
+        waiting.add(wrapper.get(), buffer);
+    }
+}
+
 template <class Message>
 Message parsed(const mp::wstring& text, const char* what)
 {
@@ -115,7 +140,7 @@ vrx::Result TranslatorSession::import(const std::shared_ptr<vrx::ImportOptions>&
         open(text, waiting, listener);
         text = receive();
     }
-    const vrx::Result result = parsed<vrx::Result>(text, "result");
+    auto result = parsed<vrx::Result>(text, "result");
     if (result.code() == vrx::Result::ECode::Ok || result.code() == vrx::Result::ECode::Warning)
     {
         loadAll(waiting, listener);
@@ -152,29 +177,4 @@ mp::wstring TranslatorSession::receive()
         throw TranslatorFailure("The translator died: " + m_translator.end() + reason + ".");
     }
     return *text;
-}
-
-void TranslatorSession::open(const mp::wstring& envelope, ReceivedObjects& waiting, ImportListener& listener)
-{
-    vrx::ExchangeObjectWrapper wrapper;
-    wrapper.setDelayedLoading(true);
-    framing::fromText(envelope, wrapper);
-
-    const mp::wstring buffer = shared_buffers::nameIn(envelope);
-    if (!wrapper.get())
-    {
-        // A newer translator may send what we do not know.
-        if (!buffer.empty())
-        {
-            shared_buffers::remove(buffer);
-        }
-    }
-    else if (buffer.empty())
-    {
-        handOn(wrapper.get(), listener);
-    }
-    else
-    {
-        waiting.add(wrapper.get(), buffer);
-    }
 }

@@ -54,7 +54,6 @@ public:
 private:
     void send(const vrx::Command& command);
     mp::wstring receive();
-    void open(const mp::wstring& envelope, ReceivedObjects& waiting, ImportListener& listener);
 
     ChildProcess m_translator;
 };

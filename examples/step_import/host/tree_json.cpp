@@ -49,7 +49,7 @@ private:
 
     void properties(const vrx::ExcMiscData& data)
     {
-        static const char* const s_types[] = {"unknown", "string", "integer", "double", "boolean", "date_time"};
+        static const char* const kTypes[] = {"unknown", "string", "integer", "double", "boolean", "date_time"};
         m_writer.Key("properties");
         m_writer.StartArray();
         for (const vrx::ExcMiscProperty& property : data.properties())
@@ -57,7 +57,7 @@ private:
             m_writer.StartObject();
             field("name", property.name());
             m_writer.Key("type");
-            m_writer.String(s_types[static_cast<std::size_t>(property.type())]);
+            m_writer.String(kTypes[static_cast<std::size_t>(property.type())]);
             field("value", property.value());
             m_writer.EndObject();
         }

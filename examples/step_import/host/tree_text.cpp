@@ -1,5 +1,5 @@
 #include "../property_names.h"
-#include "mp/narrow.h"
+#include "printable.h"
 #include "product_tree.h"
 #include "tree_output.h"
 
@@ -12,15 +12,6 @@
 
 namespace
 {
-
-// Names come from files: nothing in them may steer the terminal.
-std::string printable(const mp::wstring& text)
-{
-    std::string result = mp::toNarrow(text);
-    std::replace_if(
-        result.begin(), result.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, ' ');
-    return result;
-}
 
 std::string counted(const std::string& count, const char* singular, const char* plural)
 {

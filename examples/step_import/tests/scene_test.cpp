@@ -31,7 +31,7 @@ std::shared_ptr<vrx::ExcVisuNode> meshNode(const std::vector<vrx::ExcVisuFace::P
     face->setId(WIDE("f0"));
     face->setVertices(std::vector<float>{0, 0, 0, 1, 0, 0, 0, 1, 0});
     face->setPolygons(polygons);
-    const auto node = std::make_shared<vrx::ExcVisuNode>();
+    auto node = std::make_shared<vrx::ExcVisuNode>();
     node->setMesh(std::make_shared<vrx::ExcVisuMesh>());
     node->mesh()->addFace(face);
     return node;

@@ -63,7 +63,7 @@ EType typeOf(const XCAFDimTolObjects_DimensionObject& dimension)
 
 EType typeOf(const XCAFDimTolObjects_GeomToleranceObject& tolerance)
 {
-    static const std::map<XCAFDimTolObjects_GeomToleranceType, EType> s_types = {
+    static const std::map<XCAFDimTolObjects_GeomToleranceType, EType> kTypes = {
         {XCAFDimTolObjects_GeomToleranceType_Angularity, EType::GEOMTOL_ANGULARITY},
         {XCAFDimTolObjects_GeomToleranceType_CircularRunout, EType::GEOMTOL_RUNOUT_CIRCULAR},
         {XCAFDimTolObjects_GeomToleranceType_CircularityOrRoundness, EType::GEOMTOL_CIRCULARITY},
@@ -80,8 +80,8 @@ EType typeOf(const XCAFDimTolObjects_GeomToleranceObject& tolerance)
         {XCAFDimTolObjects_GeomToleranceType_Symmetry, EType::GEOMTOL_SYMMETRY},
         {XCAFDimTolObjects_GeomToleranceType_TotalRunout, EType::GEOMTOL_RUNOUT_TOTAL},
     };
-    const auto found = s_types.find(tolerance.GetType());
-    return found != s_types.end() ? found->second : EType::GEOMTOL_UNKNOWN;
+    const auto found = kTypes.find(tolerance.GetType());
+    return found != kTypes.end() ? found->second : EType::GEOMTOL_UNKNOWN;
 }
 
 EType typeOf(const XCAFDimTolObjects_DatumObject& datum)

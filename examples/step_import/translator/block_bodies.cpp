@@ -12,12 +12,17 @@
 namespace
 {
 
-TopTools_IndexedMapOfShape solidsOf(const TopoDS_Shape& shape)
+std::vector<TopoDS_Shape> solidsOf(const TopoDS_Shape& shape)
 {
-    TopTools_IndexedMapOfShape solids;
+    TopTools_IndexedMapOfShape map;
     if (!shape.IsNull())
     {
-        TopExp::MapShapes(shape, TopAbs_SOLID, solids);
+        TopExp::MapShapes(shape, TopAbs_SOLID, map);
+    }
+    std::vector<TopoDS_Shape> solids;
+    for (int i = 1; i <= map.Extent(); ++i)
+    {
+        solids.push_back(map(i));
     }
     return solids;
 }

@@ -12,14 +12,11 @@
 #include <TopExp_Explorer.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
 #include <XCAFDoc.hxx>
-#include <XCAFDoc_Area.hxx>
-#include <XCAFDoc_Centroid.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_LayerTool.hxx>
 #include <XCAFDoc_MaterialTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
-#include <XCAFDoc_Volume.hxx>
 
 #include <algorithm>
 #include <cmath>
@@ -38,15 +35,6 @@ bool isBody(const TDF_Label& label)
 {
     const TopoDS_Shape shape = XCAFDoc_ShapeTool::GetShape(label);
     return !shape.IsNull() && shape.ShapeType() <= TopAbs_SHELL;
-}
-
-// Only of the product as a whole: the figures of one of its shapes say nothing of the others.
-template <class Attribute>
-Handle(Attribute) find(const TDF_Label& label)
-{
-    Handle(Attribute) attribute;
-    label.FindAttribute(Attribute::GetID(), attribute);
-    return attribute;
 }
 
 } // namespace
@@ -78,7 +66,7 @@ vrx::ExcColor BlockContent::colorOf(const TDF_Label& label)
         double green = 0;
         double blue = 0;
         color.GetRGB().Values(red, green, blue, Quantity_TOC_sRGB);
-        const double alpha = static_cast<double>(color.Alpha());
+        const auto alpha = static_cast<double>(color.Alpha());
         return alpha < 1 ? vrx::ExcColor(channel(red), channel(green), channel(blue), channel(alpha))
                          : vrx::ExcColor(channel(red), channel(green), channel(blue));
     }
@@ -89,7 +77,7 @@ vrx::ExcColor BlockContent::color() const
 {
     for (const TDF_Label& label : m_labels)
     {
-        const vrx::ExcColor color = colorOf(label);
+        vrx::ExcColor color = colorOf(label);
         if (color.hasRGB())
         {
             return color;
@@ -171,26 +159,5 @@ void BlockContent::addLayers(vrx::ExcMiscData& data) const
     for (const mp::wstring& name : names)
     {
         add(data, property_names::kLayer, vrx::ExcMiscProperty::EType::String, name);
-    }
-}
-
-void BlockContent::addValidationProperties(vrx::ExcMiscData& data) const
-{
-    const Handle(XCAFDoc_Area) area = find<XCAFDoc_Area>(m_labels.front());
-    if (!area.IsNull())
-    {
-        add(data, property_names::kArea, area->Get());
-    }
-    const Handle(XCAFDoc_Volume) volume = find<XCAFDoc_Volume>(m_labels.front());
-    if (!volume.IsNull())
-    {
-        add(data, property_names::kVolume, volume->Get());
-    }
-    const Handle(XCAFDoc_Centroid) centroid = find<XCAFDoc_Centroid>(m_labels.front());
-    if (!centroid.IsNull())
-    {
-        const gp_Pnt point = centroid->Get();
-        add(data, property_names::kCentroid, vrx::ExcMiscProperty::EType::String,
-            numberText(point.X()) + WIDE(" ") + numberText(point.Y()) + WIDE(" ") + numberText(point.Z()));
     }
 }

@@ -21,7 +21,6 @@ public:
     void addCounts(vrx::ExcMiscData& data) const;
     void addMaterial(vrx::ExcMiscData& data) const;
     void addLayers(vrx::ExcMiscData& data) const;
-    void addValidationProperties(vrx::ExcMiscData& data) const;
 
     static vrx::ExcColor colorOf(const TDF_Label& label);
 

@@ -3,14 +3,15 @@
 #include "../property_names.h"
 #include "misc_properties.h"
 #include "occt_text.h"
+#include "step_measures.h"
 #include "step_reader.h"
 
 #include <APIHeaderSection_MakeHeader.hxx>
 #include <Interface_HArray1OfHAsciiString.hxx>
 #include <StepBasic_MeasureValueMember.hxx>
-#include <StepBasic_MeasureWithUnit.hxx>
 #include <StepBasic_ProductDefinition.hxx>
 #include <StepBasic_ProductDefinitionRelationship.hxx>
+#include <StepGeom_CartesianPoint.hxx>
 #include <StepRepr_DescriptiveRepresentationItem.hxx>
 #include <StepRepr_MeasureRepresentationItem.hxx>
 #include <StepRepr_ProductDefinitionShape.hxx>
@@ -27,17 +28,19 @@ namespace
 
 using vrx::ExcMiscProperty;
 
-// Written for comparison with the receiver's own figures, or brought into the XDE document by its reader.
+const char kValidation[] = "geometric validation property";
+const char kMaterial[] = "material property";
+
+// The others are written for a receiver to check its own work with, or come in the XDE document.
 bool isAttribute(const std::string& name)
 {
-    static const std::set<std::string> s_others = {"",
-                                                   "geometric validation property",
-                                                   "attribute validation property",
-                                                   "pmi validation property",
-                                                   "assembly validation property",
-                                                   "tessellated validation property",
-                                                   "material property"};
-    return s_others.count(name) == 0;
+    static const std::set<std::string> kOthers = {"",
+                                                  "attribute validation property",
+                                                  "pmi validation property",
+                                                  "assembly validation property",
+                                                  "tessellated validation property",
+                                                  kMaterial};
+    return kOthers.count(name) == 0;
 }
 
 // What the attribute says of a whole product or usage; nothing for those of faces, documents and the like.
@@ -55,24 +58,29 @@ Handle(Standard_Transient) owner(const StepRepr_CharacterizedDefinition& definit
     return shape.IsNull() ? Handle(Standard_Transient)() : owner(shape->Definition());
 }
 
-void addItem(vrx::ExcMiscData& data, const mp::wstring& name, const Handle(StepRepr_RepresentationItem) & item)
+void addItem(vrx::ExcMiscData& data, const mp::wstring& name, const Handle(StepRepr_RepresentationItem) & item,
+             double factor)
 {
-    const auto text = Handle(StepRepr_DescriptiveRepresentationItem)::DownCast(item);
-    if (!text.IsNull())
+    if (const auto text = Handle(StepRepr_DescriptiveRepresentationItem)::DownCast(item); !text.IsNull())
     {
         add(data, name, ExcMiscProperty::EType::String, occt_text::wide(text->Description()));
-        return;
     }
-    const auto measure = Handle(StepRepr_MeasureRepresentationItem)::DownCast(item);
-    if (!measure.IsNull())
+    else if (const auto measure = Handle(StepRepr_MeasureRepresentationItem)::DownCast(item); !measure.IsNull())
     {
-        add(data, name, measure->Measure()->ValueComponent());
-        return;
+        add(data, name, inMillimetres(measure->Measure(), factor));
     }
-    const auto value = Handle(StepRepr_ValueRepresentationItem)::DownCast(item);
-    if (!value.IsNull() && !value->ValueComponentMember().IsNull())
+    else if (const auto value = Handle(StepRepr_ValueRepresentationItem)::DownCast(item);
+             !value.IsNull() && !value->ValueComponentMember().IsNull())
     {
         add(data, name, value->ValueComponentMember()->Real());
+    }
+    else if (const auto point = Handle(StepGeom_CartesianPoint)::DownCast(item);
+             !point.IsNull() && point->NbCoordinates() == 3)
+    {
+        add(data, name, ExcMiscProperty::EType::String,
+            numberText(point->CoordinatesValue(1) * factor) + WIDE(' ') +
+                numberText(point->CoordinatesValue(2) * factor) + WIDE(' ') +
+                numberText(point->CoordinatesValue(3) * factor));
     }
 }
 
@@ -81,7 +89,7 @@ void addText(vrx::ExcMiscData& data, const mp::wchar* name, ExcMiscProperty::ETy
              const Handle(TCollection_HAsciiString) & text)
 {
     const mp::wstring wide = occt_text::wide(text);
-    if (wide.find_first_not_of(WIDE(" ")) != mp::wstring::npos)
+    if (wide.find_first_not_of(WIDE(' ')) != mp::wstring::npos)
     {
         add(data, name, type, wide);
     }
@@ -157,7 +165,7 @@ void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepr
     }
     const Handle(Standard_Transient) entity = owner(definition->Definition());
     const std::string name = definition->Name()->ToCString();
-    if (!entity.IsNull() && name == "material property")
+    if (!entity.IsNull() && name == kMaterial)
     {
         m_withMaterial.insert(entity.get());
     }
@@ -165,9 +173,13 @@ void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepr
     {
         return;
     }
+    // A validation property is a group of figures, each of which has its own name: "volume measure" and so on.
+    const double factor = lengthFactor(values);
     for (int i = 1; i <= values->NbItems(); ++i)
     {
-        addItem(m_attributes[entity.get()], occt_text::wide(definition->Name()), values->ItemsValue(i));
+        const Handle(StepRepr_RepresentationItem) item = values->ItemsValue(i);
+        addItem(m_attributes[entity.get()], occt_text::wide(name == kValidation ? item->Name() : definition->Name()),
+                item, factor);
     }
 }
 

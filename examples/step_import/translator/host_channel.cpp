@@ -44,7 +44,7 @@ std::optional<mp::wstring> HostChannel::receive()
     return framing::read(STDIN_FILENO);
 }
 
-void HostChannel::send(const mp::ISerializable& message)
+void HostChannel::send(const mp::ISerializable& message) const
 {
     framing::write(m_output, framing::toText(message));
 }

@@ -16,9 +16,9 @@ public:
     HostChannel();
 
     /// The next command's text, or nothing when the host has closed the pipe.
-    std::optional<mp::wstring> receive();
+    static std::optional<mp::wstring> receive();
 
-    void send(const mp::ISerializable& message);
+    void send(const mp::ISerializable& message) const;
 
     /// In an envelope. When the host is gone, the shared memory that the envelope names is removed again.
     void send(const std::shared_ptr<vrx::IExchangeObject>& object);

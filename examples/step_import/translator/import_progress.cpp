@@ -38,7 +38,7 @@ void ImportProgress::send(int progress)
     m_sent = progress;
 }
 
-void KernelProgress::Show(const Message_ProgressScope&, const Standard_Boolean)
+void KernelProgress::Show(const Message_ProgressScope&, Standard_Boolean)
 {
     m_progress.advance(GetPosition());
 }

@@ -38,7 +38,7 @@ public:
     }
 
 protected:
-    void Show(const Message_ProgressScope& scope, const Standard_Boolean isForce) override;
+    void Show(const Message_ProgressScope& scope, Standard_Boolean isForce) override;
 
 private:
     ImportProgress& m_progress;

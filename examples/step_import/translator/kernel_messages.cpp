@@ -4,7 +4,7 @@
 
 #include <TCollection_AsciiString.hxx>
 
-void KernelMessages::send(const TCollection_AsciiString& text, const Message_Gravity gravity) const
+void KernelMessages::send(const TCollection_AsciiString& text, Message_Gravity gravity) const
 {
     TCollection_AsciiString line = text;
     line.LeftAdjust();

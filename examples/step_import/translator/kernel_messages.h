@@ -18,7 +18,7 @@ public:
     const std::string& lastFailure() const { return m_lastFailure; }
 
 protected:
-    void send(const TCollection_AsciiString& text, const Message_Gravity gravity) const override;
+    void send(const TCollection_AsciiString& text, Message_Gravity gravity) const override;
 
 private:
     HostChannel& m_channel;

@@ -53,7 +53,7 @@ void addPartNumber(vrx::ExcMiscData& data, const Handle(StepBasic_ProductDefinit
 
 vrx::ELengthUnitType lengthUnit(const Handle(TDocStd_Document) & document)
 {
-    static const std::pair<double, vrx::ELengthUnitType> s_units[] = {
+    static const std::pair<double, vrx::ELengthUnitType> kUnits[] = {
         {0.001, vrx::ELengthUnitType::Millimeter}, {0.01, vrx::ELengthUnitType::Centimeter},
         {1, vrx::ELengthUnitType::Meter},          {1000, vrx::ELengthUnitType::Kilometer},
         {0.0254, vrx::ELengthUnitType::Inch},      {0.3048, vrx::ELengthUnitType::Foot},
@@ -62,7 +62,7 @@ vrx::ELengthUnitType lengthUnit(const Handle(TDocStd_Document) & document)
     double meters = 0;
     if (XCAFDoc_DocumentTool::GetLengthUnit(document, meters))
     {
-        for (const auto& [length, unit] : s_units)
+        for (const auto& [length, unit] : kUnits)
         {
             if (std::abs(meters - length) < length * 1e-9)
             {
@@ -115,7 +115,7 @@ void ProductStructureBuilder::addRoot(const TDF_Label& label)
 
 std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const TDF_Label& label, std::uint64_t id)
 {
-    const auto block = std::make_shared<vrx::ExcBlock>();
+    auto block = std::make_shared<vrx::ExcBlock>();
     block->setId(id);
     block->setName(nameOf(label));
     block->setStorageName(mp::toWide(std::filesystem::path(m_model.path).filename().string()));
@@ -144,7 +144,6 @@ std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const TDF_Label& l
     {
         content.addMaterial(block->miscData());
     }
-    content.addValidationProperties(block->miscData());
     return block;
 }
 
@@ -153,7 +152,7 @@ std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const
     const TDF_Label target = referred(component);
     const BlockContent content(target, ownShapes(target));
 
-    const auto reference = std::make_shared<vrx::ExcBlockReference>();
+    auto reference = std::make_shared<vrx::ExcBlockReference>();
     reference->setGuid(vrx::IExchangeObject::generateUUID());
     reference->setBlockId(blockId(target));
     reference->setTransformation(occt_transformation::of(XCAFDoc_ShapeTool::GetLocation(component)));
@@ -178,13 +177,6 @@ std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const
 std::uint64_t ProductStructureBuilder::blockId(const TDF_Label& label)
 {
     return static_cast<std::uint64_t>(m_blocks.Add(label));
-}
-
-std::vector<TDF_Label> ProductStructureBuilder::components(const TDF_Label& label) const
-{
-    TDF_LabelSequence sequence;
-    XCAFDoc_ShapeTool::GetComponents(label, sequence, false);
-    return {sequence.begin(), sequence.end()};
 }
 
 // The shapes of a part that XDE has made an assembly of.

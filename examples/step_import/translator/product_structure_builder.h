@@ -29,7 +29,6 @@ private:
     std::shared_ptr<vrx::ExcBlock> block(const TDF_Label& label, std::uint64_t id);
     std::shared_ptr<vrx::ExcBlockReference> reference(const TDF_Label& component);
     std::uint64_t blockId(const TDF_Label& label);
-    std::vector<TDF_Label> components(const TDF_Label& label) const;
     std::vector<TDF_Label> ownShapes(const TDF_Label& label) const;
     bool isPart(const TDF_Label& label) const;
 

@@ -85,7 +85,7 @@ public:
 
     std::shared_ptr<vrx::ExcVisuView> plane() const
     {
-        const auto view = std::make_shared<vrx::ExcVisuView>();
+        auto view = std::make_shared<vrx::ExcVisuView>();
         describe(*view, "view");
         view->setOrigin(vector(m_extent.middle));
         view->setDirectionU(vector(up() ^ m_back.XYZ()));
@@ -95,7 +95,7 @@ public:
 
     std::shared_ptr<vrx::ExcVisuCapture> capture() const
     {
-        const auto capture = std::make_shared<vrx::ExcVisuCapture>();
+        auto capture = std::make_shared<vrx::ExcVisuCapture>();
         describe(*capture, "capture");
         capture->setCamera(camera());
         capture->setClippingPlane(clippingPlane());

@@ -10,14 +10,14 @@ namespace scene_nodes
 
 inline std::shared_ptr<vrx::ExcVisuNode> make(vrx::ExcVisuNode::EType type)
 {
-    const auto node = std::make_shared<vrx::ExcVisuNode>();
+    auto node = std::make_shared<vrx::ExcVisuNode>();
     node->setType(type);
     return node;
 }
 
 inline std::shared_ptr<vrx::ExcVisuNode> addTo(vrx::ExcVisuNode& parent, vrx::ExcVisuNode::EType type)
 {
-    const std::shared_ptr<vrx::ExcVisuNode> node = make(type);
+    std::shared_ptr<vrx::ExcVisuNode> node = make(type);
     parent.addChildNode(node);
     return node;
 }

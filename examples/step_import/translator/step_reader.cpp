@@ -126,7 +126,7 @@ std::string damage(const Interface_InterfaceModel& entities)
     int unreadable = 0;
     for (int i = 1; i <= entities.NbEntities(); ++i)
     {
-        const Handle(Standard_Transient) entity = entities.Value(i);
+        const Handle(Standard_Transient)& entity = entities.Value(i);
         const bool isGeometry = entity->IsKind(STANDARD_TYPE(StepShape_TopologicalRepresentationItem)) ||
                                 entity->IsKind(STANDARD_TYPE(StepGeom_GeometricRepresentationItem));
         unreadable += isGeometry && entities.IsErrorEntity(i) ? 1 : 0;

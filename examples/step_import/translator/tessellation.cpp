@@ -131,7 +131,7 @@ bool isSeam(const TopoDS_Edge& edge)
 
 std::shared_ptr<vrx::ExcVisuEdge> polyline(std::vector<float> points)
 {
-    const auto edge = std::make_shared<vrx::ExcVisuEdge>();
+    auto edge = std::make_shared<vrx::ExcVisuEdge>();
     std::vector<std::int32_t> indices(points.size() / 3);
     for (std::size_t i = 0; i < indices.size(); ++i)
     {
@@ -198,7 +198,7 @@ std::shared_ptr<vrx::ExcVisuFace> face(const TopoDS_Face& face)
     {
         append(vertices, triangulation->Node(i).Transformed(location).XYZ());
     }
-    const auto result = std::make_shared<vrx::ExcVisuFace>();
+    auto result = std::make_shared<vrx::ExcVisuFace>();
     result->setVertices(std::move(vertices));
     result->setNormals(normalsOf(face, *triangulation, location));
     result->setPolygons(trianglesOf(*triangulation, face.Orientation() == TopAbs_REVERSED));

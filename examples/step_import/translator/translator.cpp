@@ -1,6 +1,7 @@
 #include "translator.h"
 
 #include "../framing.h"
+#include "block_bodies.h"
 #include "import_progress.h"
 #include "mp/narrow.h"
 #include "pmi_summary.h"
@@ -16,10 +17,12 @@
 #include <Standard_Failure.hxx>
 #include <Standard_Version.hxx>
 
+#include <cstdlib>
 #include <exception>
 #include <new>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -58,7 +61,7 @@ void Translator::run()
 {
     OSD::SetSignal(false);
     std::optional<mp::wstring> text;
-    while (m_kernelIsIntact && (text = m_channel.receive()))
+    while (m_kernelIsIntact && (text = HostChannel::receive()))
     {
         answer(*text);
     }
@@ -158,9 +161,34 @@ vrx::Result Translator::translate(const vrx::ImportOptions& options)
     m_channel.send(structure);
     m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
 
+    sendBodies(*structure, builder, progress);
     sendVisualization(VisualizationBuilder(model, *structure, builder.blocks()), *structure, progress);
     return model.warning.empty() ? result(vrx::Result::ECode::Ok, "")
                                  : result(vrx::Result::ECode::Warning, model.warning);
+}
+
+void Translator::sendBodies(const vrx::ExcProductStructure& structure, const ProductStructureBuilder& builder,
+                            ImportProgress& progress)
+{
+    // Test switch: tells what is measured of the bodies here.
+    const bool figures = std::getenv("STEP_TRANSLATOR_FIGURES") != nullptr;
+    progress.beginStage("Sending the bodies", 65);
+    double done = 0;
+    for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
+    {
+        if (block->isPart())
+        {
+            const TopoDS_Shape shape = XCAFDoc_ShapeTool::GetShape(builder.blocks()(static_cast<int>(block->id())));
+            const std::shared_ptr<vrx::ExcBlockGeometry> bodies = blockBodies(*block, shape);
+            bodies->own(false);
+            m_channel.send(bodies);
+            for (const std::string& line : figures ? figuresOfBodies(*block, shape) : std::vector<std::string>())
+            {
+                m_channel.log(line);
+            }
+        }
+        progress.advance(++done / static_cast<double>(structure.blocks().size()));
+    }
 }
 
 void Translator::sendVisualization(const VisualizationBuilder& builder, const vrx::ExcProductStructure& structure,

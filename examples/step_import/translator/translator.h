@@ -7,6 +7,7 @@
 #include <memory>
 
 class ImportProgress;
+class ProductStructureBuilder;
 class VisualizationBuilder;
 
 /// Answers commands until the host closes the pipe.
@@ -20,6 +21,8 @@ private:
     void sendInfo();
     vrx::Result import(const vrx::Command& command);
     vrx::Result translate(const vrx::ImportOptions& options);
+    void sendBodies(const vrx::ExcProductStructure& structure, const ProductStructureBuilder& builder,
+                    ImportProgress& progress);
     void sendVisualization(const VisualizationBuilder& builder, const vrx::ExcProductStructure& structure,
                            ImportProgress& progress);
 

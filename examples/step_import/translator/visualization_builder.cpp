@@ -30,7 +30,7 @@ std::shared_ptr<vrx::ExcRootAssemblyVisualization> VisualizationBuilder::root() 
     {
         return nullptr;
     }
-    const auto visualization = std::make_shared<vrx::ExcRootAssemblyVisualization>();
+    auto visualization = std::make_shared<vrx::ExcRootAssemblyVisualization>();
     visualization->setVisualizationData(data);
     return visualization;
 }
@@ -45,7 +45,7 @@ std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vr
     const auto data = std::make_shared<vrx::ExcVisualizationData>();
     data->setUnits(m_structure.units());
     data->addSceneRootNode(scene);
-    const auto visualization = std::make_shared<vrx::ExcBlockVisualization>();
+    auto visualization = std::make_shared<vrx::ExcBlockVisualization>();
     visualization->setBlockId(block.id());
     visualization->setVisualizationData(data);
     return visualization;

@@ -53,10 +53,10 @@ export function buildToolbar(bar, stage, onFit) {
 const vector = ([x, y, z]) => new Vector3(x, y, z);
 
 // A view without a size of its own shows the whole model from its direction.
-function show(stage, view) {
+function show(stage, view, annotationIds) {
   const { camera } = view;
   stage.setClipping(view.clipping ?? null);
-  stage.setAnnotations(view.annotationIds.length ? view.annotationIds : null);
+  stage.setAnnotations(annotationIds);
   const eye = vector(camera.eye);
   const target = vector(camera.target);
   const up = vector(camera.up);
@@ -74,12 +74,14 @@ export function buildSavedViews(bar, stage, views) {
   const label = document.createElement('span');
   label.textContent = 'Saved views';
   bar.append(label);
+  // Where no view names its annotations, all of them belong to each.
+  const linked = views.some((view) => view.annotationIds.length);
   const choose = (chosen, action) => {
     for (const other of bar.querySelectorAll('button')) other.ariaPressed = other === chosen;
     action();
   };
   for (const view of views) {
-    bar.append(button(view.name || view.id, (self) => choose(self, () => show(stage, view))));
+    bar.append(button(view.name || view.id, (self) => choose(self, () => show(stage, view, linked ? view.annotationIds : null))));
   }
   const all = button('All', (self) =>
     choose(self, () => {
