@@ -115,8 +115,6 @@ problems_list_prop::problems_list_prop()
     noteCall("problems_list_prop::problems_list_prop");
 }
 
-problems_list_prop::~problems_list_prop() = default;
-
 void problems_list_prop::process_result(outcome&, problems_list_prop_type type, logical always)
 {
     enterCall("problems_list_prop::process_result", {static_cast<int>(type), always});

@@ -113,7 +113,6 @@ public:
     problems_list_prop();
     problems_list_prop(const problems_list_prop&) = delete;
     problems_list_prop& operator=(const problems_list_prop&) = delete;
-    ~problems_list_prop();
 
     void process_result(outcome& result, problems_list_prop_type type, logical always);
 };

@@ -25,36 +25,36 @@ static void touch(std::size_t bytes)
 // glibc's own names of the functions that are replaced below.
 extern "C"
 {
-    // NOLINTBEGIN(bugprone-reserved-identifier)
+    // NOLINTBEGIN(bugprone-reserved-identifier, readability-identifier-naming)
     void* __libc_malloc(std::size_t size);
     void* __libc_calloc(std::size_t count, std::size_t size);
     void* __libc_realloc(void* block, std::size_t size);
     void __libc_free(void* block);
-    // NOLINTEND(bugprone-reserved-identifier)
+    // NOLINTEND(bugprone-reserved-identifier, readability-identifier-naming)
 }
 
 namespace
 {
 
-bool s_watching = false;
-std::int64_t s_held = 0;
-std::int64_t s_peak = 0;
+bool isWatching = false;
+std::int64_t heldBytes = 0;
+std::int64_t peakBytes = 0;
 
 void* taken(void* block)
 {
-    if (s_watching)
+    if (isWatching)
     {
-        s_held += static_cast<std::int64_t>(malloc_usable_size(block));
-        s_peak = s_held > s_peak ? s_held : s_peak;
+        heldBytes += static_cast<std::int64_t>(malloc_usable_size(block));
+        peakBytes = heldBytes > peakBytes ? heldBytes : peakBytes;
     }
     return block;
 }
 
 void given(void* block)
 {
-    if (s_watching)
+    if (isWatching)
     {
-        s_held -= static_cast<std::int64_t>(malloc_usable_size(block));
+        heldBytes -= static_cast<std::int64_t>(malloc_usable_size(block));
     }
 }
 
@@ -63,6 +63,7 @@ void given(void* block)
 // The program's functions of these names stand before the C library's for the libraries that it loads, too.
 extern "C"
 {
+    // NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 
     void* malloc(std::size_t size)
     {
@@ -86,6 +87,7 @@ extern "C"
         __libc_free(block);
     }
 
+    // NOLINTEND(readability-inconsistent-declaration-parameter-name)
 } // extern "C"
 
 namespace bench
@@ -93,19 +95,19 @@ namespace bench
 
 HeapPeak::HeapPeak()
 {
-    s_held = 0;
-    s_peak = 0;
-    s_watching = true;
+    heldBytes = 0;
+    peakBytes = 0;
+    isWatching = true;
 }
 
 HeapPeak::~HeapPeak()
 {
-    s_watching = false;
+    isWatching = false;
 }
 
 std::size_t HeapPeak::bytes() const // NOLINT(readability-convert-member-functions-to-static)
 {
-    return static_cast<std::size_t>(s_peak);
+    return static_cast<std::size_t>(peakBytes);
 }
 
 void holdHeap(std::size_t bytes)

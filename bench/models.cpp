@@ -49,7 +49,7 @@ wstring numbered(const char* name, std::size_t number)
 
 std::shared_ptr<vrx::ExcBlock> makeBlock(std::uint64_t id, bool part)
 {
-    const auto block = std::make_shared<vrx::ExcBlock>();
+    auto block = std::make_shared<vrx::ExcBlock>();
     block->setId(id);
     block->setName(numbered(part ? "Hex bolt M8x" : "Clamp assembly ", id));
     block->setStorageName(numbered(part ? "hex_bolt_m8_" : "clamp_assembly_", id) + WIDE(".prt"));
@@ -69,7 +69,7 @@ void place(vrx::ExcTransformation& transformation, Noise& noise)
 
 std::shared_ptr<vrx::ExcBlockReference> makeReference(std::uint64_t blockId, std::size_t number, Noise& noise)
 {
-    const auto reference = std::make_shared<vrx::ExcBlockReference>();
+    auto reference = std::make_shared<vrx::ExcBlockReference>();
     reference->setGuid(noise.guid());
     reference->setPersistentId(numbered("", 100000 + number));
     reference->setPersistentName(numbered("Hex bolt M8x:", number));
@@ -136,7 +136,7 @@ std::shared_ptr<vrx::ExcVisuFace> makeFace(std::size_t number, Noise& noise)
             }
         }
     }
-    const auto face = std::make_shared<vrx::ExcVisuFace>();
+    auto face = std::make_shared<vrx::ExcVisuFace>();
     face->setVertices(std::move(vertices));
     face->setNormals(std::move(normals));
     face->setPolygons(makeTriangles());

@@ -31,6 +31,23 @@ void share(const vrx::wstring& name, const vrx::Bytes& content)
     }
 }
 
+vrx::Bytes encoded(const vrx::IExchangeObject& object)
+{
+    vrx::JsonDocument tree;
+    object.writeObject(tree, tree.GetAllocator());
+    vrx::Bytes bytes;
+    vrx::JsonBinaryIO::write(bytes, tree);
+    return bytes;
+}
+
+vrx::Bytes deflated(const vrx::Bytes& plain)
+{
+    constexpr int kDefaultCompression = -1;
+    vrx::Bytes bytes;
+    vrx::Compressor::compress(bytes, plain.data(), plain.size(), kDefaultCompression);
+    return bytes;
+}
+
 std::size_t peakOfWrite(std::shared_ptr<vrx::IExchangeObject> (*make)())
 {
     const HeapPeak peak;
@@ -51,15 +68,11 @@ std::size_t peakOfRead(const Road& road)
 Road::Road(std::string roadName, std::shared_ptr<vrx::IExchangeObject> (*make)())
     : name(std::move(roadName))
     , object(make())
+    , binary(encoded(*object))
+    , compressed(deflated(binary))
+    , writePeak(peakOfWrite(make))
+    , readPeak(peakOfRead(*this))
 {
-    {
-        vrx::JsonDocument tree;
-        object->writeObject(tree, tree.GetAllocator());
-        vrx::JsonBinaryIO::write(binary, tree);
-    }
-    vrx::Compressor::compress(compressed, binary.data(), binary.size(), -1);
-    writePeak = peakOfWrite(make);
-    readPeak = peakOfRead(*this);
 }
 
 SharedContent::SharedContent(const vrx::Bytes& content)

@@ -20,8 +20,8 @@ struct Road
     vrx::Bytes compressed;
 
     /// The most heap that a whole write and a whole read take, model objects included.
-    std::size_t writePeak = 0;
-    std::size_t readPeak = 0;
+    std::size_t writePeak;
+    std::size_t readPeak;
 };
 
 /// A shared memory object in the system, removed at the end.

@@ -49,7 +49,7 @@ void writeBodies(const std::string& payload)
 
 std::shared_ptr<vrx::ExcBlockGeometry> loadEnvelope(const std::string& envelope)
 {
-    const auto geometry = std::dynamic_pointer_cast<vrx::ExcBlockGeometry>(test::opened(envelope));
+    auto geometry = std::dynamic_pointer_cast<vrx::ExcBlockGeometry>(test::opened(envelope));
     geometry->load();
     return geometry;
 }

@@ -35,7 +35,7 @@ BodyFigures figuresOf(const TopoDS_Shape& shape)
     GProp_GProps solid;
     BRepGProp::VolumeProperties(shape, solid, false, false, false);
     figures.volume = solid.Mass();
-    BRepBndLib::Add(shape, figures.box, false);
+    BRepBndLib::AddOptimal(shape, figures.box, false, false);
     return figures;
 }
 

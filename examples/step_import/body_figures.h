@@ -14,7 +14,7 @@ struct BodyFigures
     int vertices = 0;
     double area = 0;
     double volume = 0;
-    Bnd_Box box; // not shrunk to the shape: what the control points and tolerances need
+    Bnd_Box box;
 };
 
 BodyFigures figuresOf(const TopoDS_Shape& shape);

@@ -41,3 +41,7 @@ before=$(ls /dev/shm)
 "$host" --quiet --bodies "$vise" >"$scratch/host"
 [[ $(ls /dev/shm) == "$before" ]] || fail "shared memory is left behind"
 expect 2 "--bodies goes with the tree as text" "$host" --bodies --json "$vise"
+
+# A body's id names it among all of the import.
+"$host" --quiet --bodies "$vise" | sed -n 's/.* id \([0-9]*\):.*/\1/p' | sort >"$scratch/ids"
+[[ -s $scratch/ids && -z $(uniq -d "$scratch/ids") ]] || fail "bodies with one id"

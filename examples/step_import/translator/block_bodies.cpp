@@ -1,7 +1,6 @@
 #include "block_bodies.h"
 
 #include "../body_figures.h"
-#include "../kernel_bodies.h"
 #include "mp/narrow.h"
 #include "solid_body.h"
 #include "translation_error.h"
@@ -29,17 +28,27 @@ std::vector<TopoDS_Shape> solidsOf(const TopoDS_Shape& shape)
 
 } // namespace
 
-std::shared_ptr<vrx::ExcBlockGeometry> blockBodies(const vrx::ExcBlock& block, const TopoDS_Shape& shape)
+std::shared_ptr<vrx::ExcBlockGeometry> BlockBodies::make(const vrx::ExcBlock& block, const TopoDS_Shape& shape)
 {
-    KernelBodies bodies;
+    std::vector<BODY*> made;
+    ENTITY_LIST bodies;
     for (const TopoDS_Shape& solid : solidsOf(shape))
     {
-        addSolidBody(solid, bodies.list());
+        auto* const body = new BODY;
+        m_all.list().add(body);
+        bodies.add(body);
+        made.push_back(body);
+        fillBody(*body, solid);
     }
     auto geometry = std::make_shared<vrx::ExcBlockGeometry>();
     geometry->setBlockId(block.id());
     geometry->own(true);
-    if (!geometry->setGeometry(bodies.list(), false))
+    const bool set = geometry->setGeometry(bodies, false);
+    for (BODY* const body : made)
+    {
+        body->setPayload({});
+    }
+    if (!set)
     {
         throw TranslationError("The bodies of " + mp::toNarrow(block.name()) + " could not be put in shared memory.");
     }

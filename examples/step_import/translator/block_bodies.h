@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../kernel_bodies.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
@@ -9,9 +10,18 @@
 #include <string>
 #include <vector>
 
-/// The solids of a part as bodies in shared memory, in the order of the solids. The buffer is removed with the object
-/// until `own(false)` is called. Throws TranslationError when they could not be put there.
-std::shared_ptr<vrx::ExcBlockGeometry> blockBodies(const vrx::ExcBlock& block, const TopoDS_Shape& shape);
+/// Makes the bodies of an import. They live as long as this object, so that their ids, which are addresses, stay
+/// unique.
+class BlockBodies
+{
+public:
+    /// The solids of a part as bodies in shared memory, in the order of the solids. The buffer is removed with the
+    /// object until `own(false)` is called. Throws TranslationError when they could not be put there.
+    std::shared_ptr<vrx::ExcBlockGeometry> make(const vrx::ExcBlock& block, const TopoDS_Shape& shape);
+
+private:
+    KernelBodies m_all;
+};
 
 /// A line for each of these bodies, with what is measured of its solid here.
 std::vector<std::string> figuresOfBodies(const vrx::ExcBlock& block, const TopoDS_Shape& shape);

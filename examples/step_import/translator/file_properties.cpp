@@ -17,6 +17,7 @@
 #include <StepRepr_ProductDefinitionShape.hxx>
 #include <StepRepr_PropertyDefinition.hxx>
 #include <StepRepr_Representation.hxx>
+#include <StepRepr_ShapeAspect.hxx>
 #include <StepRepr_ValueRepresentationItem.hxx>
 #include <TColStd_SequenceOfAsciiString.hxx>
 
@@ -43,19 +44,20 @@ bool isAttribute(const std::string& name)
     return kOthers.count(name) == 0;
 }
 
-// What the attribute says of a whole product or usage; nothing for those of faces, documents and the like.
-Handle(Standard_Transient) owner(const StepRepr_CharacterizedDefinition& definition)
+// The product definition or usage of which the attribute tells; null for those of faces, documents and the like. Some
+// writers hang the figures of a whole shape on an aspect without a name.
+Handle(Standard_Transient) owner(const StepRepr_CharacterizedDefinition& described)
 {
+    const Handle(StepRepr_ShapeAspect) aspect = described.ShapeAspect();
+    const bool isWhole = !aspect.IsNull() && !aspect->Name().IsNull() && aspect->Name()->IsEmpty();
+    const Handle(StepRepr_ProductDefinitionShape) shape =
+        isWhole ? aspect->OfShape() : described.ProductDefinitionShape();
+    const StepRepr_CharacterizedDefinition definition = shape.IsNull() ? described : shape->Definition();
     if (!definition.ProductDefinition().IsNull())
     {
         return definition.ProductDefinition();
     }
-    if (!definition.ProductDefinitionRelationship().IsNull())
-    {
-        return definition.ProductDefinitionRelationship();
-    }
-    const Handle(StepRepr_ProductDefinitionShape) shape = definition.ProductDefinitionShape();
-    return shape.IsNull() ? Handle(Standard_Transient)() : owner(shape->Definition());
+    return definition.ProductDefinitionRelationship();
 }
 
 void addItem(vrx::ExcMiscData& data, const mp::wstring& name, const Handle(StepRepr_RepresentationItem) & item,

@@ -35,6 +35,13 @@ TDF_Label referred(const TDF_Label& component)
     return XCAFDoc_ShapeTool::GetReferredShape(component, label) ? label : component;
 }
 
+std::vector<TDF_Label> components(const TDF_Label& label)
+{
+    TDF_LabelSequence sequence;
+    XCAFDoc_ShapeTool::GetComponents(label, sequence, false);
+    return {sequence.begin(), sequence.end()};
+}
+
 void addPartNumber(vrx::ExcMiscData& data, const Handle(StepBasic_ProductDefinition) & definition)
 {
     const Handle(StepBasic_ProductDefinitionFormation) version = definition->Formation();

@@ -107,14 +107,12 @@ private:
 
 } // namespace
 
-void addSolidBody(const TopoDS_Shape& solid, ENTITY_LIST& bodies)
+void fillBody(BODY& body, const TopoDS_Shape& solid)
 {
-    auto* const body = new BODY;
-    bodies.add(body);
-    SolidCopy(*body).copy(solid);
+    SolidCopy(body).copy(solid);
 
     std::ostringstream stream(std::ios::binary);
     BinTools::Write(solid, stream, false, false, BinTools_FormatVersion_CURRENT);
     const std::string bytes = stream.str();
-    body->setPayload({bytes.begin(), bytes.end()});
+    body.setPayload({bytes.begin(), bytes.end()});
 }

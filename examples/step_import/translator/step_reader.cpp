@@ -9,7 +9,10 @@
 #include <Interface_InterfaceModel.hxx>
 #include <Message.hxx>
 #include <Message_Messenger.hxx>
-#include <StepGeom_GeometricRepresentationItem.hxx>
+#include <StepGeom_Curve.hxx>
+#include <StepGeom_Placement.hxx>
+#include <StepGeom_Point.hxx>
+#include <StepGeom_Surface.hxx>
 #include <StepShape_TopologicalRepresentationItem.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <XCAFApp_Application.hxx>
@@ -127,8 +130,10 @@ std::string damage(const Interface_InterfaceModel& entities)
     for (int i = 1; i <= entities.NbEntities(); ++i)
     {
         const Handle(Standard_Transient)& entity = entities.Value(i);
-        const bool isGeometry = entity->IsKind(STANDARD_TYPE(StepShape_TopologicalRepresentationItem)) ||
-                                entity->IsKind(STANDARD_TYPE(StepGeom_GeometricRepresentationItem));
+        const bool isGeometry =
+            entity->IsKind(STANDARD_TYPE(StepShape_TopologicalRepresentationItem)) ||
+            entity->IsKind(STANDARD_TYPE(StepGeom_Surface)) || entity->IsKind(STANDARD_TYPE(StepGeom_Curve)) ||
+            entity->IsKind(STANDARD_TYPE(StepGeom_Point)) || entity->IsKind(STANDARD_TYPE(StepGeom_Placement));
         unreadable += isGeometry && entities.IsErrorEntity(i) ? 1 : 0;
     }
     if (unreadable > 0)

@@ -173,15 +173,16 @@ void Translator::sendBodies(const vrx::ExcProductStructure& structure, const Pro
     // Test switch: tells what is measured of the bodies here.
     const bool figures = std::getenv("STEP_TRANSLATOR_FIGURES") != nullptr;
     progress.beginStage("Sending the bodies", 65);
+    BlockBodies bodies;
     double done = 0;
     for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
     {
         if (block->isPart())
         {
             const TopoDS_Shape shape = XCAFDoc_ShapeTool::GetShape(builder.blocks()(static_cast<int>(block->id())));
-            const std::shared_ptr<vrx::ExcBlockGeometry> bodies = blockBodies(*block, shape);
-            bodies->own(false);
-            m_channel.send(bodies);
+            const std::shared_ptr<vrx::ExcBlockGeometry> geometry = bodies.make(*block, shape);
+            geometry->own(false);
+            m_channel.send(geometry);
             for (const std::string& line : figures ? figuresOfBodies(*block, shape) : std::vector<std::string>())
             {
                 m_channel.log(line);
