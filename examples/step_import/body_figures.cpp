@@ -6,6 +6,7 @@
 #include <TopExp.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
 
+#include <cmath>
 #include <iomanip>
 #include <locale>
 #include <sstream>
@@ -49,10 +50,15 @@ std::string figuresText(const BodyFigures& figures)
     {
         return stream.str() + ", no box";
     }
-    double low[3] = {};
-    double high[3] = {};
-    figures.box.Get(low[0], low[1], low[2], high[0], high[1], high[2]);
-    stream << ", box (" << low[0] << ' ' << low[1] << ' ' << low[2] << ") to (" << high[0] << ' ' << high[1] << ' '
-           << high[2] << ')';
+    double bounds[6] = {};
+    figures.box.Get(bounds[0], bounds[1], bounds[2], bounds[3], bounds[4], bounds[5]);
+    // What is nothing beside the body is shown as nothing.
+    const double noise = std::sqrt(figures.box.SquareExtent()) * 1e-12;
+    for (double& bound : bounds)
+    {
+        bound = std::abs(bound) < noise ? 0 : bound;
+    }
+    stream << ", box (" << bounds[0] << ' ' << bounds[1] << ' ' << bounds[2] << ") to (" << bounds[3] << ' '
+           << bounds[4] << ' ' << bounds[5] << ')';
     return stream.str();
 }

@@ -12,7 +12,7 @@ chmod +x "$recorder"
 
 # buffers_told_of: the names of the shared memory in the recorded frames, which are UTF-16.
 buffers_told_of() {
-    tr -d '\000' <"$scratch/frames" | grep -aoE '"exchange_object_data": "[0-9a-f-]{36}"' | cut -d'"' -f4
+    tr -d '\000' <"$scratch/frames" | grep -aoE '"(exchange_object_data|shared_acis_buffer_name)": "[0-9a-f-]{36}"' | cut -d'"' -f4
 }
 
 none_is_left() {
@@ -24,7 +24,7 @@ none_is_left() {
     [[ $count -gt 0 ]] || fail "the translator told of no shared memory, $1"
 }
 
-for object in exc_product_structure exc_block_visualization; do
+for object in exc_product_structure exc_block_geometry exc_block_visualization; do
     export STEP_TRANSLATOR_DIE_AFTER=$object
     expect 4 "The translator died: it was ended by signal 9" "$host" "$vise"
     expect 4 "The translator died" "$host" --translator "$recorder" "$vise"
@@ -34,6 +34,8 @@ unset STEP_TRANSLATOR_DIE_AFTER
 
 expect 0 "" "$host" --translator "$recorder" "$vise"
 none_is_left "after a whole import"
+expect 0 "" "$host" --bodies --translator "$recorder" "$vise"
+none_is_left "after an import with bodies"
 
 # A translator that hangs, with buffers told of, and a host that is told to end.
 cat >"$recorder" <<END
