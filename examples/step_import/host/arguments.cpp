@@ -1,5 +1,7 @@
 #include "arguments.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <string_view>
 
 const char* const kUsage = R"(usage: step_host [options] <file.step>
@@ -59,81 +61,90 @@ vrx::EVisuPMIProcessingMode pmiMode(std::string_view mode)
     throw UsageError("--pmi takes all or none");
 }
 
+struct Flag
+{
+    std::string_view name;
+    bool Arguments::*field;
+};
+
+const Flag kFlags[] = {
+    {"--bodies", &Arguments::bodies},         {"--help", &Arguments::help},   {"--json", &Arguments::json},
+    {"--properties", &Arguments::properties}, {"--quiet", &Arguments::quiet}, {"--verbose", &Arguments::verbose},
+};
+
+struct Setting
+{
+    std::string_view name;
+    void (*take)(Arguments& arguments, const std::string& value);
+};
+
+const Setting kSettings[] = {
+    {"--layers", [](Arguments& arguments,
+                    const std::string& value) { arguments.step.setLayerNameProcessingMode(layerMode(value)); }},
+    {"--picture", [](Arguments& arguments, const std::string& value) { arguments.picture = value; }},
+    {"--pmi",
+     [](Arguments& arguments, const std::string& value) { arguments.step.setVisuPMIProcessingMode(pmiMode(value)); }},
+    {"--translator", [](Arguments& arguments, const std::string& value) { arguments.translator = value; }},
+    {"--view", [](Arguments& arguments, const std::string& value) { arguments.view = value; }},
+};
+
+template <class Option, std::size_t Count>
+const Option* find(const Option (&options)[Count], std::string_view name)
+{
+    const Option* const found =
+        std::find_if(options, options + Count, [name](const Option& option) { return option.name == name; });
+    return found != options + Count ? found : nullptr;
+}
+
+// Takes one option, with its value where it has one; the number of words that it took.
+int takeOption(Arguments& arguments, char** words, int count)
+{
+    const std::string_view name = words[0];
+    if (const Flag* const flag = find(kFlags, name))
+    {
+        arguments.*flag->field = true;
+        return 1;
+    }
+    const Setting* const setting = find(kSettings, name);
+    if (setting == nullptr)
+    {
+        throw UsageError("there is no option " + std::string(name));
+    }
+    if (count < 2)
+    {
+        throw UsageError(std::string(name) + " needs a value");
+    }
+    setting->take(arguments, words[1]);
+    return 2;
+}
+
 } // namespace
 
 Arguments parseArguments(int argc, char** argv)
 {
     Arguments arguments;
-    const auto value = [&](int& index) -> std::string {
-        if (index + 1 >= argc)
-        {
-            throw UsageError(std::string(argv[index]) + " needs a value");
-        }
-        return argv[++index];
-    };
     bool optionsEnded = false;
-    for (int i = 1; i < argc; ++i)
+    int next = 1;
+    while (next < argc)
     {
-        const std::string_view argument = argv[i];
-        if (optionsEnded || argument.empty() || argument.front() != '-')
-        {
-            if (!arguments.file.empty())
-            {
-                throw UsageError("more than one file");
-            }
-            arguments.file = argument;
-        }
-        else if (argument == "--")
+        const std::string_view word = argv[next];
+        if (!optionsEnded && word == "--")
         {
             optionsEnded = true;
+            ++next;
         }
-        else if (argument == "--help")
+        else if (!optionsEnded && !word.empty() && word.front() == '-')
         {
-            arguments.help = true;
+            next += takeOption(arguments, argv + next, argc - next);
         }
-        else if (argument == "--bodies")
+        else if (arguments.file.empty())
         {
-            arguments.bodies = true;
-        }
-        else if (argument == "--json")
-        {
-            arguments.json = true;
-        }
-        else if (argument == "--properties")
-        {
-            arguments.properties = true;
-        }
-        else if (argument == "--quiet")
-        {
-            arguments.quiet = true;
-        }
-        else if (argument == "--verbose")
-        {
-            arguments.verbose = true;
-        }
-        else if (argument == "--view")
-        {
-            arguments.view = value(i);
-        }
-        else if (argument == "--picture")
-        {
-            arguments.picture = value(i);
-        }
-        else if (argument == "--translator")
-        {
-            arguments.translator = value(i);
-        }
-        else if (argument == "--layers")
-        {
-            arguments.step.setLayerNameProcessingMode(layerMode(value(i)));
-        }
-        else if (argument == "--pmi")
-        {
-            arguments.step.setVisuPMIProcessingMode(pmiMode(value(i)));
+            arguments.file = word;
+            ++next;
         }
         else
         {
-            throw UsageError("there is no option " + std::string(argument));
+            throw UsageError("more than one file");
         }
     }
     if (arguments.bodies && arguments.json)

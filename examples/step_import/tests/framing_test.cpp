@@ -44,7 +44,7 @@ protected:
     }
 
 private:
-    int m_ends[2];
+    int m_ends[2] = {-1, -1};
 };
 
 TEST_F(FramingTest, CarriesAnyUnitsOneFrameBehindTheOther)

@@ -14,7 +14,7 @@ using State = ProductTreeNode::EState;
 
 std::shared_ptr<vrx::ExcBlockReference> reference(std::uint64_t block, const mp::wstring& name = {})
 {
-    const auto reference = std::make_shared<vrx::ExcBlockReference>();
+    auto reference = std::make_shared<vrx::ExcBlockReference>();
     reference->setBlockId(block);
     reference->setName(name);
     return reference;
@@ -22,7 +22,7 @@ std::shared_ptr<vrx::ExcBlockReference> reference(std::uint64_t block, const mp:
 
 std::shared_ptr<vrx::ExcBlock> addBlock(vrx::ExcProductStructure& structure, std::uint64_t id)
 {
-    const auto block = std::make_shared<vrx::ExcBlock>();
+    auto block = std::make_shared<vrx::ExcBlock>();
     block->setId(id);
     structure.addBlock(block);
     return block;
