@@ -213,6 +213,19 @@ TEST(BinaryForm, KeepsWhatWasReadBeforeAFailure)
                              &thrown)),
               "[false]");
     EXPECT_EQ(textOf(decoded(kExample.substr(0, 26) + bytes("0B000000") + kExample.substr(30), &thrown)), "{}");
+    EXPECT_EQ(textOf(decoded(bytes("03000000"), &thrown)), "{}");
+    EXPECT_EQ(thrown, "length_error: Failed to read all the number of bytes");
+    EXPECT_EQ(textOf(decoded(bytes("04000000 0900000000000000"), &thrown)), "[]");
+    EXPECT_EQ(thrown, "length_error: Failed to read all the bytes of array");
+
+    // A root that was not even begun leaves the value as it was.
+    for (const char* const hex : {"", "0B000000", "06000000"})
+    {
+        const std::string form = bytes(hex);
+        JsonDocument document = parsed("[7]");
+        EXPECT_THROW(JsonBinaryIO::read(form.data(), form.size(), document, document.GetAllocator()), std::logic_error);
+        EXPECT_EQ(textOf(document), "[7]") << hex;
+    }
 }
 
 TEST(BinaryForm, AValueEndsWhereItEnds)
