@@ -19,6 +19,9 @@ enum class KernelError : int
 /// New information that holds this text.
 error_info* makeErrorInfo(const std::string& text);
 
+/// The information as an outcome takes it: itself, or new information that holds its text. Holds are left as they are.
+error_info* asErrorInfo(error_info_base* info);
+
 outcome makeFailure(KernelError error, const std::string& text);
 
 [[noreturn]] void raiseError(KernelError error, const std::string& text);
@@ -50,8 +53,7 @@ outcome apiCall(const char* name, Operation operation)
     }
     catch (const acis_exception& exception)
     {
-        error_info_base* info = exception.get_error_info();
-        return outcome(exception.get_error_number(), base_to_err_info(info));
+        return outcome(exception.get_error_number(), asErrorInfo(exception.get_error_info()));
     }
     catch (const std::bad_alloc&)
     {

@@ -112,7 +112,7 @@ exception_save::~exception_save()
 
 problems_list_prop::problems_list_prop()
 {
-    noteCall("problems_list_prop::problems_list_prop");
+    enterCall("problems_list_prop::problems_list_prop");
 }
 
 void problems_list_prop::process_result(outcome&, problems_list_prop_type type, logical always)
@@ -131,21 +131,15 @@ void check_outcome(const outcome& result)
 
 error_info* base_to_err_info(error_info_base*& info)
 {
-    noteCall("base_to_err_info");
-    if (info == nullptr)
+    enterCall("base_to_err_info");
+    error_info* const taken = asErrorInfo(info);
+    if (taken != info)
     {
-        return nullptr;
+        taken->add();
+        info->remove();
+        info = taken;
     }
-    auto* const known = dynamic_cast<error_info*>(info);
-    if (known != nullptr)
-    {
-        return known;
-    }
-    error_info* const text = makeErrorInfo(info->error_message());
-    text->add();
-    info->remove();
-    info = text;
-    return text;
+    return taken;
 }
 
 void set_global_error_info(error_info_base* info)
@@ -156,7 +150,7 @@ void set_global_error_info(error_info_base* info)
 
 int& get_error_mark()
 {
-    noteCall("get_error_mark");
+    enterCall("get_error_mark");
     return s_mark;
 }
 
@@ -172,6 +166,12 @@ void ACISExceptionCheck(const char*)
 error_info* makeErrorInfo(const std::string& text)
 {
     return new TextInfo(text);
+}
+
+error_info* asErrorInfo(error_info_base* info)
+{
+    auto* const known = dynamic_cast<error_info*>(info);
+    return info == nullptr || known != nullptr ? known : makeErrorInfo(info->error_message());
 }
 
 outcome makeFailure(KernelError error, const std::string& text)

@@ -123,7 +123,8 @@ public:
 /// Does so when the outcome is an error.
 ACIS_KERNEL void check_outcome(const outcome& result);
 
-/// The information as an outcome takes it. Information of another kind is replaced by its text.
+/// The information as an outcome takes it. Information of another kind is replaced by its text, and the caller's hold
+/// goes over to that.
 ACIS_KERNEL error_info* base_to_err_info(error_info_base*& info);
 
 ACIS_KERNEL void set_global_error_info(error_info_base* info);

@@ -139,7 +139,7 @@ std::optional<outcome> enterApiCall(const char* operation)
 
 logical acis_interrupted()
 {
-    noteCall("acis_interrupted");
+    enterCall("acis_interrupted");
     return s_interrupted ? 1 : 0;
 }
 

@@ -20,7 +20,7 @@ public:
     std::vector<std::string> calls() const;
 
     /// From now on this operation fails, without information if the text is null: one that returns an outcome returns
-    /// an error, any other throws.
+    /// an error, any other throws. Destructors and an information's `remove`, which can't fail, just go on.
     void fail(const std::string& operation, const char* text);
 
     /// The same, but an operation that returns an outcome throws too.

@@ -1,4 +1,5 @@
 #include "acis_kernel/kernel_trace.h"
+#include "mp/narrow.h"
 #include "tests/support/bodies.h"
 #include "tests/support/helpers.h"
 #include "tests/support/model_row.h"
@@ -9,6 +10,8 @@
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 
 #include <gmock/gmock.h>
+
+#include <filesystem>
 
 using namespace vrx;
 using test::Bodies;
@@ -228,6 +231,29 @@ TEST_F(SentBodies, ThatWereRemovedAfterTheLoadAreStillHeld)
     EXPECT_FALSE(isInSystem());
 }
 
+TEST_F(SentBodies, AreStillThoseOfTheOpenBufferWhenReadAgain)
+{
+    send(false);
+    ExcBlockGeometry geometry = received();
+    test::readText(geometry, m_text);
+    geometry.load();
+    EXPECT_FALSE(geometry.isLoaded());
+    expectBodies(geometry);
+}
+
+#ifdef __linux__
+TEST_F(SentBodies, ThatTheSystemCanNotMapThrow)
+{
+    send(false);
+    const ExcBlockGeometry geometry = received();
+    std::filesystem::resize_file("/dev/shm/" + mp::toNarrow(m_name), std::uintmax_t{1} << 48U);
+    Bodies bodies;
+    Ids ids;
+    EXPECT_THROW(geometry.getGeometry(bodies.list(), ids), mp::SharedMemoryException);
+    EXPECT_TRUE(ids.empty());
+}
+#endif
+
 TEST_F(SentBodies, ThatWereDamagedAreAnError)
 {
     send(true);
@@ -329,6 +355,8 @@ TEST(AcisBlock, TurnsEachErrorIntoTheOutcome)
         {"check_outcome", true, "checked", {"api_save_entity_list_file", "check_outcome"}},
         {"update_from_bb", true, "not updated", {"api_save_entity_list_file", "check_outcome", "update_from_bb"}},
     };
+    Bodies bodies;
+    const std::uint64_t id = ExcBlockGeometry::getEntityId(bodies.addBrick(""));
     for (const Failure& failure : failures)
     {
         ExcBlockGeometry geometry;
@@ -336,7 +364,7 @@ TEST(AcisBlock, TurnsEachErrorIntoTheOutcome)
         const test::LogCapture log;
         KernelTrace trace;
         failure.raised ? trace.raise(failure.operation, failure.text) : trace.fail(failure.operation, failure.text);
-        EXPECT_FALSE(geometry.setGeometry(ENTITY_LIST(), false));
+        EXPECT_FALSE(geometry.setGeometry(bodies.list(), false));
 
         Lines expected(std::begin(kBegin), std::end(kBegin));
         expected.insert(expected.end(), failure.calls.begin(), failure.calls.end());
@@ -346,6 +374,8 @@ TEST(AcisBlock, TurnsEachErrorIntoTheOutcome)
         const std::string text = failure.text == nullptr ? "" : failure.text;
         EXPECT_THAT(log.complaints(), ElementsAre("[ERROR] Failed to write geometry into shared ACIS buffer: " + text));
         EXPECT_EQ(KernelTrace::openTransactions(), 0);
+        // The ids that were gathered stay.
+        EXPECT_NE(test::written(geometry).find("[" + std::to_string(id) + "]"), std::string::npos);
     }
 }
 

@@ -1,8 +1,11 @@
+#include "acis_kernel/kernel_trace.h"
 #include "tests/support/bodies.h"
 #include "tests/support/helpers.h"
 #include "vrx_api/common/subent_id.h"
 
 #include <gtest/gtest.h>
+
+#include <limits>
 
 using test::Bodies;
 using vrx::ExcSubentId;
@@ -212,6 +215,16 @@ TEST(SubentLookup, NamesBodiesAndTheirPartsByPosition)
     ENTITY* const secondLoop = faces[1]->parts()[0];
     EXPECT_EQ(edges[4], secondLoop->parts()[0]);
     EXPECT_EQ(vertices[4], secondLoop->parts()[0]->parts()[0]);
+}
+
+TEST(SubentLookup, GivesTheHighestIndexToAPartThatIsNotListed)
+{
+    Bodies bodies;
+    ENTITY_LIST faces;
+    api_get_faces(bodies.addBrick(""), faces);
+    KernelTrace trace;
+    trace.fail("api_get_faces", "not listed");
+    EXPECT_EQ(idOf(faces[0]), std::make_pair(ExcSubentId::EType::Face, std::numeric_limits<std::uint64_t>::max()));
 }
 
 TEST(SubentLookup, NamesNothingElse)

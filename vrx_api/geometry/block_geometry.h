@@ -39,8 +39,9 @@ public:
     /// Whether the buffer is removed from the system when the last copy of this object goes.
     void own(bool value);
 
-    /// Saves the bodies into a new buffer. A failure is logged and gives false; only a user's interrupt of the kernel
-    /// passes out as the kernel's exception, here and in `getGeometry`.
+    /// Saves the bodies into a new buffer. A failure is logged and gives false; only a user's interrupt of the kernel,
+    /// or a kernel that can't be entered, passes out as the kernel's exception, here and in `getGeometry`. Throws
+    /// `std::length_error` when 4 GiB or more are to be compressed.
     bool setGeometry(const ENTITY_LIST& entities, bool compress);
 
     /// Restores the bodies, and appends them and their ids, both in the order in which they were saved; as often as
