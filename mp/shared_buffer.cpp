@@ -5,7 +5,9 @@
 #include <boost/interprocess/mapped_region.hpp>
 #include <boost/interprocess/shared_memory_object.hpp>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <fcntl.h>
 
 #include <cerrno>
@@ -54,6 +56,20 @@ void reserveMemory(ipc::shared_memory_object& object, ipc::offset_t size)
 #endif
 }
 
+// On Windows an object is a file of its name in a folder of the layer below. A name from the other program must not
+// lead out of that folder; elsewhere the system refuses such a name itself.
+void refusePath(const std::string& name)
+{
+#ifdef _WIN32
+    if (name.find_first_of("/\\:") != std::string::npos)
+    {
+        throw ipc::interprocess_exception(ipc::error_info(ERROR_INVALID_NAME));
+    }
+#else
+    static_cast<void>(name);
+#endif
+}
+
 // Runs an operation of the layer below and turns its exceptions into ours.
 template <class Operation>
 void withTurnedErrors(Operation operation)
@@ -91,13 +107,15 @@ void SharedBuffer<char>::open(const wstring& name, bool removeOnClose)
     {
         throw SharedMemoryException(WIDE("Shared variable name mustn't be empty"));
     }
+    wstring wideName = name;
     std::string narrowName = toNarrow(name);
     withTurnedErrors([&] {
+        refusePath(narrowName);
         m_object = std::make_unique<ipc::shared_memory_object>(ipc::open_or_create, narrowName.c_str(), ipc::read_write,
                                                                ownerOnly());
     });
     m_removeOnClose = removeOnClose;
-    m_name = name;
+    m_name = std::move(wideName);
     m_narrowName = std::move(narrowName);
 }
 

@@ -37,9 +37,10 @@ public:
     /// Opens the object of this name, which is created empty when it does not exist.
     void open(const wstring& name, bool removeOnClose);
 
-    /// Replaces the content.
+    /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.
     void write(const char* data, std::uint64_t size);
 
+    /// Replaces `out` by the content.
     void read(std::vector<char>& out) const;
 
     /// Makes the content empty.

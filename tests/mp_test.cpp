@@ -59,6 +59,7 @@ TEST(SharedBuffer, RefusesToWorkUnopened)
     std::vector<char> bytes;
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.open(wstring(), true); }),
               "Shared variable name mustn't be empty");
+    EXPECT_THROW(buffer.open(WIDE("../outside"), true), SharedMemoryException);
     const char* const unopened = "Shared buffer was not initialized";
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.write("a", 1); }), unopened);
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.read(bytes); }), unopened);

@@ -6,7 +6,7 @@
 namespace vrx
 {
 
-/// What a command works on.
+/// What a command works on: the file, and whether it is imported or exported.
 class VRX_API FerrantOptions : public IJsonObject
 {
 public:

@@ -4,6 +4,8 @@
 #include "vrx_api/json/json_read.h"
 #include "vrx_api/json/json_write.h"
 
+#include <utility>
+
 namespace vrx
 {
 

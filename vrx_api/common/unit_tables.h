@@ -27,7 +27,6 @@ constexpr const auto& enumTable(ELengthUnitType)
     return kLengthUnits;
 }
 
-// "poind_mass" is the name on the wire.
 inline constexpr EnumName<EMassUnitType> kMassUnits[] = {
     {EMassUnitType::Unknown, WIDE("unknown")},
     {EMassUnitType::ModelUnit, WIDE("model_unit")},

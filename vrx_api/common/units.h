@@ -8,6 +8,7 @@
 namespace vrx
 {
 
+/// In which unit lengths are given; the model unit, here and below, is the one in which the model itself is expressed.
 enum class ELengthUnitType : std::int32_t
 {
     Unknown = 0,
@@ -26,7 +27,7 @@ enum class ELengthUnitType : std::int32_t
     Microinch = 13,
 };
 
-/// There is no number 2.
+/// In which unit masses are given. There is no number 2.
 enum class EMassUnitType : std::int32_t
 {
     Unknown = 0,
@@ -35,10 +36,10 @@ enum class EMassUnitType : std::int32_t
     Decigram = 4,
     Gram = 5,
     Kilogram = 6,
-    PoindMass = 7,
+    PoindMass = 7, // the pound, spelt as on the wire
     Tonne = 8,
     Slug = 9,
-    Lbfsec2In = 10,
+    Lbfsec2In = 10, // pound-force times second squared per inch
 };
 
 enum class ETimeUnitType : std::int32_t

@@ -8,8 +8,8 @@
 namespace vrx
 {
 
-/// A point or a direction of N components. Its JSON is an array of N numbers, of which a reader takes those in front
-/// that were written as doubles.
+/// A point or a direction of N components; the library holds the two for 2 and 3. Its JSON is an array of N numbers, of
+/// which a reader takes those in front that were written as doubles.
 template <std::size_t N>
 class VRX_API ExcVectorBase : public IJsonObject
 {
@@ -32,9 +32,7 @@ protected:
     std::array<double, N> m_components{};
 };
 
-extern template class ExcVectorBase<2>;
-extern template class ExcVectorBase<3>;
-
+/// A point or a direction in a plane: x and y.
 class VRX_API ExcVector2d : public ExcVectorBase<2>
 {
 public:
@@ -47,6 +45,7 @@ public:
     void set(double x, double y) { m_components = {x, y}; }
 };
 
+/// A point or a direction in space: x, y and z.
 class VRX_API ExcVector3d : public ExcVectorBase<3>
 {
 public:

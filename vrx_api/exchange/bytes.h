@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -12,6 +13,14 @@ template <class T>
 class UnsetAllocator : public std::allocator<T>
 {
 public:
+    UnsetAllocator() = default;
+
+    // Containers make from it the allocators of their own records, as MSVC's do in debug builds.
+    template <class U>
+    UnsetAllocator(const UnsetAllocator<U>&) noexcept // NOLINT(google-explicit-constructor): the standard asks for it
+    {
+    }
+
     // The standard allocator's own would make containers rebind to it.
     template <class U>
     struct rebind // NOLINT(readability-identifier-naming): the standard's name

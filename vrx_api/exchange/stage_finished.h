@@ -2,6 +2,8 @@
 
 #include "vrx_api/exchange/exchange_object.h"
 
+#include <cstdint>
+
 namespace vrx
 {
 

@@ -2,8 +2,6 @@
 
 #include "vrx_api/json/json_value.h"
 
-#include <type_traits>
-
 namespace vrx
 {
 

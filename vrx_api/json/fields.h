@@ -21,8 +21,7 @@ namespace vrx
 //     filled        when the field holds something
 //     when          under a condition
 //     readOnly      never
-//     writeOnly     in any case, and it is not read
-// All but writeOnly are read when the key is there, by the rule of the field's type.
+// All are read when the key is there, by the rule of the field's type.
 
 /// Takes the fields of a description from an object.
 class FieldReader
@@ -60,11 +59,6 @@ public:
         always(key, field);
     }
 
-    template <class T>
-    void writeOnly(Key, const T&)
-    {
-    }
-
 private:
     const JsonValue& m_object;
 };
@@ -96,12 +90,6 @@ public:
     template <class T>
     void readOnly(Key, const T&)
     {
-    }
-
-    template <class T>
-    void writeOnly(Key, const T&)
-    {
-        ++m_count;
     }
 
 private:
@@ -142,12 +130,6 @@ public:
     template <class T>
     void readOnly(Key, const T&)
     {
-    }
-
-    template <class T>
-    void writeOnly(Key key, const T& field)
-    {
-        always(key, field);
     }
 
 private:

@@ -11,6 +11,7 @@ namespace vrx
 {
 
 /// One polyline. Its numbers lie flat in their arrays; how they group is agreed between the two ends of the channel.
+/// The setters of the arrays take an rvalue over and leave it empty; an array set to itself stays as it is.
 class VRX_API ExcVisuEdge : public IJsonObject
 {
 public:

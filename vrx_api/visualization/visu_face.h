@@ -12,6 +12,7 @@ namespace vrx
 
 /// One tessellated face. Its numbers lie flat in their arrays; how they group into points, and what the type of a
 /// polygon means, is agreed between the two ends of the channel. No length and no index is tested.
+/// The setters of the arrays take an rvalue over and leave it empty; an array set to itself stays as it is.
 class VRX_API ExcVisuFace : public IJsonObject
 {
 public:

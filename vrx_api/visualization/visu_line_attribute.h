@@ -11,7 +11,7 @@ namespace vrx
 class VRX_API ExcVisuLineAttribute : public IJsonObject
 {
 public:
-    /// There is no number 7.
+    /// The pattern of dashes and dots. There is no number 7.
     enum class ELineStyle : std::int32_t
     {
         Undefined = 0,

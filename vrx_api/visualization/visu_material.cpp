@@ -5,6 +5,7 @@
 #include "vrx_api/json/fields.h"
 
 #include <cmath>
+#include <utility>
 
 namespace vrx
 {

@@ -10,7 +10,7 @@
 namespace vrx
 {
 
-/// There are no numbers from 37 to 2000.
+/// How a point is marked. There are no numbers from 37 to 2000.
 enum class EVisuMarkerStyle : std::int32_t
 {
     NOTUSED = 0,
@@ -67,6 +67,7 @@ enum class EVisuMarkerStyle : std::int32_t
 
 /// One run of markers with one style and colour. Its numbers lie flat in their arrays; how they group is agreed between
 /// the two ends of the channel.
+/// The setters of the arrays take an rvalue over and leave it empty; an array set to itself stays as it is.
 class VRX_API ExcVisuPoints : public IJsonObject
 {
 public:
