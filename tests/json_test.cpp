@@ -48,6 +48,25 @@ TEST(JsonTextIO, ReadsOneValueUpToTheEndOrANul)
     EXPECT_EQ(textOf(parsed(std::string_view("[1]\0]", 5))), "[1]");
 }
 
+TEST(JsonTextIO, TakesTheEscapeOfALoneLowSurrogateForItsUnit)
+{
+    const std::pair<const char*, wstring> rows[] = {
+        {R"("\uDc0f\udFFFa")", {0xDC0F, 0xDFFF, u'a'}},
+        {R"("\ud800\udc00\udc00")", {0xD800, 0xDC00, 0xDC00}},
+        {R"("\u0000\uDC00\\udc00")", {0, 0xDC00, u'\\', u'u', u'd', u'c', u'0', u'0'}},
+    };
+    for (const auto& [text, units] : rows)
+    {
+        const JsonDocument document = parsed(text);
+        ASSERT_TRUE(document.IsString()) << text;
+        EXPECT_TRUE(wstring(document.GetString(), document.GetStringLength()) == units) << text;
+    }
+    for (const char* const text : {R"("\udc0")", R"("\udc0g")", R"(\udc00)", R"("\udc00)", R"("\ud800\\udc00")"})
+    {
+        EXPECT_TRUE(parsed(text).HasParseError()) << text;
+    }
+}
+
 TEST(JsonTextIO, ADocumentStaysAsItWasWhenTheTextIsNoJson)
 {
     for (const char* const text : {"",

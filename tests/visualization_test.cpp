@@ -104,6 +104,8 @@ const test::ModelRow kAppearance[] = {
                 material("{}", "[0.0,0.0,0.0]",
                          R"({"specular":[)" + std::string(kTexture) + R"(],"blending":[)" + kTexture + "]}"),
                 {kNoTextures, "[ERROR] ExcVisuTexture object should have a JSON object type."}),
+    materialRow("MaterialTexturesOfAnUnknownName", R"({"textures":{"Blending":[{}]}})",
+                material("{}", "[0.0,0.0,0.0]", R"({"ambient":[)" + std::string(kTexture) + "]}")),
     materialRow("MaterialMapsOfWrongKinds", R"({"colors":[[1.0,1.0,1.0,1.0]],"textures":null})", material("{}")),
     materialRow("MaterialBumpOfTwo", R"({"bump":[1.0,2.0]})", material("{}")),
     materialRow("MaterialBumpOfFour", R"({"bump":[1.0,2.0,3.0,4.0]})", material("{}")),
@@ -277,6 +279,18 @@ TEST(Material, ReplacesColorsAndAppendsTextures)
                                              R"({"diffuse":[)" + std::string(kTexture) + "," + kTexture + "]}"));
 }
 
+TEST(Material, PassesOverAMemberWhoseNameIsNoString)
+{
+    JsonDocument document = test::parsed(R"({"colors":{"":[1.0,1.0,1.0,1.0]},"textures":{"":[{}]}})");
+    document[WIDE("colors")].MemberBegin()->name.SetNull();
+    document[WIDE("textures")].MemberBegin()->name.SetNull();
+    ExcVisuMaterial nameless;
+    const test::LogCapture log;
+    nameless.readObject(document);
+    EXPECT_EQ(test::written(nameless), material("{}"));
+    EXPECT_EQ(log.complaints(), (std::vector<std::string>{kNoColor, kNoTextures}));
+}
+
 TEST(Material, RefusesNullTextures)
 {
     constexpr auto kDiffuse = ExcVisuMaterial::ETextureType::Diffuse;
@@ -323,6 +337,28 @@ TEST(Items, RefuseNulls)
                                         "ExcVisuPMI: attempt to add null Linked Element object.",
                                         "ExcVisuPointSet: attempt to add null Visu Points object.",
                                     }));
+}
+
+TEST(Items, ReplaceWhatIsSet)
+{
+    ExcVisuMesh mesh;
+    mesh.addEdges({std::make_shared<ExcVisuEdge>(), std::make_shared<ExcVisuEdge>()});
+    const auto edge = std::make_shared<ExcVisuEdge>();
+    mesh.setEdges({edge});
+    EXPECT_EQ(mesh.edges(), std::vector<std::shared_ptr<ExcVisuEdge>>{edge});
+
+    ExcVisuPMI pmi;
+    pmi.addLinkedElement(std::make_shared<ExcEntity>());
+    pmi.setLinkedElements(pmi.linkedElements());
+    EXPECT_EQ(pmi.linkedElements().size(), 1U);
+}
+
+TEST(Items, HoldTheLinkedElementsThatTheyNeverWrite)
+{
+    const auto pmi = test::readFrom<ExcVisuPMI>(R"({"linked_elements":[{"type":"visu","id":"v"},5]})");
+    ASSERT_EQ(pmi.linkedElements().size(), 2U);
+    EXPECT_EQ(pmi.linkedElements()[0]->id(), WIDE("v"));
+    EXPECT_EQ(pmi.linkedElements()[1]->type(), ExcEntity::EType::Unknown);
 }
 
 TEST(Items, WriteNumbersOutsideTheTablesAsTheFirstRow)

@@ -145,6 +145,57 @@ wstring readAll(wistream& stream)
     return text;
 }
 
+// The unit of the escape \uXXXX at the position, or 0 when there is none.
+unsigned escapedUnit(const wstring& text, std::size_t at)
+{
+    constexpr std::size_t kDigits = 4;
+    if (text.compare(at, 2, WIDE("\\u")) != 0 || text.size() - at - 2 < kDigits)
+    {
+        return 0;
+    }
+    unsigned unit = 0;
+    for (std::size_t i = at + 2; i < at + 2 + kDigits; ++i)
+    {
+        const std::size_t digit = wstring_view(WIDE("0123456789abcdefABCDEF")).find(text[i]);
+        if (digit == wstring_view::npos)
+        {
+            return 0;
+        }
+        unit = unit << 4 | static_cast<unsigned>(digit < 16 ? digit : digit - 6);
+    }
+    return unit;
+}
+
+// RapidJSON takes the escape of a low surrogate that follows no high one for the unit that it names, but in debug
+// builds it asserts that there is none and ends the process. The unit itself is taken in all builds.
+void unescapeLoneSurrogates(wstring& text)
+{
+    constexpr std::size_t kEscape = 6;
+    constexpr unsigned kHigh = 0xD800;
+    constexpr unsigned kLow = 0xDC00;
+    constexpr unsigned kSurrogates = 0xFC00;
+    wstring plain;
+    std::size_t done = 0;
+    for (std::size_t at = text.find('\\'); at != wstring::npos; at = text.find('\\', at))
+    {
+        const unsigned unit = escapedUnit(text, at);
+        if ((unit & kSurrogates) == kLow)
+        {
+            plain.append(text, done, at - done);
+            plain.push_back(static_cast<wchar>(unit));
+            done = at + kEscape;
+        }
+        // The escape behind that of a high surrogate is its other half.
+        const bool pair = (unit & kSurrogates) == kHigh && escapedUnit(text, at + kEscape) != 0;
+        at += pair ? 2 * kEscape : unit != 0 ? kEscape : 2;
+    }
+    if (done != 0)
+    {
+        plain.append(text, done);
+        text.swap(plain);
+    }
+}
+
 } // namespace
 
 wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool pretty)
@@ -163,7 +214,8 @@ wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool
 
 wistream& JsonTextIO::read(wistream& stream, JsonDocument& document)
 {
-    const wstring text = readAll(stream);
+    wstring text = readAll(stream);
+    unescapeLoneSurrogates(text);
     JsonValue before;
     static_cast<JsonValue&>(document).Swap(before);
     // The recursive parser accepts the same texts, but overflows the stack on deep ones.
