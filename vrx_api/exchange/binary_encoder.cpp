@@ -11,185 +11,155 @@ namespace vrx
 namespace
 {
 
-// Both sinks take the same calls: one only adds the sizes up, so that the bytes are allocated once, and the other
-// writes. Values are stored as the machine holds them, which is little-endian on both platforms.
+// One walk serves twice: with the first form it only adds the sizes up, so that the bytes are allocated once, and with
+// the second it writes. Positions go by value: a member would be loaded again behind each byte that is written, which
+// could be its own. Values are stored as the machine holds them, which is little-endian on both platforms.
 
-class SizeSink
+struct SizeForm
 {
-public:
-    std::size_t position() const { return m_size; }
+    using Position = std::size_t;
 
     template <class T>
-    void put(T)
+    static Position put(Position at, T)
     {
-        m_size += sizeof(T);
+        return at + sizeof(T);
     }
 
-    void putUnits(const wchar*, std::size_t count) { m_size += count * sizeof(wchar); }
-    void patchSize(std::size_t, std::uint64_t) {}
-
-private:
-    std::size_t m_size = 0;
+    static Position putUnits(Position at, const wchar*, std::size_t count) { return at + count * sizeof(wchar); }
+    static void patch(Position, std::uint64_t) {}
 };
 
-class ByteSink
+struct ByteForm
 {
-public:
-    explicit ByteSink(char* begin)
-        : m_begin(begin)
-        , m_next(begin)
-    {
-    }
-
-    std::size_t position() const { return static_cast<std::size_t>(m_next - m_begin); }
+    using Position = char*;
 
     template <class T>
-    void put(T value)
+    static Position put(Position at, T value)
     {
-        std::memcpy(m_next, &value, sizeof(T));
-        m_next += sizeof(T);
+        std::memcpy(at, &value, sizeof(T));
+        return at + sizeof(T);
     }
 
-    void putUnits(const wchar* units, std::size_t count)
+    static Position putUnits(Position at, const wchar* units, std::size_t count)
     {
-        std::memcpy(m_next, units, count * sizeof(wchar));
-        m_next += count * sizeof(wchar);
+        std::memcpy(at, units, count * sizeof(wchar));
+        return at + count * sizeof(wchar);
     }
 
-    void patchSize(std::size_t position, std::uint64_t size) { std::memcpy(m_begin + position, &size, sizeof(size)); }
-
-private:
-    char* m_begin;
-    char* m_next;
+    static void patch(Position at, std::uint64_t size) { put(at, size); }
 };
 
-template <class Sink>
-void encodeNumber(Sink& sink, const JsonValue& value)
+template <class Form, class T>
+typename Form::Position putTagged(typename Form::Position at, BinaryTag tag, T value)
+{
+    return Form::put(Form::put(at, tag), value);
+}
+
+template <class Form>
+typename Form::Position encodeNumber(typename Form::Position at, const JsonValue& value)
 {
     if (value.IsDouble())
     {
-        sink.put(BinaryTag::Double);
-        sink.put(value.GetDouble());
+        return putTagged<Form>(at, BinaryTag::Double, value.GetDouble());
     }
-    else if (value.IsInt())
+    if (value.IsInt())
     {
-        sink.put(BinaryTag::Int);
-        sink.put(static_cast<std::int32_t>(value.GetInt()));
+        return putTagged<Form>(at, BinaryTag::Int, std::int32_t{value.GetInt()});
     }
-    else if (value.IsUint())
+    if (value.IsUint())
     {
-        sink.put(BinaryTag::Uint);
-        sink.put(static_cast<std::uint32_t>(value.GetUint()));
+        return putTagged<Form>(at, BinaryTag::Uint, std::uint32_t{value.GetUint()});
     }
-    else if (value.IsInt64())
+    if (value.IsInt64())
     {
-        sink.put(BinaryTag::Int64);
-        sink.put(static_cast<std::int64_t>(value.GetInt64()));
+        return putTagged<Form>(at, BinaryTag::Int64, std::int64_t{value.GetInt64()});
     }
-    else if (value.IsUint64())
+    if (value.IsUint64())
     {
-        sink.put(BinaryTag::Uint64);
-        sink.put(static_cast<std::uint64_t>(value.GetUint64()));
+        return putTagged<Form>(at, BinaryTag::Uint64, std::uint64_t{value.GetUint64()});
     }
-    else
-    {
-        throw std::invalid_argument("Unknown number type");
-    }
+    throw std::invalid_argument("Unknown number type");
 }
 
-template <class Sink>
-void encodeScalar(Sink& sink, const JsonValue& value)
+template <class Form>
+typename Form::Position encodeScalar(typename Form::Position at, const JsonValue& value)
 {
     switch (value.GetType())
     {
     case rapidjson::kNullType:
-        sink.put(BinaryTag::Null);
-        break;
+        return Form::put(at, BinaryTag::Null);
     case rapidjson::kFalseType:
-        sink.put(BinaryTag::False);
-        break;
+        return Form::put(at, BinaryTag::False);
     case rapidjson::kTrueType:
-        sink.put(BinaryTag::True);
-        break;
+        return Form::put(at, BinaryTag::True);
     case rapidjson::kStringType:
-        sink.put(BinaryTag::String);
-        sink.put(std::uint64_t{value.GetStringLength()});
-        sink.putUnits(value.GetString(), value.GetStringLength());
-        break;
+        at = putTagged<Form>(at, BinaryTag::String, std::uint64_t{value.GetStringLength()});
+        return Form::putUnits(at, value.GetString(), value.GetStringLength());
     default:
-        encodeNumber(sink, value);
-        break;
+        return encodeNumber<Form>(at, value);
     }
 }
 
-template <class Sink>
-class Encoder
+bool isContainer(const JsonValue& value)
 {
-public:
-    explicit Encoder(Sink& sink)
-        : m_sink(sink)
-    {
-    }
+    return value.IsObject() || value.IsArray();
+}
 
-    void encode(const JsonValue& root)
-    {
-        encodeOrOpen(root);
-        while (!m_open.empty())
-        {
-            encodeChildren();
-        }
-    }
-
-private:
+// Returns the position behind the value.
+template <class Form>
+typename Form::Position encode(typename Form::Position at, const JsonValue& root)
+{
     struct Container
     {
         JsonChildren children;
-        std::size_t sizePosition = 0;
+        typename Form::Position sizeAt;
+    };
+    const auto open = [&at](const JsonValue& value) {
+        at = Form::put(at, value.IsObject() ? BinaryTag::Object : BinaryTag::Array);
+        const Container container{JsonChildren(value), at};
+        at = Form::put(at, std::uint64_t{0});
+        return container;
     };
 
-    // True when the value is a container, whose children come next.
-    bool encodeOrOpen(const JsonValue& value)
+    if (!isContainer(root))
     {
-        if (!value.IsObject() && !value.IsArray())
-        {
-            encodeScalar(m_sink, value);
-            return false;
-        }
-        m_sink.put(value.IsObject() ? BinaryTag::Object : BinaryTag::Array);
-        m_open.push_back({JsonChildren(value), m_sink.position()});
-        m_sink.put(std::uint64_t{0});
-        return true;
+        return encodeScalar<Form>(at, root);
     }
-
-    // Goes on with the innermost container, up to its end or to a container inside it.
-    void encodeChildren()
+    std::vector<Container> outer;
+    Container innermost = open(root);
+    while (true)
     {
-        JsonChildren& children = m_open.back().children;
-        while (!children.atEnd())
+        if (!innermost.children.atEnd())
         {
-            if (encodeOrOpen(children.next()))
+            const JsonValue& value = innermost.children.next();
+            if (isContainer(value))
             {
-                return;
+                outer.push_back(innermost);
+                innermost = open(value);
             }
+            else
+            {
+                at = encodeScalar<Form>(at, value);
+            }
+            continue;
         }
-        const std::size_t begin = m_open.back().sizePosition + sizeof(std::uint64_t);
-        m_sink.patchSize(m_open.back().sizePosition, m_sink.position() - begin);
-        m_open.pop_back();
+        Form::patch(innermost.sizeAt, static_cast<std::uint64_t>(at - innermost.sizeAt) - sizeof(std::uint64_t));
+        if (outer.empty())
+        {
+            return at;
+        }
+        innermost = outer.back();
+        outer.pop_back();
     }
-
-    Sink& m_sink;
-    std::vector<Container> m_open;
-};
+}
 
 template <class Buffer>
 void encodeInto(Buffer& bytes, const JsonValue& value)
 {
-    SizeSink size;
-    Encoder<SizeSink>(size).encode(value);
+    const std::size_t size = encode<SizeForm>(0, value);
     bytes.clear();
-    bytes.resize(size.position());
-    ByteSink sink(bytes.data());
-    Encoder<ByteSink>(sink).encode(value);
+    bytes.resize(size);
+    encode<ByteForm>(bytes.data(), value);
 }
 
 } // namespace

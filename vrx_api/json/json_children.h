@@ -11,32 +11,32 @@ class JsonChildren
 {
 public:
     explicit JsonChildren(const JsonValue& container)
-        : m_container(&container)
-        , m_object(container.IsObject())
-        , m_count(m_object ? std::size_t{2} * container.MemberCount() : std::size_t{container.Size()})
+        : m_object(container.IsObject())
     {
+        if (!m_object)
+        {
+            m_next = container.Begin();
+            m_end = m_next + container.Size();
+        }
+        else if (container.MemberCount() != 0)
+        {
+            m_next = &container.MemberBegin()->name;
+            m_end = m_next + std::size_t{2} * container.MemberCount();
+        }
     }
 
     bool isObject() const { return m_object; }
-    bool atEnd() const { return m_next == m_count; }
-    bool atName() const { return m_object && m_next % 2 == 0; }
-
-    const JsonValue& next()
-    {
-        const std::size_t index = m_next++;
-        if (!m_object)
-        {
-            return m_container->Begin()[index];
-        }
-        const auto& member = m_container->MemberBegin()[static_cast<std::ptrdiff_t>(index / 2)];
-        return index % 2 == 0 ? member.name : member.value;
-    }
+    bool atEnd() const { return m_next == m_end; }
+    bool atName() const { return m_object && (m_end - m_next) % 2 == 0; }
+    const JsonValue& next() { return *m_next++; }
 
 private:
-    const JsonValue* m_container;
+    // A member is its name and its value, and RapidJSON itself makes an object's members of an array of values.
+    static_assert(sizeof(JsonValue::Member) == 2 * sizeof(JsonValue));
+
+    const JsonValue* m_next = nullptr;
+    const JsonValue* m_end = nullptr;
     bool m_object;
-    std::size_t m_count;
-    std::size_t m_next = 0;
 };
 
 } // namespace vrx
