@@ -4,6 +4,7 @@
 #include "mp/narrow.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <rapidjson/document.h>
 
@@ -110,7 +111,7 @@ TEST(Scene, ShowsACaptureInsteadOfItsView)
     EXPECT_EQ(views[1]["camera"]["eye"][2].GetDouble(), 1); // before the plane
 }
 
-// Keeps what a translator sends of the committed assembly.
+// Keeps what a translator sends of a file.
 class Keeper : public ImportListener
 {
 public:
@@ -124,6 +125,10 @@ public:
         {
             scenes[scene->blockId()] = scene;
         }
+        if (const auto scene = std::dynamic_pointer_cast<vrx::ExcRootAssemblyVisualization>(object))
+        {
+            root = scene;
+        }
         if (const auto structure = std::dynamic_pointer_cast<vrx::ExcProductStructure>(object))
         {
             product = structure;
@@ -131,6 +136,7 @@ public:
     }
 
     std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockVisualization>> scenes;
+    std::shared_ptr<vrx::ExcRootAssemblyVisualization> root;
     std::shared_ptr<vrx::ExcProductStructure> product;
 };
 
@@ -191,6 +197,38 @@ TEST(Scene, EachPartOfTheAssemblyHasFacesThatTheModelCanPointAt)
                                  << mp::toNarrow(block->name() + WIDE(" ") + face->id());
         }
     }
+}
+
+TEST(Scene, DrawsANoteOfSeveralSetsWhereItIsMovedTo)
+{
+    const auto options = vrx::Command::newImportOptions();
+    options->setFile(mp::toWide(MOVED_NOTE));
+    Keeper keeper;
+    TranslatorSession session(STEP_TRANSLATOR);
+    ASSERT_EQ(session.import(options, keeper).code(), vrx::Result::ECode::Ok);
+    ASSERT_NE(keeper.root, nullptr);
+    const vrx::ExcVisualizationData& scene = *keeper.root->visualizationData();
+    const auto node = scene.sceneRootNodes().at(0)->childNodes().at(0)->childNodes().at(0)->childNodes().at(0);
+    EXPECT_EQ(node->type(), vrx::ExcVisuNode::EType::NOTE);
+    ASSERT_NE(node->pmi(), nullptr);
+    EXPECT_EQ(node->pmi()->displayName(), WIDE("note"));
+    EXPECT_THAT(scene.views().at(0)->annotationIds(), testing::ElementsAre(node->pmi()->id()));
+    std::vector<std::vector<float>> lines;
+    for (const auto& edge : node->pmi()->edges())
+    {
+        lines.push_back(edge->points());
+    }
+    const auto inches = [](const std::vector<float>& numbers) {
+        std::vector<testing::Matcher<float>> near;
+        for (const float number : numbers)
+        {
+            near.push_back(testing::FloatNear(number * 25.4F, 1e-4F));
+        }
+        return testing::ElementsAreArray(near);
+    };
+    // The leader, the letter, and the outline of the full stop.
+    EXPECT_THAT(lines, testing::ElementsAre(inches({1, 2, 3, 2, 2, 3, 2, 2, 4}), inches({1, 2, 4, 1, 2, 5}),
+                                            inches({4, 2, 3, 5, 2, 3, 5, 2, 4, 4, 2, 4, 4, 2, 3})));
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "counting_buffer.h"
 #include "import_progress.h"
 #include "kernel_messages.h"
+#include "taught_entities.h"
+#include "tessellated_annotations.h"
 #include "translation_error.h"
 
 #include <Interface_Check.hxx>
@@ -170,8 +172,18 @@ StepModel readStep(const std::string& path, const StepReadingOptions& options, H
     model.reader->SetViewMode(options.pmi);
 
     progress.beginStage("Reading the file", 20);
+    const Handle(XSControl_WorkSession) session = model.reader->Reader().WS();
+    if (options.pmi)
+    {
+        teachEntities(*session);
+    }
     read(*model.reader, path, progress);
-    model.warning = damage(*model.reader->Reader().Model());
+    const Handle(Interface_InterfaceModel) entities = session->Model();
+    model.warning = damage(*entities);
+    if (options.pmi)
+    {
+        gatherTessellatedAnnotations(*entities);
+    }
 
     progress.beginStage("Translating the shapes", 55);
     XCAFApp_Application::GetApplication()->NewDocument("BinXCAF", model.document);
