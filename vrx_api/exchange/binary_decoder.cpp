@@ -21,15 +21,35 @@ constexpr const char* kNoNumber = "Failed to read all the number of bytes";
 constexpr const char* kNoString = "Failed to read all the bytes of string";
 constexpr const char* kNoArray = "Failed to read all the bytes of array";
 
+// What is left of the innermost open container, passed by value as the encoder's positions are.
+struct Cursor
+{
+    const char* next;
+    const char* end;
+
+    std::size_t remaining() const { return static_cast<std::size_t>(end - next); }
+
+    template <class T>
+    T take(const char* failure)
+    {
+        T value;
+        if (remaining() < sizeof(T))
+        {
+            throw std::length_error(failure);
+        }
+        std::memcpy(&value, next, sizeof(T));
+        next += sizeof(T);
+        return value;
+    }
+};
+
 // Decodes one value into a document as its events, from which the document allocates every container exactly.
 // A document takes any value in a name's place, as the format does.
 class Decoder
 {
 public:
     Decoder(const char* data, std::size_t size)
-        : m_next(data)
-        , m_end(data + size)
-        , m_limit(m_end)
+        : m_all{data, data + size}
     {
     }
 
@@ -79,87 +99,87 @@ private:
 
     void decode()
     {
-        decodeValue();
+        Cursor cursor = decodeValue(m_all);
         while (!m_open.empty())
         {
-            if (m_next < m_limit || m_open.back().nameAlone())
+            if (cursor.next < cursor.end || m_open.back().nameAlone())
             {
                 ++m_open.back().count;
-                decodeValue();
+                cursor = decodeValue(cursor);
             }
             else
             {
                 close();
+                cursor.end = m_open.empty() ? m_all.end : m_open.back().end;
             }
         }
     }
 
-    void decodeValue()
+    Cursor decodeValue(Cursor cursor)
     {
-        switch (static_cast<BinaryTag>(take<std::uint32_t>(kNoType)))
+        switch (static_cast<BinaryTag>(cursor.take<std::uint32_t>(kNoType)))
         {
         case BinaryTag::Null:
             m_document->Null();
-            break;
+            return cursor;
         case BinaryTag::False:
             m_document->Bool(false);
-            break;
+            return cursor;
         case BinaryTag::True:
             m_document->Bool(true);
-            break;
+            return cursor;
         case BinaryTag::Object:
-            open(true);
-            break;
+            return open(cursor, true);
         case BinaryTag::Array:
-            open(false);
-            break;
+            return open(cursor, false);
         case BinaryTag::String:
-            decodeString();
-            break;
+            return decodeString(cursor);
         case BinaryTag::Int:
-            m_document->Int(take<std::int32_t>(kNoNumber));
-            break;
+            m_document->Int(cursor.take<std::int32_t>(kNoNumber));
+            return cursor;
         case BinaryTag::Uint:
-            m_document->Uint(take<std::uint32_t>(kNoNumber));
-            break;
+            m_document->Uint(cursor.take<std::uint32_t>(kNoNumber));
+            return cursor;
         case BinaryTag::Int64:
-            m_document->Int64(take<std::int64_t>(kNoNumber));
-            break;
+            m_document->Int64(cursor.take<std::int64_t>(kNoNumber));
+            return cursor;
         case BinaryTag::Uint64:
-            m_document->Uint64(take<std::uint64_t>(kNoNumber));
-            break;
+            m_document->Uint64(cursor.take<std::uint64_t>(kNoNumber));
+            return cursor;
         case BinaryTag::Double:
-            m_document->Double(take<double>(kNoNumber));
-            break;
+            m_document->Double(cursor.take<double>(kNoNumber));
+            return cursor;
         default:
             throw std::invalid_argument("Unknown value type");
         }
     }
 
-    void decodeString()
+    Cursor decodeString(Cursor cursor)
     {
-        const auto count = take<std::uint64_t>(kNoNumber);
-        if (count > remaining() / sizeof(wchar) || count > std::numeric_limits<rapidjson::SizeType>::max())
+        const auto count = cursor.take<std::uint64_t>(kNoNumber);
+        if (count > cursor.remaining() / sizeof(wchar) || count > std::numeric_limits<rapidjson::SizeType>::max())
         {
             throw std::length_error(kNoString);
         }
         m_units.resize(static_cast<std::size_t>(count));
-        std::memcpy(m_units.data(), m_next, m_units.size() * sizeof(wchar));
-        m_next += m_units.size() * sizeof(wchar);
+        std::memcpy(m_units.data(), cursor.next, m_units.size() * sizeof(wchar));
+        cursor.next += m_units.size() * sizeof(wchar);
         m_document->String(m_units.data(), static_cast<rapidjson::SizeType>(count), true);
+        return cursor;
     }
 
-    void open(bool object)
+    Cursor open(Cursor cursor, bool object)
     {
         object ? m_document->StartObject() : m_document->StartArray();
-        m_open.push_back({m_next, 0, object});
-        const auto size = take<std::uint64_t>(kNoNumber);
-        if (size > remaining())
+        m_open.push_back({cursor.next, 0, object});
+        const auto size = cursor.take<std::uint64_t>(kNoNumber);
+        if (size > cursor.remaining())
         {
             throw std::length_error(kNoArray);
         }
-        m_limit = m_next + size;
-        m_open.back().end = m_limit;
+        cursor.end = cursor.next + size;
+        m_open.back().end = cursor.end;
+        return cursor;
     }
 
     void close()
@@ -173,7 +193,6 @@ private:
         const auto count = static_cast<rapidjson::SizeType>(children);
         container.object ? m_document->EndObject(count) : m_document->EndArray(count);
         m_open.pop_back();
-        m_limit = m_open.empty() ? m_end : m_open.back().end;
     }
 
     // Closes what the failure left open; false when not even the root was begun. The value that failed was counted
@@ -201,24 +220,7 @@ private:
         return true;
     }
 
-    std::size_t remaining() const { return static_cast<std::size_t>(m_limit - m_next); }
-
-    template <class T>
-    T take(const char* failure)
-    {
-        T value;
-        if (remaining() < sizeof(T))
-        {
-            throw std::length_error(failure);
-        }
-        std::memcpy(&value, m_next, sizeof(T));
-        m_next += sizeof(T);
-        return value;
-    }
-
-    const char* m_next;
-    const char* m_end;
-    const char* m_limit; // the end of the innermost open container
+    Cursor m_all;
     std::vector<Container> m_open;
     wstring m_units;
     JsonDocument* m_document = nullptr;
