@@ -64,10 +64,10 @@ Subject strict(Subject subject)
 }
 
 // The settings of a command, whose classes only the factories know.
-template <auto make>
+template <auto Make>
 Subject settings(const char* name, const char* text)
 {
-    return {name, [] { return std::shared_ptr<IJsonObject>(make()); }, text, "", true};
+    return {name, [] { return std::shared_ptr<IJsonObject>(Make()); }, text, "", true};
 }
 
 const std::string kTransformation =

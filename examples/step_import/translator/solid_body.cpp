@@ -82,7 +82,7 @@ private:
     {
         if (!m_known.IsBound(shape))
         {
-            Entity& entity = added<Entity>(holder);
+            auto& entity = added<Entity>(holder);
             m_known.Bind(shape, &entity);
             addParts(shape, entity);
         }
