@@ -29,7 +29,7 @@ exit codes:
   3  the translator does not read files of this format
   4  the translator could not be started, died, or broke the protocol
   5  interrupted
-  6  the page or the picture could not be made
+  6  the tree, the page or the picture could not be made or written
 )";
 
 namespace

@@ -83,21 +83,28 @@ TopoDS_Shape shapeOf(const ENTITY& entity)
     {
         throw TranslatorFailure("The translator sent something that is no body.");
     }
+    std::istringstream stream(std::string(body->payload().begin(), body->payload().end()), std::ios::binary);
     TopoDS_Shape shape;
-    try
-    {
-        std::istringstream stream(std::string(body->payload().begin(), body->payload().end()), std::ios::binary);
-        BinTools::Read(shape, stream);
-    }
-    catch (const Standard_Failure&)
-    {
-        shape.Nullify();
-    }
+    BinTools::Read(shape, stream);
     if (shape.IsNull())
     {
-        throw TranslatorFailure("The B-rep of a body can not be read.");
+        throw Standard_Failure("there is none");
     }
     return shape;
+}
+
+BodyFigures measured(ENTITY& body)
+{
+    try
+    {
+        const TopoDS_Shape shape = shapeOf(body);
+        checkNumbering(body, shape);
+        return figuresOf(shape);
+    }
+    catch (const Standard_Failure& failure)
+    {
+        throw TranslatorFailure(std::string("The B-rep of a body can not be used: ") + failure.GetMessageString());
+    }
 }
 
 } // namespace
@@ -112,10 +119,7 @@ void BodyReport::add(const vrx::ExcBlockGeometry& geometry)
     }
     for (int i = 0; i < bodies.list().count(); ++i)
     {
-        ENTITY& body = *bodies.list()[i];
-        const TopoDS_Shape shape = shapeOf(body);
-        checkNumbering(body, shape);
-        m_lines.push_back({geometry.blockId(), i + 1, ids[static_cast<std::size_t>(i)], figuresOf(shape)});
+        m_lines.push_back({geometry.blockId(), i + 1, ids[static_cast<std::size_t>(i)], measured(*bodies.list()[i])});
     }
 }
 

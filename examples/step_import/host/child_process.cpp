@@ -16,12 +16,24 @@ namespace
 volatile sig_atomic_t interrupted = 0;
 volatile pid_t interruptee = -1;
 
+const unsigned kGrace = 2; // seconds
+
+// The child may be about to tell of shared memory that it has made: it is asked to end, and killed when it does not.
 extern "C" void onInterrupt(int)
 {
-    interrupted = 1;
     if (interruptee > 0)
     {
-        kill(interruptee, SIGKILL);
+        kill(-interruptee, interrupted != 0 ? SIGKILL : SIGTERM);
+        alarm(kGrace);
+    }
+    interrupted = 1;
+}
+
+extern "C" void onGraceOver(int)
+{
+    if (interruptee > 0)
+    {
+        kill(-interruptee, SIGKILL);
     }
 }
 
@@ -83,9 +95,13 @@ ChildProcess::ChildProcess(const std::string& program)
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, input.readEnd, STDIN_FILENO);
     posix_spawn_file_actions_adddup2(&actions, output.writeEnd, STDOUT_FILENO);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP);
     std::string name = program;
     char* arguments[] = {name.data(), nullptr};
-    const int error = posix_spawn(&m_process, program.c_str(), &actions, nullptr, arguments, environ);
+    const int error = posix_spawn(&m_process, program.c_str(), &actions, &attributes, arguments, environ);
+    posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
     if (error != 0)
     {
@@ -116,7 +132,7 @@ std::string ChildProcess::end()
     {
         if (tries == 100)
         {
-            kill(m_process, SIGKILL);
+            kill(-m_process, SIGKILL);
         }
         ::usleep(10000);
     }
@@ -136,11 +152,13 @@ void ChildProcess::takeInterrupts() const
     struct sigaction action = {};
     action.sa_handler = onInterrupt;
     action.sa_flags = SA_RESTART;
-    sigemptyset(&action.sa_mask);
+    sigfillset(&action.sa_mask);
     for (const int number : {SIGINT, SIGTERM, SIGHUP})
     {
         sigaction(number, &action, nullptr);
     }
+    action.sa_handler = onGraceOver;
+    sigaction(SIGALRM, &action, nullptr);
 }
 
 bool ChildProcess::wasInterrupted()

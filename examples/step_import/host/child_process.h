@@ -5,7 +5,7 @@
 #include <string>
 
 /// A program running as a child, with a pipe to its standard input and one from its standard output; its standard error
-/// is ours. POSIX only.
+/// is ours. It has a process group of its own and is killed with all that it has started. POSIX only.
 class ChildProcess
 {
 public:
@@ -23,8 +23,8 @@ public:
     /// Kills the child, if it still runs, and tells in words how it ended.
     std::string end();
 
-    /// From now on SIGINT, SIGTERM and SIGHUP kill this child instead of this process: the end of its output then
-    /// brings us to our clearing up.
+    /// From now on SIGINT, SIGTERM and SIGHUP end this child instead of this process, by SIGTERM and soon after by
+    /// SIGKILL: the end of its output then brings us to our clearing up.
     void takeInterrupts() const;
     static bool wasInterrupted();
 

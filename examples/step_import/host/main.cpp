@@ -4,6 +4,7 @@
 #include "body_report.h"
 #include "mp/narrow.h"
 #include "page_picture.h"
+#include "printable.h"
 #include "progress_bar.h"
 #include "scene_page.h"
 #include "translator_session.h"
@@ -19,6 +20,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -31,7 +33,7 @@ enum EExitCode
     kForeignFormat = 3,
     kTranslatorFailed = 4,
     kInterrupted = 5,
-    kNoPage = 6,
+    kNotWritten = 6,
 };
 
 class Listener : public ImportListener
@@ -47,14 +49,14 @@ public:
 
     void onProgress(const vrx::ExcProgress& progress) override
     {
-        m_bar.show(mp::toNarrow(progress.stage()), progress.progress(), progress.progressMax());
+        m_bar.show(printable(progress.stage()), progress.progress(), progress.progressMax());
     }
 
     void onMessage(const mp::wstring& text) override
     {
         if (!m_arguments.quiet)
         {
-            print(mp::toNarrow(text));
+            print(printable(text));
         }
     }
 
@@ -62,7 +64,7 @@ public:
     {
         if (m_arguments.verbose)
         {
-            print("log: " + mp::toNarrow(text));
+            print("log: " + printable(text));
         }
     }
 
@@ -111,7 +113,7 @@ public:
     }
 
     const std::shared_ptr<vrx::ExcProductStructure>& structure() const { return m_structure; }
-    const ScenePage& page() const { return m_page; }
+    ScenePage takePage() { return std::move(m_page); }
     const BodyReport& bodies() const { return m_bodies; }
 
 private:
@@ -156,25 +158,42 @@ std::string describe(const vrx::FerrantInfo& info)
     return text;
 }
 
-// Writes the page and the picture that are asked for.
-int show(const ScenePage& page, const vrx::ExcProductStructure& structure, const Arguments& arguments)
+// Prints the tree and what else is asked for on standard output.
+void print(const BodyReport& bodies, const vrx::ExcProductStructure& structure, const Arguments& arguments)
 {
-    try
+    if (arguments.json)
     {
-        if (!arguments.view.empty())
-        {
-            writeText(arguments.view, page.html(structure));
-        }
-        if (!arguments.picture.empty())
-        {
-            takePicture(page.html(structure), arguments.picture);
-        }
-        return kImported;
+        printJson(std::cout, structure);
     }
-    catch (const std::runtime_error& failure)
+    else
     {
-        std::cerr << "step_host: " << failure.what() << '\n';
-        return kNoPage;
+        printText(std::cout, structure, arguments.properties);
+    }
+    if (arguments.bodies)
+    {
+        bodies.print(std::cout, structure);
+    }
+    if (!std::cout.flush())
+    {
+        throw std::runtime_error("cannot write to standard output");
+    }
+}
+
+// Writes the page and the picture that are asked for.
+void show(const ScenePage& page, const vrx::ExcProductStructure& structure, const Arguments& arguments)
+{
+    if (arguments.view.empty() && arguments.picture.empty())
+    {
+        return;
+    }
+    const std::string html = page.html(structure);
+    if (!arguments.view.empty())
+    {
+        writeText(arguments.view, html);
+    }
+    if (!arguments.picture.empty())
+    {
+        takePicture(html, arguments.picture);
     }
 }
 
@@ -206,35 +225,41 @@ int import(const Arguments& arguments)
     {
         Listener listener(arguments);
         const vrx::Result result = session.import(options, listener);
+        if (ChildProcess::wasInterrupted())
+        {
+            throw TranslatorFailure("The import was interrupted.");
+        }
         if (!result.message().empty())
         {
-            listener.print("step_host: " + mp::toNarrow(result.message()));
+            listener.print("step_host: " + printable(result.message()));
         }
         if (result.code() != vrx::Result::ECode::Ok && result.code() != vrx::Result::ECode::Warning)
         {
             return kNotImported;
         }
         structure = listener.structure();
-        page = listener.page();
+        page = listener.takePage();
         bodies = listener.bodies();
     }
     if (!structure)
     {
         throw TranslatorFailure("The translator sent no product structure.");
     }
-    if (arguments.json)
+    try
     {
-        printJson(std::cout, *structure);
+        print(bodies, *structure, arguments);
+        show(page, *structure, arguments);
     }
-    else
+    catch (const std::exception& failure)
     {
-        printText(std::cout, *structure, arguments.properties);
+        if (ChildProcess::wasInterrupted())
+        {
+            throw;
+        }
+        std::cerr << "step_host: " << failure.what() << '\n';
+        return kNotWritten;
     }
-    if (arguments.bodies)
-    {
-        bodies.print(std::cout, *structure);
-    }
-    return show(page, *structure, arguments);
+    return kImported;
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -32,14 +33,17 @@ public:
 
     void raw(const std::string& json) { RawValue(json.c_str(), json.size(), rapidjson::kObjectType); }
 
+    /// A number that is not finite, which JSON has not, as null.
+    void number(double value) { std::isfinite(value) ? Double(value) : Null(); }
+
     template <class Numbers>
     void numbers(const char* key, const Numbers& values)
     {
         Key(key);
         StartArray();
-        for (const double number : values)
+        for (const double value : values)
         {
-            Double(number);
+            number(value);
         }
         EndArray();
     }

@@ -1,5 +1,6 @@
 #include "page_picture.h"
 
+#include "child_process.h"
 #include "write_text.h"
 
 #include <fcntl.h>
@@ -47,7 +48,8 @@ private:
     std::string m_path;
 };
 
-// Runs a program, quietly, in a process group of its own. Whether it could be started.
+// Runs a program, quietly, in a process group of its own; not beyond our patience or an interrupt. Whether it could be
+// started.
 bool run(std::vector<std::string> words)
 {
     std::vector<char*> arguments;
@@ -77,7 +79,7 @@ bool run(std::vector<std::string> words)
     int status = 0;
     for (int tenths = 0; ::waitpid(process, &status, WNOHANG) == 0; ++tenths)
     {
-        if (tenths == kPatience * 10)
+        if (tenths == kPatience * 10 || ChildProcess::wasInterrupted())
         {
             ::kill(-process, SIGKILL);
         }

@@ -5,11 +5,10 @@
 #include <algorithm>
 #include <string>
 
-/// A name as it may be printed: names come from files, and nothing in them may steer the terminal.
-inline std::string printable(const mp::wstring& text)
+/// A text as it may be printed: names and messages come from files, and nothing in them may steer the terminal.
+inline std::string printable(mp::wstring text)
 {
-    std::string result = mp::toNarrow(text);
     std::replace_if(
-        result.begin(), result.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }, ' ');
-    return result;
+        text.begin(), text.end(), [](mp::wchar c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }, WIDE(' '));
+    return mp::toNarrow(text);
 }

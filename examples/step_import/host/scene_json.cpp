@@ -256,9 +256,9 @@ void camera(PageJson& json, const vrx::ExcCamera& camera)
     json.vector("target", camera.target());
     json.vector("up", camera.up());
     json.Key("height");
-    json.Double(camera.type() == vrx::ExcCamera::EType::Orthographic ? camera.orthographicZoomFactor() : 0);
+    json.number(camera.type() == vrx::ExcCamera::EType::Orthographic ? camera.orthographicZoomFactor() : 0);
     json.Key("angle");
-    json.Double(camera.type() == vrx::ExcCamera::EType::Perspective ? camera.perspectiveViewAngle() : 0);
+    json.number(camera.type() == vrx::ExcCamera::EType::Perspective ? camera.perspectiveViewAngle() : 0);
     json.EndObject();
 }
 

@@ -47,6 +47,18 @@ void handOn(const std::shared_ptr<vrx::IExchangeObject>& object, ImportListener&
     }
 }
 
+std::shared_ptr<vrx::IExchangeObject> loadFirst(ReceivedObjects& waiting)
+{
+    try
+    {
+        return waiting.loadFirst();
+    }
+    catch (const std::exception& failure)
+    {
+        throw TranslatorFailure(std::string("What the translator sent can not be loaded: ") + failure.what());
+    }
+}
+
 // One after the other, so that no more than one of the large objects is in memory that the listener doesn't keep.
 void loadAll(ReceivedObjects& waiting, ImportListener& listener)
 {
@@ -56,9 +68,13 @@ void loadAll(ReceivedObjects& waiting, ImportListener& listener)
     progress.setProgressMax(static_cast<std::int32_t>(waiting.count()));
     for (std::int32_t done = 0; waiting.count() > 0; ++done)
     {
+        if (ChildProcess::wasInterrupted())
+        {
+            throw TranslatorFailure("The import was interrupted.");
+        }
         progress.setProgress(done);
         listener.onProgress(progress);
-        handOn(waiting.loadFirst(), listener);
+        handOn(loadFirst(waiting), listener);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
 
+#include <cmath>
 #include <ostream>
 #include <string>
 
@@ -167,7 +168,8 @@ private:
         m_writer.StartArray();
         for (std::size_t i = 0; i < 3; ++i)
         {
-            m_writer.Double(vector[i]);
+            // JSON has no numbers that are not finite.
+            std::isfinite(vector[i]) ? m_writer.Double(vector[i]) : m_writer.Null();
         }
         m_writer.EndArray();
     }

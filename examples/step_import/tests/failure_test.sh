@@ -9,6 +9,11 @@ expect 3 "does not read files like $scratch/part.igs" "$host" "$scratch/part.igs
 expect 3 "STEP files (AP203, AP214, AP242)|stp;step;p21" "$host" "$scratch/part.igs"
 expect 4 "cannot start $scratch/none" "$host" --translator "$scratch/none" "$vise"
 expect 4 "The translator does not say what it is." "$host" --translator "$(command -v cat)" "$vise"
+# Standard output and pages that cannot be written.
+result=0
+"$host" --quiet "$vise" >/dev/full 2>"$scratch/err" || result=$?
+[[ $result -eq 6 ]] || fail "exit code $result instead of 6 with standard output full"
+expect 6 "cannot write $scratch/none/page.html" "$host" --view "$scratch/none/page.html" "$vise"
 
 expect 1 "There is no file $scratch/missing.step." "$host" "$scratch/missing.step"
 mkdir "$scratch/folder.step"

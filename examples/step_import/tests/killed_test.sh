@@ -42,7 +42,7 @@ cat >"$recorder" <<END
 #!/bin/sh
 STEP_TRANSLATOR_DIE_AFTER=exc_product_structure "$translator" | tee "$scratch/frames"
 touch "$scratch/hangs"
-exec sleep 100
+sleep 100
 END
 rm -f "$scratch/frames"
 "$host" --translator "$recorder" "$vise" >"$scratch/out" 2>"$scratch/err" &
@@ -58,3 +58,12 @@ wait "$process" || result=$?
 [[ $result -eq 5 ]] || fail "exit code $result instead of 5 after an interrupt"
 grep -qF "interrupted" "$scratch/err" || fail "the host does not say that it was interrupted"
 none_is_left "interrupted"
+
+# A host that is gone while the translator still sends: the translator removes what it has told of.
+cat >"$recorder" <<END
+#!/bin/sh
+tee "$scratch/command" | "$translator"
+END
+"$host" --quiet --translator "$recorder" "$vise" >"$scratch/out"
+"$translator" <"$scratch/command" 2>"$scratch/err" | head -c 15000 >"$scratch/frames" || true
+none_is_left "after the host"

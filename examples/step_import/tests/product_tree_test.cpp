@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -102,10 +103,22 @@ TEST(ProductTree, RefusesATreeThatDoublesForever)
 TEST(ProductTree, KeepsControlCharactersOffTheTerminal)
 {
     vrx::ExcProductStructure structure;
-    structure.addRootBlockReference(reference(1, WIDE("a\x1B[31mb\nc")));
+    structure.addRootBlockReference(reference(1, WIDE("a\x1B[31mb\nc\u009B2J")));
     std::ostringstream text;
     printText(text, structure, false);
-    EXPECT_THAT(text.str(), testing::HasSubstr("a [31mb c [no block"));
+    EXPECT_THAT(text.str(), testing::HasSubstr("a [31mb c 2J [no block"));
+}
+
+TEST(ProductTree, HasNullInJsonForANumberThatIsNotFinite)
+{
+    vrx::ExcProductStructure structure;
+    structure.addRootBlockReference(reference(1));
+    vrx::ExcTransformation place;
+    place.translation() = {std::nan(""), HUGE_VAL, 2};
+    structure.rootBlockReferences()[0]->setTransformation(place);
+    std::ostringstream text;
+    printJson(text, structure);
+    EXPECT_THAT(text.str(), testing::HasSubstr("[null, null, 2.0]"));
 }
 
 } // namespace

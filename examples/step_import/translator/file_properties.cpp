@@ -67,7 +67,8 @@ void addItem(vrx::ExcMiscData& data, const mp::wstring& name, const Handle(StepR
     {
         add(data, name, ExcMiscProperty::EType::String, occt_text::wide(text->Description()));
     }
-    else if (const auto measure = Handle(StepRepr_MeasureRepresentationItem)::DownCast(item); !measure.IsNull())
+    else if (const auto measure = Handle(StepRepr_MeasureRepresentationItem)::DownCast(item);
+             !measure.IsNull() && !measure->Measure().IsNull())
     {
         add(data, name, inMillimetres(measure->Measure(), factor));
     }
@@ -180,6 +181,10 @@ void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepr
     for (int i = 1; i <= values->NbItems(); ++i)
     {
         const Handle(StepRepr_RepresentationItem) item = values->ItemsValue(i);
+        if (item.IsNull()) // in a damaged file
+        {
+            continue;
+        }
         addItem(m_attributes[entity.get()], occt_text::wide(name == kValidation ? item->Name() : definition->Name()),
                 item, factor);
     }

@@ -2,6 +2,7 @@
 
 #include "../framing.h"
 #include "../shared_buffers.h"
+#include "delayed_termination.h"
 #include "mp/narrow.h"
 
 #include <unistd.h>
@@ -9,6 +10,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <stdexcept>
 #include <system_error>
 
 namespace
@@ -44,9 +46,10 @@ std::optional<mp::wstring> HostChannel::receive()
     return framing::read(STDIN_FILENO);
 }
 
-void HostChannel::send(const mp::ISerializable& message) const
+void HostChannel::send(const mp::ISerializable& message)
 {
-    framing::write(m_output, framing::toText(message));
+    sendFrame(framing::toText(message));
+    m_told.clear();
 }
 
 void HostChannel::send(const std::shared_ptr<vrx::IExchangeObject>& object)
@@ -54,22 +57,36 @@ void HostChannel::send(const std::shared_ptr<vrx::IExchangeObject>& object)
     vrx::ExchangeObjectWrapper envelope;
     envelope.set(object);
     const mp::wstring text = framing::toText(envelope);
+    const mp::wstring buffer = shared_buffers::nameIn(text);
+    if (!buffer.empty())
+    {
+        m_told.push_back(buffer);
+    }
+    sendFrame(text);
+    if (DelayedTermination::isDue())
+    {
+        throw std::runtime_error("The translator was told to end.");
+    }
+    if (mp::toNarrow(object->objectName()) == m_dieAfter)
+    {
+        std::raise(SIGKILL);
+    }
+}
+
+void HostChannel::sendFrame(const mp::wstring& text)
+{
     try
     {
         framing::write(m_output, text);
     }
     catch (...)
     {
-        const mp::wstring buffer = shared_buffers::nameIn(text);
-        if (!buffer.empty())
+        for (const mp::wstring& buffer : m_told)
         {
             shared_buffers::remove(buffer);
         }
+        m_told.clear();
         throw;
-    }
-    if (mp::toNarrow(object->objectName()) == m_dieAfter)
-    {
-        std::raise(SIGKILL);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 /// The translator's side of the two pipes. There is one in a process: it takes standard output for itself and turns
 /// what others print there to standard error, so that no stray line gets between two frames.
@@ -18,16 +19,21 @@ public:
     /// The next command's text, or nothing when the host has closed the pipe.
     static std::optional<mp::wstring> receive();
 
-    void send(const mp::ISerializable& message) const;
+    /// An answer. The shared memory of which an import has told is the host's affair from here on.
+    void send(const mp::ISerializable& message);
 
-    /// In an envelope. When the host is gone, the shared memory that the envelope names is removed again.
+    /// In an envelope. When the host is gone, the shared memory of which it was told in this import is removed again.
+    /// Throws behind the envelope when termination is due.
     void send(const std::shared_ptr<vrx::IExchangeObject>& object);
 
     void message(const std::string& text);
     void log(const std::string& text);
 
 private:
+    void sendFrame(const mp::wstring& text);
+
     int m_output;
+    std::vector<mp::wstring> m_told; // names of shared memory in the envelopes of the running import
     // Test switch: the process kills itself when it has sent an object of the name in STEP_TRANSLATOR_DIE_AFTER.
     std::string m_dieAfter;
 };

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <stdexcept>
 
 ImportProgress::ImportProgress(HostChannel& channel)
     : m_channel(channel)
@@ -40,5 +41,12 @@ void ImportProgress::send(int progress)
 
 void KernelProgress::Show(const Message_ProgressScope&, Standard_Boolean)
 {
-    m_progress.advance(GetPosition());
+    try
+    {
+        m_progress.advance(GetPosition());
+    }
+    catch (const std::runtime_error&)
+    {
+        m_isStopped = true; // the kernel reports from destructors, out of which nothing may be thrown
+    }
 }

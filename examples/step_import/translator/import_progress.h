@@ -28,7 +28,7 @@ private:
     int m_sent = -1;
 };
 
-/// Brings the kernel's progress reports to the current stage.
+/// Brings the kernel's progress reports to the current stage, and stops the kernel when they cannot be sent any more.
 class KernelProgress : public Message_ProgressIndicator
 {
 public:
@@ -39,7 +39,9 @@ public:
 
 protected:
     void Show(const Message_ProgressScope& scope, Standard_Boolean isForce) override;
+    Standard_Boolean UserBreak() override { return m_isStopped; }
 
 private:
     ImportProgress& m_progress;
+    bool m_isStopped = false;
 };

@@ -4,6 +4,8 @@
 
 #include <TCollection_AsciiString.hxx>
 
+#include <stdexcept>
+
 void KernelMessages::send(const TCollection_AsciiString& text, Message_Gravity gravity) const
 {
     TCollection_AsciiString line = text;
@@ -13,9 +15,17 @@ void KernelMessages::send(const TCollection_AsciiString& text, Message_Gravity g
     {
         return;
     }
-    m_channel.log(line.ToCString());
     if (gravity >= Message_Fail)
     {
         m_lastFailure = line.ToCString();
+    }
+    try
+    {
+        m_channel.log(line.ToCString());
+    }
+    catch (const std::runtime_error&)
+    {
+        // Whatever is sent next will find the same. The kernel reports from destructors, out of which nothing may be
+        // thrown.
     }
 }

@@ -2,6 +2,7 @@
 
 #include "../framing.h"
 #include "block_bodies.h"
+#include "delayed_termination.h"
 #include "import_progress.h"
 #include "mp/narrow.h"
 #include "pmi_summary.h"
@@ -17,6 +18,7 @@
 #include <Standard_Failure.hxx>
 #include <Standard_Version.hxx>
 
+#include <csignal>
 #include <cstdlib>
 #include <exception>
 #include <new>
@@ -60,8 +62,13 @@ StepReadingOptions readingOptions(const vrx::ImportOptions& options)
 void Translator::run()
 {
     OSD::SetSignal(false);
+    // The kernel takes these too, and would turn them into failures of the file.
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+    {
+        std::signal(number, SIG_DFL);
+    }
     std::optional<mp::wstring> text;
-    while (m_kernelIsIntact && (text = HostChannel::receive()))
+    while (m_kernelIsIntact && !DelayedTermination::isDue() && (text = HostChannel::receive()))
     {
         answer(*text);
     }
@@ -117,6 +124,7 @@ void Translator::sendInfo()
 
 vrx::Result Translator::import(const vrx::Command& command)
 {
+    const DelayedTermination termination;
     try
     {
         // Damaged files do crash the kernel: its signals become exceptions here.
@@ -141,7 +149,7 @@ vrx::Result Translator::import(const vrx::Command& command)
     }
     catch (const std::exception& failure)
     {
-        return error(failure.what());
+        return error(DelayedTermination::isDue() ? "The translator was told to end." : failure.what());
     }
 }
 

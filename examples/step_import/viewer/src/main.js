@@ -56,7 +56,7 @@ canvas.addEventListener('pointerup', (event) => {
 window.addEventListener('keydown', (event) => {
   if (event.target instanceof HTMLInputElement && event.target.type === 'search') return;
   if (event.key === 'Escape') selection.set(null);
-  if (event.key === 'f') fit();
+  if (event.key === 'f' && !event.ctrlKey && !event.metaKey) fit();
 });
 
 stage.render();
