@@ -220,6 +220,7 @@ TEST(Scene, DrawsANoteOfSeveralSetsWhereItIsMovedTo)
     }
     const auto inches = [](const std::vector<float>& numbers) {
         std::vector<testing::Matcher<float>> near;
+        near.reserve(numbers.size());
         for (const float number : numbers)
         {
             near.push_back(testing::FloatNear(number * 25.4F, 1e-4F));
