@@ -1,15 +1,13 @@
 #include "vrx_api/exchange/exchange_object.h"
 
 #include "kolt/log.h"
-#include "mp/shared_buffer.h"
-#include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/json_binary_io.h"
+#include "vrx_api/exchange/shared_content.h"
 
 #include <boost/uuid/random_generator.hpp>
 #include <boost/uuid/uuid_io.hpp>
 
 #include <string>
-#include <vector>
 
 namespace vrx
 {
@@ -17,20 +15,12 @@ namespace vrx
 namespace
 {
 
-// The bytes of a buffer, which is removed from the system; decompressed if they say that they are compressed.
+// The plain content of a buffer, which is removed from the system.
 Bytes takeContent(const wstring& name)
 {
-    std::vector<char> bytes;
     mp::SharedBuffer<char> buffer;
     buffer.open(name, true);
-    buffer.read(bytes);
-    if (!Compressor::isCompressed(bytes.data(), bytes.size()))
-    {
-        return Bytes(bytes.begin(), bytes.end());
-    }
-    Bytes plain;
-    Compressor::decompress(plain, bytes.data(), bytes.size());
-    return plain;
+    return plainContent(buffer);
 }
 
 void decodeContent(const wstring& name, JsonDocument& document)

@@ -2,10 +2,10 @@
 
 #include "kolt/log.h"
 #include "vrx_api/exchange/compressor.h"
+#include "vrx_api/exchange/shared_content.h"
 
 #include <new>
 #include <string>
-#include <vector>
 
 namespace vrx
 {
@@ -49,19 +49,9 @@ void ExcSharedAcisBuffer::load()
 {
     kolt::trace();
     cleanUp();
-    std::vector<char> bytes;
-    m_sharedBuffer.read(bytes);
     // What an earlier load left, which may have been longer, is replaced.
-    if (Compressor::isCompressed(bytes.data(), bytes.size()))
-    {
-        Bytes plain;
-        Compressor::decompress(plain, bytes.data(), bytes.size());
-        m_stream.str(std::string(plain.begin(), plain.end()));
-    }
-    else
-    {
-        m_stream.str(std::string(bytes.begin(), bytes.end()));
-    }
+    const Bytes bytes = plainContent(m_sharedBuffer);
+    m_stream.str(std::string(bytes.begin(), bytes.end()));
 }
 
 void ExcSharedAcisBuffer::cleanUp()

@@ -1,6 +1,7 @@
 #include "vrx_api/info/ferrant_info.h"
 
 #include "vrx_api/command/ferrant_interface_table.h"
+#include "vrx_api/json/add.h"
 #include "vrx_api/json/fields.h"
 #include "vrx_api/json/json_text_io.h"
 #include "vrx_api/json/message.h"
@@ -56,26 +57,6 @@ void appendRead(const JsonValue& object, Key key, std::vector<std::shared_ptr<T>
 }
 
 template <class T>
-void append(std::vector<std::shared_ptr<T>>& objects, const std::shared_ptr<T>& object)
-{
-    if (object != nullptr)
-    {
-        objects.push_back(object);
-    }
-}
-
-template <class T>
-void appendAll(std::vector<std::shared_ptr<T>>& objects, const std::vector<std::shared_ptr<T>>& added)
-{
-    // A list may be added to itself, and then grows meanwhile.
-    const std::size_t count = added.size();
-    for (std::size_t i = 0; i < count; ++i)
-    {
-        append(objects, added[i]);
-    }
-}
-
-template <class T>
 T& appendNew(std::vector<std::shared_ptr<T>>& objects)
 {
     return *objects.emplace_back(std::make_shared<T>());
@@ -120,7 +101,7 @@ ThirdpartyCore& FerrantInfo::newThirdpartyCore()
 
 void FerrantInfo::addThirdpartyCore(const std::shared_ptr<ThirdpartyCore>& core)
 {
-    append(m_thirdpartyCores, core);
+    add(m_thirdpartyCores, core, kSilently);
 }
 
 Format& FerrantInfo::newImportFormat()
@@ -130,12 +111,12 @@ Format& FerrantInfo::newImportFormat()
 
 void FerrantInfo::addImportFormat(const std::shared_ptr<Format>& format)
 {
-    append(m_importFormats, format);
+    add(m_importFormats, format, kSilently);
 }
 
 void FerrantInfo::addImportFormats(const std::vector<std::shared_ptr<Format>>& formats)
 {
-    appendAll(m_importFormats, formats);
+    addAll(m_importFormats, formats, kSilently);
 }
 
 Format& FerrantInfo::newExportFormat()
@@ -145,12 +126,12 @@ Format& FerrantInfo::newExportFormat()
 
 void FerrantInfo::addExportFormat(const std::shared_ptr<Format>& format)
 {
-    append(m_exportFormats, format);
+    add(m_exportFormats, format, kSilently);
 }
 
 void FerrantInfo::addExportFormats(const std::vector<std::shared_ptr<Format>>& formats)
 {
-    appendAll(m_exportFormats, formats);
+    addAll(m_exportFormats, formats, kSilently);
 }
 
 } // namespace vrx

@@ -8,16 +8,18 @@
 namespace vrx
 {
 
+/// The text of classes that refuse null pointers without a word.
+constexpr const char* kSilently = nullptr;
+
 /// True for a null pointer, which is logged with the class's text.
 template <class T>
 bool refuseNull(const std::shared_ptr<T>& object, const char* refusal)
 {
-    if (object == nullptr)
+    if (object == nullptr && refusal != kSilently)
     {
         kolt::log(kolt::kWarning, refusal);
-        return true;
     }
-    return false;
+    return object == nullptr;
 }
 
 /// Appends an object; a null pointer is refused.
