@@ -15,8 +15,8 @@
 class BlockBodies
 {
 public:
-    /// The solids of a part as bodies in shared memory, in the order of the solids. The buffer is removed with the
-    /// object until `own(false)` is called. Throws TranslationError when they could not be put there.
+    /// The solids of a block, if any, as bodies in shared memory, in the order of the solids. The buffer is removed
+    /// with the object until `own(false)` is called. Throws TranslationError when they could not be put there.
     std::shared_ptr<vrx::ExcBlockGeometry> make(const vrx::ExcBlock& block, const TopoDS_Shape& shape);
 
 private:

@@ -185,16 +185,16 @@ void Translator::sendBodies(const vrx::ExcProductStructure& structure, const Pro
     double done = 0;
     for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
     {
-        if (block->isPart())
+        // An assembly's shape is that of its components, and it has no solids of its own.
+        const TopoDS_Shape shape = block->isPart()
+                                       ? XCAFDoc_ShapeTool::GetShape(builder.blocks()(static_cast<int>(block->id())))
+                                       : TopoDS_Shape();
+        const std::shared_ptr<vrx::ExcBlockGeometry> geometry = bodies.make(*block, shape);
+        geometry->own(false);
+        m_channel.send(geometry);
+        for (const std::string& line : figures ? figuresOfBodies(*block, shape) : std::vector<std::string>())
         {
-            const TopoDS_Shape shape = XCAFDoc_ShapeTool::GetShape(builder.blocks()(static_cast<int>(block->id())));
-            const std::shared_ptr<vrx::ExcBlockGeometry> geometry = bodies.make(*block, shape);
-            geometry->own(false);
-            m_channel.send(geometry);
-            for (const std::string& line : figures ? figuresOfBodies(*block, shape) : std::vector<std::string>())
-            {
-                m_channel.log(line);
-            }
+            m_channel.log(line);
         }
         progress.advance(++done / static_cast<double>(structure.blocks().size()));
     }
