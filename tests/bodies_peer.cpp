@@ -4,47 +4,44 @@
 //     write-and-stay PAYLOAD  the same and a byte FF behind it; then waits for its input to end
 //     read                    describes the bodies of the envelope that it reads, restored twice
 //     read-and-stay           restores them, writes a byte FF and stays
-//     write-into OPTIONS      writes what is logged when bodies are sent through a shared memory file system of its
-//                             own, mounted with these options; exit code 4 where the system allows none
+//     write-without RESOURCE  writes what is logged when bodies are sent and shared memory has no more "space" or
+//     "names"
 
 #include "tests/support/bodies.h"
 #include "tests/support/envelope.h"
 #include "tests/support/log_capture.h"
+#include "tests/support/peer.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 
-#include <chrono>
-#include <exception>
 #include <iostream>
-#include <iterator>
-#include <thread>
-
-#ifdef _WIN32
-#include <fcntl.h>
-#include <io.h>
-
-#include <cstdio>
-#endif
 #ifdef __linux__
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/resource.h>
+
+#include <cerrno>
+#include <csignal>
+#include <optional>
+#include <system_error>
 #endif
 
 namespace
 {
 
-std::shared_ptr<vrx::ExcBlockGeometry> makeGeometry(const std::string& payload, bool compress)
+std::shared_ptr<vrx::ExcBlockGeometry> makeGeometry(const std::string& payload, bool compress, bool own)
 {
     test::Bodies bodies;
     bodies.addBrick(payload);
     bodies.addBrick("second");
     auto geometry = std::make_shared<vrx::ExcBlockGeometry>();
     geometry->setBlockId(7);
+    geometry->own(own);
     return geometry->setGeometry(bodies.list(), compress) ? geometry : nullptr;
 }
 
 void writeBodies(const std::string& payload)
 {
-    std::cout << test::envelopeOf(makeGeometry(payload, true));
+    std::cout << test::envelopeOf(makeGeometry(payload, true, false));
 }
 
 std::shared_ptr<vrx::ExcBlockGeometry> loadEnvelope(const std::string& envelope)
@@ -62,36 +59,64 @@ void describeBodies(const vrx::ExcBlockGeometry& geometry)
     std::cout << (done ? "" : "failed ") << ids.size() << '\n' << bodies.describe();
 }
 
-bool mountSharedMemory(const std::string& options)
-{
 #ifdef __linux__
+// Gives this process a shared memory file system of its own. False where the system allows none.
+bool mountSharedMemory(const char* options)
+{
     return unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-           mount("none", "/dev/shm", "tmpfs", 0, options.c_str()) == 0;
-#else
-    static_cast<void>(options);
-    return false;
-#endif
+           mount("none", "/dev/shm", "tmpfs", 0, options) == 0;
 }
 
-int writeInto(const std::string& options)
+// Lowers a limit of this process while it lives.
+class Limit
 {
-    if (!mountSharedMemory(options))
+public:
+    Limit(int resource, rlim_t most)
+        : m_resource(resource)
     {
-        return 4;
+        getrlimit(m_resource, &m_before);
+        const rlimit lowered{most, m_before.rlim_max};
+        if (setrlimit(m_resource, &lowered) != 0)
+        {
+            throw std::system_error(errno, std::generic_category(), "setrlimit");
+        }
     }
+    Limit(const Limit&) = delete;
+    Limit& operator=(const Limit&) = delete;
+    ~Limit() { setrlimit(m_resource, &m_before); }
+
+private:
+    int m_resource;
+    rlimit m_before{};
+};
+
+// A file system that is full; where there can be none of one's own, a limit of the process that the same calls meet.
+int writeWithout(const std::string& resource)
+{
     const test::LogCapture log;
-    const bool done = makeGeometry(std::string(1000000, 'p'), false) != nullptr;
+    bool done = true;
+    {
+        const rlim_t room = 65536;
+        const rlim_t standardStreams = 3;
+        std::signal(SIGXFSZ, SIG_IGN);
+        std::optional<Limit> limit;
+        if (resource == "space" && !mountSharedMemory("size=64k"))
+        {
+            limit.emplace(RLIMIT_FSIZE, room);
+        }
+        if (resource == "names" && !mountSharedMemory("nr_inodes=1"))
+        {
+            limit.emplace(RLIMIT_NOFILE, standardStreams);
+        }
+        done = makeGeometry(std::string(1000000, 'p'), false, true) != nullptr;
+    }
     for (const std::string& line : log.lines("ERROR"))
     {
         std::cout << line << '\n';
     }
     return done ? 1 : 0;
 }
-
-std::string readInput()
-{
-    return {std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>()};
-}
+#endif
 
 int run(const std::string& verb, const std::string& text)
 {
@@ -102,26 +127,27 @@ int run(const std::string& verb, const std::string& text)
     else if (verb == "write-and-stay")
     {
         writeBodies(text);
-        std::cout << '\xFF' << std::flush;
-        readInput();
+        test::tellThatAllIsWritten();
+        test::readInput();
     }
     else if (verb == "read")
     {
-        const auto geometry = loadEnvelope(readInput());
+        const auto geometry = loadEnvelope(test::readInput());
         describeBodies(*geometry);
         describeBodies(*geometry);
     }
     else if (verb == "read-and-stay")
     {
-        const auto geometry = loadEnvelope(readInput());
+        const auto geometry = loadEnvelope(test::readInput());
         describeBodies(*geometry);
-        std::cout << '\xFF' << std::flush;
-        std::this_thread::sleep_for(std::chrono::minutes(1));
+        test::stay();
     }
-    else if (verb == "write-into")
+#ifdef __linux__
+    else if (verb == "write-without")
     {
-        return writeInto(text);
+        return writeWithout(text);
     }
+#endif
     else
     {
         return 2;
@@ -133,18 +159,6 @@ int run(const std::string& verb, const std::string& text)
 
 int main(int argc, char** argv)
 {
-#ifdef _WIN32
-    _setmode(_fileno(stdin), _O_BINARY);
-    _setmode(_fileno(stdout), _O_BINARY);
-#endif
     const auto argument = [&](int at) { return std::string(at < argc ? argv[at] : ""); };
-    try
-    {
-        return run(argument(1), argument(2));
-    }
-    catch (const std::exception& error)
-    {
-        std::cout << error.what();
-        return 3;
-    }
+    return test::runPeer([&] { return run(argument(1), argument(2)); });
 }

@@ -13,29 +13,14 @@
 
 #include "tests/support/envelope.h"
 #include "tests/support/json_text.h"
+#include "tests/support/peer.h"
 #include "tests/support/shared_memory.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
-#include <chrono>
-#include <exception>
 #include <iostream>
-#include <iterator>
-#include <thread>
-
-#ifdef _WIN32
-#include <fcntl.h>
-#include <io.h>
-
-#include <cstdio>
-#endif
 
 namespace
 {
-
-std::string readInput()
-{
-    return {std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>()};
-}
 
 int run(const std::string& verb, const std::string& text)
 {
@@ -48,11 +33,11 @@ int run(const std::string& verb, const std::string& text)
     }
     else if (verb == "read-envelope")
     {
-        std::cout << test::written(*test::opened(readInput()));
+        std::cout << test::written(*test::opened(test::readInput()));
     }
     else if (verb == "read-delayed")
     {
-        const auto object = test::opened(readInput(), true);
+        const auto object = test::opened(test::readInput(), true);
         const bool early = object->isLoaded();
         object->load();
         object->load();
@@ -61,7 +46,7 @@ int run(const std::string& verb, const std::string& text)
     }
     else if (verb == "echo-envelope")
     {
-        std::cout << test::envelopeOf(test::opened(readInput()));
+        std::cout << test::envelopeOf(test::opened(test::readInput()));
     }
     else if (verb == "open-buffer")
     {
@@ -69,7 +54,7 @@ int run(const std::string& verb, const std::string& text)
     }
     else if (verb == "leave-buffer")
     {
-        const std::string content = readInput();
+        const std::string content = test::readInput();
         buffer.open(test::wide(text), false);
         buffer.write(content.data(), content.size());
     }
@@ -88,23 +73,12 @@ int run(const std::string& verb, const std::string& text)
 
 int main(int argc, char** argv)
 {
-#ifdef _WIN32
-    _setmode(_fileno(stdin), _O_BINARY);
-    _setmode(_fileno(stdout), _O_BINARY);
-#endif
-    try
-    {
+    return test::runPeer([&] {
         const int code = argc < 2 ? 2 : run(argv[1], argc > 2 ? argv[2] : "");
         if (argc > 3)
         {
-            std::cout << '\xFF' << std::flush;
-            std::this_thread::sleep_for(std::chrono::minutes(1));
+            test::stay();
         }
         return code;
-    }
-    catch (const std::exception& error)
-    {
-        std::cout << error.what();
-        return 3;
-    }
+    });
 }
