@@ -6,6 +6,7 @@
 #include "vrx_api/exchange/exchange_object_wrapper.h"
 #include "vrx_api/exchange/json_binary_io.h"
 #include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/json_value.h"
 
 #include <utility>
 

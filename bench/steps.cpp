@@ -3,6 +3,7 @@
 #include "mp/shared_buffer.h"
 #include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/json_binary_io.h"
+#include "vrx_api/json/json_value.h"
 
 #include <benchmark/benchmark.h>
 #include <zlib.h>

@@ -4,6 +4,7 @@
 #include "vrx_api/exchange/bytes.h"
 #include "vrx_api/exchange/exchange_object.h"
 #include "vrx_api/exchange/json_binary_io.h"
+#include "vrx_api/json/json_value.h"
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,5 +1,6 @@
 #include "tests/support/model_row.h"
-#include "vrx_api/format_options/option_fields.h"
+#include "vrx_api/format_options/shared_mode_tables.h"
+#include "vrx_api/json/shapes.h"
 #include "vrx_api/vrx_api_format_options.h"
 
 #include <gmock/gmock.h>
@@ -151,10 +152,10 @@ TEST(FormatOptions, ASetOfModesAddsAndIsSorted)
 {
     using EMode = EPersistentNameProcessingModeType;
     std::set<EMode> modes = {EMode::Instance};
-    decode(test::parsed(R"(["unknown","face",3,"vertex","face","Face"])"), modes);
-    decode(test::parsed(R"({"none":"none"})"), modes);
+    decode(test::parsed(R"(["unknown","face",3,"vertex","face","Face"])"), valid(modes));
+    decode(test::parsed(R"({"none":"none"})"), valid(modes));
     modes.insert(EMode{8});
     JsonDocument document;
-    encode(modes, document.GetAllocator()).Swap(document);
+    encode(valid(modes), document.GetAllocator()).Swap(document);
     EXPECT_EQ(test::textOf(document), R"(["vertex","edge","face","none","instance","unknown"])");
 }

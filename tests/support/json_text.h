@@ -3,6 +3,7 @@
 #include "mp/narrow.h"
 #include "vrx_api/json/json_object.h"
 #include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/json_value.h"
 
 #include <string>
 #include <string_view>

@@ -4,15 +4,18 @@
 #include "vrx_api/command/export_options_impl.h"
 #include "vrx_api/command/ferrant_interface_table.h"
 #include "vrx_api/command/import_options_impl.h"
-#include "vrx_api/command/required.h"
 #include "vrx_api/json/fields.h"
 #include "vrx_api/json/json_text_io.h"
 #include "vrx_api/json/message.h"
+#include "vrx_api/json/required.h"
 
 #include <stdexcept>
 
 namespace vrx
 {
+
+static constexpr Key kType = WIDE("command");
+static constexpr Key kOptions = WIDE("options");
 
 static constexpr EnumName<Command::EType> kTypes[] = {
     {Command::EType::Unknown, WIDE("unknown")}, {Command::EType::Info, WIDE("info")},
@@ -23,13 +26,21 @@ static constexpr const auto& enumTable(Command::EType)
 {
     return kTypes;
 }
+static constexpr Command::EType enumFallback(Command::EType)
+{
+    return Command::EType::Unknown;
+}
+
+template <class Self, class Fields>
+void Command::describe(Self& self, Fields& fields)
+{
+    fields.always(WIDE("ferrant_interface"), self.m_internalInterface);
+    fields.always(kType, self.m_type);
+}
+template struct Described<Command>;
 
 namespace
 {
-
-constexpr Key kInterface = WIDE("ferrant_interface");
-constexpr Key kCommand = WIDE("command");
-constexpr Key kOptions = WIDE("options");
 
 template <class Options>
 const FerrantOptions& requireHeld(const std::shared_ptr<Options>& options, const char* message)
@@ -53,13 +64,12 @@ void replaceByRead(std::shared_ptr<Options>& held, const std::shared_ptr<Options
 void Command::writeObject(wostream& stream) const
 {
     kolt::trace();
-    JsonDocument document(rapidjson::kObjectType);
-    FieldWriter fields(document, document.GetAllocator());
-    fields.always(kInterface, m_internalInterface);
-    fields.always(kCommand, m_type);
+    JsonDocument document;
+    JsonAllocator& allocator = document.GetAllocator();
+    writeMembers(*this, document, allocator);
     if (carriesOptions())
     {
-        fields.always(kOptions, options());
+        addMember(document, kOptions, encode(options(), allocator), allocator);
     }
     JsonTextIO::write(stream, document, true);
 }
@@ -69,11 +79,8 @@ void Command::readObject(wistream& stream)
     kolt::trace();
     JsonDocument document;
     readMessage(stream, document);
-    if (const JsonValue* const name = findString(document, kInterface))
-    {
-        m_internalInterface = enumValueOr(textOf(*name), EFerrantInterface::UConnect);
-    }
-    m_type = enumValueOr(requiredText(document, kCommand, "Json document has no command type."), EType::Unknown);
+    readMembers(*this, document);
+    requiredText(document, kType, "Json document has no command type.");
     if (carriesOptions())
     {
         const JsonValue* const options = find(document, kOptions);

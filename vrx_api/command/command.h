@@ -4,6 +4,7 @@
 #include "vrx_api/command/export_options.h"
 #include "vrx_api/command/ferrant_interface.h"
 #include "vrx_api/command/import_options.h"
+#include "vrx_api/json/described.h"
 
 #include <cstdint>
 #include <memory>
@@ -50,6 +51,10 @@ public:
     std::shared_ptr<ExportOptions> exportOptions() const { return m_exportOptions; }
 
 private:
+    friend struct Described<Command>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     bool carriesOptions() const { return m_type == EType::Import || m_type == EType::Export; }
     const FerrantOptions& options() const;
     void readOptions(const JsonValue& value);

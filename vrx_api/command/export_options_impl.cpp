@@ -1,8 +1,8 @@
 #include "vrx_api/command/export_options_impl.h"
 
 #include "mp/narrow.h"
-#include "vrx_api/command/required.h"
 #include "vrx_api/json/fields.h"
+#include "vrx_api/json/required.h"
 
 namespace vrx
 {
@@ -16,6 +16,7 @@ void ExportOptionsImpl::describe(Self& self, Fields& fields)
     fields.filled(WIDE("format_version"), self.m_formatVersion);
     fields.filled(WIDE("geometry_flags"), self.m_geometryFlags);
 }
+template struct Described<ExportOptionsImpl>;
 
 void ExportOptionsImpl::readObject(const JsonValue& value)
 {

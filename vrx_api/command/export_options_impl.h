@@ -22,7 +22,7 @@ public:
     void setGeometryFlags(int flags) override;
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExportOptionsImpl>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -15,5 +15,9 @@ constexpr const auto& enumTable(EFerrantInterface)
 {
     return kInterfaces;
 }
+constexpr EFerrantInterface enumFallback(EFerrantInterface)
+{
+    return EFerrantInterface::UConnect;
+}
 
 } // namespace vrx

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vrx_api/format_options/format_options.h"
+#include "vrx_api/json/json_value.h"
 #include "vrx_api/json/key.h"
 
 #include <map>

@@ -1,8 +1,8 @@
 #include "vrx_api/command/import_options_impl.h"
 
 #include "mp/narrow.h"
-#include "vrx_api/command/required.h"
 #include "vrx_api/json/fields.h"
+#include "vrx_api/json/required.h"
 
 #include <utility>
 

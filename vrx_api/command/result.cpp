@@ -1,9 +1,9 @@
 #include "vrx_api/command/result.h"
 
-#include "vrx_api/command/required.h"
 #include "vrx_api/json/fields.h"
 #include "vrx_api/json/json_text_io.h"
 #include "vrx_api/json/message.h"
+#include "vrx_api/json/required.h"
 
 namespace vrx
 {
@@ -17,18 +17,26 @@ static constexpr const auto& enumTable(Result::ECode)
 {
     return kCodes;
 }
+static constexpr Result::ECode enumFallback(Result::ECode)
+{
+    return Result::ECode::Unknown;
+}
 
 static constexpr Key kCode = WIDE("code");
-static constexpr Key kMessage = WIDE("message");
-static constexpr Key kFinished = WIDE("is_finished");
+
+template <class Self, class Fields>
+void Result::describe(Self& self, Fields& fields)
+{
+    fields.always(kCode, self.m_code);
+    fields.filled(WIDE("message"), self.m_message);
+    fields.always(WIDE("is_finished"), self.m_finished);
+}
+template struct Described<Result>;
 
 void Result::writeObject(mp::wostream& stream) const
 {
-    JsonDocument document(rapidjson::kObjectType);
-    FieldWriter fields(document, document.GetAllocator());
-    fields.always(kCode, m_code);
-    fields.filled(kMessage, m_message);
-    fields.always(kFinished, m_finished);
+    JsonDocument document;
+    writeMembers(*this, document, document.GetAllocator());
     JsonTextIO::write(stream, document, true);
 }
 
@@ -36,10 +44,8 @@ void Result::readObject(mp::wistream& stream)
 {
     JsonDocument document;
     readMessage(stream, document);
-    m_code = enumValueOr(requiredText(document, kCode, "Json document has no result code."), ECode::Unknown);
-    FieldReader fields(document);
-    fields.filled(kMessage, m_message);
-    fields.always(kFinished, m_finished);
+    requiredText(document, kCode, "Json document has no result code.");
+    readMembers(*this, document);
 }
 
 } // namespace vrx

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mp/serializable.h"
+#include "vrx_api/json/described.h"
 
 #include <cstdint>
 
@@ -35,6 +36,10 @@ public:
     void setFinished(bool finished) { m_finished = finished; }
 
 private:
+    friend struct Described<Result>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     ECode m_code = ECode::Ok;
     mp::wstring m_message;
     bool m_finished = false;

@@ -26,6 +26,7 @@ void ExcEntity::describe(Self& self, Fields& fields)
     fields.when(original, WIDE("description"), self.m_description);
     fields.when(hasId, WIDE("id"), self.m_id);
 }
+template struct Described<ExcEntity>;
 
 void ExcEntity::readObject(const JsonValue& value)
 {

@@ -39,7 +39,7 @@ public:
     void setDescription(const wstring& description) { m_description = description; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcEntity>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -1,6 +1,6 @@
 #include "vrx_api/common/full_subent_path.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -8,10 +8,11 @@ namespace vrx
 template <class Self, class Fields>
 void ExcFullSubentPath::describe(Self& self, Fields& fields)
 {
-    fields.filled(WIDE("block_references"), self.m_refs);
+    fields.filled(WIDE("block_references"), valid(self.m_refs));
     fields.always(WIDE("body_id"), self.m_bodyId);
     fields.always(WIDE("subent_id"), self.m_subentId);
 }
+template struct Described<ExcFullSubentPath>;
 
 void ExcFullSubentPath::readObject(const JsonValue& value)
 {

@@ -34,7 +34,7 @@ public:
     void setSubentId(const ExcSubentId& id) { m_subentId = id; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcFullSubentPath>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -30,12 +30,7 @@ void ExcMatrix3d::readObject(const JsonValue& value)
 void ExcMatrix3d::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     kolt::trace();
-    value.SetArray();
-    value.Reserve(static_cast<rapidjson::SizeType>(m_rows.size()), allocator);
-    for (const ExcVector3d& row : m_rows)
-    {
-        value.PushBack(encode(row, allocator), allocator);
-    }
+    value = encode(m_rows, allocator);
 }
 
 ExcVector3d& ExcMatrix3d::row(std::size_t index)

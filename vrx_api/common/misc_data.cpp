@@ -1,5 +1,6 @@
 #include "vrx_api/common/misc_data.h"
 
+#include "vrx_api/json/elements.h"
 #include "vrx_api/json/fields.h"
 
 namespace vrx
@@ -22,15 +23,11 @@ void ExcMiscProperty::describe(Self& self, Fields& fields)
     fields.always(WIDE("type"), self.m_type);
     fields.always(WIDE("value"), self.m_value);
 }
+template struct Described<ExcMiscProperty>;
 
-// A value of the wrong kind is passed over without a message, here and in the properties' array.
 void ExcMiscProperty::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    if (value.IsObject())
-    {
-        readMembers(*this, value);
-    }
+    readFields(*this, value, kSilently);
 }
 
 void ExcMiscProperty::writeObject(JsonValue& value, JsonAllocator& allocator) const
@@ -64,14 +61,12 @@ ExcMiscProperty& ExcMiscProperty::set(EType type, const wstring& value)
 // An element that is no object leaves a default property, so that the array keeps its length.
 void ExcMiscData::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    decode(value, m_properties);
+    readElements(m_properties, value, kSilently);
 }
 
 void ExcMiscData::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    kolt::trace();
-    value = encode(m_properties, allocator);
+    writeElements(m_properties, value, allocator);
 }
 
 } // namespace vrx

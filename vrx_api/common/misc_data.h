@@ -37,7 +37,7 @@ public:
     ExcMiscProperty& set(EType type, const wstring& value);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcMiscProperty>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -21,6 +21,7 @@ void ExcSubentId::describe(Self& self, Fields& fields)
     fields.always(WIDE("type"), self.m_type);
     fields.always(WIDE("index"), self.m_index);
 }
+template struct Described<ExcSubentId>;
 
 void ExcSubentId::readObject(const JsonValue& value)
 {

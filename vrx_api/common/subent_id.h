@@ -49,7 +49,7 @@ public:
     static void fillSubentId(ExcSubentId& target, ENTITY* entity);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcSubentId>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

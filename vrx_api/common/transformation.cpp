@@ -11,15 +11,11 @@ void ExcTransformation::describe(Self& self, Fields& fields)
     fields.always(WIDE("affine"), self.m_affine);
     fields.always(WIDE("translation"), self.m_translation);
 }
+template struct Described<ExcTransformation>;
 
-// A value that is no object is passed over without a message.
 void ExcTransformation::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    if (value.IsObject())
-    {
-        readMembers(*this, value);
-    }
+    readFields(*this, value, kSilently);
 }
 
 void ExcTransformation::writeObject(JsonValue& value, JsonAllocator& allocator) const

@@ -20,7 +20,7 @@ public:
     const ExcVector3d& translation() const { return m_translation; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcTransformation>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

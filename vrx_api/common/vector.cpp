@@ -1,7 +1,8 @@
 #include "vrx_api/common/vector.h"
 
 #include "kolt/log.h"
-#include "vrx_api/json/doubles.h"
+#include "vrx_api/json/json_read.h"
+#include "vrx_api/json/json_write.h"
 
 #include <stdexcept>
 
@@ -17,14 +18,14 @@ void ExcVectorBase<N>::readObject(const JsonValue& value)
         kolt::log(kolt::kError, "Exchange vector/point (2D/3D) object should have a JSON array type.");
         return;
     }
-    decodeLeadingDoubles(value, m_components);
+    decode(value, m_components);
 }
 
 // Vectors are written by the thousand: without a trace line.
 template <std::size_t N>
 void ExcVectorBase<N>::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    value = encodeDoubles(m_components, allocator);
+    value = encode(m_components, allocator);
 }
 
 template <std::size_t N>

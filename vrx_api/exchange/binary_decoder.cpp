@@ -1,5 +1,6 @@
 #include "vrx_api/exchange/binary_tag.h"
 #include "vrx_api/exchange/json_binary_io.h"
+#include "vrx_api/json/json_value.h"
 
 #include <algorithm>
 #include <cstring>

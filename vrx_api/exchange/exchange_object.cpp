@@ -3,6 +3,7 @@
 #include "kolt/log.h"
 #include "vrx_api/exchange/json_binary_io.h"
 #include "vrx_api/exchange/shared_content.h"
+#include "vrx_api/json/json_value.h"
 
 #include <boost/uuid/random_generator.hpp>
 #include <boost/uuid/uuid_io.hpp>

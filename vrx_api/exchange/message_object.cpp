@@ -17,11 +17,12 @@ void ExcMessageBase::describe(Self& self, Fields& fields)
 {
     fields.always(WIDE("message"), self.m_message);
 }
+template struct Described<ExcMessageBase>;
 
 // The status objects travel often: they write no trace line, and pass over a wrong kind without a word.
 void ExcMessageBase::readObject(const JsonValue& value)
 {
-    if (value.IsObject())
+    if (isObject(value, kSilently))
     {
         readMembers(*this, value);
     }

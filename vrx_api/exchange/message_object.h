@@ -26,7 +26,7 @@ public:
     void set(const wstring& message) { m_message = message; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcMessageBase>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

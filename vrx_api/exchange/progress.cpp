@@ -16,11 +16,12 @@ void ExcProgress::describe(Self& self, Fields& fields)
     fields.always(WIDE("progress_max"), self.m_progressMax);
     fields.always(WIDE("stage"), self.m_stage);
 }
+template struct Described<ExcProgress>;
 
 // Like the other status objects: no trace line, and not a word about a wrong kind.
 void ExcProgress::readObject(const JsonValue& value)
 {
-    if (value.IsObject())
+    if (isObject(value, kSilently))
     {
         readMembers(*this, value);
     }

@@ -31,7 +31,7 @@ public:
     bool operator==(const ExcProgress& other) const;
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcProgress>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

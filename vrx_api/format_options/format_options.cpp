@@ -90,8 +90,7 @@ void writeIdentity(const IFormatOptions& options, JsonValue& value, JsonAllocato
         value.SetObject();
     }
     FieldWriter fields(value, allocator);
-    fields.always(kOperationKey, options.operationType());
-    fields.always(kFormatKey, options.formatType());
+    Described<IFormatOptions>::walk(options, fields);
 }
 
 std::shared_ptr<IFormatOptions> newImportOptions(EFormatType format)
@@ -112,6 +111,15 @@ std::shared_ptr<IFormatOptions> newImportOptions(EFormatType format)
 }
 
 } // namespace
+
+// What is read decides about the class, and is there before the object.
+template <class Self, class Fields>
+void IFormatOptions::describe(Self& self, Fields& fields)
+{
+    fields.writeOnly(true, kOperationKey, self.operationType());
+    fields.writeOnly(true, kFormatKey, self.formatType());
+}
+template struct Described<IFormatOptions>;
 
 std::shared_ptr<IFormatOptions> IFormatOptions::readOptions(const JsonValue& value)
 {

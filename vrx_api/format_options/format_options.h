@@ -8,8 +8,6 @@
 namespace vrx
 {
 
-struct FieldAccess;
-
 /// The settings of a translator for one CAD format. The class of an object says which format and which operation; a
 /// default object leaves every decision to the translator.
 class VRX_API IFormatOptions : public IJsonObject
@@ -21,6 +19,11 @@ public:
     /// Makes and reads the object whose class the two identifying keys name. Null, mostly with a line in the log, when
     /// there is no such class; none are there for an export.
     static std::shared_ptr<IFormatOptions> readOptions(const JsonValue& value);
+
+private:
+    friend struct Described<IFormatOptions>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
 };
 
 namespace imp

@@ -41,6 +41,7 @@ namespace imp
 template <class Self, class Fields>
 void OptionsIGES::describe(Self& self, Fields& fields)
 {
+    describeBase<IFormatOptions>(self, fields);
     fields.always(WIDE("import_entities"), self.m_importEntities);
     fields.always(WIDE("hidden_entities_mode"), self.m_hiddenEntitiesMode);
 }
@@ -52,7 +53,7 @@ void OptionsIGES::readObject(const JsonValue& value)
 
 void OptionsIGES::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeOptionFields(*this, value, allocator);
+    writeMembers(*this, value, allocator);
 }
 
 EFormatType OptionsIGES::formatType() const
@@ -63,6 +64,7 @@ EFormatType OptionsIGES::formatType() const
 template <class Self, class Fields>
 void OptionsSTEP::describe(Self& self, Fields& fields)
 {
+    describeBase<IFormatOptions>(self, fields);
     fields.always(WIDE("layer_name_mode"), self.m_layerNameProcessingMode);
     fields.always(WIDE("visu_pmi_mode"), self.m_visuPMIProcessingMode);
 }
@@ -74,7 +76,7 @@ void OptionsSTEP::readObject(const JsonValue& value)
 
 void OptionsSTEP::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeOptionFields(*this, value, allocator);
+    writeMembers(*this, value, allocator);
 }
 
 EFormatType OptionsSTEP::formatType() const
@@ -85,6 +87,7 @@ EFormatType OptionsSTEP::formatType() const
 template <class Self, class Fields>
 void OptionsJT::describe(Self& self, Fields& fields)
 {
+    describeBase<IFormatOptions>(self, fields);
     fields.always(WIDE("edges_mode"), self.m_importEdgesMode);
     fields.always(WIDE("user_prop_mode"), self.m_userPropertiesMode);
 }
@@ -96,7 +99,7 @@ void OptionsJT::readObject(const JsonValue& value)
 
 void OptionsJT::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeOptionFields(*this, value, allocator);
+    writeMembers(*this, value, allocator);
 }
 
 EFormatType OptionsJT::formatType() const
@@ -107,6 +110,7 @@ EFormatType OptionsJT::formatType() const
 template <class Self, class Fields>
 void OptionsParasolid::describe(Self& self, Fields& fields)
 {
+    describeBase<IFormatOptions>(self, fields);
     fields.always(WIDE("hidden_entities_mode"), self.m_hiddenEntitiesMode);
 }
 
@@ -117,7 +121,7 @@ void OptionsParasolid::readObject(const JsonValue& value)
 
 void OptionsParasolid::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeOptionFields(*this, value, allocator);
+    writeMembers(*this, value, allocator);
 }
 
 EFormatType OptionsParasolid::formatType() const
@@ -126,5 +130,10 @@ EFormatType OptionsParasolid::formatType() const
 }
 
 } // namespace imp
+
+template struct Described<imp::OptionsIGES>;
+template struct Described<imp::OptionsSTEP>;
+template struct Described<imp::OptionsJT>;
+template struct Described<imp::OptionsParasolid>;
 
 } // namespace vrx

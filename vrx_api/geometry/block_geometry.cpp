@@ -7,6 +7,7 @@
 #include "vrx_api/geometry/shared_acis_buffer.h"
 #include "vrx_api/json/json_read.h"
 #include "vrx_api/json/json_write.h"
+#include "vrx_api/json/kind.h"
 
 namespace vrx
 {

@@ -2,7 +2,7 @@
 
 #include "mp/shared_buffer.h"
 #include "vrx_api/geometry/kernel.h"
-#include "vrx_api/json/json_value.h"
+#include "vrx_api/json/json_fwd.h"
 #include "vrx_api/vrx_api_export.h"
 
 #include <cstdint>

@@ -17,65 +17,29 @@ static constexpr const auto& enumTable(EParasolidMode)
 {
     return kParasolidModes;
 }
-
-namespace
+static constexpr EParasolidMode enumFallback(EParasolidMode)
 {
-
-constexpr Key kName = WIDE("name");
-constexpr Key kVersion = WIDE("version");
-constexpr Key kInterface = WIDE("ferrant_interface");
-constexpr Key kCores = WIDE("thirdparty_cores");
-constexpr Key kParasolidMode = WIDE("parasolid_mode");
-constexpr Key kImportFormats = WIDE("import_formats");
-constexpr Key kExportFormats = WIDE("export_formats");
-
-// A name outside the table reads as the number 0, as in the other messages.
-template <class E>
-void readName(const JsonValue& object, Key key, E& field)
-{
-    if (const JsonValue* const name = findString(object, key))
-    {
-        field = enumValueOr(textOf(*name), E{});
-    }
+    return EParasolidMode::Direct;
 }
 
-template <class T>
-void appendRead(const JsonValue& object, Key key, std::vector<std::shared_ptr<T>>& objects)
+template <class Self, class Fields>
+void FerrantInfo::describe(Self& self, Fields& fields)
 {
-    const JsonValue* const array = find(object, key);
-    if (array == nullptr || !array->IsArray())
-    {
-        return;
-    }
-    for (const JsonValue& element : array->GetArray())
-    {
-        // An element that throws is not appended.
-        const auto read = std::make_shared<T>();
-        read->readObject(element);
-        objects.push_back(read);
-    }
+    fields.always(WIDE("name"), self.m_name);
+    fields.always(WIDE("version"), self.m_version);
+    fields.always(WIDE("ferrant_interface"), self.m_requestedInterface);
+    fields.filled(WIDE("thirdparty_cores"), self.m_thirdpartyCores);
+    fields.always(WIDE("parasolid_mode"), self.m_parasolidMode);
+    fields.filled(WIDE("import_formats"), self.m_importFormats);
+    fields.filled(WIDE("export_formats"), self.m_exportFormats);
 }
-
-template <class T>
-T& appendNew(std::vector<std::shared_ptr<T>>& objects)
-{
-    return *objects.emplace_back(std::make_shared<T>());
-}
-
-} // namespace
+template struct Described<FerrantInfo>;
 
 void FerrantInfo::writeObject(wostream& stream) const
 {
     kolt::trace();
-    JsonDocument document(rapidjson::kObjectType);
-    FieldWriter fields(document, document.GetAllocator());
-    fields.always(kName, m_name);
-    fields.always(kVersion, m_version);
-    fields.always(kInterface, m_requestedInterface);
-    fields.filled(kCores, m_thirdpartyCores);
-    fields.always(kParasolidMode, m_parasolidMode);
-    fields.filled(kImportFormats, m_importFormats);
-    fields.filled(kExportFormats, m_exportFormats);
+    JsonDocument document;
+    writeMembers(*this, document, document.GetAllocator());
     JsonTextIO::write(stream, document, true);
 }
 
@@ -84,14 +48,13 @@ void FerrantInfo::readObject(wistream& stream)
     kolt::trace();
     JsonDocument document;
     readMessage(stream, document);
-    FieldReader fields(document);
-    fields.always(kName, m_name);
-    fields.always(kVersion, m_version);
-    readName(document, kInterface, m_requestedInterface);
-    appendRead(document, kCores, m_thirdpartyCores);
-    readName(document, kParasolidMode, m_parasolidMode);
-    appendRead(document, kImportFormats, m_importFormats);
-    appendRead(document, kExportFormats, m_exportFormats);
+    readMembers(*this, document);
+}
+
+template <class T>
+static T& appendNew(std::vector<std::shared_ptr<T>>& objects)
+{
+    return *objects.emplace_back(std::make_shared<T>());
 }
 
 ThirdpartyCore& FerrantInfo::newThirdpartyCore()

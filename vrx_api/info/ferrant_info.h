@@ -59,6 +59,10 @@ public:
     void addExportFormats(const std::vector<std::shared_ptr<Format>>& formats);
 
 private:
+    friend struct Described<FerrantInfo>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     wstring m_name;
     wstring m_version;
     EFerrantInterface m_requestedInterface = EFerrantInterface::UConnect;

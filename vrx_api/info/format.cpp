@@ -1,7 +1,7 @@
 #include "vrx_api/info/format.h"
 
-#include "vrx_api/command/required.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/required.h"
+#include "vrx_api/json/shapes.h"
 
 #include <boost/algorithm/string/case_conv.hpp>
 #include <boost/algorithm/string/classification.hpp>
@@ -89,9 +89,10 @@ template <class Self, class Fields>
 void Format::describe(Self& self, Fields& fields)
 {
     fields.always(WIDE("description"), self.m_description);
-    fields.always(WIDE("extensions"), self.m_extensions);
-    fields.always(WIDE("filters"), self.m_filterExtensions);
+    fields.always(WIDE("extensions"), valid(self.m_extensions));
+    fields.always(WIDE("filters"), valid(self.m_filterExtensions));
 }
+template struct Described<Format>;
 
 void Format::readObject(const JsonValue& value)
 {

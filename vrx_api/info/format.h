@@ -35,7 +35,7 @@ public:
     bool is(const wstring& path) const;
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<Format>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -1,7 +1,7 @@
 #include "vrx_api/info/thirdparty_core.h"
 
-#include "vrx_api/command/required.h"
 #include "vrx_api/json/fields.h"
+#include "vrx_api/json/required.h"
 
 namespace vrx
 {
@@ -12,6 +12,7 @@ void ThirdpartyCore::describe(Self& self, Fields& fields)
     fields.always(WIDE("name"), self.m_name);
     fields.always(WIDE("version"), self.m_version);
 }
+template struct Described<ThirdpartyCore>;
 
 void ThirdpartyCore::readObject(const JsonValue& value)
 {

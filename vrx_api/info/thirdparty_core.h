@@ -20,7 +20,7 @@ public:
     ThirdpartyCore& setVersion(const wstring& version);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ThirdpartyCore>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

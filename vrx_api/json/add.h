@@ -1,15 +1,13 @@
 #pragma once
 
 #include "kolt/log.h"
+#include "vrx_api/json/kind.h"
 
 #include <memory>
 #include <vector>
 
 namespace vrx
 {
-
-/// The text of classes that refuse null pointers without a word.
-constexpr const char* kSilently = nullptr;
 
 /// True for a null pointer, which is logged with the class's text.
 template <class T>

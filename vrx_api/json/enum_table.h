@@ -1,6 +1,9 @@
 #pragma once
 
-#include "vrx_api/json/json_value.h"
+#include "vrx_api/json/json_fwd.h"
+
+#include <cstddef>
+#include <type_traits>
 
 namespace vrx
 {
@@ -10,6 +13,10 @@ namespace vrx
 ///
 ///     constexpr EnumName<EPitch> kPitches[] = {{EPitch::Unknown, WIDE("unknown")}, ...};
 ///     static constexpr const auto& enumTable(EPitch) { return kPitches; }
+///
+/// The few enumerations that have a fallback of their own, all of them beside the model, tell it next to the table:
+///
+///     static constexpr EMode enumFallback(EMode) { return EMode::None; }
 template <class E>
 struct EnumName
 {
@@ -17,55 +24,111 @@ struct EnumName
     wstring_view name;
 };
 
-/// The name of a number. A number outside the table has the name of the table's lowest number.
-template <class E>
-constexpr wstring_view enumName(E value)
+template <class E, std::size_t N>
+constexpr bool inOrder(const EnumName<E> (&table)[N])
 {
-    const auto& table = enumTable(value);
-    for (const EnumName<E>& row : table)
+    for (std::size_t i = 1; i < N; ++i)
+    {
+        if (table[i].value <= table[i - 1].value)
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The table of an enumeration, whose order the compiler checks.
+template <class E>
+constexpr const auto& tableOf()
+{
+    static_assert(inOrder(enumTable(E{})), "a table is in the order of its numbers");
+    return enumTable(E{});
+}
+
+/// The row of a number, or null.
+template <class E>
+constexpr const EnumName<E>* findRow(E value)
+{
+    for (const EnumName<E>& row : tableOf<E>())
     {
         if (row.value == value)
         {
-            return row.name;
+            return &row;
         }
     }
-    return table[0].name;
+    return nullptr;
 }
 
-/// The number of a name. A name outside the table has the number of the name that sorts lowest by code unit, which is
-/// in general not an "unknown".
+/// The row of a name, or null.
+template <class E>
+constexpr const EnumName<E>* findRow(wstring_view name)
+{
+    for (const EnumName<E>& row : tableOf<E>())
+    {
+        if (row.name == name)
+        {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+template <class E, class = void>
+inline constexpr bool hasFallback = false;
+
+template <class E>
+inline constexpr bool hasFallback<E, std::void_t<decltype(enumFallback(E{}))>> = true;
+
+/// What stands for all names outside the table: the row whose name sorts lowest by code unit, which is in general not
+/// an "unknown".
+template <class E>
+constexpr const EnumName<E>& rowOfOtherNames()
+{
+    if constexpr (hasFallback<E>)
+    {
+        return *findRow(enumFallback(E{}));
+    }
+    else
+    {
+        const EnumName<E>* lowest = &tableOf<E>()[0];
+        for (const EnumName<E>& row : tableOf<E>())
+        {
+            lowest = row.name < lowest->name ? &row : lowest;
+        }
+        return *lowest;
+    }
+}
+
+/// What stands for all numbers outside the table: the row of the lowest number.
+template <class E>
+constexpr const EnumName<E>& rowOfOtherNumbers()
+{
+    if constexpr (hasFallback<E>)
+    {
+        return *findRow(enumFallback(E{}));
+    }
+    else
+    {
+        return tableOf<E>()[0];
+    }
+}
+
+/// The name of a number.
+template <class E>
+constexpr wstring_view enumName(E value)
+{
+    constexpr wstring_view kOther = rowOfOtherNumbers<E>().name;
+    const EnumName<E>* const row = findRow(value);
+    return row != nullptr ? row->name : kOther;
+}
+
+/// The number of a name.
 template <class E>
 constexpr E enumValue(wstring_view name)
 {
-    const auto& table = enumTable(E{});
-    const EnumName<E>* lowest = &table[0];
-    for (const EnumName<E>& row : table)
-    {
-        if (row.name == name)
-        {
-            return row.value;
-        }
-        if (row.name < lowest->name)
-        {
-            lowest = &row;
-        }
-    }
-    return lowest->value;
-}
-
-/// The number of a name, or the given one for a name outside the table. For the few enumerations, all of them beside
-/// the model, that have a fallback of their own.
-template <class E>
-constexpr E enumValueOr(wstring_view name, E otherwise)
-{
-    for (const EnumName<E>& row : enumTable(otherwise))
-    {
-        if (row.name == name)
-        {
-            return row.value;
-        }
-    }
-    return otherwise;
+    constexpr E kOther = rowOfOtherNames<E>().value;
+    const EnumName<E>* const row = findRow<E>(name);
+    return row != nullptr ? row->value : kOther;
 }
 
 } // namespace vrx

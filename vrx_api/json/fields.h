@@ -3,6 +3,7 @@
 #include "kolt/log.h"
 #include "vrx_api/json/json_read.h"
 #include "vrx_api/json/json_write.h"
+#include "vrx_api/json/kind.h"
 
 namespace vrx
 {
@@ -15,76 +16,114 @@ namespace vrx
 //         fields.always(WIDE("guid"), self.m_guid);
 //         fields.filled(WIDE("misc_data"), self.m_miscData);
 //     }
+//     template struct Described<ExcBlockReference>;
 //
-// and both directions walk that description. The verbs tell when a key is written:
-//     always        in any case
-//     filled        when the field holds something
-//     when          under a condition
-//     readOnly      never
-// All are read when the key is there, by the rule of the field's type.
+// and all walks go over that description. The verbs tell when a key is written and when it is read:
+//
+//     always      written in any case
+//     filled      written when the field holds something
+//     when        written under a condition
+//     flagged     written when the flag is set; a reader that finds the key sets the flag, and never clears it
+//     optional    written when the flag is set; a reader sets the flag to whether the key is there
+//     readOnly    never written
+//     writeOnly   never read; written under a condition
+//
+// All but the last are read when the key is there, by the rule of the field's type, or by a rule of shapes.h that is
+// named on the line. A description never asks for its direction.
 
 /// Takes the fields of a description from an object.
 class FieldReader
 {
 public:
+    static constexpr bool kReads = true;
+
     explicit FieldReader(const JsonValue& object)
         : m_object(object)
     {
     }
 
     template <class T>
-    void always(Key key, T& field)
+    void always(Key key, T&& field)
     {
-        if (const JsonValue* const value = find(m_object, key))
-        {
-            decode(*value, field);
-        }
+        take(key, field);
     }
 
     template <class T>
-    void filled(Key key, T& field)
+    void filled(Key key, T&& field)
     {
-        always(key, field);
+        take(key, field);
     }
 
     template <class T>
-    void when(bool, Key key, T& field)
+    void when(bool, Key key, T&& field)
     {
-        always(key, field);
+        take(key, field);
     }
 
     template <class T>
-    void readOnly(Key key, T& field)
+    void flagged(Key key, bool& flag, T&& field)
     {
-        always(key, field);
+        flag = take(key, field) || flag;
+    }
+
+    template <class T>
+    void optional(Key key, bool& flag, T&& field)
+    {
+        flag = take(key, field);
+    }
+
+    template <class T>
+    void readOnly(Key key, T&& field)
+    {
+        take(key, field);
+    }
+
+    template <class T>
+    void writeOnly(bool, Key, const T&)
+    {
     }
 
 private:
+    /// True when the key is there, with a value of the field's kind.
+    template <class T>
+    bool take(Key key, T& field)
+    {
+        const JsonValue* const value = find(m_object, key);
+        return value != nullptr && decode(*value, field);
+    }
+
     const JsonValue& m_object;
 };
 
-/// Counts the members that a description writes.
-class FieldCounter
+/// What the walks that write make of the verbs: each is a `when`.
+template <class Walk>
+class WritingWalk
 {
 public:
-    rapidjson::SizeType count() const { return m_count; }
+    static constexpr bool kReads = false;
 
     template <class T>
-    void always(Key, const T&)
+    void always(Key key, const T& field)
     {
-        ++m_count;
+        walk().when(true, key, field);
     }
 
     template <class T>
-    void filled(Key, const T& field)
+    void filled(Key key, const T& field)
     {
-        m_count += isEmpty(field) ? 0U : 1U;
+        walk().when(!isEmpty(field), key, field);
     }
 
     template <class T>
-    void when(bool written, Key, const T&)
+    void flagged(Key key, bool flag, const T& field)
     {
-        m_count += written ? 1U : 0U;
+        walk().when(flag, key, field);
+    }
+
+    template <class T>
+    void optional(Key key, bool flag, const T& field)
+    {
+        walk().when(flag, key, field);
     }
 
     template <class T>
@@ -92,12 +131,34 @@ public:
     {
     }
 
+    template <class T>
+    void writeOnly(bool written, Key key, const T& field)
+    {
+        walk().when(written, key, field);
+    }
+
+private:
+    Walk& walk() { return static_cast<Walk&>(*this); }
+};
+
+/// Counts the members that a description writes.
+class FieldCounter : public WritingWalk<FieldCounter>
+{
+public:
+    rapidjson::SizeType count() const { return m_count; }
+
+    template <class T>
+    void when(bool written, Key, const T&)
+    {
+        m_count += written ? 1U : 0U;
+    }
+
 private:
     rapidjson::SizeType m_count = 0;
 };
 
 /// Adds the fields of a description to an object.
-class FieldWriter
+class FieldWriter : public WritingWalk<FieldWriter>
 {
 public:
     FieldWriter(JsonValue& object, JsonAllocator& allocator)
@@ -107,29 +168,12 @@ public:
     }
 
     template <class T>
-    void always(Key key, const T& field)
-    {
-        addMember(m_object, key, encode(field, m_allocator), m_allocator);
-    }
-
-    template <class T>
-    void filled(Key key, const T& field)
-    {
-        when(!isEmpty(field), key, field);
-    }
-
-    template <class T>
     void when(bool written, Key key, const T& field)
     {
         if (written)
         {
-            always(key, field);
+            addMember(m_object, key, encode(field, m_allocator), m_allocator);
         }
-    }
-
-    template <class T>
-    void readOnly(Key, const T&)
-    {
     }
 
 private:
@@ -137,22 +181,48 @@ private:
     JsonAllocator& m_allocator;
 };
 
-/// Befriended by the classes, whose descriptions are private.
-struct FieldAccess
+template <class T>
+void Described<T>::walk(T& object, FieldReader& fields)
 {
-    template <class T, class Fields>
-    static void describe(T& object, Fields& fields)
+    T::describe(object, fields);
+}
+
+template <class T>
+void Described<T>::walk(const T& object, FieldCounter& fields)
+{
+    T::describe(object, fields);
+}
+
+template <class T>
+void Described<T>::walk(const T& object, FieldWriter& fields)
+{
+    T::describe(object, fields);
+}
+
+/// The first line of a description whose class has a described base: the keys of the base.
+template <class Base, class Self, class Fields>
+void describeBase(Self& self, Fields& fields)
+{
+    std::conditional_t<std::is_const_v<Self>, const Base, Base>& base = self;
+    Described<Base>::walk(base, fields);
+}
+
+/// The same for a class that writes the keys of its base and does not take them back.
+template <class Base, class Self, class Fields>
+void describeBaseForWriting(Self& self, Fields& fields)
+{
+    if constexpr (!Fields::kReads)
     {
-        T::describe(object, fields);
+        describeBase<Base>(self, fields);
     }
-};
+}
 
 /// Takes the members of a value that is known to be an object.
 template <class T>
 void readMembers(T& object, const JsonValue& value)
 {
     FieldReader reader(value);
-    FieldAccess::describe(object, reader);
+    Described<T>::walk(object, reader);
 }
 
 /// Makes the value an object of the described members.
@@ -160,10 +230,10 @@ template <class T>
 void writeMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
 {
     FieldCounter counter;
-    FieldAccess::describe(object, counter);
+    Described<T>::walk(object, counter);
     setObject(value, counter.count(), allocator);
     FieldWriter writer(value, allocator);
-    FieldAccess::describe(object, writer);
+    Described<T>::walk(object, writer);
 }
 
 /// The regular `readObject`: the trace line, the kind test with its message, the members.

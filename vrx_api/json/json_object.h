@@ -1,6 +1,7 @@
 #pragma once
 
-#include "vrx_api/json/json_value.h"
+#include "vrx_api/json/described.h"
+#include "vrx_api/json/json_fwd.h"
 #include "vrx_api/vrx_api_export.h"
 
 namespace vrx

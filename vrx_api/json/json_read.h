@@ -2,11 +2,16 @@
 
 #include "vrx_api/json/enum_table.h"
 #include "vrx_api/json/json_object.h"
+#include "vrx_api/json/json_value.h"
 #include "vrx_api/json/key.h"
+#include "vrx_api/json/scalar.h"
 
-#include <cstdint>
+#include <algorithm>
+#include <array>
+#include <limits>
 #include <memory>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace vrx
@@ -25,57 +30,96 @@ inline wstring_view textOf(const JsonValue& string)
     return wstring_view(string.GetString());
 }
 
-/// True for an object; otherwise logs that the class's value should be one.
-bool isObject(const JsonValue& value, const char* className);
+// What a field takes from a value: true when the value is of the field's kind. A value of another kind leaves the field
+// as it is. A field of a type that is not told here, or in shapes.h, does not compile.
 
-/// What a field takes from a value. A value of another kind leaves the field as it is.
-void decode(const JsonValue& value, bool& field);
-void decode(const JsonValue& value, std::int32_t& field);
-void decode(const JsonValue& value, std::uint32_t& field);
-void decode(const JsonValue& value, std::uint64_t& field);
-void decode(const JsonValue& value, double& field);
+/// A double that is out of the range of a float becomes an infinity.
+template <class T, std::enable_if_t<isScalar<T>, int> = 0>
+bool decode(const JsonValue& value, T& field)
+{
+    static_assert(std::numeric_limits<float>::is_iec559, "infinities take what is out of range");
+    using Json = std::conditional_t<std::is_same_v<T, float>, double, T>;
+    if (!value.Is<Json>())
+    {
+        return false;
+    }
+    field = static_cast<T>(value.Get<Json>());
+    return true;
+}
 
-/// A number out of the range becomes an infinity.
-void decode(const JsonValue& value, float& field);
-
-void decode(const JsonValue& value, wstring& field);
+bool decode(const JsonValue& value, wstring& field);
 
 /// A nested object gets the value whatever its kind.
-void decode(const JsonValue& value, IJsonObject& field);
+bool decode(const JsonValue& value, IJsonObject& field);
 
 template <class E, std::enable_if_t<std::is_enum_v<E>, int> = 0>
-void decode(const JsonValue& value, E& field)
+bool decode(const JsonValue& value, E& field)
 {
-    if (value.IsString())
+    if (!value.IsString())
     {
-        field = enumValue<E>(textOf(value));
+        return false;
     }
+    field = enumValue<E>(textOf(value));
+    return true;
 }
 
 /// A shared object is replaced by a new one, which gets the value whatever its kind.
 template <class T>
-void decode(const JsonValue& value, std::shared_ptr<T>& field)
+bool decode(const JsonValue& value, std::shared_ptr<T>& field)
 {
     field = std::make_shared<T>();
-    field->readObject(value);
+    return decode(value, *field);
 }
 
-/// An array of strings appends those of its elements that are strings.
-void decode(const JsonValue& value, std::vector<wstring>& field);
-
-/// An array of objects appends one new object an element, whatever the element's kind.
-template <class T>
-void decode(const JsonValue& value, std::vector<T>& field)
+/// An array of a fixed size takes the elements in front, up to the first of another kind and no more than there is room
+/// for. Those behind keep what they have.
+template <class T, std::size_t N>
+bool decode(const JsonValue& value, std::array<T, N>& field)
 {
     if (!value.IsArray())
     {
-        return;
+        return false;
+    }
+    const std::size_t count = std::min<std::size_t>(N, value.Size());
+    for (std::size_t i = 0; i < count && decode(value.Begin()[i], field[i]); ++i)
+    {
+    }
+    return true;
+}
+
+/// An array of shared objects appends a new object per element, whatever the element's kind.
+template <class T>
+bool decode(const JsonValue& value, std::vector<std::shared_ptr<T>>& field)
+{
+    if (!value.IsArray())
+    {
+        return false;
+    }
+    field.reserve(field.size() + value.Size());
+    for (const JsonValue& element : value.GetArray())
+    {
+        // An object that throws is not appended.
+        std::shared_ptr<T> object;
+        decode(element, object);
+        field.push_back(std::move(object));
+    }
+    return true;
+}
+
+/// An array of objects appends one per element, whatever the element's kind.
+template <class T, std::enable_if_t<std::is_base_of_v<IJsonObject, T>, int> = 0>
+bool decode(const JsonValue& value, std::vector<T>& field)
+{
+    if (!value.IsArray())
+    {
+        return false;
     }
     field.reserve(field.size() + value.Size());
     for (const JsonValue& element : value.GetArray())
     {
         decode(element, field.emplace_back());
     }
+    return true;
 }
 
 } // namespace vrx

@@ -1,6 +1,7 @@
 #include "vrx_api/json/json_text_io.h"
 
 #include "vrx_api/json/json_children.h"
+#include "vrx_api/json/json_value.h"
 
 #include <rapidjson/prettywriter.h>
 

@@ -33,38 +33,6 @@ void addMember(JsonValue& object, Key key, JsonValue&& value, JsonAllocator& all
     object.AddMember(name, value, allocator);
 }
 
-JsonValue encode(bool field, JsonAllocator&)
-{
-    return JsonValue(field);
-}
-
-JsonValue encode(std::int32_t field, JsonAllocator&)
-{
-    return JsonValue(field);
-}
-
-JsonValue encode(std::uint32_t field, JsonAllocator&)
-{
-    return JsonValue(field);
-}
-
-JsonValue encode(std::uint64_t field, JsonAllocator&)
-{
-    JsonValue value;
-    value.SetUint64(field);
-    return value;
-}
-
-JsonValue encode(double field, JsonAllocator&)
-{
-    return JsonValue(field);
-}
-
-JsonValue encode(float field, JsonAllocator&)
-{
-    return JsonValue(double{field});
-}
-
 JsonValue encode(const wstring& field, JsonAllocator& allocator)
 {
     return JsonValue(field.data(), static_cast<rapidjson::SizeType>(field.size()), allocator);

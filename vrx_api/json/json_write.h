@@ -2,8 +2,11 @@
 
 #include "vrx_api/json/enum_table.h"
 #include "vrx_api/json/json_object.h"
+#include "vrx_api/json/json_value.h"
 #include "vrx_api/json/key.h"
+#include "vrx_api/json/scalar.h"
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <type_traits>
@@ -18,13 +21,21 @@ void setObject(JsonValue& value, rapidjson::SizeType capacity, JsonAllocator& al
 /// Adds a member whose name is not copied.
 void addMember(JsonValue& object, Key key, JsonValue&& value, JsonAllocator& allocator);
 
-/// The value that a field writes.
-JsonValue encode(bool field, JsonAllocator& allocator);
-JsonValue encode(std::int32_t field, JsonAllocator& allocator);
-JsonValue encode(std::uint32_t field, JsonAllocator& allocator);
-JsonValue encode(std::uint64_t field, JsonAllocator& allocator);
-JsonValue encode(double field, JsonAllocator& allocator);
-JsonValue encode(float field, JsonAllocator& allocator);
+// The value that a field writes. A field of a type that is not told here, or in shapes.h, does not compile.
+
+template <class T, std::enable_if_t<isScalar<T>, int> = 0>
+JsonValue encode(T field, JsonAllocator&)
+{
+    if constexpr (std::is_same_v<T, float>)
+    {
+        return JsonValue(double{field});
+    }
+    else
+    {
+        return JsonValue(field);
+    }
+}
+
 JsonValue encode(const wstring& field, JsonAllocator& allocator);
 JsonValue encode(const IJsonObject& field, JsonAllocator& allocator);
 
@@ -60,12 +71,12 @@ bool isNull(const T&)
 }
 
 /// An array of all elements, without the null pointers among them.
-template <class T>
-JsonValue encode(const std::vector<T>& field, JsonAllocator& allocator)
+template <class Elements>
+JsonValue encodeElements(const Elements& elements, JsonAllocator& allocator)
 {
     JsonValue array(rapidjson::kArrayType);
-    array.Reserve(static_cast<rapidjson::SizeType>(field.size()), allocator);
-    for (const T& element : field)
+    array.Reserve(static_cast<rapidjson::SizeType>(elements.size()), allocator);
+    for (const auto& element : elements)
     {
         if (!isNull(element))
         {
@@ -75,8 +86,22 @@ JsonValue encode(const std::vector<T>& field, JsonAllocator& allocator)
     return array;
 }
 
-/// What a key that is written only when it holds something takes for nothing.
-inline bool isEmpty(std::int32_t field)
+template <class T>
+JsonValue encode(const std::vector<T>& field, JsonAllocator& allocator)
+{
+    return encodeElements(field, allocator);
+}
+
+template <class T, std::size_t N>
+JsonValue encode(const std::array<T, N>& field, JsonAllocator& allocator)
+{
+    return encodeElements(field, allocator);
+}
+
+// What a key that is written only when it holds something takes for nothing.
+
+template <class T, std::enable_if_t<std::is_same_v<T, std::int32_t>, int> = 0>
+bool isEmpty(T field)
 {
     return field == 0;
 }

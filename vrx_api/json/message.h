@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vrx_api/json/json_value.h"
+#include "vrx_api/json/json_fwd.h"
 
 namespace vrx
 {

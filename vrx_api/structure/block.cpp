@@ -18,6 +18,7 @@ void ExcBlock::describe(Self& self, Fields& fields)
     fields.always(WIDE("is_part"), self.m_part);
     fields.filled(WIDE("block_references"), self.m_blockReferences);
 }
+template struct Described<ExcBlock>;
 
 void ExcBlock::readObject(const JsonValue& value)
 {

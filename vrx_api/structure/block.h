@@ -44,7 +44,7 @@ public:
     void setPart(bool part) { m_part = part; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcBlock>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

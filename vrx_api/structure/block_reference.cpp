@@ -19,6 +19,7 @@ void ExcBlockReference::describe(Self& self, Fields& fields)
     fields.always(WIDE("suppressed"), self.m_suppressed);
     fields.filled(WIDE("misc_data"), self.m_miscData);
 }
+template struct Described<ExcBlockReference>;
 
 void ExcBlockReference::readObject(const JsonValue& value)
 {

@@ -49,7 +49,7 @@ public:
     ExcMiscData& miscData() { return m_miscData; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcBlockReference>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

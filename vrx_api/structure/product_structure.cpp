@@ -24,6 +24,7 @@ void ExcProductStructure::describe(Self& self, Fields& fields)
     fields.filled(WIDE("blocks"), self.m_blocks);
     fields.filled(WIDE("root_block_references"), self.m_rootBlockReferences);
 }
+template struct Described<ExcProductStructure>;
 
 void ExcProductStructure::readObject(const JsonValue& value)
 {

@@ -59,7 +59,7 @@ public:
     void addRootBlockReference(const std::shared_ptr<ExcBlockReference>& reference);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcProductStructure>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

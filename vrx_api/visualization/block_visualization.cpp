@@ -15,6 +15,7 @@ void ExcBlockVisualization::describe(Self& self, Fields& fields)
     fields.always(WIDE("block_id"), self.m_blockId);
     fields.filled(WIDE("visualization_data"), self.m_visualizationData);
 }
+template struct Described<ExcBlockVisualization>;
 
 void ExcBlockVisualization::readObject(const JsonValue& value)
 {

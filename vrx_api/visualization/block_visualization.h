@@ -31,7 +31,7 @@ public:
     void setVisualizationData(const std::shared_ptr<ExcVisualizationData>& data) { m_visualizationData = data; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcBlockVisualization>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

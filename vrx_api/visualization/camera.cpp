@@ -29,6 +29,7 @@ void ExcCamera::describe(Self& self, Fields& fields)
     fields.always(WIDE("target"), self.m_target);
     fields.always(WIDE("up"), self.m_up);
 }
+template struct Described<ExcCamera>;
 
 void ExcCamera::readObject(const JsonValue& value)
 {

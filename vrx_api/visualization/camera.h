@@ -44,7 +44,7 @@ public:
     void setUp(const ExcVector3d& up) { m_up = up; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcCamera>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -1,58 +1,32 @@
 #include "vrx_api/visualization/clipping_plane.h"
 
-#include "vrx_api/json/doubles.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
 
-static constexpr Key kOrigin = WIDE("origin");
-static constexpr Key kU = WIDE("u");
-static constexpr Key kV = WIDE("v");
-static constexpr Key kCoefficients = WIDE("plane_coefficients");
+template <class Self, class Fields>
+void ExcClippingPlane::describe(Self& self, Fields& fields)
+{
+    fields.flagged(WIDE("origin"), self.m_hasPlane, self.m_origin);
+    fields.flagged(WIDE("u"), self.m_hasPlane, self.m_vectorU);
+    // The reader takes "v" into the U vector as well, where it wins over "u"; the V vector is never read.
+    fields.flagged(WIDE("v"), self.m_hasPlane, inOut(self.m_vectorU, self.m_vectorV));
+    fields.flagged(WIDE("plane_coefficients"), self.m_hasCoefficients, self.m_coefficients);
+}
+template struct Described<ExcClippingPlane>;
 
 void ExcClippingPlane::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    if (!isObject(value, "ExcClippingPlane"))
-    {
-        return;
-    }
-    FieldReader fields(value);
-    fields.always(kOrigin, m_origin);
-    fields.always(kU, m_vectorU);
-    // The reader takes "v" into the U vector as well, where it wins over "u"; the V vector is never read.
-    fields.always(kV, m_vectorU);
-    if (find(value, kOrigin) != nullptr || find(value, kU) != nullptr || find(value, kV) != nullptr)
-    {
-        m_hasPlane = true;
-    }
-    const JsonValue* const coefficients = find(value, kCoefficients);
-    if (coefficients != nullptr && coefficients->IsArray())
-    {
-        m_hasCoefficients = true;
-        decodeLeadingDoubles(*coefficients, m_coefficients);
-    }
+    readFields(*this, value, "ExcClippingPlane");
 }
 
 void ExcClippingPlane::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    kolt::trace();
+    writeFields(*this, value, allocator);
     if (!m_hasPlane && !m_hasCoefficients)
     {
         value.SetNull();
-        return;
-    }
-    setObject(value, (m_hasPlane ? 3U : 0U) + (m_hasCoefficients ? 1U : 0U), allocator);
-    if (m_hasPlane)
-    {
-        addMember(value, kOrigin, encode(m_origin, allocator), allocator);
-        addMember(value, kU, encode(m_vectorU, allocator), allocator);
-        addMember(value, kV, encode(m_vectorV, allocator), allocator);
-    }
-    if (m_hasCoefficients)
-    {
-        addMember(value, kCoefficients, encodeDoubles(m_coefficients, allocator), allocator);
     }
 }
 

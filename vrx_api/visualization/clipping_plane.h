@@ -46,6 +46,10 @@ public:
     ExcClippingPlane& setCoefficient(ECoefficient coefficient, double value);
 
 private:
+    friend struct Described<ExcClippingPlane>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     bool m_hasPlane = false;
     ExcVector3d m_origin;
     ExcVector3d m_vectorU;

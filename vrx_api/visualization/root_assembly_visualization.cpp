@@ -14,6 +14,7 @@ void ExcRootAssemblyVisualization::describe(Self& self, Fields& fields)
 {
     fields.filled(WIDE("visualization_data"), self.m_visualizationData);
 }
+template struct Described<ExcRootAssemblyVisualization>;
 
 void ExcRootAssemblyVisualization::readObject(const JsonValue& value)
 {

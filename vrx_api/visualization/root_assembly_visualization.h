@@ -26,7 +26,7 @@ public:
     void setVisualizationData(const std::shared_ptr<ExcVisualizationData>& data) { m_visualizationData = data; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcRootAssemblyVisualization>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -15,6 +15,7 @@ void ExcVisuAttributes::describe(Self& self, Fields& fields)
     fields.filled(WIDE("materials"), self.m_materials);
     fields.filled(WIDE("line_attribute"), self.m_lineAttribute);
 }
+template struct Described<ExcVisuAttributes>;
 
 void ExcVisuAttributes::readObject(const JsonValue& value)
 {

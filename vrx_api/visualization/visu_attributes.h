@@ -39,7 +39,7 @@ public:
     void setLineAttribute(const std::shared_ptr<ExcVisuLineAttribute>& attribute) { m_lineAttribute = attribute; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuAttributes>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

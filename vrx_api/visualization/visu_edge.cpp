@@ -1,6 +1,6 @@
 #include "vrx_api/visualization/visu_edge.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -19,12 +19,13 @@ static constexpr const auto& enumTable(ExcVisuEdge::ELineType)
 template <class Self, class Fields>
 void ExcVisuEdge::describe(Self& self, Fields& fields)
 {
-    fields.filled(WIDE("points"), self.m_points);
-    fields.filled(WIDE("line_indices"), self.m_lineIndices);
+    fields.filled(WIDE("points"), places(self.m_points));
+    fields.filled(WIDE("line_indices"), places(self.m_lineIndices));
     fields.always(WIDE("line_type"), self.m_lineType);
     fields.always(WIDE("color"), self.m_color);
     fields.always(WIDE("mechanical_id"), self.m_mechanicalId);
 }
+template struct Described<ExcVisuEdge>;
 
 void ExcVisuEdge::readObject(const JsonValue& value)
 {

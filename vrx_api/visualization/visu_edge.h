@@ -48,7 +48,7 @@ public:
     void setMechanicalId(const wstring& id) { m_mechanicalId = id; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuEdge>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -1,6 +1,6 @@
 #include "vrx_api/visualization/visu_face.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -14,15 +14,15 @@ static void decode(const JsonValue& value, Polygon& polygon)
 {
     FieldReader fields(value);
     fields.always(kType, polygon.type);
-    fields.filled(kIndices, polygon.indices);
+    fields.filled(kIndices, places(polygon.indices));
 }
 
 // An element that is no object adds no polygon.
-static void decode(const JsonValue& value, std::vector<Polygon>& field)
+static bool decode(const JsonValue& value, std::vector<Polygon>& field)
 {
     if (!value.IsArray())
     {
-        return;
+        return false;
     }
     field.reserve(field.size() + value.Size());
     for (const JsonValue& element : value.GetArray())
@@ -36,6 +36,7 @@ static void decode(const JsonValue& value, std::vector<Polygon>& field)
             kolt::log(kolt::kWarning, "ExcVisuFace: polygons array item should be an object.");
         }
     }
+    return true;
 }
 
 static void putKey(JsonDocument& document, Key key)
@@ -83,13 +84,14 @@ static JsonValue encode(const std::vector<Polygon>& field, JsonAllocator& alloca
 template <class Self, class Fields>
 void ExcVisuFace::describe(Self& self, Fields& fields)
 {
-    fields.filled(WIDE("vertices"), self.m_vertices);
-    fields.filled(WIDE("normals"), self.m_normals);
+    fields.filled(WIDE("vertices"), places(self.m_vertices));
+    fields.filled(WIDE("normals"), places(self.m_normals));
     fields.filled(WIDE("polygons"), self.m_polygons);
     fields.always(WIDE("color"), self.m_color);
     fields.always(WIDE("mechanical_id"), self.m_mechanicalId);
     fields.always(WIDE("id"), self.m_id);
 }
+template struct Described<ExcVisuFace>;
 
 void ExcVisuFace::readObject(const JsonValue& value)
 {

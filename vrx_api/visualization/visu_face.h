@@ -49,7 +49,7 @@ public:
     void setId(const wstring& id) { m_id = id; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuFace>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

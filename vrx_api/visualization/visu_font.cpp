@@ -24,6 +24,7 @@ void ExcVisuFont::describe(Self& self, Fields& fields)
     fields.always(WIDE("spacing_factor"), self.m_spacingFactor);
     fields.always(WIDE("width_scaling_factor"), self.m_widthScalingFactor);
 }
+template struct Described<ExcVisuFont>;
 
 void ExcVisuFont::readObject(const JsonValue& value)
 {

@@ -37,7 +37,7 @@ public:
     void setWidthScalingFactor(double factor) { m_widthScalingFactor = factor; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuFont>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

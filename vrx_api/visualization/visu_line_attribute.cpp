@@ -29,6 +29,7 @@ void ExcVisuLineAttribute::describe(Self& self, Fields& fields)
     fields.always(WIDE("line_weight"), self.m_lineWeight);
     fields.always(WIDE("line_style"), self.m_lineStyle);
 }
+template struct Described<ExcVisuLineAttribute>;
 
 void ExcVisuLineAttribute::readObject(const JsonValue& value)
 {

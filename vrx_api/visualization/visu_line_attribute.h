@@ -35,7 +35,7 @@ public:
     void setLineStyle(ELineStyle style) { m_lineStyle = style; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuLineAttribute>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -1,8 +1,7 @@
 #include "vrx_api/visualization/visu_material.h"
 
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/doubles.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 #include <cmath>
 #include <utility>
@@ -58,11 +57,11 @@ static Color toColor(const JsonValue& array)
 }
 
 // An entry is replaced as a whole.
-static void decode(const JsonValue& value, ExcVisuMaterial::Colors& field)
+static bool decode(const JsonValue& value, ExcVisuMaterial::Colors& field)
 {
     if (!value.IsObject())
     {
-        return;
+        return false;
     }
     for (const auto& member : value.GetObject())
     {
@@ -74,22 +73,24 @@ static void decode(const JsonValue& value, ExcVisuMaterial::Colors& field)
         }
         field[enumValue<EColorType>(textOf(member.name))] = toColor(member.value);
     }
+    return true;
 }
 
 static JsonValue encode(const Color& color, JsonAllocator& allocator)
 {
     const auto number = [](std::uint16_t channel) -> double { return channel; };
-    return encodeDoubles<kColorNumbers>({number(color.red), number(color.green), number(color.blue), color.alpha},
-                                        allocator);
+    const std::array<double, kColorNumbers> numbers{number(color.red), number(color.green), number(color.blue),
+                                                    color.alpha};
+    return encode(numbers, allocator);
 }
 
 // The textures of a kind are appended to. An empty array makes no entry, and a member that is no array is an error,
 // where among the colours it is a warning.
-static void decode(const JsonValue& value, ExcVisuMaterial::Textures& field)
+static bool decode(const JsonValue& value, ExcVisuMaterial::Textures& field)
 {
     if (!value.IsObject())
     {
-        return;
+        return false;
     }
     for (const auto& member : value.GetObject())
     {
@@ -103,6 +104,7 @@ static void decode(const JsonValue& value, ExcVisuMaterial::Textures& field)
             decode(member.value, field[enumValue<ETextureType>(textOf(member.name))]);
         }
     }
+    return true;
 }
 
 // One member an entry, under the name of its kind.
@@ -128,48 +130,21 @@ static JsonValue encode(const ExcVisuMaterial::Textures& field, JsonAllocator& a
     return encodeByType(field, allocator);
 }
 
-// An array of another length is passed over as a whole, an element that is no double by itself.
-template <class Numbers>
-struct Bump
-{
-    Numbers& numbers;
-};
-template <class Numbers>
-Bump(Numbers&) -> Bump<Numbers>;
-
-template <class Numbers>
-static void decode(const JsonValue& value, const Bump<Numbers>& field)
-{
-    if (!value.IsArray() || value.Size() != field.numbers.size())
-    {
-        return;
-    }
-    for (rapidjson::SizeType i = 0; i < value.Size(); ++i)
-    {
-        decode(value[i], field.numbers[i]);
-    }
-}
-
-template <class Numbers>
-static JsonValue encode(const Bump<Numbers>& field, JsonAllocator& allocator)
-{
-    return encodeDoubles(field.numbers, allocator);
-}
-
 template <class Self, class Fields>
 void ExcVisuMaterial::describe(Self& self, Fields& fields)
 {
-    const Bump bump{self.m_bump};
+    auto& [x, y, z] = self.m_bump;
 
     fields.always(WIDE("name"), self.m_name);
     fields.always(WIDE("id"), self.m_id);
     fields.always(WIDE("colors"), self.m_colors);
     fields.always(WIDE("shininess"), self.m_shininess);
-    fields.always(WIDE("bump"), bump);
+    fields.always(WIDE("bump"), exactly(kSilently, x, y, z));
     fields.always(WIDE("bump_factor"), self.m_bumpFactor);
     fields.always(WIDE("normal_map"), self.m_normalMap);
     fields.always(WIDE("textures"), self.m_textures);
 }
+template struct Described<ExcVisuMaterial>;
 
 void ExcVisuMaterial::readObject(const JsonValue& value)
 {

@@ -83,7 +83,7 @@ public:
     void setTextures(ETextureType type, const std::vector<std::shared_ptr<ExcVisuTexture>>& textures);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuMaterial>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -17,6 +17,7 @@ void ExcVisuMesh::describe(Self& self, Fields& fields)
     fields.filled(WIDE("faces"), self.m_faces);
     fields.filled(WIDE("edges"), self.m_edges);
 }
+template struct Described<ExcVisuMesh>;
 
 void ExcVisuMesh::readObject(const JsonValue& value)
 {

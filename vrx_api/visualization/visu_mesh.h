@@ -47,7 +47,7 @@ public:
     void setEdges(const std::vector<std::shared_ptr<ExcVisuEdge>>& edges);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuMesh>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -29,17 +29,18 @@ static bool isEmpty(const ChildPlaces<Nodes>& field)
 }
 
 template <class Nodes>
-static void decode(const JsonValue& value, const ChildPlaces<Nodes>& field)
+static bool decode(const JsonValue& value, const ChildPlaces<Nodes>& field)
 {
     if (!value.IsArray())
     {
-        return;
+        return false;
     }
     field.nodes.reserve(field.nodes.size() + value.Size());
     for (rapidjson::SizeType i = 0; i < value.Size(); ++i)
     {
         field.nodes.push_back(std::make_shared<ExcVisuNode>());
     }
+    return true;
 }
 
 template <class Nodes>
@@ -70,6 +71,7 @@ void ExcVisuNode::describe(Self& self, Fields& fields)
     fields.always(WIDE("group_name"), self.m_groupName);
     fields.filled(kChildNodes, childPlaces);
 }
+template struct Described<ExcVisuNode>;
 
 namespace
 {

@@ -132,7 +132,7 @@ public:
     void setChildNodes(const std::vector<std::shared_ptr<ExcVisuNode>>& nodes);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuNode>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -16,6 +16,7 @@ void ExcVisuPMI::describe(Self& self, Fields& fields)
     fields.filled(WIDE("texts"), self.m_texts);
     fields.readOnly(WIDE("linked_elements"), self.m_linkedElements);
 }
+template struct Described<ExcVisuPMI>;
 
 void ExcVisuPMI::readObject(const JsonValue& value)
 {

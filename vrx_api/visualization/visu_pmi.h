@@ -50,7 +50,7 @@ public:
     void setLinkedElements(const std::vector<std::shared_ptr<ExcEntity>>& elements);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuPMI>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

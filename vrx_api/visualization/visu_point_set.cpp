@@ -16,6 +16,7 @@ void ExcVisuPointSet::describe(Self& self, Fields& fields)
     fields.always(WIDE("geometry_type"), self.m_geometryType);
     fields.filled(WIDE("points"), self.m_points);
 }
+template struct Described<ExcVisuPointSet>;
 
 void ExcVisuPointSet::readObject(const JsonValue& value)
 {

@@ -39,7 +39,7 @@ public:
     void setPoints(const std::vector<std::shared_ptr<ExcVisuPoints>>& points);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuPointSet>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

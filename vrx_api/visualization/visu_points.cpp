@@ -1,6 +1,6 @@
 #include "vrx_api/visualization/visu_points.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -65,11 +65,12 @@ static constexpr const auto& enumTable(EVisuMarkerStyle)
 template <class Self, class Fields>
 void ExcVisuPoints::describe(Self& self, Fields& fields)
 {
-    fields.filled(WIDE("points"), self.m_points);
-    fields.filled(WIDE("point_indices"), self.m_pointIndices);
+    fields.filled(WIDE("points"), places(self.m_points));
+    fields.filled(WIDE("point_indices"), places(self.m_pointIndices));
     fields.always(WIDE("marker_style"), self.m_markerStyle);
     fields.always(WIDE("color"), self.m_color);
 }
+template struct Described<ExcVisuPoints>;
 
 void ExcVisuPoints::readObject(const JsonValue& value)
 {

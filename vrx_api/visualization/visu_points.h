@@ -92,7 +92,7 @@ public:
     void setColor(const ExcColor& color) { m_color = color; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuPoints>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -15,6 +15,7 @@ void ExcVisuText::describe(Self& self, Fields& fields)
     fields.always(WIDE("color"), self.m_color);
     fields.always(WIDE("font"), self.m_font);
 }
+template struct Described<ExcVisuText>;
 
 void ExcVisuText::readObject(const JsonValue& value)
 {

@@ -33,7 +33,7 @@ public:
     void setFont(const ExcVisuFont& font) { m_font = font; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuText>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -1,6 +1,6 @@
 #include "vrx_api/visualization/visu_texture.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 #include <stdexcept>
 
@@ -57,65 +57,32 @@ static constexpr const auto& enumTable(EFilter)
 
 static constexpr Key kDirections[] = {WIDE("u"), WIDE("v"), WIDE("w")};
 
-// One value a direction, which travel as the members of an object.
-template <class Values>
-struct ByDirection
-{
-    Values& values;
+// One value per direction, as the members of an object.
+static constexpr auto describeDirections = [](auto& values, auto& fields) {
+    for (std::size_t i = 0; i < values.size(); ++i)
+    {
+        fields.always(kDirections[i], values[i]);
+    }
 };
-template <class Values>
-ByDirection(Values&) -> ByDirection<Values>;
-
-template <class Values>
-static void decode(const JsonValue& value, const ByDirection<Values>& field)
-{
-    if (!value.IsObject())
-    {
-        return;
-    }
-    for (std::size_t i = 0; i < field.values.size(); ++i)
-    {
-        if (const JsonValue* const member = find(value, kDirections[i]))
-        {
-            decode(*member, field.values[i]);
-        }
-    }
-}
-
-template <class Values>
-static JsonValue encode(const ByDirection<Values>& field, JsonAllocator& allocator)
-{
-    JsonValue object;
-    setObject(object, static_cast<rapidjson::SizeType>(field.values.size()), allocator);
-    for (std::size_t i = 0; i < field.values.size(); ++i)
-    {
-        addMember(object, kDirections[i], encode(field.values[i], allocator), allocator);
-    }
-    return object;
-}
 
 template <class Self, class Fields>
 void ExcVisuTexture::describe(Self& self, Fields& fields)
 {
-    const ByDirection wrapModes{self.m_wrapModes};
-    const ByDirection translation{self.m_translation};
-    const ByDirection scale{self.m_scale};
-    const ByDirection rotation{self.m_rotation};
-
     fields.always(WIDE("method"), self.m_method);
-    fields.always(WIDE("wrap_mode"), wrapModes);
+    fields.always(WIDE("wrap_mode"), record(self.m_wrapModes, describeDirections));
     fields.always(WIDE("mapping_mode"), self.m_mappingMode);
     fields.always(WIDE("filter"), self.m_filter);
     fields.always(WIDE("alpha"), self.m_alpha);
     fields.always(WIDE("file"), self.m_filePath);
     fields.always(WIDE("name_uv"), self.m_nameUV);
     fields.always(WIDE("name"), self.m_name);
-    fields.always(WIDE("uv_translation"), translation);
-    fields.always(WIDE("uv_scale"), scale);
-    fields.always(WIDE("uv_rotation"), rotation);
+    fields.always(WIDE("uv_translation"), record(self.m_translation, describeDirections));
+    fields.always(WIDE("uv_scale"), record(self.m_scale, describeDirections));
+    fields.always(WIDE("uv_rotation"), record(self.m_rotation, describeDirections));
     fields.always(WIDE("swap_uv"), self.m_swapUV);
     fields.always(WIDE("use_material"), self.m_useMaterial);
 }
+template struct Described<ExcVisuTexture>;
 
 void ExcVisuTexture::readObject(const JsonValue& value)
 {

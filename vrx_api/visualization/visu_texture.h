@@ -100,7 +100,7 @@ public:
     void setUseMaterial(bool use) { m_useMaterial = use; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuTexture>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -1,6 +1,6 @@
 #include "vrx_api/visualization/visu_view.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -15,8 +15,9 @@ void ExcVisuView::describe(Self& self, Fields& fields)
     fields.always(WIDE("origin"), self.m_origin);
     fields.always(WIDE("direction_u"), self.m_directionU);
     fields.always(WIDE("direction_v"), self.m_directionV);
-    fields.filled(WIDE("annotation_ids"), self.m_annotationIds);
+    fields.filled(WIDE("annotation_ids"), valid(self.m_annotationIds));
 }
+template struct Described<ExcVisuView>;
 
 void ExcVisuView::readObject(const JsonValue& value)
 {

@@ -42,7 +42,7 @@ public:
     void setAnnotationIds(const std::vector<wstring>& ids) { m_annotationIds = ids; }
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisuView>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

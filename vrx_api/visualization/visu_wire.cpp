@@ -16,6 +16,7 @@ void ExcVisuWire::describe(Self& self, Fields& fields)
     fields.always(WIDE("geometry_type"), self.m_geometryType);
     fields.filled(WIDE("edges"), self.m_edges);
 }
+template struct Described<ExcVisuWire>;
 
 void ExcVisuWire::readObject(const JsonValue& value)
 {

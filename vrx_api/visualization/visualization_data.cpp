@@ -15,6 +15,7 @@ void ExcVisualizationData::describe(Self& self, Fields& fields)
     fields.filled(WIDE("views"), self.m_views);
     fields.filled(WIDE("captures"), self.m_captures);
 }
+template struct Described<ExcVisualizationData>;
 
 void ExcVisualizationData::readObject(const JsonValue& value)
 {

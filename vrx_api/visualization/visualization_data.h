@@ -44,7 +44,7 @@ public:
     void setCaptures(const std::vector<std::shared_ptr<ExcVisuCapture>>& captures);
 
 private:
-    friend struct FieldAccess;
+    friend struct Described<ExcVisualizationData>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mp/narrow.h"
+#include "vrx_api/json/json_value.h"
 #include "vrx_api/vrx_api_exchange_common.h"
 
 #include <rapidjson/stringbuffer.h>

@@ -3,6 +3,7 @@
 #include "../framing.h"
 #include "../shared_buffers.h"
 #include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/json_value.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,6 +1,7 @@
 #include "mp/narrow.h"
 #include "product_tree.h"
 #include "tree_output.h"
+#include "vrx_api/json/json_value.h"
 
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>

@@ -2,6 +2,7 @@
 #include "../host/translator_session.h"
 #include "../scene_conventions.h"
 #include "mp/narrow.h"
+#include "vrx_api/json/json_value.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <gmock/gmock.h>

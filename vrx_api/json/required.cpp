@@ -1,4 +1,4 @@
-#include "vrx_api/command/required.h"
+#include "vrx_api/json/required.h"
 
 #include <stdexcept>
 

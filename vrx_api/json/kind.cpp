@@ -1,0 +1,28 @@
+#include "vrx_api/json/kind.h"
+
+#include "kolt/log.h"
+#include "vrx_api/json/json_value.h"
+
+namespace vrx
+{
+
+static bool accept(bool right, const char* className, const char* complaint)
+{
+    if (!right && className != kSilently)
+    {
+        kolt::log(kolt::kError, className, complaint);
+    }
+    return right;
+}
+
+bool isObject(const JsonValue& value, const char* className)
+{
+    return accept(value.IsObject(), className, " object should have a JSON object type.");
+}
+
+bool isArray(const JsonValue& value, const char* className)
+{
+    return accept(value.IsArray(), className, " object should have a JSON array type.");
+}
+
+} // namespace vrx

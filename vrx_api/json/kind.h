@@ -1,0 +1,17 @@
+#pragma once
+
+#include "vrx_api/json/json_fwd.h"
+
+namespace vrx
+{
+
+/// In place of the text of those that refuse without a word.
+constexpr const char* kSilently = nullptr;
+
+/// True for an object; otherwise logs that the class's value should be one.
+bool isObject(const JsonValue& value, const char* className);
+
+/// True for an array; otherwise logs that the class's value should be one.
+bool isArray(const JsonValue& value, const char* className);
+
+} // namespace vrx
