@@ -8,4 +8,5 @@
 #include "acis_kernel/entity_list.h"
 #include "acis_kernel/error.h"
 #include "acis_kernel/file.h"
+#include "acis_kernel/owned_entities.h"
 #include "acis_kernel/transaction.h"

@@ -17,6 +17,14 @@ void collect(ENTITY* entity, ENTITY_LIST& all)
     }
 }
 
+void destroyEach(const ENTITY_LIST& all)
+{
+    for (int i = 0; i < all.count(); ++i)
+    {
+        const LoneEntity end(all[i]);
+    }
+}
+
 static outcome listParts(const char* name, ENTITY* entity, bool (*isWanted)(const ENTITY*), ENTITY_LIST& found)
 {
     return apiCall(name, [&] {
@@ -64,9 +72,6 @@ outcome api_del_entity(ENTITY* entity)
         }
         ENTITY_LIST all;
         collect(entity, all);
-        for (int i = 0; i < all.count(); ++i)
-        {
-            const LoneEntity end(all[i]);
-        }
+        destroyEach(all);
     });
 }

@@ -20,7 +20,7 @@ enum class EntityType : std::uint8_t
 
 /// A piece of a model's topology. It holds parts in an order that lasts; an edge or a vertex may be held by several
 /// entities, any other by one. The first that holds an entity is its owner.
-/// Entities are made by `new` and end with the entity that stands above them: see `api_del_entity`.
+/// Entities are made by `new` and end with the entity that stands above them: see `api_del_entity`, `OwnedEntities`.
 class ACIS_KERNEL ENTITY
 {
 public:

@@ -14,6 +14,9 @@ bool mayBeShared(EntityType type);
 /// Appends the entity and all that it holds, however deep: an entity before its parts, the parts in their order.
 void collect(ENTITY* entity, ENTITY_LIST& all);
 
+/// Destroys the entities of the list, each alone.
+void destroyEach(const ENTITY_LIST& all);
+
 struct EntityAccess
 {
     /// Ends one entity alone: not its parts, and its holder is not told.

@@ -152,6 +152,50 @@ TEST(Kernel, RefusesRecordsThatLie)
     EXPECT_EQ(received.list().count(), 0);
 }
 
+// What is read after its end, destroyed twice or left is for the sanitizers to see.
+TEST(OwnedEntities, DestroyABodyListedBesideItsFace)
+{
+    for (const bool bodyFirst : {true, false})
+    {
+        Bodies sent;
+        BODY* const brick = sent.addBrick("brick");
+        ENTITY_LIST faces;
+        api_get_faces(brick, faces);
+        ENTITY_LIST list;
+        list.add(bodyFirst ? brick : faces[2]);
+        list.add(bodyFirst ? faces[2] : brick);
+        OwnedEntities received;
+        ASSERT_EQ(test::restoreError(test::saved(list), received.list()), "");
+        ASSERT_EQ(received.list().count(), 2);
+        EXPECT_EQ(received.list()[bodyFirst ? 1 : 0]->owner()->type(), EntityType::Shell);
+    }
+}
+
+TEST(OwnedEntities, DestroyOnceWhatSeveralHold)
+{
+    OwnedEntities entities;
+    auto* const edge = new EDGE;
+    for (int i = 0; i < 2; ++i)
+    {
+        auto* const wire = new WIRE;
+        wire->addPart(edge);
+        entities.list().add(wire);
+    }
+}
+
+// The body is destroyed by its own list, after the list of the face.
+TEST(OwnedEntities, LeaveAPartWhoseOwnerIsNotListed)
+{
+    Bodies bodies;
+    ENTITY_LIST faces;
+    api_get_faces(bodies.addBrick("brick"), faces);
+    {
+        OwnedEntities one;
+        one.list().add(faces[0]);
+    }
+    EXPECT_EQ(bodies.describe(), "brick 6 12 8\n");
+}
+
 TEST(Kernel, RefusesPartsThatDoNotFit)
 {
     Bodies bodies;

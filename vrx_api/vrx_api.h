@@ -1,5 +1,12 @@
 #pragma once
 
+#include "kolt/log.h"
+#include "kolt/logger.h"
+#include "mp/exception.h"
+#include "mp/narrow.h"
+#include "mp/serializable.h"
+#include "mp/shared_buffer.h"
+#include "mp/wide.h"
 #include "vrx_api/vrx_api_command.h"
 #include "vrx_api/vrx_api_exchange_common.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"

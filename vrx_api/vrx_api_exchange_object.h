@@ -1,5 +1,6 @@
 #pragma once
 
+#include "vrx_api/exchange/bytes.h"
 #include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/exchange_object.h"
 #include "vrx_api/exchange/exchange_object_registry.h"

@@ -10,23 +10,6 @@
 namespace test
 {
 
-Bodies::~Bodies()
-{
-    // A part that is listed itself goes with the entity that stands above it.
-    ENTITY_LIST alone;
-    for (int i = 0; i < m_list.count(); ++i)
-    {
-        if (m_list[i]->owner() == nullptr)
-        {
-            alone.add(m_list[i]);
-        }
-    }
-    for (int i = 0; i < alone.count(); ++i)
-    {
-        api_del_entity(alone[i]);
-    }
-}
-
 BODY* Bodies::addBrick(const std::string& payload)
 {
     static constexpr int kFaces[6][4] = {{0, 1, 2, 3}, {4, 5, 6, 7}, {0, 1, 5, 4},
@@ -62,22 +45,22 @@ BODY* Bodies::addBrick(const std::string& payload)
             loop->addPart(edge);
         }
     }
-    m_list.add(body);
+    list().add(body);
     return body;
 }
 
 std::string Bodies::describe() const
 {
     std::string text;
-    for (int i = 0; i < m_list.count(); ++i)
+    for (int i = 0; i < list().count(); ++i)
     {
         ENTITY_LIST faces;
         ENTITY_LIST edges;
         ENTITY_LIST vertices;
-        api_get_faces(m_list[i], faces);
-        api_get_edges(m_list[i], edges);
-        api_get_vertices(m_list[i], vertices);
-        if (const auto* const body = dynamic_cast<const BODY*>(m_list[i]))
+        api_get_faces(list()[i], faces);
+        api_get_edges(list()[i], edges);
+        api_get_vertices(list()[i], vertices);
+        if (const auto* const body = dynamic_cast<const BODY*>(list()[i]))
         {
             text.append(body->payload().begin(), body->payload().end());
         }

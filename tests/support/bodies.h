@@ -8,25 +8,15 @@
 namespace test
 {
 
-/// Entities that end with this object.
-class Bodies
+/// Entities that are destroyed with this object, with what tests make and say of them.
+class Bodies : public OwnedEntities
 {
 public:
-    Bodies() = default;
-    Bodies(const Bodies&) = delete;
-    Bodies& operator=(const Bodies&) = delete;
-    ~Bodies();
-
-    ENTITY_LIST& list() { return m_list; }
-
     /// Adds a brick of 6 faces, 12 edges and 8 vertices, each edge in two loops, with these bytes hung on it.
     BODY* addBrick(const std::string& payload);
 
     /// A line for each: the payload, and the numbers of faces, edges and vertices.
     std::string describe() const;
-
-private:
-    ENTITY_LIST m_list;
 };
 
 /// A file of the kernel in memory.

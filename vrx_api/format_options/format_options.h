@@ -26,6 +26,8 @@ private:
     static void describe(Self& self, Fields& fields);
 };
 
+extern template struct Described<IFormatOptions>;
+
 namespace imp
 {
 

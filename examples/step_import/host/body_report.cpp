@@ -1,6 +1,6 @@
 #include "body_report.h"
 
-#include "../kernel_bodies.h"
+#include "acis_kernel/acis_kernel.h"
 #include "printable.h"
 #include "translator_session.h"
 
@@ -111,7 +111,7 @@ BodyFigures measured(ENTITY& body)
 
 void BodyReport::add(const vrx::ExcBlockGeometry& geometry)
 {
-    KernelBodies bodies;
+    OwnedEntities bodies;
     std::vector<std::uint64_t> ids;
     if (!geometry.getGeometry(bodies.list(), ids) || ids.size() != static_cast<std::size_t>(bodies.list().count()))
     {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../kernel_bodies.h"
+#include "acis_kernel/acis_kernel.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
@@ -20,7 +20,7 @@ public:
     std::shared_ptr<vrx::ExcBlockGeometry> make(const vrx::ExcBlock& block, const TopoDS_Shape& shape);
 
 private:
-    KernelBodies m_all;
+    OwnedEntities m_all;
 };
 
 /// A line for each of these bodies, with what is measured of its solid here.
