@@ -9,6 +9,7 @@
 #include "vrx_api/exchange/message_object.h"
 #include "vrx_api/exchange/progress.h"
 #include "vrx_api/exchange/static_exchange_object.h"
+#include "vrx_api/json/described.h"
 #include "vrx_api/json/json_fwd.h"
 #include "vrx_api/json/json_object.h"
 #include "vrx_api/json/json_text_io.h"
