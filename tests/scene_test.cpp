@@ -1,8 +1,10 @@
+#include "tests/support/enum_row.h"
 #include "tests/support/model_row.h"
 #include "vrx_api/exchange/exchange_object_wrapper.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
 
 using namespace vrx;
+using test::enumRow;
 using test::row;
 
 namespace
@@ -150,6 +152,21 @@ TEST_P(SceneRows, ReadAndWritten)
     check(GetParam());
 }
 INSTANTIATE_TEST_SUITE_P(Visualization, SceneRows, testing::ValuesIn(kRows), SceneRows::nameOf);
+
+const test::EnumRow kEnums[] = {
+    enumRow("ExcCamera::EType", "type", &ExcCamera::type, &ExcCamera::setType,
+            {"undefined", "perspective", "orthographic"}, "orthographic"),
+};
+
+class SceneEnums : public test::EnumRows
+{
+};
+
+TEST_P(SceneEnums, HaveTheirNames)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Visualization, SceneEnums, testing::ValuesIn(kEnums), SceneEnums::nameOf);
 
 TEST(ClippingPlane, KeepsItsVAndItsFlagsOnReading)
 {
