@@ -1,3 +1,4 @@
+#include "tests/support/json_text.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/message_text.h"
 #include "vrx_api/vrx_api_command.h"
@@ -6,9 +7,9 @@
 #include <gmock/gmock.h>
 
 using namespace vrx;
-using test::receive;
+using test::readText;
 using test::refusal;
-using test::sent;
+using test::written;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -78,8 +79,8 @@ TEST(Command, ReadsAndWrites)
     for (const auto& row : rows)
     {
         Command command = commandOf(Command::EType::Unknown, EFerrantInterface::Legacy);
-        receive(command, row.in);
-        EXPECT_EQ(sent(command), row.out) << row.in;
+        readText(command, row.in);
+        EXPECT_EQ(written(command), row.out) << row.in;
     }
 }
 
@@ -108,7 +109,7 @@ TEST(Command, RefusesToReadAndKeepsWhatItHasRead)
     for (const auto& row : rows)
     {
         Command command = commandOf(EType::Info);
-        EXPECT_EQ(refusal([&] { receive(command, row.in); }), row.refusal) << row.in;
+        EXPECT_EQ(refusal([&] { readText(command, row.in); }), row.refusal) << row.in;
         EXPECT_EQ(command.type(), row.type) << row.in;
         EXPECT_EQ(command.internalInterface(), row.interfaceType) << row.in;
         EXPECT_EQ(command.importOptions(), nullptr) << row.in;
@@ -133,7 +134,7 @@ TEST(Command, WritesOneMemberALine)
       }]
   }
 })");
-    EXPECT_EQ(sent(commandOf(Command::EType{9}, EFerrantInterface{9})),
+    EXPECT_EQ(written(commandOf(Command::EType{9}, EFerrantInterface{9})),
               R"({"ferrant_interface":"uconnect","command":"unknown"})");
 }
 
@@ -172,7 +173,7 @@ TEST(Command, SharesItsOptionsWithCopiesUntilItReadsOthers)
     const Command copy = command;
     EXPECT_EQ(copy.importOptions(), command.importOptions());
 
-    receive(command, R"({"command":"import","options":{"file":"b"}})");
+    readText(command, R"({"command":"import","options":{"file":"b"}})");
     EXPECT_EQ(command.importOptions()->file(), WIDE("b"));
     EXPECT_EQ(copy.importOptions()->file(), WIDE(""));
     EXPECT_EQ(copy.exportOptions(), command.exportOptions());
@@ -220,9 +221,9 @@ TEST(ImportOptions, ReadsAndWrites)
     {
         const std::shared_ptr<ImportOptions> options = Command::newImportOptions();
         const test::LogCapture log;
-        test::readText(*options, row.in);
+        readText(*options, row.in);
         EXPECT_EQ(log.complaints(), row.log) << row.in;
-        EXPECT_EQ(test::written(*options), row.out) << row.in;
+        EXPECT_EQ(written(*options), row.out) << row.in;
     }
 }
 
@@ -239,7 +240,7 @@ TEST(ImportOptions, HoldsOneObjectAFormat)
     EXPECT_EQ(options->operationType(), EOperationType::Import);
 
     // A read adds to what is there.
-    test::readText(*options, R"({"file":"","format_options":[{"operation_type":"import","format_type":"IGES"}]})");
+    readText(*options, R"({"file":"","format_options":[{"operation_type":"import","format_type":"IGES"}]})");
     EXPECT_EQ(options->formatOptions(EFormatType::STEP), second);
     EXPECT_NE(options->formatOptions(EFormatType::IGES), nullptr);
 }
@@ -270,10 +271,10 @@ TEST(ExportOptions, ReadsAndWrites)
             ElementsAre("ExportOptions.file = " + row.log[0], "ExportOptions.formatVersion = " + row.log[1],
                         "ExportOptions.geometryFlags = " + row.log[2]);
         const test::LogCapture readLog;
-        test::readText(*options, row.in);
+        readText(*options, row.in);
         EXPECT_THAT(readLog.lines("DEBUG"), lines) << row.in;
         const test::LogCapture writeLog;
-        EXPECT_EQ(test::written(*options), row.out) << row.in;
+        EXPECT_EQ(written(*options), row.out) << row.in;
         EXPECT_THAT(writeLog.lines("DEBUG"), lines) << row.in;
     }
     EXPECT_EQ(Command::newExportOptions()->operationType(), EOperationType::Export);
@@ -287,11 +288,11 @@ TEST(Options, AreStrictAboutTheirKindAndFile)
         const test::LogCapture log;
         for (const char* const text : {"[]", "null", "7"})
         {
-            EXPECT_EQ(refusal([&] { test::readText(*options, text); }), "!object.IsObject()") << text;
+            EXPECT_EQ(refusal([&] { readText(*options, text); }), "!object.IsObject()") << text;
         }
         for (const char* const text : {"{}", R"({"file":7})", R"({"file":null})"})
         {
-            EXPECT_EQ(refusal([&] { test::readText(*options, text); }), kNoFile) << text;
+            EXPECT_EQ(refusal([&] { readText(*options, text); }), kNoFile) << text;
         }
         EXPECT_THAT(log.complaints(), IsEmpty());
     }
@@ -316,20 +317,20 @@ TEST(Result, ReadsAndWrites)
         Result result;
         result.setMessage(WIDE("before"));
         result.setFinished(true);
-        receive(result, row.in);
-        EXPECT_EQ(sent(result), row.out) << row.in;
+        readText(result, row.in);
+        EXPECT_EQ(written(result), row.out) << row.in;
     }
 }
 
 TEST(Result, RefusesWhatHasNoCode)
 {
     Result result;
-    EXPECT_EQ(sent(result), R"({"code":"ok","is_finished":false})");
-    EXPECT_EQ(refusal([&] { receive(result, "7"); }), kNoDocument);
+    EXPECT_EQ(written(result), R"({"code":"ok","is_finished":false})");
+    EXPECT_EQ(refusal([&] { readText(result, "7"); }), kNoDocument);
     for (const char* const text : {"{}", R"({"code":1,"message":"m"})"})
     {
-        EXPECT_EQ(refusal([&] { receive(result, text); }), "Json document has no result code.");
+        EXPECT_EQ(refusal([&] { readText(result, text); }), "Json document has no result code.");
     }
     result.setCode(Result::ECode{7});
-    EXPECT_EQ(sent(result), R"({"code":"unknown","is_finished":false})");
+    EXPECT_EQ(written(result), R"({"code":"unknown","is_finished":false})");
 }

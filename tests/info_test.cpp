@@ -1,3 +1,4 @@
+#include "tests/support/json_text.h"
 #include "tests/support/message_text.h"
 #include "vrx_api/vrx_api_ferrant_info.h"
 
@@ -6,10 +7,10 @@
 #include <regex>
 
 using namespace vrx;
-using test::receive;
+using test::readText;
 using test::refusal;
-using test::sent;
 using test::wide;
+using test::written;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -37,14 +38,14 @@ Format formatOf(const char* filterExtensions)
 TEST(FerrantInfo, WritesItsListsOnlyWhenTheyHoldSomething)
 {
     FerrantInfo info;
-    EXPECT_EQ(sent(info), kEmptyInfo);
+    EXPECT_EQ(written(info), kEmptyInfo);
 
     info.setRequestedInterface(EFerrantInterface{7});
     info.setParasolidMode(EParasolidMode{7});
     info.addThirdpartyCore(nullptr);
     info.addImportFormat(nullptr);
     info.addExportFormats({nullptr, nullptr});
-    EXPECT_EQ(sent(info), kEmptyInfo);
+    EXPECT_EQ(written(info), kEmptyInfo);
 
     info.setName(WIDE("T"));
     info.setVersion(WIDE("2"));
@@ -60,7 +61,7 @@ TEST(FerrantInfo, WritesItsListsOnlyWhenTheyHoldSomething)
         .addFilterExtensions(WIDE("stp;step"))
         .addFilterExtensions(WIDE("p21"));
     info.addExportFormats({nullptr, std::make_shared<Format>()});
-    EXPECT_EQ(sent(info), kInfo);
+    EXPECT_EQ(written(info), kInfo);
 }
 
 TEST(FerrantInfo, ReadsAndWrites)
@@ -83,21 +84,21 @@ TEST(FerrantInfo, ReadsAndWrites)
     for (const auto& row : rows)
     {
         FerrantInfo info;
-        receive(info, row.in);
-        EXPECT_EQ(sent(info), row.out) << row.in;
+        readText(info, row.in);
+        EXPECT_EQ(written(info), row.out) << row.in;
     }
 }
 
 TEST(FerrantInfo, KeepsWhatItReadBeforeItRefuses)
 {
     FerrantInfo info;
-    EXPECT_EQ(refusal([&] { receive(info, "[]"); }), "Invalid json document");
-    EXPECT_EQ(refusal([&] { receive(info, R"({"name":"T","thirdparty_cores":[{"name":"k"},7],"version":"2"})"); }),
+    EXPECT_EQ(refusal([&] { readText(info, "[]"); }), "Invalid json document");
+    EXPECT_EQ(refusal([&] { readText(info, R"({"name":"T","thirdparty_cores":[{"name":"k"},7],"version":"2"})"); }),
               "ThirdpartyCore::readFrom > !jsonObject.IsObject()");
     EXPECT_EQ(info.name(), WIDE("T"));
     EXPECT_EQ(info.version(), WIDE("2"));
     EXPECT_THAT(info.thirdpartyCores(), SizeIs(1));
-    EXPECT_EQ(refusal([&] { receive(info, R"({"import_formats":[[]],"export_formats":[{}]})"); }),
+    EXPECT_EQ(refusal([&] { readText(info, R"({"import_formats":[[]],"export_formats":[{}]})"); }),
               "Format::readFrom > !jsonObject.IsObject()");
     EXPECT_THAT(info.importFormats(), IsEmpty());
     EXPECT_THAT(info.exportFormats(), IsEmpty());
@@ -106,8 +107,8 @@ TEST(FerrantInfo, KeepsWhatItReadBeforeItRefuses)
 TEST(FerrantInfo, AddsToItsListsAndSharesThemWithCopies)
 {
     FerrantInfo info;
-    receive(info, kInfo);
-    receive(info, kInfo);
+    readText(info, kInfo);
+    readText(info, kInfo);
     EXPECT_THAT(info.thirdpartyCores(), SizeIs(4));
     info.addImportFormats(info.importFormats());
     ASSERT_THAT(info.importFormats(), SizeIs(4));

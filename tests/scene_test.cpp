@@ -1,9 +1,15 @@
+#include "tests/support/add_row.h"
+#include "tests/support/enum_row.h"
 #include "tests/support/model_row.h"
 #include "vrx_api/exchange/exchange_object_wrapper.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
 
 using namespace vrx;
+using test::addAllRow;
+using test::addRow;
+using test::enumRow;
 using test::row;
+using test::setAllRow;
 
 namespace
 {
@@ -150,6 +156,42 @@ TEST_P(SceneRows, ReadAndWritten)
     check(GetParam());
 }
 INSTANTIATE_TEST_SUITE_P(Visualization, SceneRows, testing::ValuesIn(kRows), SceneRows::nameOf);
+
+const test::EnumRow kEnums[] = {
+    enumRow("ExcCamera::EType", "type", &ExcCamera::type, &ExcCamera::setType,
+            {"undefined", "perspective", "orthographic"}, "orthographic"),
+};
+
+class SceneEnums : public test::EnumRows
+{
+};
+
+TEST_P(SceneEnums, HaveTheirNames)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Visualization, SceneEnums, testing::ValuesIn(kEnums), SceneEnums::nameOf);
+
+const char* const kNullChild = "ExcVisuNode: attempt to add null child Visu Node object.";
+const char* const kNullElement = "ExcVisuCapture: attempt to add null Linked Element object.";
+
+const test::AddRow kAdds[] = {
+    addRow("ExcVisuNode::addChildNode", &ExcVisuNode::addChildNode, kNullChild),
+    addAllRow("ExcVisuNode::addChildNodes", &ExcVisuNode::addChildNodes, kNullChild),
+    setAllRow("ExcVisuNode::setChildNodes", &ExcVisuNode::setChildNodes, kNullChild),
+    addRow("ExcVisuCapture::addLinkedElement", &ExcVisuCapture::addLinkedElement, kNullElement),
+    setAllRow("ExcVisuCapture::setLinkedElements", &ExcVisuCapture::setLinkedElements, kNullElement),
+};
+
+class SceneAdds : public test::AddRows
+{
+};
+
+TEST_P(SceneAdds, RefuseNulls)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Visualization, SceneAdds, testing::ValuesIn(kAdds), SceneAdds::nameOf);
 
 TEST(ClippingPlane, KeepsItsVAndItsFlagsOnReading)
 {

@@ -29,6 +29,19 @@ inline std::string bytes(std::string_view hex)
     return all;
 }
 
+/// A row's name as GoogleTest takes it: letters and digits, all else as "_".
+inline std::string testName(std::string name)
+{
+    for (char& c : name)
+    {
+        if (std::isalnum(static_cast<unsigned char>(c)) == 0)
+        {
+            c = '_';
+        }
+    }
+    return name;
+}
+
 /// The text of the error of this type that an operation throws, or "nothing".
 template <class Error, class Operation>
 std::string thrownBy(Operation operation)

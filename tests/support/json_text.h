@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mp/narrow.h"
+#include "mp/serializable.h"
 #include "vrx_api/json/json_object.h"
 #include "vrx_api/json/json_text_io.h"
 #include "vrx_api/json/json_value.h"
@@ -41,11 +42,26 @@ inline std::string written(const vrx::IJsonObject& object)
     return textOf(document);
 }
 
-/// Reads an object from a text into what it is already.
+/// The same of a whole message, which itself puts white space between.
+inline std::string written(const mp::ISerializable& message)
+{
+    mp::wostringstream stream;
+    message.writeObject(stream);
+    return textOf(parsed(mp::toNarrow(stream.str())));
+}
+
+/// Reads an object from a text in ASCII into what it is already.
 inline void readText(vrx::IJsonObject& object, std::string_view text)
 {
     const vrx::JsonDocument document = parsed(text);
     object.readObject(document);
+}
+
+/// The same for a whole message.
+inline void readText(mp::ISerializable& message, std::string_view text)
+{
+    mp::wistringstream stream(wide(text));
+    message.readObject(stream);
 }
 
 template <class T>

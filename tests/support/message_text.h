@@ -1,10 +1,10 @@
 #pragma once
 
+#include "mp/narrow.h"
 #include "mp/serializable.h"
-#include "tests/support/json_text.h"
 
+#include <stdexcept>
 #include <string>
-#include <string_view>
 
 namespace test
 {
@@ -15,19 +15,6 @@ inline std::string sentText(const mp::ISerializable& message)
     mp::wostringstream stream;
     message.writeObject(stream);
     return mp::toNarrow(stream.str());
-}
-
-/// The same without white space.
-inline std::string sent(const mp::ISerializable& message)
-{
-    return textOf(parsed(sentText(message)));
-}
-
-/// Reads a whole message from a text in ASCII into what it is already.
-inline void receive(mp::ISerializable& message, std::string_view text)
-{
-    mp::wistringstream stream(wide(text));
-    message.readObject(stream);
 }
 
 /// The text of the `std::invalid_argument` that the action throws; empty when it throws none.

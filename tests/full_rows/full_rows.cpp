@@ -1,0 +1,20 @@
+#include "tests/full_rows/full_rows.h"
+
+#include <iterator>
+
+namespace test
+{
+
+std::vector<FullRow> allFullRows()
+{
+    std::vector<FullRow> all;
+    for (const auto family :
+         {commonRows, statusRows, structureRows, geometryRows, visualizationRows, formatOptionsRows, messageRows})
+    {
+        std::vector<FullRow> rows = family();
+        std::move(rows.begin(), rows.end(), std::back_inserter(all));
+    }
+    return all;
+}
+
+} // namespace test
