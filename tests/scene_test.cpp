@@ -54,8 +54,6 @@ const test::ModelRow kRows[] = {
                       std::string(kMesh) + R"(,"type":"UNDEFINED","group_name":""})")
                          .c_str(),
                      {"[ERROR] ExcVisuMesh object should have a JSON object type."}),
-    row<ExcVisuNode>("NodeOfAnUnknownType", R"({"type":"root"})",
-                     R"({"is_leaf":false,"type":"ACTIVEDRAWINGSHEET","group_name":""})"),
     row<ExcVisuNode>(
         "NodeKeepsTheNumberOfItsChildren", R"({"child_nodes":[1,{"mesh":0,"child_nodes":[null]},"",{"wire":0}]})",
         (R"({"is_leaf":false,"type":"UNDEFINED","group_name":"","child_nodes":[)" + std::string(kNode) +
@@ -158,6 +156,69 @@ TEST_P(SceneRows, ReadAndWritten)
 INSTANTIATE_TEST_SUITE_P(Visualization, SceneRows, testing::ValuesIn(kRows), SceneRows::nameOf);
 
 const test::EnumRow kEnums[] = {
+    enumRow("ExcVisuNode::EType", "type", &ExcVisuNode::type, &ExcVisuNode::setType,
+            {"UNDEFINED",
+             "ROOT",
+             "GROUP",
+             "GEOMETRY",
+             "MESHES",
+             "MESH",
+             "WIRES",
+             "WIRE",
+             "POINTS",
+             "POINTSET",
+             "PMI",
+             "FTA_CONSTRUCTED_GEOMETRY",
+             "NOTES",
+             "NOTE",
+             "FLAGNOTE",
+             "NOA",
+             "DATUMS",
+             "DATUM_SIMPLE",
+             "DATUM_TARGET",
+             "DATUM_UNKNOWN",
+             "DIMENSIONS",
+             "DIMENSION_BASIC",
+             "DIMENSION_LENGTH",
+             "DIMENSION_DISTANCE",
+             "DIMENSION_LINEAR",
+             "DIMENSION_ORIENTED_LINEAR",
+             "DIMENSION_DIAMETER",
+             "DIMENSION_RADIUS",
+             "DIMENSION_ANGLE",
+             "DIMENSION_ORIENTED_ANGLE",
+             "DIMENSION_COORDINATE_3D",
+             "DIMENSION_CHAMFER",
+             "DIMENSION_UNKNOWN",
+             "GEOMTOLS",
+             "GEOMTOL_STRAIGHTNESS",
+             {35, "GEOMTOL_FLATNESS"},
+             "GEOMTOL_CIRCULARITY",
+             "GEOMTOL_CYLINDRICITY",
+             "GEOMTOL_PROFILE_LINE",
+             "GEOMTOL_PROFILE_SURFACE",
+             "GEOMTOL_COMP_PROFILE_SURFACE",
+             "GEOMTOL_PATTERN_LOCATION",
+             "GEOMTOL_PARALLELISM",
+             "GEOMTOL_ANGULARITY",
+             "GEOMTOL_PERPENDICULARITY",
+             "GEOMTOL_POSITION",
+             "GEOMTOL_POSITION_LINE",
+             "GEOMTOL_POSITION_SURFACE",
+             "GEOMTOL_COMP_POSITION",
+             "GEOMTOL_TOLERANCE",
+             "GEOMTOL_CONCENTRICITY",
+             "GEOMTOL_SYMMETRY",
+             "GEOMTOL_RUNOUT_CIRCULAR",
+             "GEOMTOL_RUNOUT_TOTAL",
+             "GEOMTOL_NOTE_ONLY",
+             "GEOMTOL_UNKNOWN",
+             "ROUGHNESSES",
+             "ROUGHNESS",
+             {58, "DRAWINGSHEET"},
+             "ACTIVEDRAWINGSHEET",
+             {60, "DRAWINGSHEETS"}},
+            "ACTIVEDRAWINGSHEET"),
     enumRow("ExcCamera::EType", "type", &ExcCamera::type, &ExcCamera::setType,
             {"undefined", "perspective", "orthographic"}, "orthographic"),
 };
@@ -174,6 +235,9 @@ INSTANTIATE_TEST_SUITE_P(Visualization, SceneEnums, testing::ValuesIn(kEnums), S
 
 const char* const kNullChild = "ExcVisuNode: attempt to add null child Visu Node object.";
 const char* const kNullElement = "ExcVisuCapture: attempt to add null Linked Element object.";
+const char* const kNullRoot = "ExcVisualizationData: attempt to add null Scene Root Visu Node object.";
+const char* const kNullView = "ExcVisualizationData: attempt to add null Visu View object.";
+const char* const kNullCapture = "ExcVisualizationData: attempt to add null Visu Capture object.";
 
 const test::AddRow kAdds[] = {
     addRow("ExcVisuNode::addChildNode", &ExcVisuNode::addChildNode, kNullChild),
@@ -181,6 +245,15 @@ const test::AddRow kAdds[] = {
     setAllRow("ExcVisuNode::setChildNodes", &ExcVisuNode::setChildNodes, kNullChild),
     addRow("ExcVisuCapture::addLinkedElement", &ExcVisuCapture::addLinkedElement, kNullElement),
     setAllRow("ExcVisuCapture::setLinkedElements", &ExcVisuCapture::setLinkedElements, kNullElement),
+    addRow("ExcVisualizationData::addSceneRootNode", &ExcVisualizationData::addSceneRootNode, kNullRoot),
+    addAllRow("ExcVisualizationData::addSceneRootNodes", &ExcVisualizationData::addSceneRootNodes, kNullRoot),
+    setAllRow("ExcVisualizationData::setSceneRootNodes", &ExcVisualizationData::setSceneRootNodes, kNullRoot),
+    addRow("ExcVisualizationData::addView", &ExcVisualizationData::addView, kNullView),
+    addAllRow("ExcVisualizationData::addViews", &ExcVisualizationData::addViews, kNullView),
+    setAllRow("ExcVisualizationData::setViews", &ExcVisualizationData::setViews, kNullView),
+    addRow("ExcVisualizationData::addCapture", &ExcVisualizationData::addCapture, kNullCapture),
+    addAllRow("ExcVisualizationData::addCaptures", &ExcVisualizationData::addCaptures, kNullCapture),
+    setAllRow("ExcVisualizationData::setCaptures", &ExcVisualizationData::setCaptures, kNullCapture),
 };
 
 class SceneAdds : public test::AddRows
@@ -222,43 +295,6 @@ TEST(Scene, AppendsWhatItReads)
     EXPECT_EQ(node.childNodes()[1]->type(), ExcVisuNode::EType::PMI);
     EXPECT_EQ(node.childNodes()[2]->type(), ExcVisuNode::EType::NOTE);
     EXPECT_NE(node.mesh(), mesh);
-}
-
-TEST(Scene, RefusesNulls)
-{
-    ExcVisuNode node;
-    ExcVisuCapture capture;
-    ExcVisualizationData data;
-    const test::LogCapture log;
-    node.setChildNodes({nullptr, nullptr});
-    node.addChildNode(nullptr);
-    capture.addLinkedElement(nullptr);
-    data.addSceneRootNodes({nullptr});
-    data.addView(nullptr);
-    data.setCaptures({nullptr, std::make_shared<ExcVisuCapture>()});
-    EXPECT_EQ(test::written(node), kNode);
-    EXPECT_EQ(data.captures().size(), 1U);
-    const std::string nullChild = "ExcVisuNode: attempt to add null child Visu Node object.";
-    EXPECT_EQ(log.lines("WARNING"),
-              (std::vector<std::string>{nullChild, nullChild, nullChild,
-                                        "ExcVisuCapture: attempt to add null Linked Element object.",
-                                        "ExcVisualizationData: attempt to add null Scene Root Visu Node object.",
-                                        "ExcVisualizationData: attempt to add null Visu View object.",
-                                        "ExcVisualizationData: attempt to add null Visu Capture object."}));
-}
-
-TEST(Scene, FrozenNumbersOfNodes)
-{
-    const std::pair<const char*, int> rows[] = {{"UNDEFINED", 0},         {"POINTSET", 9},      {"DATUM_SIMPLE", 17},
-                                                {"GEOMTOL_FLATNESS", 35}, {"DRAWINGSHEET", 58}, {"DRAWINGSHEETS", 60}};
-    for (const auto& [name, number] : rows)
-    {
-        const auto node = test::readFrom<ExcVisuNode>(R"({"type":")" + std::string(name) + "\"}");
-        EXPECT_EQ(static_cast<int>(node.type()), number) << name;
-    }
-    ExcVisuNode node;
-    node.setType(static_cast<ExcVisuNode::EType>(61));
-    EXPECT_EQ(test::written(node), kNode);
 }
 
 TEST(Scene, CrossesThroughSharedMemory)

@@ -1,7 +1,9 @@
+#include "tests/support/add_row.h"
 #include "tests/support/model_row.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 using namespace vrx;
+using test::addRow;
 using test::row;
 
 namespace
@@ -73,6 +75,25 @@ TEST_P(StructureRows, ReadAndWritten)
 }
 INSTANTIATE_TEST_SUITE_P(Structure, StructureRows, testing::ValuesIn(kRows), StructureRows::nameOf);
 
+const test::AddRow kAdds[] = {
+    addRow("ExcBlock::addBlockReference", &ExcBlock::addBlockReference,
+           "ExcBlock: attempt to add null Block Reference object."),
+    addRow("ExcProductStructure::addBlock", &ExcProductStructure::addBlock,
+           "ExcProductStructure: attempt to add null Block object."),
+    addRow("ExcProductStructure::addRootBlockReference", &ExcProductStructure::addRootBlockReference,
+           "ExcProductStructure: attempt to add null Root Block Reference object."),
+};
+
+class StructureAdds : public test::AddRows
+{
+};
+
+TEST_P(StructureAdds, RefuseNulls)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Structure, StructureAdds, testing::ValuesIn(kAdds), StructureAdds::nameOf);
+
 std::shared_ptr<ExcBlock> block(std::uint64_t id, const wstring& name)
 {
     auto made = std::make_shared<ExcBlock>();
@@ -133,35 +154,6 @@ TEST(ProductStructure, AppendsWhatItReadsAndCopiesShareIt)
     EXPECT_EQ(structure.getBlockById(1), structure.blocks().back());
     EXPECT_EQ(copy.blocks().size(), 1U);
     EXPECT_EQ(test::written(*std::dynamic_pointer_cast<ExcProductStructure>(structure.clone())), kEmptyStructure);
-}
-
-TEST(ProductStructure, RefusesNulls)
-{
-    ExcProductStructure structure;
-    ExcBlock parent;
-    const test::LogCapture log;
-    structure.addBlock(nullptr);
-    structure.addRootBlockReference(nullptr);
-    parent.addBlockReference(nullptr);
-    EXPECT_EQ(log.lines("WARNING"),
-              (std::vector<std::string>{"ExcProductStructure: attempt to add null Block object.",
-                                        "ExcProductStructure: attempt to add null Root Block Reference object.",
-                                        "ExcBlock: attempt to add null Block Reference object."}));
-    EXPECT_EQ(test::written(structure), kEmptyStructure);
-    EXPECT_EQ(test::written(parent), kEmptyBlock);
-}
-
-TEST(ProductStructure, WritesTheReferencesOfABlockAndOfTheTop)
-{
-    ExcBlock parent;
-    parent.addBlockReference(std::make_shared<ExcBlockReference>());
-    EXPECT_EQ(test::written(parent), R"({"id":0,"world_orientation":"unknown","is_part":false,"block_references":[)" +
-                                         std::string(kEmptyReference) + "]}");
-    ExcProductStructure structure;
-    structure.addRootBlockReference(std::make_shared<ExcBlockReference>());
-    EXPECT_EQ(test::written(structure), R"({"product_name":"","product_configuration_name":"","units":"unknown",)"
-                                        R"("world_orientation":"unknown","root_block_references":[)" +
-                                            std::string(kEmptyReference) + "]}");
 }
 
 } // namespace

@@ -1,3 +1,5 @@
+#include "tests/support/add_row.h"
+#include "tests/support/enum_row.h"
 #include "tests/support/helpers.h"
 #include "tests/support/model_row.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
@@ -6,7 +8,13 @@
 #include <stdexcept>
 
 using namespace vrx;
+using test::addAllRow;
+using test::addRow;
+using test::enumRow;
 using test::row;
+using test::setAllRow;
+using EColorType = ExcVisuMaterial::EColorType;
+using ETextureType = ExcVisuMaterial::ETextureType;
 
 namespace
 {
@@ -72,12 +80,6 @@ const test::ModelRow kAppearance[] = {
         R"("filter":"undefined","alpha":1.0,"file":"","name_uv":"","name":"","uv_translation":{"u":0.0,"v":2.5},)"
         R"("uv_scale":{"u":1.0,"v":0.5},"uv_rotation":{"u":0.0,"v":0.0,"w":9.5},"swap_uv":false,)"
         R"("use_material":false})"),
-    row<ExcVisuTexture>(
-        "TextureOfUnknownNames", R"({"method":"?","wrap_mode":{"u":"?","v":""},"mapping_mode":"UV","filter":"Linear"})",
-        R"({"method":"add","wrap_mode":{"u":"border","v":"border"},"mapping_mode":"cylindrical",)"
-        R"("filter":"linear","alpha":1.0,"file":"","name_uv":"","name":"","uv_translation":{"u":0.0,"v":0.0},)"
-        R"("uv_scale":{"u":1.0,"v":1.0},"uv_rotation":{"u":0.0,"v":0.0,"w":0.0},"swap_uv":false,)"
-        R"("use_material":false})"),
 
     materialRow("MaterialDefault", "{}", material("{}")),
     materialRow("MaterialOfText", R"("")", material("{}"),
@@ -113,8 +115,6 @@ const test::ModelRow kAppearance[] = {
 
     row<ExcVisuLineAttribute>("LineAttribute", R"({"line_style":"phantom_line","line_weight":2.5})",
                               R"({"line_weight":2.5,"line_style":"phantom_line"})"),
-    row<ExcVisuLineAttribute>("LineAttributeOfAnUnknownStyle", R"({"line_style":"dotted"})",
-                              R"({"line_weight":0.0,"line_style":"center_line"})"),
     row<ExcVisuLineAttribute>("LineAttributeOfNull", "null", R"({"line_weight":0.0,"line_style":"undefined"})",
                               {"[ERROR] ExcVisuLineAttribute object should have a JSON object type."}),
 
@@ -174,8 +174,6 @@ const test::ModelRow kItems[] = {
         R"({"points":[0.5,0.0],"line_indices":[1,0,-7],"line_type":"line_loop_filled","color":{"alpha":1},)"
         R"("mechanical_id":"m"})"),
     row<ExcVisuEdge>("EdgeOfANumber", R"({"line_type":1})", kEdge),
-    row<ExcVisuEdge>("EdgeOfAnUnknownType", R"({"line_type":"strip"})",
-                     R"({"line_type":"line_loop","color":null,"mechanical_id":""})"),
     row<ExcVisuEdge>("EdgeOfText", R"("")", kEdge, {kNoEdge}),
 
     row<ExcVisuMesh>("MeshDefault", "{}", kMesh),
@@ -218,8 +216,6 @@ const test::ModelRow kItems[] = {
                        R"("points":[1.5,2]})",
                        R"({"points":[1.5,0.0],"point_indices":[3,0,-1],"marker_style":"UNFILLED_TRIANGLE",)"
                        R"("color":{"rgb":[1,2,3]}})"),
-    row<ExcVisuPoints>("PointsOfAnUnknownMarker", R"({"marker_style":"cross"})",
-                       R"({"marker_style":"BACK_SLASH","color":null})"),
     row<ExcVisuPoints>("PointsOfNull", "null", R"({"marker_style":"NOTUSED","color":null})",
                        {"[ERROR] ExcVisuPoints object should have a JSON object type."}),
     row<ExcVisuPointSet>("PointSet",
@@ -237,6 +233,239 @@ TEST_P(ItemRows, ReadAndWritten)
     check(GetParam());
 }
 INSTANTIATE_TEST_SUITE_P(Visualization, ItemRows, testing::ValuesIn(kItems), ItemRows::nameOf);
+
+// The number of the kind whose entry was read.
+EColorType readColorType(const mp::wstring& name)
+{
+    const auto read =
+        test::readFrom<ExcVisuMaterial>(R"({"colors":{")" + mp::toNarrow(name) + R"(":[1.0,2.0,3.0,0.5]}})");
+    int number = 0;
+    while (number < 10 && read.color(static_cast<EColorType>(number)).red == 0)
+    {
+        ++number;
+    }
+    return static_cast<EColorType>(number);
+}
+
+ETextureType readTextureType(const mp::wstring& name)
+{
+    const auto read = test::readFrom<ExcVisuMaterial>(R"({"textures":{")" + mp::toNarrow(name) + R"(":[{}]}})");
+    int number = 0;
+    while (number < 10 && read.textures(static_cast<ETextureType>(number)).empty())
+    {
+        ++number;
+    }
+    return static_cast<ETextureType>(number);
+}
+
+// The name of the only member under a key.
+mp::wstring writtenName(const ExcVisuMaterial& material, const char* key)
+{
+    const JsonDocument document = test::parsed(test::written(material));
+    return document[test::wide(key).c_str()].MemberBegin()->name.GetString();
+}
+
+mp::wstring writtenColorType(EColorType type)
+{
+    ExcVisuMaterial material;
+    material.setColor(type, {});
+    return writtenName(material, "colors");
+}
+
+mp::wstring writtenTextureType(ETextureType type)
+{
+    ExcVisuMaterial material;
+    material.setTextures(type, {});
+    return writtenName(material, "textures");
+}
+
+test::EnumRow wrapModeRow(const char* title, const char* text, int direction)
+{
+    return enumRow<ExcVisuTexture>(
+        title, text, [=](const ExcVisuTexture& texture) { return texture.wrapMode(direction); },
+        [=](ExcVisuTexture& texture, ExcVisuTexture::EWrapMode mode) { texture.setWrapMode(direction, mode); },
+        {"undefined", "repeat", "clamp", "border", "edge", "mirror"}, "border");
+}
+
+template <class T>
+test::EnumRow geometryTypeRow(const char* title)
+{
+    return enumRow(title, "geometry_type", &T::geometryType, &T::setGeometryType,
+                   {"unknown", "part", "construction", "fta_constructed"}, "construction");
+}
+
+const test::EnumRow kEnums[] = {
+    enumRow("ExcVisuFont::EPitch", "font_pitch", &ExcVisuFont::pitch, &ExcVisuFont::setPitch,
+            {"unknown", "fixed", "variable"}, "fixed"),
+    enumRow("ExcVisuTexture::EMethod", "method", &ExcVisuTexture::method, &ExcVisuTexture::setMethod,
+            {"undefined", "decal", "modulate", "add", "replace"}, "add"),
+    wrapModeRow("ExcVisuTexture::EWrapMode of U", R"({"wrap_mode":{"u":"?"}})", 0),
+    wrapModeRow("ExcVisuTexture::EWrapMode of V", R"({"wrap_mode":{"v":"?"}})", 1),
+    enumRow("ExcVisuTexture::EMappingMode", "mapping_mode", &ExcVisuTexture::mappingMode,
+            &ExcVisuTexture::setMappingMode, {"undefined", "uv", "planar", "spherical", "cylindrical", "environment"},
+            "cylindrical"),
+    enumRow("ExcVisuTexture::EFilter", "filter", &ExcVisuTexture::filter, &ExcVisuTexture::setFilter,
+            {"undefined", "nearest", "linear", "nearest_mipmap_nearest", "nearest_mipmap_linear",
+             "linear_mipmap_linear", "linear_mipmap_nearest"},
+            "linear"),
+    enumRow<EColorType>("ExcVisuMaterial::EColorType", writtenColorType, readColorType,
+                        {"unknown", "ambient", "diffuse", "specular", "emissive", "transparency", "reflection"},
+                        "ambient"),
+    enumRow<ETextureType>("ExcVisuMaterial::ETextureType", writtenTextureType, readTextureType,
+                          {"unknown", "ambient", "diffuse", "specular", "emissive", "blending"}, "ambient"),
+    enumRow("ExcVisuLineAttribute::ELineStyle", "line_style", &ExcVisuLineAttribute::lineStyle,
+            &ExcVisuLineAttribute::setLineStyle,
+            {"undefined",
+             "solid_line",
+             "dash_dot_line",
+             "dash_line",
+             "dot_line",
+             "dash_dot_dot_line",
+             "dash_dot_dot_dot_line",
+             {8, "center_line"},
+             "phantom_line"},
+            "center_line"),
+    enumRow("ExcVisuEdge::ELineType", "line_type", &ExcVisuEdge::lineType, &ExcVisuEdge::setLineType,
+            {"unknown", "line_strip", "line_loop", "line_loop_filled"}, "line_loop"),
+    geometryTypeRow<ExcVisuMesh>("EVisuGeometryType of ExcVisuMesh"),
+    geometryTypeRow<ExcVisuWire>("EVisuGeometryType of ExcVisuWire"),
+    geometryTypeRow<ExcVisuPointSet>("EVisuGeometryType of ExcVisuPointSet"),
+    enumRow("EVisuMarkerStyle", "marker_style", &ExcVisuPoints::markerStyle, &ExcVisuPoints::setMarkerStyle,
+            {"NOTUSED",
+             "CROSS",
+             "PLUS",
+             "CONCENTRIC",
+             "COINCIDENT",
+             "FULLCIRCLE",
+             "FULLSQUARE",
+             "STAR",
+             "DOT",
+             "SMALLDOT",
+             "MISC1",
+             "MISC2",
+             "FULLCIRCLE2",
+             "FULLSQUARE2",
+             "OPEN_ARROW",
+             "UNFILLED_ARROW",
+             "BLANKED_ARROW",
+             "FILLED_ARROW",
+             "UNFILLED_CIRCLE",
+             "BLANKED_CIRCLE",
+             "FILLED_CIRCLE",
+             "CROSSED_CIRCLE",
+             "BLANKED_SQUARE",
+             "FILLED_SQUARE",
+             "BLANKED_TRIANGLE",
+             "FILLED_TRIANGLE",
+             "MANIPULATOR_SQUARE",
+             "MANIPULATOR_DIAMOND",
+             "MANIPULATOR_CIRCLE",
+             "MANIPULATOR_TRIANGLE",
+             "DOUBLE_OPEN_ARROW",
+             "WAVE",
+             "DOUBLE_FILLED_ARROW",
+             "FULLDOUBLEROTATEARROWBLACKBORDER",
+             "FULLSQUAREBLACKBORDER",
+             "FULLDIAMONDBLACKBORDER",
+             {36, "FULLCIRCLEBLACKBORDER"},
+             {2001, "DOUBLE_UNFILLED_ARROW"},
+             "DOUBLE_BLANKED_ARROW",
+             "FORE_SLASH",
+             "BACK_SLASH",
+             "INTEGRAL",
+             "UNFILLED_DOT",
+             "FILLED_DOT",
+             "UNFILLED_SQUARE",
+             "TOP_OPEN_ARROW",
+             "BOTTOM_OPEN_ARROW",
+             "TOP_FILLED_ARROW",
+             "BOTTOM_FILLED_ARROW",
+             {2013, "UNFILLED_TRIANGLE"}},
+            "BACK_SLASH"),
+};
+
+class VisualizationEnums : public test::EnumRows
+{
+};
+
+TEST_P(VisualizationEnums, HaveTheirNames)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Visualization, VisualizationEnums, testing::ValuesIn(kEnums), VisualizationEnums::nameOf);
+
+constexpr ETextureType kDiffuse = ETextureType::Diffuse;
+using SharedTexture = std::shared_ptr<ExcVisuTexture>;
+
+void addDiffuse(ExcVisuMaterial& material, const SharedTexture& texture)
+{
+    material.addTexture(kDiffuse, texture);
+}
+
+void addAllDiffuse(ExcVisuMaterial& material, const std::vector<SharedTexture>& textures)
+{
+    material.addTextures(kDiffuse, textures);
+}
+
+void setAllDiffuse(ExcVisuMaterial& material, const std::vector<SharedTexture>& textures)
+{
+    material.setTextures(kDiffuse, textures);
+}
+
+const std::vector<SharedTexture>& diffuse(const ExcVisuMaterial& material)
+{
+    return material.textures(kDiffuse);
+}
+
+const char* const kNullTexture = "ExcVisuMaterial: attempt to add null Texture object.";
+const char* const kNullMaterial = "ExcVisuAttributes: attempt to add null Material object.";
+const char* const kNullFace = "ExcVisuMesh: attempt to add null Visu Face object.";
+const char* const kNullMeshEdge = "ExcVisuMesh: attempt to add null Visu Edge object.";
+const char* const kNullWireEdge = "ExcVisuWire: attempt to add null Visu Edge object.";
+const char* const kNullPMIEdge = "ExcVisuPMI: attempt to add null Visu Edge object.";
+const char* const kNullText = "ExcVisuPMI: attempt to add null Visu Text object.";
+const char* const kNullElement = "ExcVisuPMI: attempt to add null Linked Element object.";
+const char* const kNullPoints = "ExcVisuPointSet: attempt to add null Visu Points object.";
+
+const test::AddRow kAdds[] = {
+    addRow<ExcVisuMaterial, ExcVisuTexture>("ExcVisuMaterial::addTexture", addDiffuse, kNullTexture),
+    addAllRow<ExcVisuMaterial, ExcVisuTexture>("ExcVisuMaterial::addTextures", addAllDiffuse, kNullTexture),
+    setAllRow<ExcVisuMaterial, ExcVisuTexture>("ExcVisuMaterial::setTextures", setAllDiffuse, kNullTexture, diffuse),
+    addRow("ExcVisuAttributes::addMaterial", &ExcVisuAttributes::addMaterial, kNullMaterial),
+    addAllRow("ExcVisuAttributes::addMaterials", &ExcVisuAttributes::addMaterials, kNullMaterial),
+    setAllRow("ExcVisuAttributes::setMaterials", &ExcVisuAttributes::setMaterials, kNullMaterial),
+    addRow("ExcVisuMesh::addFace", &ExcVisuMesh::addFace, kNullFace),
+    addAllRow("ExcVisuMesh::addFaces", &ExcVisuMesh::addFaces, kNullFace),
+    setAllRow("ExcVisuMesh::setFaces", &ExcVisuMesh::setFaces, kNullFace),
+    addRow("ExcVisuMesh::addEdge", &ExcVisuMesh::addEdge, kNullMeshEdge),
+    addAllRow("ExcVisuMesh::addEdges", &ExcVisuMesh::addEdges, kNullMeshEdge),
+    setAllRow("ExcVisuMesh::setEdges", &ExcVisuMesh::setEdges, kNullMeshEdge),
+    addRow("ExcVisuWire::addEdge", &ExcVisuWire::addEdge, kNullWireEdge),
+    addAllRow("ExcVisuWire::addEdges", &ExcVisuWire::addEdges, kNullWireEdge),
+    setAllRow("ExcVisuWire::setEdges", &ExcVisuWire::setEdges, kNullWireEdge),
+    addRow("ExcVisuPMI::addEdge", &ExcVisuPMI::addEdge, kNullPMIEdge),
+    addAllRow("ExcVisuPMI::addEdges", &ExcVisuPMI::addEdges, kNullPMIEdge),
+    setAllRow("ExcVisuPMI::setEdges", &ExcVisuPMI::setEdges, kNullPMIEdge),
+    addRow("ExcVisuPMI::addText", &ExcVisuPMI::addText, kNullText),
+    addAllRow("ExcVisuPMI::addTexts", &ExcVisuPMI::addTexts, kNullText),
+    setAllRow("ExcVisuPMI::setTexts", &ExcVisuPMI::setTexts, kNullText),
+    addRow("ExcVisuPMI::addLinkedElement", &ExcVisuPMI::addLinkedElement, kNullElement, &ExcVisuPMI::linkedElements),
+    setAllRow("ExcVisuPMI::setLinkedElements", &ExcVisuPMI::setLinkedElements, kNullElement,
+              &ExcVisuPMI::linkedElements),
+    addRow("ExcVisuPointSet::addPoints of one", &ExcVisuPointSet::addPoints, kNullPoints),
+    addAllRow("ExcVisuPointSet::addPoints of many", &ExcVisuPointSet::addPoints, kNullPoints),
+    setAllRow("ExcVisuPointSet::setPoints", &ExcVisuPointSet::setPoints, kNullPoints),
+};
+
+class VisualizationAdds : public test::AddRows
+{
+};
+
+TEST_P(VisualizationAdds, RefuseNulls)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Visualization, VisualizationAdds, testing::ValuesIn(kAdds), VisualizationAdds::nameOf);
 
 TEST(Texture, RefusesADirectionThatItLacks)
 {
@@ -291,66 +520,17 @@ TEST(Material, PassesOverAMemberWhoseNameIsNoString)
     EXPECT_EQ(log.complaints(), (std::vector<std::string>{kNoColor, kNoTextures}));
 }
 
-TEST(Material, RefusesNullTextures)
+TEST(Items, AreSetToTheirOwn)
 {
-    constexpr auto kDiffuse = ExcVisuMaterial::ETextureType::Diffuse;
-    ExcVisuMaterial stack;
-    const auto texture = std::make_shared<ExcVisuTexture>();
-    const test::LogCapture log;
-    stack.addTexture(kDiffuse, nullptr);
-    EXPECT_EQ(test::written(stack), material("{}"));
-    stack.addTextures(kDiffuse, {nullptr, texture});
-    stack.addTextures(kDiffuse, stack.textures(kDiffuse));
-    EXPECT_EQ(stack.textures(kDiffuse), (std::vector<std::shared_ptr<ExcVisuTexture>>{texture, texture}));
-    stack.setTextures(kDiffuse, {texture, nullptr});
-    EXPECT_EQ(stack.textures(kDiffuse).size(), 1U);
-    EXPECT_EQ(log.lines("WARNING"),
-              std::vector<std::string>(3, "ExcVisuMaterial: attempt to add null Texture object."));
-}
-
-TEST(Items, RefuseNulls)
-{
-    ExcVisuAttributes attributes;
-    ExcVisuMesh mesh;
-    ExcVisuWire wire;
-    ExcVisuPMI pmi;
-    ExcVisuPointSet points;
-    const test::LogCapture log;
-    attributes.addMaterial(nullptr);
-    mesh.addFace(nullptr);
-    mesh.setEdges({nullptr, std::make_shared<ExcVisuEdge>(), nullptr});
-    wire.addEdges({nullptr});
-    pmi.addEdge(nullptr);
-    pmi.addTexts({nullptr});
-    pmi.setLinkedElements({nullptr, std::make_shared<ExcEntity>()});
-    points.addPoints(nullptr);
-    EXPECT_EQ(mesh.edges().size(), 1U);
-    EXPECT_EQ(pmi.linkedElements().size(), 1U);
-    EXPECT_EQ(log.lines("WARNING"), (std::vector<std::string>{
-                                        "ExcVisuAttributes: attempt to add null Material object.",
-                                        "ExcVisuMesh: attempt to add null Visu Face object.",
-                                        "ExcVisuMesh: attempt to add null Visu Edge object.",
-                                        "ExcVisuMesh: attempt to add null Visu Edge object.",
-                                        "ExcVisuWire: attempt to add null Visu Edge object.",
-                                        "ExcVisuPMI: attempt to add null Visu Edge object.",
-                                        "ExcVisuPMI: attempt to add null Visu Text object.",
-                                        "ExcVisuPMI: attempt to add null Linked Element object.",
-                                        "ExcVisuPointSet: attempt to add null Visu Points object.",
-                                    }));
-}
-
-TEST(Items, ReplaceWhatIsSet)
-{
-    ExcVisuMesh mesh;
-    mesh.addEdges({std::make_shared<ExcVisuEdge>(), std::make_shared<ExcVisuEdge>()});
-    const auto edge = std::make_shared<ExcVisuEdge>();
-    mesh.setEdges({edge});
-    EXPECT_EQ(mesh.edges(), std::vector<std::shared_ptr<ExcVisuEdge>>{edge});
-
     ExcVisuPMI pmi;
     pmi.addLinkedElement(std::make_shared<ExcEntity>());
     pmi.setLinkedElements(pmi.linkedElements());
     EXPECT_EQ(pmi.linkedElements().size(), 1U);
+
+    ExcVisuMaterial stack;
+    stack.addTexture(kDiffuse, std::make_shared<ExcVisuTexture>());
+    stack.addTextures(kDiffuse, stack.textures(kDiffuse));
+    EXPECT_EQ(stack.textures(kDiffuse).size(), 2U);
 }
 
 TEST(Items, HoldTheLinkedElementsThatTheyNeverWrite)
@@ -359,26 +539,6 @@ TEST(Items, HoldTheLinkedElementsThatTheyNeverWrite)
     ASSERT_EQ(pmi.linkedElements().size(), 2U);
     EXPECT_EQ(pmi.linkedElements()[0]->id(), WIDE("v"));
     EXPECT_EQ(pmi.linkedElements()[1]->type(), ExcEntity::EType::Unknown);
-}
-
-TEST(Items, WriteNumbersOutsideTheTablesAsTheFirstRow)
-{
-    ExcVisuLineAttribute line;
-    line.setLineStyle(static_cast<ExcVisuLineAttribute::ELineStyle>(7));
-    EXPECT_EQ(test::written(line), R"({"line_weight":0.0,"line_style":"undefined"})");
-    ExcVisuPoints points;
-    points.setMarkerStyle(static_cast<EVisuMarkerStyle>(2000));
-    EXPECT_EQ(test::written(points), R"({"marker_style":"NOTUSED","color":null})");
-}
-
-TEST(Items, FrozenNumbers)
-{
-    EXPECT_EQ(static_cast<int>(EVisuMarkerStyle::FULLCIRCLEBLACKBORDER), 36);
-    EXPECT_EQ(static_cast<int>(EVisuMarkerStyle::UNFILLED_TRIANGLE), 2013);
-    EXPECT_EQ(test::readFrom<ExcVisuPoints>(R"({"marker_style":"INTEGRAL"})").markerStyle(),
-              static_cast<EVisuMarkerStyle>(2005));
-    EXPECT_EQ(test::readFrom<ExcVisuLineAttribute>(R"({"line_style":"center_line"})").lineStyle(),
-              static_cast<ExcVisuLineAttribute::ELineStyle>(8));
 }
 
 TEST(Items, NarrowDoublesToFloats)
