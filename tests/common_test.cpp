@@ -18,7 +18,6 @@ const char* const kDefaultPlace =
 const char* const kNoVector = "[ERROR] Exchange vector/point (2D/3D) object should have a JSON array type.";
 const char* const kNoPath = "[ERROR] ExcFullSubentPath object should have a JSON object type.";
 const char* const kNoSubentId = "[ERROR] ExcSubentId object should have a JSON object type.";
-const char* const kDefaultProperty = R"({"name":"","type":"unknown","value":""})";
 
 const test::ModelRow kRows[] = {
     row<ExcVector3d>("Vector3dIgnoresAFourth", "[1.0,2.0,3.0,4.0]", "[1.0,2.0,3.0]"),
@@ -42,15 +41,10 @@ const test::ModelRow kRows[] = {
     row<ExcColor>("ColorIsCutTo16Bits", R"({"rgb":[70000,65535,65536],"alpha":65537})",
                   R"({"rgb":[4464,65535,0],"alpha":1})"),
 
-    row<ExcMiscProperty>("PropertyTakesTextAlone", R"({"name":1,"type":2,"value":true})", kDefaultProperty),
     row<ExcMiscProperty>("PropertyIsCutAtNul", R"({"name":"ab\u0000c","type":"string\u0000x","value":"\u0000"})",
                          R"({"name":"ab","type":"string","value":""})"),
     row<ExcMiscData>("MiscDataKeepsItsLength", R"([1,{"name":"n"}])",
                      R"([{"name":"","type":"unknown","value":""},{"name":"n","type":"unknown","value":""}])"),
-
-    row<ExcSubentId>("SubentId", R"({"index":18446744073709551615,"type":"v"})",
-                     R"({"type":"v","index":18446744073709551615})"),
-    row<ExcSubentId>("SubentIdOfADouble", R"({"type":"e","index":5.0})", R"({"type":"e","index":0})"),
 
     row<ExcFullSubentPath>("PathSkipsWhatIsNoText", R"({"block_references":["a\u0000z",1,"b",null]})",
                            R"({"block_references":["a","b"],"body_id":0,"subent_id":{"type":"0","index":0}})"),

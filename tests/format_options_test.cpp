@@ -29,20 +29,6 @@ constexpr const char* kEmptyParasolid =
     R"({"operation_type":"import","format_type":"parasolid","hidden_entities_mode":"unknown"})";
 
 const test::ModelRow kRows[] = {
-    row<imp::OptionsIGES>("IGESOfNull", "null", kEmptyIGES,
-                          {"[ERROR] OptionsIGES object should have a JSON object type."}),
-    row<imp::OptionsIGES>("IGES",
-                          R"({"format_type":"IGES","import_entities":"root_only","hidden_entities_mode":"all"})",
-                          R"({"operation_type":"import","format_type":"IGES","import_entities":"root_only",)"
-                          R"("hidden_entities_mode":"all"})"),
-
-    row<imp::OptionsSTEP>("STEPOfText", R"("STEP")", kEmptySTEP,
-                          {"[ERROR] OptionsSTEP object should have a JSON object type."}),
-    row<imp::OptionsSTEP>("STEP", R"({"format_type":"STEP","layer_name_mode":"saved_visu_rep","visu_pmi_mode":"all"})",
-                          R"({"operation_type":"import","format_type":"STEP","layer_name_mode":"saved_visu_rep",)"
-                          R"("visu_pmi_mode":"all"})"),
-    row<imp::OptionsSTEP>("STEPOfWrongKinds", R"({"format_type":"STEP","layer_name_mode":1,"visu_pmi_mode":true})",
-                          kEmptySTEP),
     // A mismatch is logged, and the rest is taken all the same.
     row<imp::OptionsSTEP>("STEPOfAnotherFormat",
                           R"({"operation_type":"import","format_type":"IGES","visu_pmi_mode":"none"})", kNoPMI,
@@ -53,13 +39,6 @@ const test::ModelRow kRows[] = {
                           R"({"operation_type":"Import","format_type":"IGES","visu_pmi_mode":"none"})", kNoPMI,
                           {kOtherOperation}),
 
-    row<imp::OptionsJT>("JTOfAnArray", "[]", kEmptyJT, {"[ERROR] OptionsJT object should have a JSON object type."}),
-    row<imp::OptionsJT>("JT", R"({"format_type":"JT","edges_mode":"none","user_prop_mode":"translate_none"})",
-                        R"({"operation_type":"import","format_type":"JT","edges_mode":"none",)"
-                        R"("user_prop_mode":"translate_none"})"),
-
-    row<imp::OptionsParasolid>("ParasolidOfANumber", "4", kEmptyParasolid,
-                               {"[ERROR] OptionsParasolid object should have a JSON object type."}),
     row<imp::OptionsParasolid>("ParasolidOfAnotherFormat",
                                R"({"format_type":"Parasolid","hidden_entities_mode":"only_with_visible_links"})",
                                R"({"operation_type":"import","format_type":"parasolid",)"
