@@ -2,13 +2,14 @@
 #include "tests/support/helpers.h"
 #include "tests/support/json_text.h"
 #include "tests/support/log_capture.h"
+#include "vrx_api/exchange/exchange_object_registry.h"
 #include "vrx_api/exchange/json_binary_io.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
 #include <optional>
+#include <set>
 #include <stdexcept>
 
 using namespace vrx;
@@ -327,6 +328,19 @@ TEST_P(FullRows, AnotherKindOfValueLeavesTheDefault)
         checkBinaryForm(row, document, reading);
         EXPECT_EQ(written(*reading.object), written(*row.make())) << text;
     }
+}
+
+TEST(FullRowsOfAll, HaveARowForEachExchangeClass)
+{
+    std::set<wstring> names;
+    for (const FullRow& row : test::allFullRows())
+    {
+        if (const auto object = std::dynamic_pointer_cast<IExchangeObject>(row.make()))
+        {
+            names.insert(object->objectName());
+        }
+    }
+    EXPECT_EQ(std::vector<wstring>(names.begin(), names.end()), ExchangeObjectRegistry::instance().names());
 }
 
 std::string nameOf(const testing::TestParamInfo<FullRow>& info)
