@@ -1,3 +1,4 @@
+#include "tests/support/enum_row.h"
 #include "tests/support/json_text.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/message_text.h"
@@ -7,6 +8,7 @@
 #include <gmock/gmock.h>
 
 using namespace vrx;
+using test::enumRow;
 using test::readText;
 using test::refusal;
 using test::written;
@@ -56,7 +58,34 @@ private:
     wstring m_text;
 };
 
+// An import and an export are not written without options.
+void setType(Command& command, Command::EType type)
+{
+    command.setImportOptions(Command::newImportOptions());
+    command.setExportOptions(Command::newExportOptions());
+    command.setType(type);
+}
+
+const test::EnumRow kEnums[] = {
+    enumRow("Command::EType", R"({"command":"?","options":{"file":"f"}})", &Command::type, setType,
+            {"unknown", "info", "import", "export", "ping"}, "unknown"),
+    enumRow("EFerrantInterface of Command", R"({"command":"ping","ferrant_interface":"?"})",
+            &Command::internalInterface, &Command::setInternalInterface, {"uconnect", "connect", "legacy"}, "uconnect"),
+    enumRow("Result::ECode", "code", &Result::code, &Result::setCode,
+            {"unknown", "ok", "warning", "error", "interrupted"}, "unknown"),
+};
+
+class CommandEnums : public test::EnumRows
+{
+};
+
 } // namespace
+
+TEST_P(CommandEnums, HaveTheirNames)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Command, CommandEnums, testing::ValuesIn(kEnums), CommandEnums::nameOf);
 
 TEST(Command, ReadsAndWrites)
 {
@@ -67,9 +96,7 @@ TEST(Command, ReadsAndWrites)
     } rows[] = {
         {R"({"command":"ping"})", R"({"ferrant_interface":"legacy","command":"ping"})"},
         {R"({"command":"info","ferrant_interface":"connect"})", R"({"ferrant_interface":"connect","command":"info"})"},
-        {R"({"command":"info","ferrant_interface":"Legacy"})", R"({"ferrant_interface":"uconnect","command":"info"})"},
         {R"({"command":"unknown","ferrant_interface":2})", R"({"ferrant_interface":"legacy","command":"unknown"})"},
-        {R"({"command":"shutdown"})", R"({"ferrant_interface":"legacy","command":"unknown"})"},
         {R"({"command":"ping","options":{"file":"a"}})", R"({"ferrant_interface":"legacy","command":"ping"})"},
         {R"({"options":{"file":"a"},"command":"import","ferrant_interface":"connect"})",
          R"({"ferrant_interface":"connect","command":"import","options":{"file":"a"}})"},
@@ -134,8 +161,6 @@ TEST(Command, WritesOneMemberALine)
       }]
   }
 })");
-    EXPECT_EQ(written(commandOf(Command::EType{9}, EFerrantInterface{9})),
-              R"({"ferrant_interface":"uconnect","command":"unknown"})");
 }
 
 TEST(Command, WritesNothingWithoutItsOptions)
@@ -331,6 +356,4 @@ TEST(Result, RefusesWhatHasNoCode)
     {
         EXPECT_EQ(refusal([&] { readText(result, text); }), "Json document has no result code.");
     }
-    result.setCode(Result::ECode{7});
-    EXPECT_EQ(written(result), R"({"code":"unknown","is_finished":false})");
 }

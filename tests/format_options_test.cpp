@@ -1,3 +1,4 @@
+#include "tests/support/enum_row.h"
 #include "tests/support/model_row.h"
 #include "vrx_api/format_options/shared_mode_tables.h"
 #include "vrx_api/json/shapes.h"
@@ -6,6 +7,7 @@
 #include <gmock/gmock.h>
 
 using namespace vrx;
+using test::enumRow;
 using test::row;
 using testing::ElementsAre;
 
@@ -28,28 +30,6 @@ constexpr const char* kEmptyParasolid =
     R"({"operation_type":"import","format_type":"parasolid","hidden_entities_mode":"unknown"})";
 
 const test::ModelRow kRows[] = {
-    row<imp::OptionsIGES>("IGESOfNull", "null", kEmptyIGES,
-                          {"[ERROR] OptionsIGES object should have a JSON object type."}),
-    row<imp::OptionsIGES>("IGES",
-                          R"({"format_type":"IGES","import_entities":"root_only","hidden_entities_mode":"all"})",
-                          R"({"operation_type":"import","format_type":"IGES","import_entities":"root_only",)"
-                          R"("hidden_entities_mode":"all"})"),
-    row<imp::OptionsIGES>("IGESOfUnlistedNames",
-                          R"({"format_type":"IGES","import_entities":"root","hidden_entities_mode":"None"})",
-                          R"({"operation_type":"import","format_type":"IGES","import_entities":"root_and_nonroot",)"
-                          R"("hidden_entities_mode":"all"})"),
-
-    row<imp::OptionsSTEP>("STEPOfText", R"("STEP")", kEmptySTEP,
-                          {"[ERROR] OptionsSTEP object should have a JSON object type."}),
-    row<imp::OptionsSTEP>("STEP", R"({"format_type":"STEP","layer_name_mode":"saved_visu_rep","visu_pmi_mode":"all"})",
-                          R"({"operation_type":"import","format_type":"STEP","layer_name_mode":"saved_visu_rep",)"
-                          R"("visu_pmi_mode":"all"})"),
-    row<imp::OptionsSTEP>("STEPOfUnlistedNames",
-                          R"({"format_type":"STEP","layer_name_mode":"","visu_pmi_mode":"only_with_visible_links"})",
-                          R"({"operation_type":"import","format_type":"STEP","layer_name_mode":"asm_rep",)"
-                          R"("visu_pmi_mode":"all"})"),
-    row<imp::OptionsSTEP>("STEPOfWrongKinds", R"({"format_type":"STEP","layer_name_mode":1,"visu_pmi_mode":true})",
-                          kEmptySTEP),
     // A mismatch is logged, and the rest is taken all the same.
     row<imp::OptionsSTEP>("STEPOfAnotherFormat",
                           R"({"operation_type":"import","format_type":"IGES","visu_pmi_mode":"none"})", kNoPMI,
@@ -60,17 +40,6 @@ const test::ModelRow kRows[] = {
                           R"({"operation_type":"Import","format_type":"IGES","visu_pmi_mode":"none"})", kNoPMI,
                           {kOtherOperation}),
 
-    row<imp::OptionsJT>("JTOfAnArray", "[]", kEmptyJT, {"[ERROR] OptionsJT object should have a JSON object type."}),
-    row<imp::OptionsJT>("JT", R"({"format_type":"JT","edges_mode":"none","user_prop_mode":"translate_none"})",
-                        R"({"operation_type":"import","format_type":"JT","edges_mode":"none",)"
-                        R"("user_prop_mode":"translate_none"})"),
-    row<imp::OptionsJT>("JTOfUnlistedNames",
-                        R"({"format_type":"JT","edges_mode":"translate_none","user_prop_mode":"none"})",
-                        R"({"operation_type":"import","format_type":"JT","edges_mode":"all",)"
-                        R"("user_prop_mode":"translate_all"})"),
-
-    row<imp::OptionsParasolid>("ParasolidOfANumber", "4", kEmptyParasolid,
-                               {"[ERROR] OptionsParasolid object should have a JSON object type."}),
     row<imp::OptionsParasolid>("ParasolidOfAnotherFormat",
                                R"({"format_type":"Parasolid","hidden_entities_mode":"only_with_visible_links"})",
                                R"({"operation_type":"import","format_type":"parasolid",)"
@@ -79,6 +48,139 @@ const test::ModelRow kRows[] = {
 };
 
 class FormatOptionsRows : public test::ModelRows
+{
+};
+
+// Settings of any format and operation.
+class AnyOptions : public imp::FormatOptions
+{
+public:
+    AnyOptions(EOperationType operation, EFormatType format)
+        : m_operation(operation)
+        , m_format(format)
+    {
+    }
+
+    EOperationType operationType() const override { return m_operation; }
+    EFormatType formatType() const override { return m_format; }
+
+private:
+    EOperationType m_operation;
+    EFormatType m_format;
+};
+
+mp::wstring writtenName(const AnyOptions& options, const char* key)
+{
+    return test::parsed(test::written(options))[test::wide(key).c_str()].GetString();
+}
+
+// The number whose settings take the text for their own.
+template <class E, class OptionsOf>
+E accepting(OptionsOf optionsOf, const std::string& text)
+{
+    for (int number = 0;; ++number)
+    {
+        AnyOptions options = optionsOf(static_cast<E>(number));
+        const test::LogCapture log;
+        test::readText(options, text);
+        if (log.complaints().empty() || number == 100)
+        {
+            return static_cast<E>(number);
+        }
+    }
+}
+
+AnyOptions optionsFor(EOperationType operation)
+{
+    return AnyOptions(operation, EFormatType::STEP);
+}
+
+AnyOptions optionsOf(EFormatType format)
+{
+    return AnyOptions(EOperationType::Import, format);
+}
+
+// An enumeration that settings to come will hold.
+template <class E>
+test::EnumRow tableRow(const char* title, std::vector<test::EnumEntry> entries, const char* ofUnlistedName)
+{
+    return enumRow<E>(
+        title, [](E value) { return wstring(enumName(value)); }, [](const wstring& name) { return enumValue<E>(name); },
+        std::move(entries), ofUnlistedName);
+}
+
+const test::EnumRow kEnums[] = {
+    enumRow<EOperationType>(
+        "EOperationType", [](EOperationType operation) { return writtenName(optionsFor(operation), "operation_type"); },
+        [](const wstring& name) {
+            return accepting<EOperationType>(optionsFor, R"({"format_type":"STEP","operation_type":")" +
+                                                             mp::toNarrow(name) + "\"}");
+        },
+        {{1, "import"}, {2, "export"}}, "export"),
+    enumRow<EFormatType>(
+        "EFormatType", [](EFormatType format) { return writtenName(optionsOf(format), "format_type"); },
+        [](const wstring& name) {
+            return accepting<EFormatType>(optionsOf, R"({"format_type":")" + mp::toNarrow(name) + "\"}");
+        },
+        {"unknown",
+         "general",
+         "CGM",
+         "ACIS",
+         "parasolid",
+         "CatiaV5",
+         "CatiaV5Drawing",
+         "CatiaV4",
+         "IGES",
+         "STEP",
+         "STL",
+         "Creo",
+         "NX",
+         "SolidWorks",
+         "SolidWorksDrawing",
+         "SolidEdge",
+         "JT",
+         "Inventor",
+         {18, "3D_PDF"},
+         "3D_XML",
+         "autocad",
+         "U3D",
+         "VDA_FS",
+         "XML_EBOM",
+         "XCGM",
+         "graphical",
+         "mechanical",
+         "picture",
+         "IFC",
+         "EDrawings",
+         {30, "UDL"}},
+        "3D_PDF"),
+    enumRow("ETranslateHiddenEntitiesModeType", R"({"format_type":"IGES","hidden_entities_mode":"?"})",
+            &imp::OptionsIGES::hiddenEntitiesMode, &imp::OptionsIGES::setHiddenEntitiesMode,
+            {"unknown", "all", "none", "only_with_visible_links"}, "all"),
+    enumRow("EImportEntities", R"({"format_type":"IGES","import_entities":"?"})", &imp::OptionsIGES::importEntities,
+            &imp::OptionsIGES::setImportEntities, {"unknown", "root_only", "root_and_nonroot"}, "root_and_nonroot"),
+    enumRow("EVisuPMIProcessingMode", R"({"format_type":"STEP","visu_pmi_mode":"?"})",
+            &imp::OptionsSTEP::visuPMIProcessingMode, &imp::OptionsSTEP::setVisuPMIProcessingMode,
+            {"unknown", "all", "none"}, "all"),
+    enumRow("ELayerNameProcessingModeType", R"({"format_type":"STEP","layer_name_mode":"?"})",
+            &imp::OptionsSTEP::layerNameProcessingMode, &imp::OptionsSTEP::setLayerNameProcessingMode,
+            {"unknown", "asm_rep", "saved_visu_rep"}, "asm_rep"),
+    enumRow("EImportEdgesModeType", R"({"format_type":"JT","edges_mode":"?"})", &imp::OptionsJT::importEdgesMode,
+            &imp::OptionsJT::setImportEdgesMode, {"unknown", "all", "none"}, "all"),
+    enumRow("EUserPropertiesModeType", R"({"format_type":"JT","user_prop_mode":"?"})",
+            &imp::OptionsJT::userPropertiesMode, &imp::OptionsJT::setUserPropertiesMode,
+            {"unknown", "translate_all", "translate_none"}, "translate_all"),
+    tableRow<ETranslateSuppressedEntitiesModeType>("ETranslateSuppressedEntitiesModeType", {"unknown", "all", "none"},
+                                                   "all"),
+    tableRow<EAssemblyPathPrefType>("EAssemblyPathPrefType",
+                                    {"unknown", "subfolders_first", "root_folder_only", "root_folder_first"},
+                                    "root_folder_first"),
+    tableRow<EPersistentNameProcessingModeType>(
+        "EPersistentNameProcessingModeType",
+        {"none", "vertex", "edge", {4, "face"}, {16, "instance"}, {255, "unknown"}}, "edge"),
+};
+
+class FormatOptionsEnums : public test::EnumRows
 {
 };
 
@@ -95,6 +197,12 @@ TEST_P(FormatOptionsRows, ReadAndWritten)
 {
     check(GetParam());
 }
+
+TEST_P(FormatOptionsEnums, HaveTheirNames)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(FormatOptions, FormatOptionsEnums, testing::ValuesIn(kEnums), FormatOptionsEnums::nameOf);
 
 INSTANTIATE_TEST_SUITE_P(FormatOptions, FormatOptionsRows, testing::ValuesIn(kRows), test::ModelRows::nameOf);
 

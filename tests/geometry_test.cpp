@@ -35,19 +35,11 @@ class GeometryRows : public test::ModelRows
 
 const test::ModelRow kRows[] = {
     row<ExcBlockGeometry>("Default", kDefault, kDefault, {kNoName, kNoBuffer}),
-    row<ExcBlockGeometry>("Filled",
-                          R"({"acis_body_ids":[18446744073709551615,0],"shared_acis_buffer_name":"n",)"
-                          R"("block_id":18446744073709551615})",
-                          R"({"block_id":18446744073709551615,"shared_acis_buffer_name":null,)"
-                          R"("acis_body_ids":[18446744073709551615,0]})",
-                          {kNoBuffer}),
     row<ExcBlockGeometry>("OtherKinds", R"({"block_id":-1,"shared_acis_buffer_name":7,"acis_body_ids":{"a":1}})",
                           kDefault, {kNoBlockId, kNoName, kNoBuffer}),
     row<ExcBlockGeometry>("BodyIdsThatAreNone",
                           R"({"block_id":1,"shared_acis_buffer_name":"","acis_body_ids":["4",5,-6,7.0,null]})",
                           R"({"block_id":1,"shared_acis_buffer_name":null,"acis_body_ids":[5]})", {kNoBuffer}),
-    row<ExcBlockGeometry>("Array", "[]", kDefault,
-                          {"[ERROR] ExcBlockGeometry object should have a JSON object type.", kNoBuffer}),
 };
 
 TEST_P(GeometryRows, ReadAndWritten)

@@ -1,3 +1,5 @@
+#include "tests/support/add_row.h"
+#include "tests/support/enum_row.h"
 #include "tests/support/json_text.h"
 #include "tests/support/message_text.h"
 #include "vrx_api/vrx_api_ferrant_info.h"
@@ -33,18 +35,48 @@ Format formatOf(const char* filterExtensions)
     return format;
 }
 
+const test::EnumRow kEnums[] = {
+    test::enumRow("EFerrantInterface of FerrantInfo", "ferrant_interface", &FerrantInfo::requestedInterface,
+                  &FerrantInfo::setRequestedInterface, {"uconnect", "connect", "legacy"}, "uconnect"),
+    test::enumRow("EParasolidMode", "parasolid_mode", &FerrantInfo::parasolidMode, &FerrantInfo::setParasolidMode,
+                  {"direct", "kernel"}, "direct"),
+};
+
+class InfoEnums : public test::EnumRows
+{
+};
+
+constexpr const char* kSilently = nullptr;
+
+const test::AddRow kAdds[] = {
+    test::addRow("FerrantInfo::addThirdpartyCore", &FerrantInfo::addThirdpartyCore, kSilently),
+    test::addRow("FerrantInfo::addImportFormat", &FerrantInfo::addImportFormat, kSilently),
+    test::addAllRow("FerrantInfo::addImportFormats", &FerrantInfo::addImportFormats, kSilently),
+    test::addRow("FerrantInfo::addExportFormat", &FerrantInfo::addExportFormat, kSilently),
+    test::addAllRow("FerrantInfo::addExportFormats", &FerrantInfo::addExportFormats, kSilently),
+};
+
+class InfoAdds : public test::AddRows
+{
+};
+
 } // namespace
+
+TEST_P(InfoEnums, HaveTheirNames)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(FerrantInfo, InfoEnums, testing::ValuesIn(kEnums), InfoEnums::nameOf);
+
+TEST_P(InfoAdds, RefuseNulls)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(FerrantInfo, InfoAdds, testing::ValuesIn(kAdds), InfoAdds::nameOf);
 
 TEST(FerrantInfo, WritesItsListsOnlyWhenTheyHoldSomething)
 {
     FerrantInfo info;
-    EXPECT_EQ(written(info), kEmptyInfo);
-
-    info.setRequestedInterface(EFerrantInterface{7});
-    info.setParasolidMode(EParasolidMode{7});
-    info.addThirdpartyCore(nullptr);
-    info.addImportFormat(nullptr);
-    info.addExportFormats({nullptr, nullptr});
     EXPECT_EQ(written(info), kEmptyInfo);
 
     info.setName(WIDE("T"));
@@ -52,7 +84,7 @@ TEST(FerrantInfo, WritesItsListsOnlyWhenTheyHoldSomething)
     info.setRequestedInterface(EFerrantInterface::Legacy);
     info.setParasolidMode(EParasolidMode::Kernel);
     info.newThirdpartyCore().setName(WIDE("k")).setVersion(WIDE("1"));
-    info.addThirdpartyCore(std::make_shared<ThirdpartyCore>());
+    info.newThirdpartyCore();
     info.newImportFormat()
         .setDescription(WIDE("STEP files"))
         .addExtension(WIDE("x"))
@@ -60,7 +92,7 @@ TEST(FerrantInfo, WritesItsListsOnlyWhenTheyHoldSomething)
         .addExtension(WIDE("step"))
         .addFilterExtensions(WIDE("stp;step"))
         .addFilterExtensions(WIDE("p21"));
-    info.addExportFormats({nullptr, std::make_shared<Format>()});
+    info.newExportFormat();
     EXPECT_EQ(written(info), kInfo);
 }
 
@@ -76,7 +108,6 @@ TEST(FerrantInfo, ReadsAndWrites)
         {R"({"name":1,"version":null,"ferrant_interface":2,"thirdparty_cores":{},"parasolid_mode":1,)"
          R"("import_formats":{},"export_formats":"stp"})",
          kEmptyInfo},
-        {R"({"parasolid_mode":"KERNEL","ferrant_interface":"Connect"})", kEmptyInfo},
         {R"({"ferrant_interface":"connect","import_formats":[{"filters":["a",1,null,"b"],"extensions":"stp"}]})",
          R"({"name":"","version":"","ferrant_interface":"connect","parasolid_mode":"direct",)"
          R"("import_formats":[{"description":"","extensions":[],"filters":["a","b"]}]})"},

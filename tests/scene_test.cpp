@@ -34,47 +34,26 @@ const std::string kCapture =
 
 const test::ModelRow kRows[] = {
     row<ExcVisuNode>("NodeDefault", "{}", kNode),
-    row<ExcVisuNode>("NodeOfNull", "null", kNode, {kNoNode}),
-    row<ExcVisuNode>(
-        "Node",
-        R"({"child_nodes":[{"type":"MESH","child_nodes":[{}]},{"group_name":"c"}],"group_name":"g","type":"ROOT",)"
-        R"("point_set":{},"pmi":{},"wire":{},"mesh":{},"transformation":{},"attributes":{},"is_leaf":true})",
-        (R"({"is_leaf":true,"attributes":{"hidden":false},"transformation":{"affine":[[1.0,0.0,0.0],[0.0,1.0,0.0],)"
-         R"([0.0,0.0,1.0]],"translation":[0.0,0.0,0.0]},"mesh":)" +
-         std::string(kMesh) + R"(,"wire":)" + kMesh + R"(,"pmi":{"display_name":"","id":"","mechanical_id":""},)" +
-         R"("point_set":)" + kMesh +
-         R"(,"type":"ROOT","group_name":"g","child_nodes":[{"is_leaf":false,"type":"MESH","group_name":"",)"
-         R"("child_nodes":[)" +
-         kNode + R"(]},{"is_leaf":false,"type":"UNDEFINED","group_name":"c"}]})")
-            .c_str()),
     row<ExcVisuNode>("NodeOfWrongKindsPointsAtDefaults",
                      R"({"mesh":5,"transformation":null,"is_leaf":0,"type":3,"child_nodes":{}})",
-                     (R"({"is_leaf":false,"transformation":{"affine":[[1.0,0.0,0.0],[0.0,1.0,0.0],[0.0,0.0,1.0]],)"
-                      R"("translation":[0.0,0.0,0.0]},"mesh":)" +
-                      std::string(kMesh) + R"(,"type":"UNDEFINED","group_name":""})")
-                         .c_str(),
+                     R"({"is_leaf":false,"transformation":{"affine":[[1.0,0.0,0.0],[0.0,1.0,0.0],[0.0,0.0,1.0]],)"
+                     R"("translation":[0.0,0.0,0.0]},"mesh":)" +
+                         std::string(kMesh) + R"(,"type":"UNDEFINED","group_name":""})",
                      {"[ERROR] ExcVisuMesh object should have a JSON object type."}),
-    row<ExcVisuNode>("NodeOfAnUnknownType", R"({"type":"root"})",
-                     R"({"is_leaf":false,"type":"ACTIVEDRAWINGSHEET","group_name":""})"),
     row<ExcVisuNode>(
         "NodeKeepsTheNumberOfItsChildren", R"({"child_nodes":[1,{"mesh":0,"child_nodes":[null]},"",{"wire":0}]})",
-        (R"({"is_leaf":false,"type":"UNDEFINED","group_name":"","child_nodes":[)" + std::string(kNode) +
-         R"(,{"is_leaf":false,"mesh":)" + kMesh + R"(,"type":"UNDEFINED","group_name":"","child_nodes":[)" + kNode +
-         "]}," + kNode + R"(,{"is_leaf":false,"wire":)" + kMesh + R"(,"type":"UNDEFINED","group_name":""}]})")
-            .c_str(),
+        R"({"is_leaf":false,"type":"UNDEFINED","group_name":"","child_nodes":[)" + std::string(kNode) +
+            R"(,{"is_leaf":false,"mesh":)" + kMesh + R"(,"type":"UNDEFINED","group_name":"","child_nodes":[)" + kNode +
+            "]}," + kNode + R"(,{"is_leaf":false,"wire":)" + kMesh + R"(,"type":"UNDEFINED","group_name":""}]})",
         {kNoNode, "[ERROR] ExcVisuMesh object should have a JSON object type.", kNoNode, kNoNode,
          "[ERROR] ExcVisuWire object should have a JSON object type."}),
 
-    row<ExcVisuView>("View",
-                     R"({"annotation_ids":["a",7,"b"],"direction_v":[7.0,8.0,9.0],"direction_u":[4.0,5.0,6.0],)"
-                     R"("origin":[1.0,2.0,3.0],"hidden":true,"mechanical_id":"m","id":"i","display_name":"d"})",
-                     R"({"display_name":"d","id":"i","mechanical_id":"m","hidden":true,"origin":[1.0,2.0,3.0],)"
-                     R"("direction_u":[4.0,5.0,6.0],"direction_v":[7.0,8.0,9.0],"annotation_ids":["a","b"]})"),
-    row<ExcVisuView>("ViewOfWrongKinds", R"({"annotation_ids":"a","origin":null,"hidden":1})", kView, {kNoVector}),
-    row<ExcVisuView>("ViewOfNull", "null", kView, {"[ERROR] ExcVisuView object should have a JSON object type."}),
+    row<ExcVisuView>("ViewSkipsWhatIsNoText", R"({"annotation_ids":["a",7,"b\u0000c",null]})",
+                     R"({"display_name":"","id":"","mechanical_id":"","hidden":false,"origin":[0.0,0.0,0.0],)"
+                     R"("direction_u":[0.0,0.0,0.0],"direction_v":[0.0,0.0,0.0],"annotation_ids":["a","b"]})"),
+    row<ExcVisuView>("ViewDefault", "{}", kView),
 
     row<ExcCamera>("CameraDefault", "{}", kCamera),
-    row<ExcCamera>("CameraOfNull", "null", kCamera, {"[ERROR] ExcCamera object should have a JSON object type."}),
     row<ExcCamera>("CameraWritesNoParameterWhenUndefined",
                    R"({"perspective_view_angle":45.0,"orthographic_zoom_factor":2.0})", kCamera),
     row<ExcCamera>("CameraPerspective",
@@ -82,15 +61,8 @@ const test::ModelRow kRows[] = {
                    R"("perspective_view_angle":45.0,"name":"n","type":"perspective"})",
                    R"({"type":"perspective","name":"n","perspective_view_angle":45.0,"eye":[1.0,2.0,3.0],)"
                    R"("target":[4.0,5.0,6.0],"up":[7.0,8.0,9.0]})"),
-    row<ExcCamera>("CameraOfAnUnknownTypeIsOrthographic", R"({"type":"?","orthographic_zoom_factor":2.5})",
-                   R"({"type":"orthographic","name":"","orthographic_zoom_factor":2.5,"eye":[0.0,0.0,0.0],)"
-                   R"("target":[0.0,0.0,0.0],"up":[0.0,0.0,0.0]})"),
-    row<ExcCamera>("CameraOfAnIntegerAngle", R"({"type":"perspective","perspective_view_angle":45})",
-                   R"({"type":"perspective","name":"","perspective_view_angle":0.0,"eye":[0.0,0.0,0.0],)"
-                   R"("target":[0.0,0.0,0.0],"up":[0.0,0.0,0.0]})"),
 
     row<ExcClippingPlane>("PlaneDefaultIsNull", "{}", "null"),
-    row<ExcClippingPlane>("PlaneOfNull", "null", "null", {kNoPlane}),
     row<ExcClippingPlane>("PlaneTakesVIntoU", R"({"v":[0.0,1.0,0.0],"u":[1.0,0.0,0.0],"origin":[1.0,2.0,3.0]})",
                           R"({"origin":[1.0,2.0,3.0],"u":[0.0,1.0,0.0],"v":[0.0,0.0,0.0]})"),
     row<ExcClippingPlane>("PlaneOfAVectorOfAnyKind", R"({"u":[1.0],"v":null})",
@@ -103,15 +75,12 @@ const test::ModelRow kRows[] = {
                           R"({"plane_coefficients":[1.0,0.0,0.0,0.0]})"),
     row<ExcClippingPlane>("PlaneOfNoCoefficients", R"({"plane_coefficients":[]})",
                           R"({"plane_coefficients":[0.0,0.0,0.0,0.0]})"),
-    row<ExcClippingPlane>("PlaneCoefficientsOfAWrongKind", R"({"plane_coefficients":{}})", "null"),
     row<ExcClippingPlane>("PlaneInBothForms", R"({"plane_coefficients":[1.0,2.0,3.0,4.0],"origin":[1.0,2.0,3.0]})",
                           R"({"origin":[1.0,2.0,3.0],"u":[0.0,0.0,0.0],"v":[0.0,0.0,0.0],)"
                           R"("plane_coefficients":[1.0,2.0,3.0,4.0]})"),
 
-    row<ExcVisuCapture>("CaptureDefault", "{}", kCapture.c_str()),
-    row<ExcVisuCapture>("CaptureOfNull", "null", kCapture.c_str(),
-                        {"[ERROR] ExcVisuCapture object should have a JSON object type."}),
-    row<ExcVisuCapture>("CaptureWithoutPlaneIsLogged", kCapture.c_str(), kCapture.c_str(), {kNoPlane}),
+    row<ExcVisuCapture>("CaptureDefault", "{}", kCapture),
+    row<ExcVisuCapture>("CaptureWithoutPlaneIsLogged", kCapture, kCapture, {kNoPlane}),
     row<ExcVisuCapture>(
         "Capture",
         R"({"bodies":[{"type":"visu","id":"v"},5],"fta_constructed_geometry_ids":["f",null],)"
@@ -127,28 +96,18 @@ const test::ModelRow kRows[] = {
         {"[ERROR] ExcEntity object should have a JSON object type."}),
 
     row<ExcVisualizationData>("DataDefault", "{}", R"({"units":"unknown"})"),
-    row<ExcVisualizationData>("DataOfNull", "null", R"({"units":"unknown"})",
-                              {"[ERROR] ExcVisualizationData object should have a JSON object type."}),
     row<ExcVisualizationData>("Data", R"({"captures":[{}],"views":[{}],"units":"inch","scene_root_nodes":[{},[]]})",
-                              (R"({"scene_root_nodes":[)" + std::string(kNode) + "," + kNode +
-                               R"(],"units":"inch","views":[)" + kView + R"(],"captures":[)" + kCapture + "]}")
-                                  .c_str(),
+                              R"({"scene_root_nodes":[)" + std::string(kNode) + "," + kNode +
+                                  R"(],"units":"inch","views":[)" + kView + R"(],"captures":[)" + kCapture + "]}",
                               {kNoNode}),
-    row<ExcVisualizationData>("DataOfWrongKinds", R"({"captures":{},"views":1,"units":"in","scene_root_nodes":null})",
-                              R"({"units":"centimeter"})"),
 
     row<ExcBlockVisualization>("BlockDefault", "{}", R"({"block_id":0})"),
-    row<ExcBlockVisualization>("BlockOfNull", "null", R"({"block_id":0})",
-                               {"[ERROR] ExcBlockVisualization object should have a JSON object type."}),
-    row<ExcBlockVisualization>("Block", R"({"visualization_data":{},"block_id":18446744073709551615})",
-                               R"({"block_id":18446744073709551615,"visualization_data":{"units":"unknown"}})"),
     row<ExcBlockVisualization>("BlockOfWrongKinds", R"({"block_id":-1,"visualization_data":null})",
                                R"({"block_id":0,"visualization_data":{"units":"unknown"}})",
                                {"[ERROR] ExcVisualizationData object should have a JSON object type."}),
     row<ExcRootAssemblyVisualization>("Root", R"({"block_id":1,"visualization_data":{"units":"mile"}})",
                                       R"({"visualization_data":{"units":"mile"}})"),
-    row<ExcRootAssemblyVisualization>("RootOfNull", "null", "{}",
-                                      {"[ERROR] ExcRootAssemblyVisualization object should have a JSON object type."}),
+    row<ExcRootAssemblyVisualization>("RootDefault", "{}", "{}"),
 };
 
 TEST_P(SceneRows, ReadAndWritten)
@@ -158,6 +117,69 @@ TEST_P(SceneRows, ReadAndWritten)
 INSTANTIATE_TEST_SUITE_P(Visualization, SceneRows, testing::ValuesIn(kRows), SceneRows::nameOf);
 
 const test::EnumRow kEnums[] = {
+    enumRow("ExcVisuNode::EType", "type", &ExcVisuNode::type, &ExcVisuNode::setType,
+            {"UNDEFINED",
+             "ROOT",
+             "GROUP",
+             "GEOMETRY",
+             "MESHES",
+             "MESH",
+             "WIRES",
+             "WIRE",
+             "POINTS",
+             "POINTSET",
+             "PMI",
+             "FTA_CONSTRUCTED_GEOMETRY",
+             "NOTES",
+             "NOTE",
+             "FLAGNOTE",
+             "NOA",
+             "DATUMS",
+             "DATUM_SIMPLE",
+             "DATUM_TARGET",
+             "DATUM_UNKNOWN",
+             "DIMENSIONS",
+             "DIMENSION_BASIC",
+             "DIMENSION_LENGTH",
+             "DIMENSION_DISTANCE",
+             "DIMENSION_LINEAR",
+             "DIMENSION_ORIENTED_LINEAR",
+             "DIMENSION_DIAMETER",
+             "DIMENSION_RADIUS",
+             "DIMENSION_ANGLE",
+             "DIMENSION_ORIENTED_ANGLE",
+             "DIMENSION_COORDINATE_3D",
+             "DIMENSION_CHAMFER",
+             "DIMENSION_UNKNOWN",
+             "GEOMTOLS",
+             "GEOMTOL_STRAIGHTNESS",
+             {35, "GEOMTOL_FLATNESS"},
+             "GEOMTOL_CIRCULARITY",
+             "GEOMTOL_CYLINDRICITY",
+             "GEOMTOL_PROFILE_LINE",
+             "GEOMTOL_PROFILE_SURFACE",
+             "GEOMTOL_COMP_PROFILE_SURFACE",
+             "GEOMTOL_PATTERN_LOCATION",
+             "GEOMTOL_PARALLELISM",
+             "GEOMTOL_ANGULARITY",
+             "GEOMTOL_PERPENDICULARITY",
+             "GEOMTOL_POSITION",
+             "GEOMTOL_POSITION_LINE",
+             "GEOMTOL_POSITION_SURFACE",
+             "GEOMTOL_COMP_POSITION",
+             "GEOMTOL_TOLERANCE",
+             "GEOMTOL_CONCENTRICITY",
+             "GEOMTOL_SYMMETRY",
+             "GEOMTOL_RUNOUT_CIRCULAR",
+             "GEOMTOL_RUNOUT_TOTAL",
+             "GEOMTOL_NOTE_ONLY",
+             "GEOMTOL_UNKNOWN",
+             "ROUGHNESSES",
+             "ROUGHNESS",
+             {58, "DRAWINGSHEET"},
+             "ACTIVEDRAWINGSHEET",
+             {60, "DRAWINGSHEETS"}},
+            "ACTIVEDRAWINGSHEET"),
     enumRow("ExcCamera::EType", "type", &ExcCamera::type, &ExcCamera::setType,
             {"undefined", "perspective", "orthographic"}, "orthographic"),
 };
@@ -174,6 +196,9 @@ INSTANTIATE_TEST_SUITE_P(Visualization, SceneEnums, testing::ValuesIn(kEnums), S
 
 const char* const kNullChild = "ExcVisuNode: attempt to add null child Visu Node object.";
 const char* const kNullElement = "ExcVisuCapture: attempt to add null Linked Element object.";
+const char* const kNullRoot = "ExcVisualizationData: attempt to add null Scene Root Visu Node object.";
+const char* const kNullView = "ExcVisualizationData: attempt to add null Visu View object.";
+const char* const kNullCapture = "ExcVisualizationData: attempt to add null Visu Capture object.";
 
 const test::AddRow kAdds[] = {
     addRow("ExcVisuNode::addChildNode", &ExcVisuNode::addChildNode, kNullChild),
@@ -181,6 +206,15 @@ const test::AddRow kAdds[] = {
     setAllRow("ExcVisuNode::setChildNodes", &ExcVisuNode::setChildNodes, kNullChild),
     addRow("ExcVisuCapture::addLinkedElement", &ExcVisuCapture::addLinkedElement, kNullElement),
     setAllRow("ExcVisuCapture::setLinkedElements", &ExcVisuCapture::setLinkedElements, kNullElement),
+    addRow("ExcVisualizationData::addSceneRootNode", &ExcVisualizationData::addSceneRootNode, kNullRoot),
+    addAllRow("ExcVisualizationData::addSceneRootNodes", &ExcVisualizationData::addSceneRootNodes, kNullRoot),
+    setAllRow("ExcVisualizationData::setSceneRootNodes", &ExcVisualizationData::setSceneRootNodes, kNullRoot),
+    addRow("ExcVisualizationData::addView", &ExcVisualizationData::addView, kNullView),
+    addAllRow("ExcVisualizationData::addViews", &ExcVisualizationData::addViews, kNullView),
+    setAllRow("ExcVisualizationData::setViews", &ExcVisualizationData::setViews, kNullView),
+    addRow("ExcVisualizationData::addCapture", &ExcVisualizationData::addCapture, kNullCapture),
+    addAllRow("ExcVisualizationData::addCaptures", &ExcVisualizationData::addCaptures, kNullCapture),
+    setAllRow("ExcVisualizationData::setCaptures", &ExcVisualizationData::setCaptures, kNullCapture),
 };
 
 class SceneAdds : public test::AddRows
@@ -207,58 +241,14 @@ TEST(ClippingPlane, KeepsItsVAndItsFlagsOnReading)
     EXPECT_TRUE(plane.hasCoefficients());
 }
 
-TEST(Scene, AppendsWhatItReads)
+TEST(Scene, ANodeReadAgainHasANewMeshAndMoreChildren)
 {
-    const char* const text = R"({"scene_root_nodes":[{"child_nodes":[{}],"mesh":{}}],"views":[{}],"captures":[{}]})";
-    auto data = test::readFrom<ExcVisualizationData>(text);
-    test::readText(data, text);
-    EXPECT_EQ(data.sceneRootNodes().size(), 2U);
-    EXPECT_EQ(data.views().size(), 2U);
-    EXPECT_EQ(data.captures().size(), 2U);
-    ExcVisuNode& node = *data.sceneRootNodes().front();
+    auto node = test::readFrom<ExcVisuNode>(R"({"child_nodes":[{}],"mesh":{}})");
     const std::shared_ptr<ExcVisuMesh> mesh = node.mesh();
     test::readText(node, R"({"child_nodes":[{"type":"PMI"},{"type":"NOTE"}],"mesh":{}})");
-    EXPECT_EQ(test::written(*node.childNodes()[0]), kNode);
+    EXPECT_NE(node.mesh(), mesh);
     EXPECT_EQ(node.childNodes()[1]->type(), ExcVisuNode::EType::PMI);
     EXPECT_EQ(node.childNodes()[2]->type(), ExcVisuNode::EType::NOTE);
-    EXPECT_NE(node.mesh(), mesh);
-}
-
-TEST(Scene, RefusesNulls)
-{
-    ExcVisuNode node;
-    ExcVisuCapture capture;
-    ExcVisualizationData data;
-    const test::LogCapture log;
-    node.setChildNodes({nullptr, nullptr});
-    node.addChildNode(nullptr);
-    capture.addLinkedElement(nullptr);
-    data.addSceneRootNodes({nullptr});
-    data.addView(nullptr);
-    data.setCaptures({nullptr, std::make_shared<ExcVisuCapture>()});
-    EXPECT_EQ(test::written(node), kNode);
-    EXPECT_EQ(data.captures().size(), 1U);
-    const std::string nullChild = "ExcVisuNode: attempt to add null child Visu Node object.";
-    EXPECT_EQ(log.lines("WARNING"),
-              (std::vector<std::string>{nullChild, nullChild, nullChild,
-                                        "ExcVisuCapture: attempt to add null Linked Element object.",
-                                        "ExcVisualizationData: attempt to add null Scene Root Visu Node object.",
-                                        "ExcVisualizationData: attempt to add null Visu View object.",
-                                        "ExcVisualizationData: attempt to add null Visu Capture object."}));
-}
-
-TEST(Scene, FrozenNumbersOfNodes)
-{
-    const std::pair<const char*, int> rows[] = {{"UNDEFINED", 0},         {"POINTSET", 9},      {"DATUM_SIMPLE", 17},
-                                                {"GEOMTOL_FLATNESS", 35}, {"DRAWINGSHEET", 58}, {"DRAWINGSHEETS", 60}};
-    for (const auto& [name, number] : rows)
-    {
-        const auto node = test::readFrom<ExcVisuNode>(R"({"type":")" + std::string(name) + "\"}");
-        EXPECT_EQ(static_cast<int>(node.type()), number) << name;
-    }
-    ExcVisuNode node;
-    node.setType(static_cast<ExcVisuNode::EType>(61));
-    EXPECT_EQ(test::written(node), kNode);
 }
 
 TEST(Scene, CrossesThroughSharedMemory)

@@ -30,6 +30,7 @@ struct FullRow
     Keys loud;
     Keys appending;
     Keys keeping;
+    Keys nested;
     bool strict = false;
 
     /// What the class writes when it is not the text that it reads.
@@ -89,6 +90,14 @@ struct FullRow
     FullRow keeps(Keys keys) &&
     {
         keeping = std::move(keys);
+        return std::move(*this);
+    }
+
+    /// These arrays are objects of a class of their own behind a pointer: a value of another kind is logged and leaves
+    /// an empty one, and a second read replaces it.
+    FullRow nests(Keys keys) &&
+    {
+        nested = std::move(keys);
         return std::move(*this);
     }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/helpers.h"
 #include "tests/support/json_text.h"
 #include "tests/support/log_capture.h"
 
@@ -8,6 +9,7 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace test
@@ -26,16 +28,17 @@ struct ModelRow
 };
 
 template <class T>
-ModelRow row(const char* name, const char* in, const char* out, std::vector<std::string> log = {})
+ModelRow row(std::string name, std::string in, std::string out, std::vector<std::string> log = {})
 {
-    return {name, [] { return std::shared_ptr<vrx::IJsonObject>(std::make_shared<T>()); }, in, out, std::move(log)};
+    return {std::move(name), [] { return std::shared_ptr<vrx::IJsonObject>(std::make_shared<T>()); }, std::move(in),
+            std::move(out), std::move(log)};
 }
 
 /// One test a row: instantiate it in the test file of the classes, with a table of rows.
 class ModelRows : public testing::TestWithParam<ModelRow>
 {
 public:
-    static std::string nameOf(const testing::TestParamInfo<ModelRow>& info) { return info.param.name; }
+    static std::string nameOf(const testing::TestParamInfo<ModelRow>& info) { return testName(info.param.name); }
 
     static void check(const ModelRow& row)
     {

@@ -34,4 +34,15 @@ std::shared_ptr<IExchangeObject> ExchangeObjectRegistry::get(const wstring& name
     return found == m_prototypes.end() ? nullptr : found->second->clone();
 }
 
+std::vector<wstring> ExchangeObjectRegistry::names() const
+{
+    std::vector<wstring> names;
+    names.reserve(m_prototypes.size());
+    for (const auto& [name, unused] : m_prototypes)
+    {
+        names.push_back(name);
+    }
+    return names;
+}
+
 } // namespace vrx

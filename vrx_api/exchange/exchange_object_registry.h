@@ -4,6 +4,7 @@
 
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace vrx
 {
@@ -21,6 +22,9 @@ public:
 
     /// A new default object of the class of this name, or null.
     std::shared_ptr<IExchangeObject> get(const wstring& name) const;
+
+    /// The names of all classes, sorted by code unit.
+    std::vector<wstring> names() const;
 
 private:
     ExchangeObjectRegistry();
