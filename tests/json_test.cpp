@@ -1,7 +1,7 @@
 #include "tests/support/helpers.h"
 #include "tests/support/json_text.h"
 #include "vrx_api/exchange/json_binary_io.h"
-#include "vrx_api/json/enum_table.h"
+#include "vrx_api/json/shapes.h"
 
 #include <gtest/gtest.h>
 
@@ -188,6 +188,33 @@ TEST(EnumRule, AnUnlistedNameIsTheLowestByCodeUnit)
     EXPECT_EQ(enumValue<Thread>(WIDE("inch")), Thread::Inch);
     EXPECT_EQ(enumName(static_cast<Thread>(9)), WIDE("none"));
     EXPECT_EQ(enumName(Size::Large), WIDE("L"));
+}
+
+template <class T, class = void>
+constexpr bool isWritten = false;
+template <class T>
+constexpr bool isWritten<T, std::void_t<decltype(encode(std::declval<const T&>(), std::declval<JsonAllocator&>()))>> =
+    true;
+
+template <class T, class = void>
+constexpr bool isRead = false;
+template <class T>
+constexpr bool isRead<T, std::void_t<decltype(decode(std::declval<const JsonValue&>(), std::declval<T&>()))>> = true;
+
+template <class T, class = void>
+constexpr bool canBeEmpty = false;
+template <class T>
+constexpr bool canBeEmpty<T, std::void_t<decltype(isEmpty(std::declval<const T&>()))>> = true;
+
+// A conversion must not lead a field of another type to a rule that is not its own.
+TEST(Fields, OfATypeThatNobodyThoughtOfDoNotCompile)
+{
+    static_assert(isWritten<bool> && isWritten<std::uint64_t> && isWritten<wstring> && isWritten<std::vector<double>>);
+    static_assert(!isWritten<void*> && !isWritten<std::int64_t> && !isWritten<std::uint16_t> && !isWritten<wchar>);
+    static_assert(isRead<float> && isRead<std::array<double, 4>> && isRead<Valid<std::vector<wstring>>>);
+    static_assert(!isRead<std::int64_t> && !isRead<std::vector<std::int32_t>> && !isRead<std::vector<wstring>>);
+    static_assert(canBeEmpty<std::int32_t> && canBeEmpty<wstring>);
+    static_assert(!canBeEmpty<double> && !canBeEmpty<bool> && !canBeEmpty<std::uint64_t>);
 }
 
 } // namespace
