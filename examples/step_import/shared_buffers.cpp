@@ -2,6 +2,7 @@
 
 #include "mp/shared_buffer.h"
 #include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/json_value.h"
 
 #include <exception>
 #include <iostream>
