@@ -102,7 +102,7 @@ std::vector<FullRow> visualizationRows()
         fullRow<ExcVisuView>("ExcVisuView", kView),
         fullRow<ExcCamera>("ExcCamera", kCameraText).governedBy({"type"}),
         fullRow<ExcCamera>("ExcCamera of a zoom", kZoomCamera).governedBy({"type"}),
-        fullRow<ExcClippingPlane>("ExcClippingPlane", kPlane).governedBy({"v"}),
+        fullRow<ExcClippingPlane>("ExcClippingPlane", kPlane).governedBy({"v"}).fixes({"u"}),
         fullRow<ExcVisuCapture>("ExcVisuCapture", kCapture),
         fullRow<ExcVisualizationData>("ExcVisualizationData", scene(kPMI)).writes(scene(kPMIWritten)),
         fullRow<ExcBlockVisualization>("ExcBlockVisualization", ofBlock(kPMI)).writes(ofBlock(kPMIWritten)),

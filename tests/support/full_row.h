@@ -12,7 +12,7 @@
 namespace test
 {
 
-/// A class with its full text: all of its keys, with values other than those of a fresh object. A row is read and
+/// A class with its full text: all of its keys, each with another value than in a fresh object. A row is read and
 /// written back, read a second time into the same object, has each of its keys taken away and replaced by other kinds,
 /// and, for an exchange object, is a seed of the fuzz target of the model.
 struct FullRow
@@ -27,6 +27,7 @@ struct FullRow
     std::string ofOtherKind;
     std::vector<std::string> log;
     Keys governing;
+    Keys constant;
     Keys loud;
     Keys appending;
     Keys keeping;
@@ -68,6 +69,13 @@ struct FullRow
     FullRow governedBy(Keys keys) &&
     {
         governing = std::move(keys);
+        return std::move(*this);
+    }
+
+    /// These keys are written as in a fresh object: the class decides on their values, or does not read them.
+    FullRow fixes(Keys keys) &&
+    {
+        constant = std::move(keys);
         return std::move(*this);
     }
 
