@@ -1,11 +1,14 @@
 #include "tests/support/add_row.h"
+#include "tests/support/enum_row.h"
 #include "tests/support/model_row.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 
+#include <functional>
 #include <optional>
 
 using namespace vrx;
 using test::addRow;
+using test::enumRow;
 using test::row;
 
 namespace
@@ -130,5 +133,84 @@ TEST_P(ManufacturingAdds, RefuseNull)
     check(GetParam());
 }
 INSTANTIATE_TEST_SUITE_P(Patterns, ManufacturingAdds, testing::ValuesIn(kPatternAdds), ManufacturingAdds::nameOf);
+
+const std::string kHoleValues =
+    R"("name":"","primary_diameter":0.0,"primary_diameter_max_tol":0.0,"primary_diameter_min_tol":0.0,)"
+    R"("primary_depth":0.0,"tip_angle_degrees":0.0,"bottom_limit_extent_type":"unknown","center":[0.0,0.0,0.0],)"
+    R"("direction":[0.0,0.0,0.0])";
+const std::string kHoleThread = R"({"diameter":0.0,"depth":0.0,"pitch":0.0,"orientation":"unknown","designation":"",)"
+                                R"("designation_system_type":"unknown","standart":"","min_tol":0.0,"max_tol":0.0})";
+
+const test::ModelRow kHoles[] = {
+    row<ExcMfgCounterSinkHole>(
+        "CounterSinkHoleDefault", "{}",
+        ("{" + kHoleValues + R"(,"diameter":0.0,"max_tol":0.0,"min_tol":0.0,"angle":0.0})").c_str()),
+    row<ExcMfgSimpleHole>("HoleOfWrongKinds",
+                          R"({"primary_depth":5,"bottom_limit_extent_type":1,"direction":{},"hole_thread":null})",
+                          ("{" + kHoleValues + R"(,"hole_thread":)" + kHoleThread + "}").c_str(),
+                          {kNoVector, "[ERROR] ExcMfgHoleThread object should have a JSON object type."}),
+};
+INSTANTIATE_TEST_SUITE_P(Holes, ManufacturingRows, testing::ValuesIn(kHoles), ManufacturingRows::nameOf);
+
+class ManufacturingEnums : public test::EnumRows
+{
+};
+
+const test::EnumRow kHoleEnums[] = {
+    enumRow("ExcMfgThreading::EOrientation", "orientation", &ExcMfgThreading::orientation,
+            &ExcMfgThreading::setOrientation, {"unknown", "right_handed", "left_handed"}, "left_handed"),
+    enumRow("ExcMfgThreading::EDesignationSystemType", "designation_system_type",
+            &ExcMfgThreading::designationSystemType, &ExcMfgThreading::setDesignationSystemType,
+            {"unknown", "metric", "american", "british"}, "american"),
+    enumRow("ExcMfgThread::EBottomType", "bottom_type", &ExcMfgThread::bottomType, &ExcMfgThread::setBottomType,
+            {"unknown", "dimension", "support_depth", "support_up_to_plane"}, "dimension"),
+    enumRow<ExcMfgSimpleHole>("ExcMfgHole::EBottomLimitExtentType", "bottom_limit_extent_type",
+                              &ExcMfgHole::bottomLimitExtentType, &ExcMfgHole::setBottomLimitExtentType,
+                              {"unknown", "blind", "up_to_last", "up_to_plane", "up_to_surface", "up_to_next"},
+                              "blind"),
+};
+
+TEST_P(ManufacturingEnums, HaveTheirNames)
+{
+    check(GetParam());
+}
+INSTANTIATE_TEST_SUITE_P(Holes, ManufacturingEnums, testing::ValuesIn(kHoleEnums), ManufacturingEnums::nameOf);
+
+template <class T, class C>
+void expectUnderKey(const std::string& key, double (C::*getter)() const, void (C::*setter)(double))
+{
+    T object;
+    std::invoke(setter, object, 2.5);
+    EXPECT_EQ(std::invoke(getter, object), 2.5) << key;
+    EXPECT_NE(test::written(object).find("\"" + key + R"(":2.5)"), std::string::npos) << key;
+}
+
+TEST(MfgHole, KeepsTolerancesAndAnglesApart)
+{
+    expectUnderKey<ExcMfgHoleThread>("min_tol", &ExcMfgHoleThread::minimalTolerance,
+                                     &ExcMfgHoleThread::setMinimalTolerance);
+    expectUnderKey<ExcMfgHoleThread>("max_tol", &ExcMfgHoleThread::maximalTolerance,
+                                     &ExcMfgHoleThread::setMaximalTolerance);
+    expectUnderKey<ExcMfgSimpleHole>("primary_diameter_min_tol", &ExcMfgHole::primaryDiameterMinTol,
+                                     &ExcMfgHole::setPrimaryDiameterMinTol);
+    expectUnderKey<ExcMfgSimpleHole>("primary_diameter_max_tol", &ExcMfgHole::primaryDiameterMaxTol,
+                                     &ExcMfgHole::setPrimaryDiameterMaxTol);
+    expectUnderKey<ExcMfgCounterBoreHole>("min_tol", &ExcMfgCounterBoreHole::minimumTolerance,
+                                          &ExcMfgCounterBoreHole::setMinimumTolerance);
+    expectUnderKey<ExcMfgCounterBoreHole>("max_tol", &ExcMfgCounterBoreHole::maximumTolerance,
+                                          &ExcMfgCounterBoreHole::setMaximumTolerance);
+    expectUnderKey<ExcMfgCounterSinkHole>("min_tol", &ExcMfgCounterSinkHole::minimumTolerance,
+                                          &ExcMfgCounterSinkHole::setMinimumTolerance);
+    expectUnderKey<ExcMfgCounterSinkHole>("max_tol", &ExcMfgCounterSinkHole::maximumTolerance,
+                                          &ExcMfgCounterSinkHole::setMaximumTolerance);
+    expectUnderKey<ExcMfgCounterSinkHole>("angle", &ExcMfgCounterSinkHole::taperAngle,
+                                          &ExcMfgCounterSinkHole::setTaperAngle);
+    expectUnderKey<ExcMfgCounterDrillHole>("min_tol", &ExcMfgCounterDrillHole::minimumTolerance,
+                                           &ExcMfgCounterDrillHole::setMinimumTolerance);
+    expectUnderKey<ExcMfgCounterDrillHole>("max_tol", &ExcMfgCounterDrillHole::maximumTolerance,
+                                           &ExcMfgCounterDrillHole::setMaximumTolerance);
+    expectUnderKey<ExcMfgCounterDrillHole>("angle", &ExcMfgCounterDrillHole::taperAngle,
+                                           &ExcMfgCounterDrillHole::setTaperAngle);
+}
 
 } // namespace

@@ -2,11 +2,14 @@
 
 // geometry/shared_acis_buffer.h stands apart: it needs the modelling kernel's headers.
 #include "vrx_api/geometry/block_geometry.h"
+#include "vrx_api/manufacturing/mfg_counter_hole.h"
+#include "vrx_api/manufacturing/mfg_hole.h"
 #include "vrx_api/manufacturing/mfg_object.h"
 #include "vrx_api/manufacturing/mfg_pattern.h"
 #include "vrx_api/manufacturing/mfg_pattern_circular.h"
 #include "vrx_api/manufacturing/mfg_pattern_rectangular.h"
 #include "vrx_api/manufacturing/mfg_pattern_user_defined.h"
+#include "vrx_api/manufacturing/mfg_threading.h"
 #include "vrx_api/mechanical/pmi_annotation.h"
 #include "vrx_api/mechanical/pmi_datum.h"
 #include "vrx_api/mechanical/pmi_datum_target.h"

@@ -37,6 +37,24 @@ std::vector<FullRow> manufacturingRows()
         R"({"type":"user_defined","anchor_point":[1.0,2.0,3.0],"base_instance":)" + instance +
         R"(,"instance_positions":[[4.0,5.0,6.0],[7.0,8.0,9.0]],"deactivated_positions":[[-1.0,0.0,0.5]]})";
 
+    const std::string threading =
+        R"("diameter":1.5,"depth":2.5,"pitch":3.5,"orientation":"right_handed","designation":"d",)"
+        R"("designation_system_type":"british")";
+    const std::string thread =
+        "{" + threading + R"(,"support_diameter":4.5,"support_depth":5.5,"bottom_type":"support_up_to_plane"})";
+    const std::string holeThread = "{" + threading + R"(,"standart":"s","min_tol":-0.5,"max_tol":0.25})";
+    const std::string hole =
+        R"("name":"n","primary_diameter":1.5,"primary_diameter_max_tol":2.5,"primary_diameter_min_tol":3.5,)"
+        R"("primary_depth":4.5,"tip_angle_degrees":5.5,"bottom_limit_extent_type":"up_to_next",)"
+        R"("center":[1.0,2.0,3.0],"direction":[4.0,5.0,6.0],"hole_thread":)" +
+        holeThread;
+    const std::string widened = "{" + hole + R"(,"diameter":6.5,"max_tol":7.5,"min_tol":8.5)";
+    const std::string simpleHole = "{" + hole + "}";
+    const std::string taperHole = "{" + hole + R"(,"angle":6.5})";
+    const std::string counterBoreHole = widened + R"(,"depth":9.5})";
+    const std::string counterSinkHole = widened + R"(,"angle":9.5})";
+    const std::string counterDrillHole = widened + R"(,"depth":9.5,"sink_diameter":10.5,"angle":11.5})";
+
     return {
         fullRow<BarePattern>("ExcMfgPattern", R"({"type":"none"})"),
         fullRow<ExcMfgPattern::Instance>("ExcMfgPattern::Instance", instance),
@@ -44,6 +62,15 @@ std::vector<FullRow> manufacturingRows()
         fullRow<ExcMfgPatternCircular>("ExcMfgPatternCircular", circular).loudAbout(pairs).appends(pairs),
         fullRow<ExcMfgPatternUserDefined>("ExcMfgPatternUserDefined", userDefined)
             .appends({"instance_positions", "deactivated_positions"}),
+
+        fullRow<ExcMfgThreading>("ExcMfgThreading", "{" + threading + "}"),
+        fullRow<ExcMfgThread>("ExcMfgThread", thread),
+        fullRow<ExcMfgHoleThread>("ExcMfgHoleThread", holeThread),
+        fullRow<ExcMfgSimpleHole>("ExcMfgHole that is simple", simpleHole),
+        fullRow<ExcMfgTaperHole>("ExcMfgTaperHole", taperHole),
+        fullRow<ExcMfgCounterBoreHole>("ExcMfgCounterBoreHole", counterBoreHole),
+        fullRow<ExcMfgCounterSinkHole>("ExcMfgCounterSinkHole", counterSinkHole),
+        fullRow<ExcMfgCounterDrillHole>("ExcMfgCounterDrillHole", counterDrillHole),
     };
 }
 
