@@ -213,4 +213,109 @@ TEST(MfgHole, KeepsTolerancesAndAnglesApart)
                                            &ExcMfgCounterDrillHole::setTaperAngle);
 }
 
+using TaperHole = ExcMfgFeatureHoleType<ExcMfgTaperHole>;
+
+const char* const kFeature = R"({"id":"","name":""})";
+const char* const kNoFlag = R"({"has_data":false})";
+
+const test::ModelRow kFeatures[] = {
+    row<TaperHole>("HoleTakesNothingFromTheFeature",
+                   R"({"id":"i","name":"n","linked_elements":[{}],"pattern":{"type":"circular"},"hole_data":null})",
+                   ("{\"hole_data\":{" + kHoleValues + R"(,"angle":0.0}})").c_str(),
+                   {"[ERROR] ExcMfgTaperHole object should have a JSON object type."}),
+    row<ExcMfgFeatureUnclassified>("FeatureOfThePatternNone", R"({"pattern":{"type":"none"}})", kFeature),
+    row<ExcMfgFeatureUnclassified>("FeatureOfAnUnknownPattern", R"({"name":"n","pattern":{"type":"unknown"}})",
+                                   R"({"id":"","name":"n"})", {"[ERROR] ExcMfgPattern: unknown type."}),
+    row<ExcMfgFeatureUnclassified>("FeatureOfANullPattern", R"({"pattern":null})", kFeature,
+                                   {"[ERROR] ExcMfgPattern object should have a JSON object type."}),
+    row<ExcMfgData>("DataWithoutAFlag", R"({"simple_holes":[{}]})", kNoFlag),
+    row<ExcMfgData>("DataOfAFlagOfAnotherKind", R"({"has_data":1,"simple_holes":[{}]})", kNoFlag),
+    row<ExcMfgData>("DataKeepsItsLengths",
+                    R"({"has_data":true,"simple_holes":[0,{}],"taper_holes":{},"external_threads":[null],)"
+                    R"("unclassified_features":[[]]})",
+                    R"({"has_data":true,"simple_holes":[{},{}],"external_threads":[{"id":"","name":""}],)"
+                    R"("unclassified_features":[{"id":"","name":""}]})",
+                    {"[ERROR] ExcMfgFeatureHoleType object should have a JSON object type.",
+                     "[ERROR] ExcMfgFeatureThread object should have a JSON object type.",
+                     "[ERROR] ExcMfgFeature object should have a JSON object type."}),
+};
+INSTANTIATE_TEST_SUITE_P(Features, ManufacturingRows, testing::ValuesIn(kFeatures), ManufacturingRows::nameOf);
+
+TEST(MfgFeature, LosesItsPatternToOneThatCannotBeRead)
+{
+    ExcMfgFeatureUnclassified feature;
+    feature.setPattern(std::make_shared<ExcMfgPatternCircular>());
+    test::readText(feature, R"({"pattern":{"type":"none"}})");
+    EXPECT_EQ(feature.pattern(), nullptr);
+}
+
+TEST(MfgFeature, KeepsTheMembersOfAHoleAtHome)
+{
+    TaperHole hole;
+    hole.setId(WIDE("i"));
+    hole.setName(WIDE("n"));
+    hole.addLinkedElement(std::make_shared<ExcEntity>());
+    hole.setPattern(std::make_shared<ExcMfgPatternCircular>());
+    EXPECT_EQ(test::written(hole), "{}");
+    EXPECT_EQ(hole.name(), WIDE("n"));
+}
+
+TEST(MfgData, IsGovernedByItsFlag)
+{
+    ExcMfgData data;
+    data.addSimpleHole(std::make_shared<ExcMfgFeatureHoleType<ExcMfgSimpleHole>>());
+    EXPECT_EQ(test::written(data), kNoFlag);
+    data.setHasData(true);
+    EXPECT_EQ(test::written(data), R"({"has_data":true,"simple_holes":[{}]})");
+
+    // A flag that is there already lets a reader in.
+    test::readText(data, R"({"has_data":null,"simple_holes":[{}]})");
+    EXPECT_EQ(data.simpleHoles().size(), 2U);
+    test::readText(data, R"({"simple_holes":[{}],"has_data":false})");
+    EXPECT_EQ(data.simpleHoles().size(), 2U);
+}
+
+TEST(MfgData, TellsTheKindOfAThreadByItsList)
+{
+    const auto data = test::readFrom<ExcMfgData>(
+        R"({"has_data":true,"internal_threads":[{}],"external_threads":[{"name":"a"},{"name":"b"}]})");
+    EXPECT_EQ(data.internalThreads().size(), 1U);
+    EXPECT_EQ(data.externalThreads().size(), 2U);
+}
+
+const test::AddRow kFeatureAdds[] = {
+    addRow<ExcMfgFeatureUnclassified>("ExcMfgObject::addLinkedElement", &ExcMfgObject::addLinkedElement,
+                                      "ExcMfgObject: attempt to add null Linked Element object."),
+    addRow<TaperHole>("ExcMfgFeatureHole::addLimitingGeometry", &ExcMfgFeatureHole::addLimitingGeometry,
+                      "ExcMfgFeatureHole: attempt to add null Limiting Geometry Entity object."),
+    addRow<TaperHole>("ExcMfgFeatureHole::addDefiningGeometry", &ExcMfgFeatureHole::addDefiningGeometry,
+                      "ExcMfgFeatureHole: attempt to add null Defining Geometry Entity object."),
+    addRow<ExcMfgFeatureInternalThread>("ExcMfgFeatureThread::addSideFace", &ExcMfgFeatureThread::addSideFace,
+                                        "ExcMfgFeatureThread: attempt to add null Side Face Entity object.",
+                                        &ExcMfgFeatureThread::sideFaces),
+    addRow<ExcMfgFeatureInternalThread>("ExcMfgFeatureThread::addTopFace", &ExcMfgFeatureThread::addTopFace,
+                                        "ExcMfgFeatureThread: attempt to add null Top Face Entity object.",
+                                        &ExcMfgFeatureThread::topFaces),
+    addRow<ExcMfgFeatureInternalThread>("ExcMfgFeatureThread::addBottomFace", &ExcMfgFeatureThread::addBottomFace,
+                                        "ExcMfgFeatureThread: attempt to add null Bottom Face Entity object.",
+                                        &ExcMfgFeatureThread::bottomFaces),
+    addRow("ExcMfgData::addSimpleHole", &ExcMfgData::addSimpleHole,
+           "ExcMfgData: attempt to add null Simple Hole object.", &ExcMfgData::simpleHoles),
+    addRow("ExcMfgData::addTaperHole", &ExcMfgData::addTaperHole, "ExcMfgData: attempt to add null Taper Hole object.",
+           &ExcMfgData::taperHoles),
+    addRow("ExcMfgData::addCounterBoreHole", &ExcMfgData::addCounterBoreHole,
+           "ExcMfgData: attempt to add null Counter Bore Hole object.", &ExcMfgData::counterBoreHoles),
+    addRow("ExcMfgData::addCounterSinkHole", &ExcMfgData::addCounterSinkHole,
+           "ExcMfgData: attempt to add null Counter Sink Hole object.", &ExcMfgData::counterSinkHoles),
+    addRow("ExcMfgData::addCounterDrillHole", &ExcMfgData::addCounterDrillHole,
+           "ExcMfgData: attempt to add null Counter Drill Hole object.", &ExcMfgData::counterDrillHoles),
+    addRow("ExcMfgData::addInternalThread", &ExcMfgData::addInternalThread,
+           "ExcMfgData: attempt to add null Internal Thread object.", &ExcMfgData::internalThreads),
+    addRow("ExcMfgData::addExternalThread", &ExcMfgData::addExternalThread,
+           "ExcMfgData: attempt to add null External thread object.", &ExcMfgData::externalThreads),
+    addRow("ExcMfgData::addUnclassifiedFeature", &ExcMfgData::addUnclassifiedFeature,
+           "ExcMfgData: attempt to add null Unclassified Feature object.", &ExcMfgData::unclassifiedFeatures),
+};
+INSTANTIATE_TEST_SUITE_P(Features, ManufacturingAdds, testing::ValuesIn(kFeatureAdds), ManufacturingAdds::nameOf);
+
 } // namespace

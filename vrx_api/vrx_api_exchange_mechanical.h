@@ -3,6 +3,11 @@
 // geometry/shared_acis_buffer.h stands apart: it needs the modelling kernel's headers.
 #include "vrx_api/geometry/block_geometry.h"
 #include "vrx_api/manufacturing/mfg_counter_hole.h"
+#include "vrx_api/manufacturing/mfg_data.h"
+#include "vrx_api/manufacturing/mfg_feature.h"
+#include "vrx_api/manufacturing/mfg_feature_hole.h"
+#include "vrx_api/manufacturing/mfg_feature_thread.h"
+#include "vrx_api/manufacturing/mfg_feature_unclassified.h"
 #include "vrx_api/manufacturing/mfg_hole.h"
 #include "vrx_api/manufacturing/mfg_object.h"
 #include "vrx_api/manufacturing/mfg_pattern.h"

@@ -11,6 +11,14 @@ namespace
 {
 
 // Bases, to be read and written by themselves.
+struct BareObject : public ExcMfgObject
+{
+};
+
+struct BareFeatureHole : public ExcMfgFeatureHole
+{
+};
+
 struct BarePattern : public ExcMfgPattern
 {
     EType type() const override { return EType::None; }
@@ -55,6 +63,21 @@ std::vector<FullRow> manufacturingRows()
     const std::string counterSinkHole = widened + R"(,"angle":9.5})";
     const std::string counterDrillHole = widened + R"(,"depth":9.5,"sink_diameter":10.5,"angle":11.5})";
 
+    const std::string object = R"("id":"i","linked_elements":)" + entities;
+    const std::string feature = object + R"(,"name":"n","pattern":)" + rectangular;
+    const std::string featureThread = "{" + feature + R"(,"thread_data":)" + thread + R"(,"side_faces":)" + entities +
+                                      R"(,"top_faces":)" + entities + R"(,"bottom_faces":)" + entities + "}";
+    const std::string featureHole = R"("limiting":)" + entities + R"(,"defining":)" + entities;
+    const auto featureHoleOf = [&](const std::string& data) {
+        return "{" + featureHole + R"(,"hole_data":)" + data + "}";
+    };
+    const std::string data =
+        R"({"has_data":true,"simple_holes":[)" + featureHoleOf(simpleHole) + R"(],"taper_holes":[)" +
+        featureHoleOf(taperHole) + R"(],"counter_bore_holes":[)" + featureHoleOf(counterBoreHole) +
+        R"(],"counter_sink_holes":[)" + featureHoleOf(counterSinkHole) + R"(],"counter_drill_holes":[)" +
+        featureHoleOf(counterDrillHole) + R"(],"internal_threads":[)" + featureThread + R"(],"external_threads":[)" +
+        featureThread + R"(],"unclassified_features":[{)" + feature + "}]}";
+
     return {
         fullRow<BarePattern>("ExcMfgPattern", R"({"type":"none"})"),
         fullRow<ExcMfgPattern::Instance>("ExcMfgPattern::Instance", instance),
@@ -71,6 +94,26 @@ std::vector<FullRow> manufacturingRows()
         fullRow<ExcMfgCounterBoreHole>("ExcMfgCounterBoreHole", counterBoreHole),
         fullRow<ExcMfgCounterSinkHole>("ExcMfgCounterSinkHole", counterSinkHole),
         fullRow<ExcMfgCounterDrillHole>("ExcMfgCounterDrillHole", counterDrillHole),
+
+        fullRow<BareObject>("ExcMfgObject", "{" + object + "}"),
+        fullRow<ExcMfgFeatureUnclassified>("ExcMfgFeature that is unclassified", "{" + feature + "}")
+            .loudAbout({"pattern"}),
+        fullRow<ExcMfgFeatureInternalThread>("ExcMfgFeatureThread that is internal", featureThread)
+            .loudAbout({"pattern"}),
+        fullRow<ExcMfgFeatureExternalThread>("ExcMfgFeatureThread that is external", featureThread)
+            .loudAbout({"pattern"}),
+        fullRow<BareFeatureHole>("ExcMfgFeatureHole", "{" + featureHole + "}"),
+        fullRow<ExcMfgFeatureHoleType<ExcMfgSimpleHole>>("ExcMfgFeatureHoleType of a simple hole",
+                                                         featureHoleOf(simpleHole)),
+        fullRow<ExcMfgFeatureHoleType<ExcMfgTaperHole>>("ExcMfgFeatureHoleType of a taper hole",
+                                                        featureHoleOf(taperHole)),
+        fullRow<ExcMfgFeatureHoleType<ExcMfgCounterBoreHole>>("ExcMfgFeatureHoleType of a counter bore hole",
+                                                              featureHoleOf(counterBoreHole)),
+        fullRow<ExcMfgFeatureHoleType<ExcMfgCounterSinkHole>>("ExcMfgFeatureHoleType of a counter sink hole",
+                                                              featureHoleOf(counterSinkHole)),
+        fullRow<ExcMfgFeatureHoleType<ExcMfgCounterDrillHole>>("ExcMfgFeatureHoleType of a counter drill hole",
+                                                               featureHoleOf(counterDrillHole)),
+        fullRow<ExcMfgData>("ExcMfgData", data).governedBy({"has_data"}),
     };
 }
 
