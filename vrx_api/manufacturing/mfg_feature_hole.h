@@ -49,6 +49,7 @@ public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
+    /// May be null.
     const std::shared_ptr<T>& holeData() const { return m_holeData; }
     void setHoleData(const std::shared_ptr<T>& data) { m_holeData = data; }
 

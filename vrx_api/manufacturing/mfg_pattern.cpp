@@ -1,0 +1,110 @@
+#include "vrx_api/manufacturing/mfg_pattern.h"
+
+#include "vrx_api/json/add.h"
+#include "vrx_api/manufacturing/mfg_pattern_circular.h"
+#include "vrx_api/manufacturing/mfg_pattern_fields.h"
+#include "vrx_api/manufacturing/mfg_pattern_rectangular.h"
+#include "vrx_api/manufacturing/mfg_pattern_user_defined.h"
+
+namespace vrx
+{
+
+using EType = ExcMfgPattern::EType;
+
+static constexpr EnumName<EType> kPatternTypes[] = {
+    {EType::Unknown, WIDE("unknown")},          {EType::None, WIDE("none")},
+    {EType::Rectangular, WIDE("rectangular")},  {EType::Circular, WIDE("circular")},
+    {EType::UserDefined, WIDE("user_defined")},
+};
+static constexpr const auto& enumTable(EType)
+{
+    return kPatternTypes;
+}
+
+static constexpr Key kType = WIDE("type");
+
+// The type is only written: it is told by the class, which readPattern chooses.
+template <class Self, class Fields>
+void ExcMfgPattern::describe(Self& self, Fields& fields)
+{
+    fields.writeOnly(true, kType, self.type());
+}
+template struct Described<ExcMfgPattern>;
+
+void ExcMfgPattern::readObject(const JsonValue& value)
+{
+    readFields(*this, value, "ExcMfgPattern");
+}
+
+void ExcMfgPattern::writeObject(JsonValue& value, JsonAllocator& allocator) const
+{
+    addFields(*this, value, allocator);
+}
+
+template <class T>
+static std::shared_ptr<ExcMfgPattern> readNew(const JsonValue& value)
+{
+    const auto pattern = std::make_shared<T>();
+    pattern->readObject(value);
+    return pattern;
+}
+
+std::shared_ptr<ExcMfgPattern> ExcMfgPattern::readPattern(const JsonValue& value)
+{
+    if (!isObject(value, "ExcMfgPattern"))
+    {
+        return nullptr;
+    }
+    const JsonValue* const type = findString(value, kType);
+    if (type == nullptr)
+    {
+        kolt::log(kolt::kError, "ExcMfgPattern should have a type.");
+        return nullptr;
+    }
+    switch (enumValue<EType>(textOf(*type)))
+    {
+    case EType::Rectangular:
+        return readNew<ExcMfgPatternRectangular>(value);
+    case EType::Circular:
+        return readNew<ExcMfgPatternCircular>(value);
+    case EType::UserDefined:
+        return readNew<ExcMfgPatternUserDefined>(value);
+    case EType::None:
+        return nullptr;
+    case EType::Unknown:
+        break;
+    }
+    kolt::log(kolt::kError, "ExcMfgPattern: unknown type.");
+    return nullptr;
+}
+
+template <class Self, class Fields>
+void ExcMfgPattern::Instance::describe(Self& self, Fields& fields)
+{
+    fields.always(WIDE("is_base"), self.m_baseInstance);
+    fields.filled(WIDE("limiting"), self.m_limiting);
+    fields.filled(WIDE("defining"), self.m_defining);
+}
+template struct Described<ExcMfgPattern::Instance>;
+
+void ExcMfgPattern::Instance::readObject(const JsonValue& value)
+{
+    readFields(*this, value, "ExcMfgPattern::Instance");
+}
+
+void ExcMfgPattern::Instance::writeObject(JsonValue& value, JsonAllocator& allocator) const
+{
+    writeFields(*this, value, allocator);
+}
+
+void ExcMfgPattern::Instance::addLimiting(const std::shared_ptr<ExcEntity>& entity)
+{
+    add(m_limiting, entity, "ExcMfgPattern::Instance: attempt to add null Limiting Entity object.");
+}
+
+void ExcMfgPattern::Instance::addDefining(const std::shared_ptr<ExcEntity>& entity)
+{
+    add(m_defining, entity, "ExcMfgPattern::Instance: attempt to add null Defining Entity object.");
+}
+
+} // namespace vrx
