@@ -3,6 +3,9 @@
 // geometry/shared_acis_buffer.h stands apart: it needs the modelling kernel's headers.
 #include "vrx_api/geometry/block_geometry.h"
 #include "vrx_api/manufacturing/mfg_object.h"
+#include "vrx_api/mechanical/misc_material.h"
+#include "vrx_api/mechanical/misc_material_property.h"
+#include "vrx_api/mechanical/misc_material_property_unit.h"
 #include "vrx_api/mechanical/pmi_annotation.h"
 #include "vrx_api/mechanical/pmi_datum.h"
 #include "vrx_api/mechanical/pmi_datum_target.h"
@@ -10,3 +13,4 @@
 #include "vrx_api/mechanical/pmi_leader.h"
 #include "vrx_api/mechanical/pmi_note.h"
 #include "vrx_api/mechanical/pmi_object.h"
+#include "vrx_api/mechanical/unit_component.h"
