@@ -23,6 +23,28 @@ const std::string kMaterial = R"({"name":"n","density":)" + kProperty + R"(,"you
                               R"(,"shear_modulus":)" + kProperty + R"(,"linked_elements":[)" + kEntityText +
                               R"(],"is_part_level_material":true})";
 
+const std::string kWCS =
+    R"({"origin":[1.0,2.0,3.0],"x":[4.0,5.0,6.0],"y":[7.0,8.0,9.0],"z":[10.0,11.0,12.0],"color":)" + kColorText +
+    R"(,"active":true,"id":"i","name":"n","shown":true,"layer_id":-1})";
+const std::string kLayer =
+    R"({"id":-1,"name":"n","color":)" + kColorText + R"(,"current":true,"entities":[)" + kEntityText + "]}";
+const std::string kLayerFilter = R"({"name":"n","type":"laycur","current":true,"layer_id":[7,-1,7]})";
+const std::string kNoteParameters = R"({"name":"n","properties":)" + kMiscDataText + "}";
+const std::string kSymmetry = R"({"transform_mode":"opposite","transformation":)" + kTransformationText +
+                              R"(,"linked_entity":)" + kEntityText + "}";
+const std::string kDisplaySet = R"({"name":"n","active":true,"entities":[)" + kEntityText + "]}";
+const std::string kMechanicalMiscData =
+    R"({"misc_data":)" + kMiscDataText + R"(,"wcs":[)" + kWCS + R"(],"layers":[)" + kLayer + R"(],"layer_filters":[)" +
+    kLayerFilter + R"(],"materials":[)" + kMaterial + R"(],"note_parameters":[)" + kNoteParameters +
+    R"(],"symmetries":[)" + kSymmetry + R"(],"display_sets":[)" + kDisplaySet + "]}";
+
+const std::string kInformation =
+    R"({"entity":)" + kEntityText +
+    R"(,"pnames":["p","q"],"name":"n","hidden":true,"line_type":"dash_dot","line_thickness":0.5})";
+const std::string kMapping = R"([{"imported":)" + kEntityText + R"(,"original":)" + kEntityText + "}]";
+// The original is only read.
+const std::string kMappingWritten = R"([{"imported":)" + kEntityText + "}]";
+
 } // namespace
 
 std::vector<FullRow> mechanicalRows()
@@ -35,6 +57,19 @@ std::vector<FullRow> mechanicalRows()
         fullRow<ExcMiscMaterialProperty>("ExcMiscMaterialProperty", kProperty),
         fullRow<ExcMiscMaterialPropertyUnit>("ExcMiscMaterialPropertyUnit", R"({"units":"u","unit_system":"mmns"})"),
         fullRow<ExcMiscMaterial>("ExcMiscMaterial", kMaterial).silent(),
+        fullRow<ExcMiscWCS>("ExcMiscWCS", kWCS),
+        fullRow<ExcMiscLayer>("ExcMiscLayer", kLayer),
+        fullRow<ExcMiscLayerFilter>("ExcMiscLayerFilter", kLayerFilter).appends({"layer_id"}),
+        fullRow<ExcMiscNoteParameters>("ExcMiscNoteParameters", kNoteParameters),
+        fullRow<ExcMiscSymmetry>("ExcMiscSymmetry", kSymmetry),
+        fullRow<ExcMiscDisplaySet>("ExcMiscDisplaySet", kDisplaySet),
+        fullRow<ExcMechanicalMiscData>("ExcMechanicalMiscData", kMechanicalMiscData),
+        fullRow<ExcTopologicalEntityInformation>("ExcTopologicalEntityInformation", kInformation),
+        fullRow<ExcEntityData>("ExcEntityData", "[" + kInformation + "]")
+            .says("ExcEntityData object should have a JSON array type."),
+        fullRow<ExcMappingData>("ExcMappingData", kMapping)
+            .writes(kMappingWritten)
+            .says("ExcMappingData object should have a JSON array type."),
     };
 }
 
