@@ -13,6 +13,7 @@ std::vector<FullRow> statusRows();
 std::vector<FullRow> structureRows();
 std::vector<FullRow> geometryRows();
 std::vector<FullRow> manufacturingRows();
+std::vector<FullRow> mechanicalRows();
 std::vector<FullRow> visualizationRows();
 std::vector<FullRow> formatOptionsRows();
 std::vector<FullRow> messageRows();

@@ -1,0 +1,38 @@
+#include "vrx_api/mechanical/unit_component.h"
+
+#include "vrx_api/common/unit_tables.h"
+#include "vrx_api/json/fields.h"
+
+namespace vrx
+{
+
+template <class T>
+template <class Self, class Fields>
+void ExcUnitComponent<T>::describe(Self& self, Fields& fields)
+{
+    fields.always(WIDE("dimension"), self.m_dimension);
+    fields.always(WIDE("units"), self.m_units);
+}
+template struct Described<ExcUnitComponent<EMassUnitType>>;
+template struct Described<ExcUnitComponent<ELengthUnitType>>;
+template struct Described<ExcUnitComponent<ETimeUnitType>>;
+template struct Described<ExcUnitComponent<ETemperatureUnitType>>;
+
+template <class T>
+void ExcUnitComponent<T>::readObject(const JsonValue& value)
+{
+    readFields(*this, value, "ExcUnitComponent");
+}
+
+template <class T>
+void ExcUnitComponent<T>::writeObject(JsonValue& value, JsonAllocator& allocator) const
+{
+    writeFields(*this, value, allocator);
+}
+
+template class ExcUnitComponent<EMassUnitType>;
+template class ExcUnitComponent<ELengthUnitType>;
+template class ExcUnitComponent<ETimeUnitType>;
+template class ExcUnitComponent<ETemperatureUnitType>;
+
+} // namespace vrx
