@@ -79,11 +79,18 @@ std::vector<FullRow> manufacturingRows()
         featureThread + R"(],"unclassified_features":[{)" + feature + "}]}";
 
     return {
-        fullRow<BarePattern>("ExcMfgPattern", R"({"type":"none"})"),
+        fullRow<BarePattern>("ExcMfgPattern", R"({"type":"none"})").fixes({"type"}),
         fullRow<ExcMfgPattern::Instance>("ExcMfgPattern::Instance", instance),
-        fullRow<ExcMfgPatternRectangular>("ExcMfgPatternRectangular", rectangular).loudAbout(pairs).appends(pairs),
-        fullRow<ExcMfgPatternCircular>("ExcMfgPatternCircular", circular).loudAbout(pairs).appends(pairs),
+        fullRow<ExcMfgPatternRectangular>("ExcMfgPatternRectangular", rectangular)
+            .fixes({"type"})
+            .loudAbout(pairs)
+            .appends(pairs),
+        fullRow<ExcMfgPatternCircular>("ExcMfgPatternCircular", circular)
+            .fixes({"type"})
+            .loudAbout(pairs)
+            .appends(pairs),
         fullRow<ExcMfgPatternUserDefined>("ExcMfgPatternUserDefined", userDefined)
+            .fixes({"type"})
             .appends({"instance_positions", "deactivated_positions"}),
 
         fullRow<ExcMfgThreading>("ExcMfgThreading", "{" + threading + "}"),
