@@ -25,12 +25,12 @@ static void touch(std::size_t bytes)
 // glibc's own names of the functions that are replaced below.
 extern "C"
 {
-    // NOLINTBEGIN(bugprone-reserved-identifier, readability-identifier-naming)
+    // NOLINTBEGIN(readability-identifier-naming)
     void* __libc_malloc(std::size_t size);
     void* __libc_calloc(std::size_t count, std::size_t size);
     void* __libc_realloc(void* block, std::size_t size);
     void __libc_free(void* block);
-    // NOLINTEND(bugprone-reserved-identifier, readability-identifier-naming)
+    // NOLINTEND(readability-identifier-naming)
 }
 
 namespace

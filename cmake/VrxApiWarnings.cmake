@@ -12,6 +12,10 @@ else()
     target_compile_options(vrx_api_warnings INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast
         -Woverloaded-virtual -Wcast-qual)
+    if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+        target_compile_options(vrx_api_warnings INTERFACE
+            -Wreserved-identifier -Wreserved-macro-identifier -Wzero-as-null-pointer-constant)
+    endif()
 endif()
 
 # With the sanitizers' checks between its loads and stores, GCC 12 takes members inside std::regex for uninitialised.
