@@ -12,6 +12,7 @@ std::vector<FullRow> commonRows();
 std::vector<FullRow> statusRows();
 std::vector<FullRow> structureRows();
 std::vector<FullRow> geometryRows();
+std::vector<FullRow> pmiRows();
 std::vector<FullRow> visualizationRows();
 std::vector<FullRow> formatOptionsRows();
 std::vector<FullRow> messageRows();
