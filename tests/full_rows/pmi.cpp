@@ -74,6 +74,37 @@ const std::string kRoughness =
     annotation("roughness", R"("obtention_type":"matching_mandatory","applicability_type":"basic_surface",)"
                             R"("fields":["Ra 3.2","b"])");
 
+std::string view(const std::string& datum, const std::string& gdt, const std::string& dimension)
+{
+    return R"({"origin":[1.5,2.5,3.5],"u":[1.0,0.0,0.0],"v":[0.0,1.0,0.0],"notes":[)" + kNote + R"(],"datum":[)" +
+           datum + R"(],"datum_targets":[)" + kDatumTarget + R"(],"GDTs":[)" + gdt + R"(],"dimensions":[)" + dimension +
+           R"(],"roughness":[)" + kRoughness + "]}";
+}
+
+const std::string kView = view(kDatum, kGDT, kDimension);
+const std::string kViewWritten = view(kDatumWritten, kGDTWritten, kDimensionWritten);
+
+const std::string kCapture =
+    R"({"name":"n","id":"i","hidden":true,"capture_hidden":true,"current":true,"hidden_text":"h","camera":)" +
+    kCameraText +
+    R"(,"clipping_plane":{"plane_coefficients":[1.0,2.0,3.0,4.0]},"annotation_ids":["a","b"],)"
+    R"("constructed_geometry":[)" +
+    kEntityText + R"(],"bodies":[)" + kEntityText + R"(],"manage_hide_show":true})";
+
+std::string annotationSet(const std::string& views)
+{
+    return R"({"block_id":18446744073709551615,"name":"n","hidden":true,"standart":"ISO",)" + views +
+           R"(,"captures":[)" + kCapture + R"(],"constructed_geometry":[)" + kEntityText + "]}";
+}
+
+const std::string kSet = annotationSet(R"("annotation_views":[)" + kView + "]");
+const std::string kSetWritten = annotationSet(R"("views":[)" + kViewWritten + "]");
+
+std::string root(const std::string& set)
+{
+    return R"({"pmi_data":[)" + set + R"(],"log_file":"l"})";
+}
+
 } // namespace
 
 std::vector<FullRow> pmiRows()
@@ -102,6 +133,18 @@ std::vector<FullRow> pmiRows()
             .loudAbout({"numerical_tolerance", "alphanumerical_tolerance", "texts", "line", "arrows"})
             .keeps({"alphanumerical_tolerance", "texts", "arrows"}),
         fullRow<ExcPMIRoughness>("ExcPMIRoughness", kRoughness).governedBy({"orientation"}).fixes(kType),
+        fullRow<ExcPMIAnnotationView>("ExcPMIAnnotationView", kView).writes(kViewWritten),
+        fullRow<ExcPMICapture>("ExcPMICapture", kCapture),
+        fullRow<ExcPMIAnnotationSet>("ExcPMIAnnotationSet", kSet)
+            .writes(kSetWritten)
+            .governedBy({"annotation_views"})
+            .fixes({"views"}),
+        fullRow<ExcPMIData>("ExcPMIData", "[" + kSet + "]")
+            .writes("[" + kSetWritten + "]")
+            .says("ExcPMIData object should have a JSON array type."),
+        fullRow<ExcRootMechanicalData>("ExcRootMechanicalData", root(kSet))
+            .writes(root(kSetWritten))
+            .nests({"pmi_data"}),
     };
 }
 
