@@ -8,8 +8,9 @@ namespace test
 std::vector<FullRow> allFullRows()
 {
     std::vector<FullRow> all;
-    for (const auto family : {commonRows, statusRows, structureRows, geometryRows, manufacturingRows, mechanicalRows,
-                              visualizationRows, formatOptionsRows, messageRows})
+    for (const auto family :
+         {commonRows, statusRows, structureRows, geometryRows, pmiRows, mechanicalRows, manufacturingRows,
+          blockMechanicalRows, visualizationRows, formatOptionsRows, messageRows})
     {
         std::vector<FullRow> rows = family();
         std::move(rows.begin(), rows.end(), std::back_inserter(all));
