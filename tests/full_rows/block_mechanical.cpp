@@ -1,21 +1,46 @@
 #include "tests/full_rows/full_rows.h"
-#include "tests/full_rows/shared_texts.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
+
+#include <stdexcept>
 
 using namespace vrx;
 
 namespace test
 {
 
+namespace
+{
+
+// The row of a part, as its family has it.
+FullRow rowOf(const std::string& title, std::vector<FullRow> (*family)())
+{
+    for (const FullRow& row : family())
+    {
+        if (row.title == title)
+        {
+            return row;
+        }
+    }
+    throw std::logic_error("no row " + title);
+}
+
+} // namespace
+
 std::vector<FullRow> blockMechanicalRows()
 {
-    const std::string block =
-        R"({"block_id":18446744073709551615,"log_file":"l","pmi_data":[],"misc_data":{"misc_data":)" + kMiscDataText +
-        R"(},"mapping_data":[{"imported":)" + kEntityText +
-        R"(}],"mfg_data":{"has_data":true},"entity_data":[{"entity":)" + kEntityText +
-        R"(,"name":"n","hidden":true,"line_type":"dot","line_thickness":0.5}]})";
+    const FullRow pmi = rowOf("ExcPMIData", pmiRows);
+    const FullRow misc = rowOf("ExcMechanicalMiscData", mechanicalRows);
+    const FullRow mapping = rowOf("ExcMappingData", mechanicalRows);
+    const FullRow features = rowOf("ExcMfgData", manufacturingRows);
+    const FullRow entities = rowOf("ExcEntityData", mechanicalRows);
+    const auto block = [&](std::string FullRow::*text) {
+        return R"({"block_id":18446744073709551615,"log_file":"l","pmi_data":)" + pmi.*text + R"(,"misc_data":)" +
+               misc.*text + R"(,"mapping_data":)" + mapping.*text + R"(,"mfg_data":)" + features.*text +
+               R"(,"entity_data":)" + entities.*text + "}";
+    };
     return {
-        fullRow<ExcBlockMechanicalData>("ExcBlockMechanicalData", block)
+        fullRow<ExcBlockMechanicalData>("ExcBlockMechanicalData", block(&FullRow::in))
+            .writes(block(&FullRow::out))
             .loudAbout({"mapping_data"})
             .nests({"pmi_data", "mapping_data", "entity_data"}),
     };
