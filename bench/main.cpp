@@ -21,9 +21,11 @@ int main(int argc, char** argv)
     std::printf("Making the models and looking at the memory that their ways take\n");
     const bench::Road scene("scene", bench::makeScene);
     const bench::Road structure("structure", bench::makeStructure);
+    const bench::Road drawing("drawing", bench::makeDrawing);
     const bench::Road tiny("tiny", bench::makeTiny);
     bench::registerSteps(scene, 1);
     bench::registerSteps(structure, 1);
+    bench::registerSteps(drawing, 1);
     bench::registerSteps(tiny, kManyIterations);
 
     bench::ShortestTimes times;
@@ -40,6 +42,7 @@ int main(int argc, char** argv)
     bench::printTable(scene, times, wanted);
     wanted.readToInflate = 2.7;
     bench::printTable(structure, times, wanted);
+    bench::printTable(drawing, times, wanted);
     bench::Wanted wantedOfTiny;
     wantedOfTiny.writeMilliseconds = 0.15;
     bench::printTable(tiny, times, wantedOfTiny);

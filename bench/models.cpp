@@ -1,12 +1,10 @@
 #include "bench/models.h"
 
-#include "mp/narrow.h"
+#include "bench/noise.h"
 #include "vrx_api/structure/product_structure.h"
 #include "vrx_api/visualization/block_visualization.h"
 
 #include <cmath>
-#include <random>
-#include <string>
 
 namespace bench
 {
@@ -17,35 +15,6 @@ namespace
 using vrx::wstring;
 
 constexpr double kTurn = 6.283185307179586;
-
-// The same numbers on every run and platform, which the distributions of the standard do not promise.
-class Noise
-{
-public:
-    /// From 0 up to 1.
-    double next() { return static_cast<double>(m_engine()) / 4294967296.0; }
-
-    std::uint32_t below(std::uint32_t limit) { return static_cast<std::uint32_t>(next() * limit); }
-
-    wstring guid()
-    {
-        constexpr vrx::wchar kDigits[] = WIDE("0123456789abcdef");
-        wstring text = WIDE("xxxxxxxx-xxxx-4xxx-axxx-xxxxxxxxxxxx");
-        for (vrx::wchar& unit : text)
-        {
-            unit = unit == WIDE('x') ? kDigits[below(16)] : unit;
-        }
-        return text;
-    }
-
-private:
-    std::mt19937 m_engine;
-};
-
-wstring numbered(const char* name, std::size_t number)
-{
-    return mp::toWide(name + std::to_string(number));
-}
 
 std::shared_ptr<vrx::ExcBlock> makeBlock(std::uint64_t id, bool part)
 {
