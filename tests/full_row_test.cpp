@@ -98,7 +98,6 @@ TEST_P(FullRows, HasOtherValuesThanAFreshObject)
 {
     const FullRow& row = GetParam();
     const auto object = fresh(row);
-    EXPECT_NE(written(*object), row.out);
     const auto members = membersOf(*object);
     for (const auto& [key, value] : membersOf(parsed(row.out)))
     {

@@ -199,7 +199,7 @@ constexpr bool isWritten<T, std::void_t<decltype(encode(std::declval<const T&>()
 template <class T, class = void>
 constexpr bool isRead = false;
 template <class T>
-constexpr bool isRead<T, std::void_t<decltype(decode(std::declval<const JsonValue&>(), std::declval<T&>()))>> = true;
+constexpr bool isRead<T, std::void_t<decltype(decode(std::declval<const JsonValue&>(), std::declval<T>()))>> = true;
 
 template <class T, class = void>
 constexpr bool canBeEmpty = false;
@@ -211,8 +211,10 @@ TEST(Fields, OfATypeThatNobodyThoughtOfDoNotCompile)
 {
     static_assert(isWritten<bool> && isWritten<std::uint64_t> && isWritten<wstring> && isWritten<std::vector<double>>);
     static_assert(!isWritten<void*> && !isWritten<std::int64_t> && !isWritten<std::uint16_t> && !isWritten<wchar>);
-    static_assert(isRead<float> && isRead<std::array<double, 4>> && isRead<Valid<std::vector<wstring>>>);
-    static_assert(!isRead<std::int64_t> && !isRead<std::vector<std::int32_t>> && !isRead<std::vector<wstring>>);
+    static_assert(isRead<float&> && isRead<std::array<double, 4>&> && isRead<Values<false, std::vector<wstring>>>);
+    static_assert(!isRead<std::int64_t&> && !isRead<std::vector<std::int32_t>&> && !isRead<std::vector<wstring>&>);
+    // What is read into a temporary would be lost; a rule is a temporary that refers to its fields.
+    static_assert(!isRead<double&&> && !isRead<wstring&&> && isRead<Values<true, std::vector<double>>&&>);
     static_assert(canBeEmpty<std::int32_t> && canBeEmpty<wstring>);
     static_assert(!canBeEmpty<double> && !canBeEmpty<bool> && !canBeEmpty<std::uint64_t>);
 }

@@ -136,7 +136,7 @@ std::shared_ptr<ExportOptions> Command::newExportOptions()
 
 void Command::setImportOptions(const std::shared_ptr<ImportOptions>& options)
 {
-    if (std::dynamic_pointer_cast<ImportOptionsImpl>(options) == nullptr)
+    if (dynamic_cast<const ImportOptionsImpl*>(options.get()) == nullptr)
     {
         throw std::invalid_argument("Wrong implementation of ImportOptions interface.");
     }
@@ -145,7 +145,7 @@ void Command::setImportOptions(const std::shared_ptr<ImportOptions>& options)
 
 void Command::setExportOptions(const std::shared_ptr<ExportOptions>& options)
 {
-    if (std::dynamic_pointer_cast<ExportOptionsImpl>(options) == nullptr)
+    if (dynamic_cast<const ExportOptionsImpl*>(options.get()) == nullptr)
     {
         throw std::invalid_argument("Wrong implementation of ExportOptions interface");
     }

@@ -1,7 +1,5 @@
 #include "vrx_api/command/result.h"
 
-#include "vrx_api/json/fields.h"
-#include "vrx_api/json/json_text_io.h"
 #include "vrx_api/json/message.h"
 #include "vrx_api/json/required.h"
 
@@ -33,14 +31,12 @@ void Result::describe(Self& self, Fields& fields)
 }
 template struct Described<Result>;
 
-void Result::writeObject(mp::wostream& stream) const
+void Result::writeObject(wostream& stream) const
 {
-    JsonDocument document;
-    writeMembers(*this, document, document.GetAllocator());
-    JsonTextIO::write(stream, document, true);
+    writeMessage(*this, stream);
 }
 
-void Result::readObject(mp::wistream& stream)
+void Result::readObject(wistream& stream)
 {
     JsonDocument document;
     readMessage(stream, document);

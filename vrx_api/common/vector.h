@@ -9,7 +9,7 @@ namespace vrx
 {
 
 /// A point or a direction of N components; the library holds the two for 2 and 3. Its JSON is an array of N numbers, of
-/// which a reader takes those in front that were written as doubles.
+/// which a reader takes the first ones that were written as doubles.
 template <std::size_t N>
 class VRX_API ExcVectorBase : public IJsonObject
 {
@@ -31,6 +31,9 @@ protected:
 
     std::array<double, N> m_components{};
 };
+
+extern template class ExcVectorBase<2>;
+extern template class ExcVectorBase<3>;
 
 /// A point or a direction in a plane: x and y.
 class VRX_API ExcVector2d : public ExcVectorBase<2>

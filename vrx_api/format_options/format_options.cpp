@@ -1,5 +1,6 @@
 #include "vrx_api/format_options/format_options.h"
 
+#include "kolt/log.h"
 #include "vrx_api/format_options/format_type_tables.h"
 #include "vrx_api/json/fields.h"
 
@@ -23,7 +24,7 @@ void checkIdentity(const IFormatOptions& options, const JsonValue& value)
         kolt::log(kolt::kError, "FormatOptions operation type doesn't match.");
         return;
     }
-    // Other than for the operation, a missing format is a mismatch.
+    // Unlike a missing operation, a missing format is a mismatch.
     EFormatType format = EFormatType::Unknown;
     fields.always(kFormatKey, format);
     if (format != options.formatType())
@@ -32,19 +33,9 @@ void checkIdentity(const IFormatOptions& options, const JsonValue& value)
     }
 }
 
-void writeIdentity(const IFormatOptions& options, JsonValue& value, JsonAllocator& allocator)
-{
-    if (!value.IsObject())
-    {
-        value.SetObject();
-    }
-    FieldWriter fields(value, allocator);
-    Described<IFormatOptions>::walk(options, fields);
-}
-
 } // namespace
 
-// What is read decides about the class, and is there before the object.
+// The keys are read by readOptions, since they choose the class.
 template <class Self, class Fields>
 void IFormatOptions::describe(Self& self, Fields& fields)
 {
@@ -63,7 +54,7 @@ void FormatOptions::readObject(const JsonValue& value)
 
 void FormatOptions::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeIdentity(*this, value, allocator);
+    addMembers<IFormatOptions>(*this, value, allocator);
 }
 
 EOperationType FormatOptions::operationType() const
@@ -83,7 +74,7 @@ void FormatOptions::readObject(const JsonValue& value)
 
 void FormatOptions::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeIdentity(*this, value, allocator);
+    addMembers<IFormatOptions>(*this, value, allocator);
 }
 
 EOperationType FormatOptions::operationType() const

@@ -16,8 +16,8 @@ public:
     virtual EFormatType formatType() const = 0;
     virtual EOperationType operationType() const = 0;
 
-    /// Makes and reads the object whose class the two identifying keys name. Null, mostly with a line in the log, when
-    /// there is no such class; none are there for an export.
+    /// Makes and reads the object whose class the two identifying keys name. Null when there is no such class, which is
+    /// logged, or for an export, which is not.
     static std::shared_ptr<IFormatOptions> readOptions(const JsonValue& value);
 
 private:

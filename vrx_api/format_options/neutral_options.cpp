@@ -1,6 +1,7 @@
 #include "vrx_api/format_options/neutral_options.h"
 
 #include "vrx_api/format_options/option_fields.h"
+#include "vrx_api/format_options/shared_mode_tables.h"
 
 namespace vrx
 {
@@ -35,105 +36,99 @@ static constexpr const auto& enumTable(EUserPropertiesModeType)
     return kUserPropertiesModes;
 }
 
-namespace imp
-{
-
 template <class Self, class Fields>
-void OptionsIGES::describe(Self& self, Fields& fields)
+void imp::OptionsIGES::describe(Self& self, Fields& fields)
 {
     describeBase<IFormatOptions>(self, fields);
     fields.always(WIDE("import_entities"), self.m_importEntities);
     fields.always(WIDE("hidden_entities_mode"), self.m_hiddenEntitiesMode);
 }
+template struct Described<imp::OptionsIGES>;
 
-void OptionsIGES::readObject(const JsonValue& value)
+void imp::OptionsIGES::readObject(const JsonValue& value)
 {
     readOptionFields(*this, value, "OptionsIGES");
 }
 
-void OptionsIGES::writeObject(JsonValue& value, JsonAllocator& allocator) const
+void imp::OptionsIGES::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     writeMembers(*this, value, allocator);
 }
 
-EFormatType OptionsIGES::formatType() const
+EFormatType imp::OptionsIGES::formatType() const
 {
     return EFormatType::IGES;
 }
 
 template <class Self, class Fields>
-void OptionsSTEP::describe(Self& self, Fields& fields)
+void imp::OptionsSTEP::describe(Self& self, Fields& fields)
 {
     describeBase<IFormatOptions>(self, fields);
     fields.always(WIDE("layer_name_mode"), self.m_layerNameProcessingMode);
     fields.always(WIDE("visu_pmi_mode"), self.m_visuPMIProcessingMode);
 }
+template struct Described<imp::OptionsSTEP>;
 
-void OptionsSTEP::readObject(const JsonValue& value)
+void imp::OptionsSTEP::readObject(const JsonValue& value)
 {
     readOptionFields(*this, value, "OptionsSTEP");
 }
 
-void OptionsSTEP::writeObject(JsonValue& value, JsonAllocator& allocator) const
+void imp::OptionsSTEP::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     writeMembers(*this, value, allocator);
 }
 
-EFormatType OptionsSTEP::formatType() const
+EFormatType imp::OptionsSTEP::formatType() const
 {
     return EFormatType::STEP;
 }
 
 template <class Self, class Fields>
-void OptionsJT::describe(Self& self, Fields& fields)
+void imp::OptionsJT::describe(Self& self, Fields& fields)
 {
     describeBase<IFormatOptions>(self, fields);
     fields.always(WIDE("edges_mode"), self.m_importEdgesMode);
     fields.always(WIDE("user_prop_mode"), self.m_userPropertiesMode);
 }
+template struct Described<imp::OptionsJT>;
 
-void OptionsJT::readObject(const JsonValue& value)
+void imp::OptionsJT::readObject(const JsonValue& value)
 {
     readOptionFields(*this, value, "OptionsJT");
 }
 
-void OptionsJT::writeObject(JsonValue& value, JsonAllocator& allocator) const
+void imp::OptionsJT::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     writeMembers(*this, value, allocator);
 }
 
-EFormatType OptionsJT::formatType() const
+EFormatType imp::OptionsJT::formatType() const
 {
     return EFormatType::JT;
 }
 
 template <class Self, class Fields>
-void OptionsParasolid::describe(Self& self, Fields& fields)
+void imp::OptionsParasolid::describe(Self& self, Fields& fields)
 {
     describeBase<IFormatOptions>(self, fields);
     fields.always(WIDE("hidden_entities_mode"), self.m_hiddenEntitiesMode);
 }
+template struct Described<imp::OptionsParasolid>;
 
-void OptionsParasolid::readObject(const JsonValue& value)
+void imp::OptionsParasolid::readObject(const JsonValue& value)
 {
     readOptionFields(*this, value, "OptionsParasolid");
 }
 
-void OptionsParasolid::writeObject(JsonValue& value, JsonAllocator& allocator) const
+void imp::OptionsParasolid::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     writeMembers(*this, value, allocator);
 }
 
-EFormatType OptionsParasolid::formatType() const
+EFormatType imp::OptionsParasolid::formatType() const
 {
     return EFormatType::Parasolid;
 }
-
-} // namespace imp
-
-template struct Described<imp::OptionsIGES>;
-template struct Described<imp::OptionsSTEP>;
-template struct Described<imp::OptionsJT>;
-template struct Described<imp::OptionsParasolid>;
 
 } // namespace vrx

@@ -47,7 +47,7 @@ public:
     void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType mode) { m_hiddenEntitiesMode = mode; }
 
 private:
-    friend struct vrx::Described<OptionsIGES>;
+    friend struct Described<OptionsIGES>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 
@@ -70,7 +70,7 @@ public:
     void setVisuPMIProcessingMode(EVisuPMIProcessingMode mode) { m_visuPMIProcessingMode = mode; }
 
 private:
-    friend struct vrx::Described<OptionsSTEP>;
+    friend struct Described<OptionsSTEP>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 
@@ -93,7 +93,7 @@ public:
     void setUserPropertiesMode(EUserPropertiesModeType mode) { m_userPropertiesMode = mode; }
 
 private:
-    friend struct vrx::Described<OptionsJT>;
+    friend struct Described<OptionsJT>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 
@@ -113,7 +113,7 @@ public:
     void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType mode) { m_hiddenEntitiesMode = mode; }
 
 private:
-    friend struct vrx::Described<OptionsParasolid>;
+    friend struct Described<OptionsParasolid>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 

@@ -1,13 +1,9 @@
 #pragma once
 
 #include "vrx_api/format_options/format_options.h"
-#include "vrx_api/format_options/shared_mode_tables.h"
 #include "vrx_api/json/fields.h"
 
 namespace vrx
-{
-
-namespace imp
 {
 
 /// The `readObject` of the settings of one format. Unlike the other regular classes, these leave no trace line.
@@ -17,11 +13,9 @@ void readOptionFields(T& options, const JsonValue& value, const char* className)
     if (isObject(value, className))
     {
         // A wrong operation or format is only logged.
-        options.FormatOptions::readObject(value);
+        options.imp::FormatOptions::readObject(value);
         readMembers(options, value);
     }
 }
-
-} // namespace imp
 
 } // namespace vrx

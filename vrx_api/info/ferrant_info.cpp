@@ -1,9 +1,8 @@
 #include "vrx_api/info/ferrant_info.h"
 
+#include "kolt/log.h"
 #include "vrx_api/command/ferrant_interface_table.h"
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/fields.h"
-#include "vrx_api/json/json_text_io.h"
 #include "vrx_api/json/message.h"
 
 namespace vrx
@@ -38,9 +37,7 @@ template struct Described<FerrantInfo>;
 void FerrantInfo::writeObject(wostream& stream) const
 {
     kolt::trace();
-    JsonDocument document;
-    writeMembers(*this, document, document.GetAllocator());
-    JsonTextIO::write(stream, document, true);
+    writeMessage(*this, stream);
 }
 
 void FerrantInfo::readObject(wistream& stream)

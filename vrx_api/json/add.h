@@ -30,16 +30,14 @@ void add(std::vector<std::shared_ptr<T>>& objects, const std::shared_ptr<T>& obj
     }
 }
 
-/// Appends objects in their order; each null pointer is refused by itself.
+/// Appends objects in their order, which may be those of the vector itself; each null pointer is refused by itself.
 template <class T>
 void addAll(std::vector<std::shared_ptr<T>>& objects, const std::vector<std::shared_ptr<T>>& added, const char* refusal)
 {
-    // Objects may be added to their own vector, which grows meanwhile.
     const std::size_t count = added.size();
     for (std::size_t i = 0; i < count; ++i)
     {
-        const std::shared_ptr<T> object = added[i];
-        add(objects, object, refusal);
+        add(objects, added[i], refusal);
     }
 }
 
@@ -48,9 +46,9 @@ template <class T>
 void setAll(std::vector<std::shared_ptr<T>>& objects, const std::vector<std::shared_ptr<T>>& wanted,
             const char* refusal)
 {
-    const std::vector<std::shared_ptr<T>> kept = wanted;
-    objects.clear();
-    addAll(objects, kept, refusal);
+    std::vector<std::shared_ptr<T>> kept;
+    addAll(kept, wanted, refusal);
+    objects.swap(kept);
 }
 
 } // namespace vrx

@@ -10,10 +10,10 @@ class FieldWriter;
 /// The walks over the description of a class; fields.h tells what a description is.
 ///
 /// The description of a class is a template in its source, so that nobody else can walk over it. The source therefore
-/// has the line `template struct Described<ExcBlock>;`, which makes all walks, and others call only these. A base whose
-/// derived classes begin their descriptions with its own says so in its header, by the same line as `extern template`:
-/// without it the sources of the derived classes would make the walks themselves and look for the description in vain,
-/// which a debug build may forgive and a release build does not.
+/// has the line `template struct Described<ExcBlock>;`, which instantiates all walks, and others call only these. A
+/// base whose derived classes begin their descriptions with its own says so in its header, by the same line as `extern
+/// template`: without it the sources of the derived classes instantiate the walks themselves and do not find the
+/// description, which a debug build may not notice and a release build does.
 ///
 /// A new walk is a new function here, and changes no class.
 template <class T>

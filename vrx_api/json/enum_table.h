@@ -14,7 +14,8 @@ namespace vrx
 ///     constexpr EnumName<EPitch> kPitches[] = {{EPitch::Unknown, WIDE("unknown")}, ...};
 ///     static constexpr const auto& enumTable(EPitch) { return kPitches; }
 ///
-/// The few enumerations that have a fallback of their own, all of them beside the model, tell it next to the table:
+/// In a header the table is `inline constexpr`, and the function not static. The few enumerations that have a fallback
+/// of their own, none of them in the model, tell it next to the table:
 ///
 ///     static constexpr EMode enumFallback(EMode) { return EMode::None; }
 template <class E>

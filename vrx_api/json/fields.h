@@ -5,31 +5,14 @@
 #include "vrx_api/json/json_write.h"
 #include "vrx_api/json/kind.h"
 
+#include <type_traits>
+#include <utility>
+
 namespace vrx
 {
 
-// A regular class describes its fields once, in the order in which they are written:
-//
-//     template <class Self, class Fields>
-//     void ExcBlockReference::describe(Self& self, Fields& fields)
-//     {
-//         fields.always(WIDE("guid"), self.m_guid);
-//         fields.filled(WIDE("misc_data"), self.m_miscData);
-//     }
-//     template struct Described<ExcBlockReference>;
-//
-// and all walks go over that description. The verbs tell when a key is written and when it is read:
-//
-//     always      written in any case
-//     filled      written when the field holds something
-//     when        written under a condition
-//     flagged     written when the flag is set; a reader that finds the key sets the flag, and never clears it
-//     optional    written when the flag is set; a reader sets the flag to whether the key is there
-//     readOnly    never written
-//     writeOnly   never read; written under a condition
-//
-// All but the last are read when the key is there, by the rule of the field's type, or by a rule of shapes.h that is
-// named on the line. A description never asks for its direction.
+// A regular class describes its fields once, one line a key, and all walks go over that description.
+// docs/adding_a_class.md tells the verbs and how a class is added.
 
 /// Takes the fields of a description from an object.
 class FieldReader
@@ -45,37 +28,37 @@ public:
     template <class T>
     void always(Key key, T&& field)
     {
-        take(key, field);
+        take(key, std::forward<T>(field));
     }
 
     template <class T>
     void filled(Key key, T&& field)
     {
-        take(key, field);
+        take(key, std::forward<T>(field));
     }
 
     template <class T>
     void when(bool, Key key, T&& field)
     {
-        take(key, field);
+        take(key, std::forward<T>(field));
     }
 
     template <class T>
     void flagged(Key key, bool& flag, T&& field)
     {
-        flag = take(key, field) || flag;
+        flag = take(key, std::forward<T>(field)) || flag;
     }
 
     template <class T>
     void optional(Key key, bool& flag, T&& field)
     {
-        flag = take(key, field);
+        flag = take(key, std::forward<T>(field));
     }
 
     template <class T>
     void readOnly(Key key, T&& field)
     {
-        take(key, field);
+        take(key, std::forward<T>(field));
     }
 
     template <class T>
@@ -84,12 +67,13 @@ public:
     }
 
 private:
-    /// True when the key is there, with a value of the field's kind.
+    /// True when the key is there, with a value of the field's kind. The field is a member of the class, or a rule
+    /// around members; a temporary number or object, which would be read in vain, does not compile.
     template <class T>
-    bool take(Key key, T& field)
+    bool take(Key key, T&& field)
     {
         const JsonValue* const value = find(m_object, key);
-        return value != nullptr && decode(*value, field);
+        return value != nullptr && decode(*value, std::forward<T>(field));
     }
 
     const JsonValue& m_object;
@@ -105,25 +89,25 @@ public:
     template <class T>
     void always(Key key, const T& field)
     {
-        walk().when(true, key, field);
+        derived().when(true, key, field);
     }
 
     template <class T>
     void filled(Key key, const T& field)
     {
-        walk().when(!isEmpty(field), key, field);
+        derived().when(!isEmpty(field), key, field);
     }
 
     template <class T>
     void flagged(Key key, bool flag, const T& field)
     {
-        walk().when(flag, key, field);
+        derived().when(flag, key, field);
     }
 
     template <class T>
     void optional(Key key, bool flag, const T& field)
     {
-        walk().when(flag, key, field);
+        derived().when(flag, key, field);
     }
 
     template <class T>
@@ -134,11 +118,11 @@ public:
     template <class T>
     void writeOnly(bool written, Key key, const T& field)
     {
-        walk().when(written, key, field);
+        derived().when(written, key, field);
     }
 
 private:
-    Walk& walk() { return static_cast<Walk&>(*this); }
+    Walk& derived() { return static_cast<Walk&>(*this); }
 };
 
 /// Counts the members that a description writes.
@@ -232,6 +216,19 @@ void writeMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
     FieldCounter counter;
     Described<T>::walk(object, counter);
     setObject(value, counter.count(), allocator);
+    FieldWriter writer(value, allocator);
+    Described<T>::walk(object, writer);
+}
+
+/// Adds the described members to an object; a value that is none is made one.
+template <class T>
+void addMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
+{
+    if (!value.IsObject())
+    {
+        writeMembers(object, value, allocator);
+        return;
+    }
     FieldWriter writer(value, allocator);
     Described<T>::walk(object, writer);
 }

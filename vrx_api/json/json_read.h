@@ -31,7 +31,7 @@ inline wstring_view textOf(const JsonValue& string)
 }
 
 // What a field takes from a value: true when the value is of the field's kind. A value of another kind leaves the field
-// as it is. A field of a type that is not told here, or in shapes.h, does not compile.
+// as it is. A type without an overload here or in shapes.h does not compile.
 
 /// A double that is out of the range of a float becomes an infinity.
 template <class T, std::enable_if_t<isScalar<T>, int> = 0>
@@ -67,12 +67,13 @@ bool decode(const JsonValue& value, E& field)
 template <class T>
 bool decode(const JsonValue& value, std::shared_ptr<T>& field)
 {
+    static_assert(!std::is_abstract_v<T>, "one of several classes is read by a decode of its own, beside its holder");
     field = std::make_shared<T>();
     return decode(value, *field);
 }
 
-/// An array of a fixed size takes the elements in front, up to the first of another kind and no more than there is room
-/// for. Those behind keep what they have.
+/// An array of a fixed size takes the first elements, up to one of another kind and no more than there is room for. The
+/// others keep their values.
 template <class T, std::size_t N>
 bool decode(const JsonValue& value, std::array<T, N>& field)
 {
@@ -87,27 +88,16 @@ bool decode(const JsonValue& value, std::array<T, N>& field)
     return true;
 }
 
-/// An array of shared objects appends a new object per element, whatever the element's kind.
+/// True for objects, by value and shared.
 template <class T>
-bool decode(const JsonValue& value, std::vector<std::shared_ptr<T>>& field)
-{
-    if (!value.IsArray())
-    {
-        return false;
-    }
-    field.reserve(field.size() + value.Size());
-    for (const JsonValue& element : value.GetArray())
-    {
-        // An object that throws is not appended.
-        std::shared_ptr<T> object;
-        decode(element, object);
-        field.push_back(std::move(object));
-    }
-    return true;
-}
+inline constexpr bool isNested = std::is_base_of_v<IJsonObject, T>;
 
-/// An array of objects appends one per element, whatever the element's kind.
-template <class T, std::enable_if_t<std::is_base_of_v<IJsonObject, T>, int> = 0>
+template <class T>
+inline constexpr bool isNested<std::shared_ptr<T>> = isNested<T>;
+
+/// An array of objects appends a new one per element, whatever the element's kind. An object that throws is not
+/// appended.
+template <class T, std::enable_if_t<isNested<T>, int> = 0>
 bool decode(const JsonValue& value, std::vector<T>& field)
 {
     if (!value.IsArray())
@@ -117,7 +107,9 @@ bool decode(const JsonValue& value, std::vector<T>& field)
     field.reserve(field.size() + value.Size());
     for (const JsonValue& element : value.GetArray())
     {
-        decode(element, field.emplace_back());
+        T object;
+        decode(element, object);
+        field.push_back(std::move(object));
     }
     return true;
 }

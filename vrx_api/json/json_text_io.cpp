@@ -188,7 +188,8 @@ void unescapeLoneSurrogates(wstring& text)
         }
         // The escape behind that of a high surrogate is its other half.
         const bool pair = (unit & kSurrogates) == kHigh && escapedUnit(text, at + kEscape) != 0;
-        at += pair ? 2 * kEscape : unit != 0 ? kEscape : 2;
+        const std::size_t escaped = unit != 0 ? kEscape : 2;
+        at += pair ? 2 * kEscape : escaped;
     }
     if (done != 0)
     {

@@ -13,8 +13,8 @@ public:
     JsonTextIO() = delete;
 
     /// Writes the document; with `pretty` one member stands on a line and an array stays on one.
-    /// Throws `std::runtime_error` when a number is not finite: JSON has no text for it. What stands before that number
-    /// is on the stream by then.
+    /// Throws `std::runtime_error` for what JSON has no text for: a number that is not finite, or a name that is no
+    /// string. What stands before it is on the stream by then.
     static wostream& write(wostream& stream, const JsonDocument& document, bool pretty);
 
     /// Parses the stream up to its end or to a NUL. A text that is no JSON leaves the document as it was, with the

@@ -21,7 +21,7 @@ void setObject(JsonValue& value, rapidjson::SizeType capacity, JsonAllocator& al
 /// Adds a member whose name is not copied.
 void addMember(JsonValue& object, Key key, JsonValue&& value, JsonAllocator& allocator);
 
-// The value that a field writes. A field of a type that is not told here, or in shapes.h, does not compile.
+// The value that a field writes. A type without an overload here or in shapes.h does not compile.
 
 template <class T, std::enable_if_t<isScalar<T>, int> = 0>
 JsonValue encode(T field, JsonAllocator&)
@@ -40,16 +40,18 @@ JsonValue encode(const wstring& field, JsonAllocator& allocator);
 JsonValue encode(const IJsonObject& field, JsonAllocator& allocator);
 
 /// The names of a table live as long as the library, so that they are not copied.
-inline JsonValue encodeName(wstring_view name)
-{
-    return JsonValue(JsonValue::StringRefType(name.data(), static_cast<rapidjson::SizeType>(name.size())));
-}
-
 template <class E, std::enable_if_t<std::is_enum_v<E>, int> = 0>
 JsonValue encode(E field, JsonAllocator&)
 {
-    return encodeName(enumName(field));
+    const wstring_view name = enumName(field);
+    return JsonValue(JsonValue::StringRefType(name.data(), static_cast<rapidjson::SizeType>(name.size())));
 }
+
+template <class T>
+JsonValue encode(const std::vector<T>& field, JsonAllocator& allocator);
+
+template <class T, std::size_t N>
+JsonValue encode(const std::array<T, N>& field, JsonAllocator& allocator);
 
 /// A null pointer writes JSON null.
 template <class T>
@@ -98,7 +100,7 @@ JsonValue encode(const std::array<T, N>& field, JsonAllocator& allocator)
     return encodeElements(field, allocator);
 }
 
-// What a key that is written only when it holds something takes for nothing.
+// True when the verb `filled` writes no key.
 
 template <class T, std::enable_if_t<std::is_same_v<T, std::int32_t>, int> = 0>
 bool isEmpty(T field)

@@ -6,7 +6,7 @@
 namespace vrx
 {
 
-static bool accept(bool right, const char* className, const char* complaint)
+static bool report(bool right, const char* className, const char* complaint)
 {
     if (!right && className != kSilently)
     {
@@ -17,12 +17,12 @@ static bool accept(bool right, const char* className, const char* complaint)
 
 bool isObject(const JsonValue& value, const char* className)
 {
-    return accept(value.IsObject(), className, " object should have a JSON object type.");
+    return report(value.IsObject(), className, " object should have a JSON object type.");
 }
 
 bool isArray(const JsonValue& value, const char* className)
 {
-    return accept(value.IsArray(), className, " object should have a JSON array type.");
+    return report(value.IsArray(), className, " object should have a JSON array type.");
 }
 
 } // namespace vrx

@@ -5,7 +5,7 @@
 namespace vrx
 {
 
-/// In place of the text of those that refuse without a word.
+/// Given in place of a text: nothing is logged.
 constexpr const char* kSilently = nullptr;
 
 /// True for an object; otherwise logs that the class's value should be one.

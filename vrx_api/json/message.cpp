@@ -1,8 +1,5 @@
 #include "vrx_api/json/message.h"
 
-#include "vrx_api/json/json_text_io.h"
-#include "vrx_api/json/json_value.h"
-
 #include <stdexcept>
 
 namespace vrx

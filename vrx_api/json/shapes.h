@@ -23,15 +23,15 @@ struct Exactly
 };
 
 template <class... Fields>
-Exactly<false, Fields&&...> exactly(const char* refusal, Fields&&... fields)
+Exactly<false, Fields...> exactly(const char* refusal, Fields&&... fields)
 {
-    return {refusal, std::forward_as_tuple(std::forward<Fields>(fields)...)};
+    return {refusal, {std::forward<Fields>(fields)...}};
 }
 
 template <class... Fields>
-Exactly<true, Fields&&...> exactlyOrReset(const char* refusal, Fields&&... fields)
+Exactly<true, Fields...> exactlyOrReset(const char* refusal, Fields&&... fields)
 {
-    return {refusal, std::forward_as_tuple(std::forward<Fields>(fields)...)};
+    return {refusal, {std::forward<Fields>(fields)...}};
 }
 
 template <bool Resets, class T>
@@ -73,30 +73,41 @@ JsonValue encode(const Exactly<Resets, Fields...>& field, JsonAllocator& allocat
     return array;
 }
 
-/// An array of scalars, strings or names that appends the elements of the right kind and passes over the others.
-template <class Elements>
-struct Valid
+/// An array of scalars, strings or names, which appends. An element of another kind is passed over, or keeps its place
+/// as a zero or an empty string.
+template <bool KeepsPlaces, class Elements>
+struct Values
 {
     Elements& elements;
 };
 
 template <class Elements>
-Valid<Elements> valid(Elements& elements)
+Values<false, Elements> valid(Elements& elements)
 {
     return {elements};
 }
 
 template <class Elements>
-bool decode(const JsonValue& value, const Valid<Elements>& field)
+Values<true, Elements> places(Elements& elements)
+{
+    return {elements};
+}
+
+template <bool KeepsPlaces, class Elements>
+bool decode(const JsonValue& value, const Values<KeepsPlaces, Elements>& field)
 {
     if (!value.IsArray())
     {
         return false;
     }
+    if constexpr (KeepsPlaces)
+    {
+        field.elements.reserve(field.elements.size() + value.Size());
+    }
     for (const JsonValue& json : value.GetArray())
     {
         typename Elements::value_type element{};
-        if (decode(json, element))
+        if (decode(json, element) || KeepsPlaces)
         {
             field.elements.insert(field.elements.end(), std::move(element));
         }
@@ -104,66 +115,25 @@ bool decode(const JsonValue& value, const Valid<Elements>& field)
     return true;
 }
 
-/// An array of scalars or strings that appends one per element: one of another kind keeps its place, as a zero or an
-/// empty string.
-template <class Elements>
-struct Places
-{
-    Elements& elements;
-};
-
-template <class Elements>
-Places<Elements> places(Elements& elements)
-{
-    return {elements};
-}
-
-template <class Elements>
-bool decode(const JsonValue& value, const Places<Elements>& field)
-{
-    if (!value.IsArray())
-    {
-        return false;
-    }
-    field.elements.reserve(field.elements.size() + value.Size());
-    for (const JsonValue& json : value.GetArray())
-    {
-        decode(json, field.elements.emplace_back());
-    }
-    return true;
-}
-
-template <class Elements>
-JsonValue encode(const Valid<Elements>& field, JsonAllocator& allocator)
+template <bool KeepsPlaces, class Elements>
+JsonValue encode(const Values<KeepsPlaces, Elements>& field, JsonAllocator& allocator)
 {
     return encodeElements(field.elements, allocator);
 }
 
-template <class Elements>
-JsonValue encode(const Places<Elements>& field, JsonAllocator& allocator)
-{
-    return encodeElements(field.elements, allocator);
-}
-
-template <class Elements>
-bool isEmpty(const Valid<Elements>& field)
-{
-    return field.elements.empty();
-}
-
-template <class Elements>
-bool isEmpty(const Places<Elements>& field)
+template <bool KeepsPlaces, class Elements>
+bool isEmpty(const Values<KeepsPlaces, Elements>& field)
 {
     return field.elements.empty();
 }
 
 /// An object that is no class of its own, with a description: a function of the object and the walk. A value of another
-/// kind is passed over without a word.
+/// kind is passed over without a log line.
 template <class T, class Describe>
 struct Record
 {
     T& object;
-    const Describe& describe;
+    Describe describe;
 };
 
 template <class T, class Describe>

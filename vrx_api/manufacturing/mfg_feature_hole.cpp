@@ -6,7 +6,7 @@
 namespace vrx
 {
 
-// The keys of the base stay at home, in both directions.
+// The keys of the base neither go out nor come in.
 template <class Self, class Fields>
 void ExcMfgFeatureHole::describe(Self& self, Fields& fields)
 {

@@ -68,14 +68,8 @@ template <class T>
 void addFields(const T& pattern, JsonValue& value, JsonAllocator& allocator,
                kolt::SourcePlace place = kolt::SourcePlace::current())
 {
-    if (!value.IsObject())
-    {
-        writeFields(pattern, value, allocator, place);
-        return;
-    }
     kolt::trace(place);
-    FieldWriter writer(value, allocator);
-    Described<T>::walk(pattern, writer);
+    addMembers(pattern, value, allocator);
 }
 
 } // namespace vrx

@@ -27,6 +27,9 @@ static constexpr const auto& enumTable(EProperty)
     return kProperties;
 }
 
+namespace
+{
+
 using Properties = std::map<EProperty, std::shared_ptr<ExcMiscMaterialProperty>>;
 
 // The property under one id. A reader that finds its key makes a new one.
@@ -39,26 +42,28 @@ struct Entry
 template <class Map>
 Entry(Map&, EProperty) -> Entry<Map>;
 
-static bool decode(const JsonValue& value, const Entry<Properties>& field)
+bool decode(const JsonValue& value, const Entry<Properties>& field)
 {
     return decode(value, field.properties[field.id]);
 }
 
-static std::shared_ptr<ExcMiscMaterialProperty> propertyOf(const Properties& properties, EProperty id)
+std::shared_ptr<ExcMiscMaterialProperty> propertyOf(const Properties& properties, EProperty id)
 {
     const auto found = properties.find(id);
     return found == properties.end() ? nullptr : found->second;
 }
 
-static bool isEmpty(const Entry<const Properties>& field)
+bool isEmpty(const Entry<const Properties>& field)
 {
     return propertyOf(field.properties, field.id) == nullptr;
 }
 
-static JsonValue encode(const Entry<const Properties>& field, JsonAllocator& allocator)
+JsonValue encode(const Entry<const Properties>& field, JsonAllocator& allocator)
 {
     return encode(propertyOf(field.properties, field.id), allocator);
 }
+
+} // namespace
 
 template <class Self, class Fields>
 void ExcMiscMaterial::describe(Self& self, Fields& fields)

@@ -28,8 +28,8 @@ static constexpr const auto& enumTable(EPMIAnnotationType)
     return kAnnotationTypes;
 }
 
-// The keys of the base, name, id and hidden, stay at home. The type is never read: the array in which an annotation
-// stands tells its class.
+// The keys of the base, name, id and hidden, neither go out nor come in. The type is never read: the array in which an
+// annotation stands tells its class.
 template <class Self, class Fields>
 void ExcPMIAnnotation::describe(Self& self, Fields& fields)
 {

@@ -6,6 +6,9 @@
 namespace vrx
 {
 
+namespace
+{
+
 // Annotations that are entered into the index of their view as they come, under the ids that they have then. The first
 // one keeps its place; an id that is set later moves nothing.
 template <class Annotations, class Index>
@@ -19,7 +22,7 @@ Indexed(Annotations&, Index&) -> Indexed<Annotations, Index>;
 
 // Enters the annotations behind the first `count`.
 template <class Annotations, class Index>
-static void enterBehind(std::size_t count, const Indexed<Annotations, Index>& field)
+void enterBehind(std::size_t count, const Indexed<Annotations, Index>& field)
 {
     for (std::size_t i = count; i < field.annotations.size(); ++i)
     {
@@ -28,7 +31,7 @@ static void enterBehind(std::size_t count, const Indexed<Annotations, Index>& fi
 }
 
 template <class Annotations, class Index>
-static bool decode(const JsonValue& value, const Indexed<Annotations, Index>& field)
+bool decode(const JsonValue& value, const Indexed<Annotations, Index>& field)
 {
     const std::size_t count = field.annotations.size();
     const bool taken = decode(value, field.annotations);
@@ -37,24 +40,26 @@ static bool decode(const JsonValue& value, const Indexed<Annotations, Index>& fi
 }
 
 template <class Annotations, class Index>
-static JsonValue encode(const Indexed<Annotations, Index>& field, JsonAllocator& allocator)
+JsonValue encode(const Indexed<Annotations, Index>& field, JsonAllocator& allocator)
 {
     return encode(field.annotations, allocator);
 }
 
 template <class Annotations, class Index>
-static bool isEmpty(const Indexed<Annotations, Index>& field)
+bool isEmpty(const Indexed<Annotations, Index>& field)
 {
     return field.annotations.empty();
 }
 
 template <class Annotations, class Index, class T>
-static void add(const Indexed<Annotations, Index>& field, const std::shared_ptr<T>& annotation, const char* refusal)
+void add(const Indexed<Annotations, Index>& field, const std::shared_ptr<T>& annotation, const char* refusal)
 {
     const std::size_t count = field.annotations.size();
     add(field.annotations, annotation, refusal);
     enterBehind(count, field);
 }
+
+} // namespace
 
 template <class Self, class Fields>
 void ExcPMIAnnotationView::describe(Self& self, Fields& fields)

@@ -9,7 +9,7 @@ namespace vrx
 
 /// A datum: the labelled reference feature of a drawing, which tolerances refer to. It names the datum targets on which
 /// it rests by their ids, which the library does not resolve. A reader takes only the label and the target ids; where
-/// the datum stands and what it is about is written and not taken back.
+/// the datum stands and what it is about is written and not read.
 class VRX_API ExcPMIDatum : public ExcPMIAnnotation
 {
 public:

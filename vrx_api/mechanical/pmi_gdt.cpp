@@ -127,7 +127,7 @@ static constexpr const char* kWrongCompositeRateUnit = "ExcPMIGDT: invalid size 
 template <class Self, class Fields>
 void ExcPMIGDT::describe(Self& self, Fields& fields)
 {
-    // Other than on the first line, the modifier of the second is no array.
+    // Unlike on the first line, the modifier of the second is no array.
     const auto compositeLine = [](auto& gdt, auto& line) {
         line.always(WIDE("tolerance_value_type"), gdt.m_compositeToleranceValueType);
         line.always(WIDE("tolerance_value"), gdt.m_compositeToleranceValue);

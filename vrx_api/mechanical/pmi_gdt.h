@@ -47,7 +47,7 @@ public:
         Square = 4,
     };
 
-    /// The circled letters behind a value or a datum. The tangent plane is spelt as on the wire.
+    /// The circled letters after a value or a datum. The tangent plane is spelt as on the wire.
     enum class EToleranceModifier : std::int32_t
     {
         NoModifier = 0,
@@ -88,7 +88,7 @@ public:
         EToleranceModifier m_modifier = EToleranceModifier::NoModifier;
     };
 
-    /// One compartment of the frame behind the value: a datum, or the datums of a common one ("A-B").
+    /// One compartment of the frame after the value: a datum, or the datums of a common one ("A-B").
     class VRX_API DatumRef : public IJsonObject
     {
     public:
@@ -167,7 +167,7 @@ public:
     const wstring& note() const { return m_note; }
     void setNote(const wstring& note) { m_note = note; }
 
-    /// The modifiers behind the value.
+    /// The modifiers after the value.
     void zoneModifiers(EToleranceModifier& first, EToleranceModifier& second) const;
     void setZoneModifiers(EToleranceModifier first, EToleranceModifier second);
 

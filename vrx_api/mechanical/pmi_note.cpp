@@ -20,6 +20,9 @@ static constexpr const auto& enumTable(EFontType)
     return kFontTypes;
 }
 
+namespace
+{
+
 // A reader takes either boolean for true.
 template <class Flag>
 struct TrueWhenThere
@@ -29,16 +32,22 @@ struct TrueWhenThere
 template <class Flag>
 TrueWhenThere(Flag&) -> TrueWhenThere<Flag>;
 
-static bool decode(const JsonValue& value, const TrueWhenThere<bool>& field)
+bool decode(const JsonValue& value, const TrueWhenThere<bool>& field)
 {
-    field.flag = field.flag || value.IsBool();
-    return value.IsBool();
+    if (!value.IsBool())
+    {
+        return false;
+    }
+    field.flag = true;
+    return true;
 }
 
-static JsonValue encode(const TrueWhenThere<const bool>& field, JsonAllocator& allocator)
+JsonValue encode(const TrueWhenThere<const bool>& field, JsonAllocator&)
 {
-    return encode(field.flag, allocator);
+    return JsonValue(field.flag);
 }
+
+} // namespace
 
 template <class Self, class Fields>
 void ExcPMINote::Text::describe(Self& self, Fields& fields)

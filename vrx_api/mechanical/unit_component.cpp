@@ -13,10 +13,6 @@ void ExcUnitComponent<T>::describe(Self& self, Fields& fields)
     fields.always(WIDE("dimension"), self.m_dimension);
     fields.always(WIDE("units"), self.m_units);
 }
-template struct Described<ExcUnitComponent<EMassUnitType>>;
-template struct Described<ExcUnitComponent<ELengthUnitType>>;
-template struct Described<ExcUnitComponent<ETimeUnitType>>;
-template struct Described<ExcUnitComponent<ETemperatureUnitType>>;
 
 template <class T>
 void ExcUnitComponent<T>::readObject(const JsonValue& value)
@@ -30,6 +26,7 @@ void ExcUnitComponent<T>::writeObject(JsonValue& value, JsonAllocator& allocator
     writeFields(*this, value, allocator);
 }
 
+// With each class come the walks over its description.
 template class ExcUnitComponent<EMassUnitType>;
 template class ExcUnitComponent<ELengthUnitType>;
 template class ExcUnitComponent<ETimeUnitType>;

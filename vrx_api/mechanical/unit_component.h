@@ -41,4 +41,9 @@ private:
     T m_units = T::Unknown;
 };
 
+extern template class ExcUnitComponent<EMassUnitType>;
+extern template class ExcUnitComponent<ELengthUnitType>;
+extern template class ExcUnitComponent<ETimeUnitType>;
+extern template class ExcUnitComponent<ETemperatureUnitType>;
+
 } // namespace vrx

@@ -1,6 +1,9 @@
 #include "vrx_api/visualization/visu_face.h"
 
+#include "kolt/log.h"
 #include "vrx_api/json/shapes.h"
+
+#include <utility>
 
 namespace vrx
 {
@@ -10,12 +13,10 @@ using Polygon = ExcVisuFace::Polygon;
 static constexpr Key kType = WIDE("type");
 static constexpr Key kIndices = WIDE("indices");
 
-static void decode(const JsonValue& value, Polygon& polygon)
-{
-    FieldReader fields(value);
+static constexpr auto describePolygon = [](auto& polygon, auto& fields) {
     fields.always(kType, polygon.type);
     fields.filled(kIndices, places(polygon.indices));
-}
+};
 
 // An element that is no object adds no polygon.
 static bool decode(const JsonValue& value, std::vector<Polygon>& field)
@@ -27,9 +28,10 @@ static bool decode(const JsonValue& value, std::vector<Polygon>& field)
     field.reserve(field.size() + value.Size());
     for (const JsonValue& element : value.GetArray())
     {
-        if (element.IsObject())
+        Polygon polygon;
+        if (decode(element, record(polygon, describePolygon)))
         {
-            decode(element, field.emplace_back());
+            field.push_back(std::move(polygon));
         }
         else
         {

@@ -1,5 +1,6 @@
 #include "vrx_api/visualization/visu_material.h"
 
+#include "kolt/log.h"
 #include "vrx_api/json/add.h"
 #include "vrx_api/json/shapes.h"
 
@@ -115,7 +116,7 @@ static JsonValue encodeByType(const Entries& entries, JsonAllocator& allocator)
     setObject(object, static_cast<rapidjson::SizeType>(entries.size()), allocator);
     for (const auto& [type, entry] : entries)
     {
-        object.AddMember(encodeName(enumName(type)), encode(entry, allocator), allocator);
+        addMember(object, Key(enumName(type)), encode(entry, allocator), allocator);
     }
     return object;
 }

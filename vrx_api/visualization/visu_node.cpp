@@ -12,6 +12,9 @@ namespace vrx
 
 static constexpr Key kChildNodes = WIDE("child_nodes");
 
+namespace
+{
+
 // The description only makes the places of the children, in the node or in its JSON. They are filled by a walk over the
 // tree that keeps a stack of its own, since a tree may be deeper than the thread's stack allows.
 template <class Nodes>
@@ -23,13 +26,13 @@ template <class Nodes>
 ChildPlaces(Nodes&) -> ChildPlaces<Nodes>;
 
 template <class Nodes>
-static bool isEmpty(const ChildPlaces<Nodes>& field)
+bool isEmpty(const ChildPlaces<Nodes>& field)
 {
     return field.nodes.empty();
 }
 
 template <class Nodes>
-static bool decode(const JsonValue& value, const ChildPlaces<Nodes>& field)
+bool decode(const JsonValue& value, const ChildPlaces<Nodes>& field)
 {
     if (!value.IsArray())
     {
@@ -44,7 +47,7 @@ static bool decode(const JsonValue& value, const ChildPlaces<Nodes>& field)
 }
 
 template <class Nodes>
-static JsonValue encode(const ChildPlaces<Nodes>& field, JsonAllocator& allocator)
+JsonValue encode(const ChildPlaces<Nodes>& field, JsonAllocator& allocator)
 {
     JsonValue array(rapidjson::kArrayType);
     array.Reserve(static_cast<rapidjson::SizeType>(field.nodes.size()), allocator);
@@ -54,6 +57,8 @@ static JsonValue encode(const ChildPlaces<Nodes>& field, JsonAllocator& allocato
     }
     return array;
 }
+
+} // namespace
 
 template <class Self, class Fields>
 void ExcVisuNode::describe(Self& self, Fields& fields)
