@@ -152,7 +152,7 @@ std::shared_ptr<vrx::ExcPMIAnnotationView> makeView(Noise& noise)
 
 std::shared_ptr<vrx::IExchangeObject> makeDrawing()
 {
-    constexpr std::size_t kViews = 40;
+    constexpr std::size_t kViews = 60;
     Noise noise;
     const auto annotations = std::make_shared<ReadableSet>();
     annotations->setBlockId(1);
