@@ -38,17 +38,16 @@ std::string rectangular(const std::string& baseInstance = {}, const std::string&
 }
 
 const test::ModelRow kPatterns[] = {
-    row<ExcMfgPatternRectangular>("RectangularTellsItsTypeWhateverItReads", R"({"type":"circular"})",
-                                  rectangular().c_str()),
+    row<ExcMfgPatternRectangular>("RectangularTellsItsTypeWhateverItReads", R"({"type":"circular"})", rectangular()),
     row<ExcMfgPatternRectangular>("RectangularOfNumbersOfTheOtherKind",
                                   R"({"primary_inst_count":3.0,"secondary_inst_count":2147483648,"primary_spacing":1})",
-                                  rectangular().c_str()),
+                                  rectangular()),
     row<ExcMfgPatternRectangular>("RectangularOfANullBaseInstance", R"({"base_instance":null})",
-                                  rectangular(R"(,"base_instance":{"is_base":false})").c_str(), {kNoInstance}),
+                                  rectangular(R"(,"base_instance":{"is_base":false})"), {kNoInstance}),
     row<ExcMfgPatternRectangular>(
         "RectangularPairs",
         R"({"visible_instances":[[1,2,3],[1,2.5],["x",2147483648],[1],7,{},[]],"deactivated_instances":[[],[4,5]]})",
-        rectangular({}, R"(,"visible_instances":[[1,2],[1,-1],[-1,-1]],"deactivated_instances":[[4,5]])").c_str(),
+        rectangular({}, R"(,"visible_instances":[[1,2],[1,-1],[-1,-1]],"deactivated_instances":[[4,5]])"),
         {"[WARNING] ExcMfgPatternRectangular: invalid size of visible_instances array item (pair).",
          "[WARNING] ExcMfgPatternRectangular: invalid size of visible_instances array item (pair).",
          "[WARNING] ExcMfgPatternRectangular: invalid size of visible_instances array item (pair).",
@@ -56,7 +55,7 @@ const test::ModelRow kPatterns[] = {
          "[WARNING] ExcMfgPatternRectangular: invalid size of deactivated instances array item (pair)."}),
     row<ExcMfgPatternCircular>(
         "CircularPairs", R"({"visible_instances":[null,[-1,0]],"deactivated_instances":["12",[4]]})",
-        circular(R"(,"visible_instances":[[-1,0]])").c_str(),
+        circular(R"(,"visible_instances":[[-1,0]])"),
         {"[WARNING] ExcMfgPatternCircular: invalid size of visible_instances array item (pair).",
          "[WARNING] ExcMfgPatternCircular: invalid size of deactivated_instances array item (pair).",
          "[WARNING] ExcMfgPatternCircular: invalid size of deactivated_instances array item (pair)."}),
@@ -87,7 +86,7 @@ TEST(MfgPattern, IsMadeByItsType)
         {R"({"type":""})", 3, {}},
         {R"({"type":"none"})", std::nullopt, {}},
         {R"({"type":"unknown"})", std::nullopt, {"[ERROR] ExcMfgPattern: unknown type."}},
-        {R"({"type":2})", std::nullopt, {"[ERROR] ExcMfgPattern should have a type."}},
+        {R"({"type":2,"type":"circular"})", std::nullopt, {"[ERROR] ExcMfgPattern should have a type."}},
         {"{}", std::nullopt, {"[ERROR] ExcMfgPattern should have a type."}},
         {R"(["type"])", std::nullopt, {"[ERROR] ExcMfgPattern object should have a JSON object type."}},
     };
@@ -142,12 +141,11 @@ const std::string kHoleThread = R"({"diameter":0.0,"depth":0.0,"pitch":0.0,"orie
                                 R"("designation_system_type":"unknown","standart":"","min_tol":0.0,"max_tol":0.0})";
 
 const test::ModelRow kHoles[] = {
-    row<ExcMfgCounterSinkHole>(
-        "CounterSinkHoleDefault", "{}",
-        ("{" + kHoleValues + R"(,"diameter":0.0,"max_tol":0.0,"min_tol":0.0,"angle":0.0})").c_str()),
+    row<ExcMfgCounterSinkHole>("CounterSinkHoleDefault", "{}",
+                               "{" + kHoleValues + R"(,"diameter":0.0,"max_tol":0.0,"min_tol":0.0,"angle":0.0})"),
     row<ExcMfgSimpleHole>("HoleOfWrongKinds",
                           R"({"primary_depth":5,"bottom_limit_extent_type":1,"direction":{},"hole_thread":null})",
-                          ("{" + kHoleValues + R"(,"hole_thread":)" + kHoleThread + "}").c_str(),
+                          "{" + kHoleValues + R"(,"hole_thread":)" + kHoleThread + "}",
                           {kNoVector, "[ERROR] ExcMfgHoleThread object should have a JSON object type."}),
 };
 INSTANTIATE_TEST_SUITE_P(Holes, ManufacturingRows, testing::ValuesIn(kHoles), ManufacturingRows::nameOf);
@@ -221,7 +219,7 @@ const char* const kNoFlag = R"({"has_data":false})";
 const test::ModelRow kFeatures[] = {
     row<TaperHole>("HoleTakesNothingFromTheFeature",
                    R"({"id":"i","name":"n","linked_elements":[{}],"pattern":{"type":"circular"},"hole_data":null})",
-                   ("{\"hole_data\":{" + kHoleValues + R"(,"angle":0.0}})").c_str(),
+                   "{\"hole_data\":{" + kHoleValues + R"(,"angle":0.0}})",
                    {"[ERROR] ExcMfgTaperHole object should have a JSON object type."}),
     row<ExcMfgFeatureUnclassified>("FeatureOfThePatternNone", R"({"pattern":{"type":"none"}})", kFeature),
     row<ExcMfgFeatureUnclassified>("FeatureOfAnUnknownPattern", R"({"name":"n","pattern":{"type":"unknown"}})",
@@ -247,9 +245,13 @@ TEST(MfgFeature, LosesItsPatternToOneThatCannotBeRead)
     feature.setPattern(std::make_shared<ExcMfgPatternCircular>());
     test::readText(feature, R"({"pattern":{"type":"none"}})");
     EXPECT_EQ(feature.pattern(), nullptr);
+
+    feature.setPattern(std::make_shared<ExcMfgPatternCircular>());
+    test::readText(feature, "{}");
+    EXPECT_NE(feature.pattern(), nullptr);
 }
 
-TEST(MfgFeature, KeepsTheMembersOfAHoleAtHome)
+TEST(MfgFeature, DoesNotWriteTheMembersOfAHole)
 {
     TaperHole hole;
     hole.setId(WIDE("i"));

@@ -30,7 +30,7 @@ const test::ModelRow kRows[] = {
         "InformationPassesOverWhatIsNoName", R"({"pnames":["b",1,"a",null,"b"]})",
         R"({"pnames":["b","a","b"],"name":"","hidden":false,"line_type":"unknown","line_thickness":0.0})"),
     row<ExcEntityData>("EntityDataDefault", "[]", "[]"),
-    row<ExcEntityData>("EntityDataKeepsItsLength", R"([{"name":"n"},5])", kTwoInformations.c_str(),
+    row<ExcEntityData>("EntityDataKeepsItsLength", R"([{"name":"n"},5])", kTwoInformations,
                        {"[ERROR] ExcTopologicalEntityInformation object should have a JSON object type."}),
 
     row<ExcMappingData>("MappingDefault", "[]", "[]"),

@@ -3,6 +3,8 @@
 #include "tests/support/model_row.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 
+#include <iterator>
+
 using namespace vrx;
 using test::addAllRow;
 using test::addRow;
@@ -179,6 +181,31 @@ TEST_P(AnnotationAdds, RefuseNulls)
 }
 INSTANTIATE_TEST_SUITE_P(Pmi, AnnotationAdds, testing::ValuesIn(kAdds), AnnotationAdds::nameOf);
 
+// An annotation of a type that no class of the library has.
+class OtherAnnotation : public ExcPMIAnnotation
+{
+public:
+    explicit OtherAnnotation(int type)
+        : m_type(type)
+    {
+    }
+    EPMIAnnotationType type() const override { return static_cast<EPMIAnnotationType>(m_type); }
+
+private:
+    int m_type;
+};
+
+TEST(Annotations, WriteTheNamesOfTheirTypes)
+{
+    const char* const names[] = {"unknown", "datum",     "datum_target", "note",      "flag_note",
+                                 "NOA",     "roughness", "GDT",          "dimension", "unknown"};
+    for (int number = 0; number < static_cast<int>(std::size(names)); ++number)
+    {
+        const JsonDocument document = test::parsed(test::written(OtherAnnotation(number)));
+        EXPECT_EQ(document[WIDE("type")].GetString(), test::wide(names[number]));
+    }
+}
+
 TEST(Annotations, HaveTheNumbersOfTheirTypes)
 {
     const auto number = [](const ExcPMIAnnotation& annotation) { return static_cast<int>(annotation.type()); };
@@ -193,7 +220,7 @@ TEST(Annotations, HaveTheNumbersOfTheirTypes)
     EXPECT_EQ(number(note), 3);
 }
 
-TEST(Annotations, KeepTheirNamesAtHome)
+TEST(Annotations, NeitherWriteNorReadTheirNames)
 {
     ExcPMINote note;
     note.setName(WIDE("n"));

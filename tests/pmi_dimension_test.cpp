@@ -242,7 +242,7 @@ TEST(Dimension, WritesItsFakeValuesByTheirFlagsAlone)
     EXPECT_EQ(sent.fakeAlphanumericalValue(), WIDE("f"));
 }
 
-TEST(Dimension, KeepsItsKindOfCalloutAtHome)
+TEST(Dimension, NeitherWritesNorReadsItsKindOfCallout)
 {
     using ECallout = ExcPMIDimension::ECalloutFeatureAnnotationType;
     ExcPMIDimension dimension;

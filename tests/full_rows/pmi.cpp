@@ -10,6 +10,16 @@ namespace test
 namespace
 {
 
+// Bases, to be read and written by themselves.
+struct BareObject : public ExcPMIObject
+{
+};
+
+struct BareAnnotation : public ExcPMIAnnotation
+{
+    EPMIAnnotationType type() const override { return EPMIAnnotationType::Unknown; }
+};
+
 const std::string kLeader = R"({"points":[[1.5,2.5],[3.5,4.5]]})";
 
 // An annotation with the keys of its class.
@@ -17,7 +27,7 @@ std::string annotation(const std::string& type, const std::string& keys)
 {
     return R"({"type":")" + type +
            R"(","position":[1.5,2.5],"orientation":"dim_angle","angle":0.5,"z_depth":3.5,"linked_elements":[)" +
-           kEntityText + R"(],"leaders":[)" + kLeader + "]," + keys + "}";
+           kEntityText + R"(],"leaders":[)" + kLeader + "]" + (keys.empty() ? "" : ",") + keys + "}";
 }
 
 // What is written of a class that does not take the keys of its base back.
@@ -113,6 +123,8 @@ std::vector<FullRow> pmiRows()
     const FullRow::Keys kType = {"type"};
     const FullRow::Keys kBase = {"type", "position", "orientation", "z_depth", "linked_elements", "leaders"};
     return {
+        fullRow<BareObject>("ExcPMIObject", R"({"name":"n","id":"i","hidden":true})"),
+        fullRow<BareAnnotation>("ExcPMIAnnotation", annotation("unknown", "")).governedBy({"orientation"}).fixes(kType),
         fullRow<ExcPMILeader>("ExcPMILeader", kLeader).appends({"points"}),
         fullRow<ExcPMINote::Text>("ExcPMINote::Text", kText),
         fullRow<ExcPMINote>("ExcPMINote", kNote).governedBy({"orientation"}).fixes(kType),

@@ -62,6 +62,7 @@ template <class E>
 std::vector<std::shared_ptr<E>> objectsOf(const std::vector<bool>& flags)
 {
     std::vector<std::shared_ptr<E>> objects;
+    objects.reserve(flags.size());
     for (const bool there : flags)
     {
         objects.push_back(there ? std::make_shared<E>() : nullptr);

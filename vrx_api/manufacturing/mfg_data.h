@@ -10,7 +10,7 @@
 namespace vrx
 {
 
-/// All machined features of a block, as its `ExcBlockMechanicalData` holds them: one list a kind. Copies share the
+/// All machined features of a block, as its `ExcBlockMechanicalData` holds them: one list per kind. Copies share the
 /// features.
 class VRX_API ExcMfgData : public IJsonObject
 {

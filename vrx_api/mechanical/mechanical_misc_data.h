@@ -53,10 +53,10 @@ private:
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 
-    ExcMiscData m_miscData;
     std::vector<std::shared_ptr<ExcMiscWCS>> m_worldCoordinateSystems;
     std::vector<std::shared_ptr<ExcMiscLayer>> m_layers;
     std::vector<std::shared_ptr<ExcMiscLayerFilter>> m_layerFilters;
+    ExcMiscData m_miscData;
     std::vector<std::shared_ptr<ExcMiscMaterial>> m_materials;
     std::vector<std::shared_ptr<ExcMiscNoteParameters>> m_noteParameters;
     std::vector<std::shared_ptr<ExcMiscSymmetry>> m_symmetries;

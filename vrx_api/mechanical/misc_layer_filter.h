@@ -8,7 +8,7 @@
 namespace vrx
 {
 
-/// A layer filter of a model: a named choice of layers, of which one is in use.
+/// A layer filter of a model: a named choice of layers. The current filter is the one in use.
 class VRX_API ExcMiscLayerFilter : public IJsonObject
 {
 public:

@@ -126,7 +126,7 @@ public:
     ESubType subType() const { return m_subType; }
     void setSubType(ESubType type) { m_subType = type; }
 
-    /// Does not cross: 1 in a dimension that was read.
+    /// Does not cross: 1 in a fresh dimension.
     ECalloutFeatureAnnotationType calloutFeatureAnnotationType() const { return m_calloutFeatureAnnotationType; }
     void setCalloutFeatureAnnotationType(ECalloutFeatureAnnotationType type) { m_calloutFeatureAnnotationType = type; }
 
@@ -141,7 +141,7 @@ public:
     EDimUnit unit() const { return m_unit; }
     void setUnit(EDimUnit unit) { m_unit = unit; }
 
-    /// How finely the value is shown, such as 0.01 for two decimal places. The library only carries the number.
+    /// How finely the value is shown. Whether it is a step or a number of places is agreed between the two programs.
     double valuePrecision() const { return m_valuePrecision; }
     void setValuePrecision(double precision) { m_valuePrecision = precision; }
 
@@ -149,7 +149,7 @@ public:
     double tolerancePrecisionValue() const { return m_tolerancePrecisionValue; }
     void setTolerancePrecisionValue(double precision) { m_tolerancePrecisionValue = precision; }
 
-    /// The deviations from the value that are allowed: shown behind it, the upper one above the lower one.
+    /// The deviations from the value that are allowed: shown after it, the upper one above the lower one.
     double numericalToleranceUpper() const { return m_numericalToleranceUpper; }
     void setNumericalToleranceUpper(double tolerance) { m_numericalToleranceUpper = tolerance; }
     double numericalToleranceLower() const { return m_numericalToleranceLower; }
@@ -165,7 +165,7 @@ public:
     const wstring& prefix() const { return m_prefix; }
     void setPrefix(const wstring& text) { m_prefix = text; }
 
-    /// Directly behind the value.
+    /// Directly after the value.
     const wstring& suffix() const { return m_suffix; }
     void setSuffix(const wstring& text) { m_suffix = text; }
 
@@ -173,7 +173,7 @@ public:
     const wstring& before() const { return m_before; }
     void setBefore(const wstring& text) { m_before = text; }
 
-    /// Behind the value, its suffix and its tolerances.
+    /// After the value, its suffix and its tolerances.
     const wstring& after() const { return m_after; }
     void setAfter(const wstring& text) { m_after = text; }
 
@@ -219,7 +219,7 @@ public:
     EArrowSymbol arrowSymbolEnd() const { return m_arrowSymbolEnd; }
     void setArrowSymbolEnd(EArrowSymbol symbol) { m_arrowSymbolEnd = symbol; }
 
-    /// True when the symbols stand outside of the measured length and point inwards.
+    /// True when the symbols stand outside of the measured length.
     bool isSymbolOutside() const { return m_symbolOutside; }
     void setSymbolOutside(bool outside) { m_symbolOutside = outside; }
 
