@@ -68,7 +68,10 @@ std::string dimension(const Keys& keys, const std::string& changedKey = "", cons
     for (const auto& [key, value] : keys)
     {
         const std::string& written = key == changedKey ? changed : value;
-        text += written.empty() ? "" : ",\"" + key + "\":" + written;
+        if (!written.empty())
+        {
+            text.append(",\"").append(key).append("\":").append(written);
+        }
     }
     return text + "}";
 }
@@ -77,13 +80,13 @@ std::string dimension(const Keys& keys, const std::string& changedKey = "", cons
 test::ModelRow filledRow(const char* name, const std::string& key, const std::string& in, const std::string& out,
                          std::vector<std::string> log = {})
 {
-    return row<FilledDimension>(name, ("{\"" + key + "\":" + in + "}"), dimension(kFilled, key, out), std::move(log));
+    return row<FilledDimension>(name, "{\"" + key + "\":" + in + "}", dimension(kFilled, key, out), std::move(log));
 }
 
 // The same for one that says that the size of an array is wrong, and keeps what it has.
 test::ModelRow wrongSizeRow(const char* name, const std::string& key, const std::string& in)
 {
-    return row<FilledDimension>(name, ("{\"" + key + "\":" + in + "}"), dimension(kFilled),
+    return row<FilledDimension>(name, "{\"" + key + "\":" + in + "}", dimension(kFilled),
                                 {"[WARNING] ExcPMIDimension: invalid size of " + key + " array."});
 }
 
