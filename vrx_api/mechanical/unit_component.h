@@ -41,9 +41,10 @@ private:
     T m_units = T::Unknown;
 };
 
-extern template class ExcUnitComponent<EMassUnitType>;
-extern template class ExcUnitComponent<ELengthUnitType>;
-extern template class ExcUnitComponent<ETimeUnitType>;
-extern template class ExcUnitComponent<ETemperatureUnitType>;
+// With their own export: Clang hides a class whose argument is hidden, and an enumeration can't be exported.
+extern template class VRX_API ExcUnitComponent<EMassUnitType>;
+extern template class VRX_API ExcUnitComponent<ELengthUnitType>;
+extern template class VRX_API ExcUnitComponent<ETimeUnitType>;
+extern template class VRX_API ExcUnitComponent<ETemperatureUnitType>;
 
 } // namespace vrx
