@@ -7,18 +7,14 @@ if(MSVC)
     target_compile_options(vrx_api_warnings INTERFACE
         /W4 /permissive- /utf-8 /Zc:__cplusplus
         # Members of standard types in exported classes: host and translator are built with one runtime.
-        /wd4251 /wd4275
-        # Exported class templates are instantiated in their sources, and declared so in their headers.
-        /wd4910)
+        /wd4251 /wd4275)
 else()
     target_compile_options(vrx_api_warnings INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast
         -Woverloaded-virtual -Wcast-qual)
     if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
         target_compile_options(vrx_api_warnings INTERFACE
-            -Wreserved-identifier -Wreserved-macro-identifier -Wzero-as-null-pointer-constant
-            # The description of a base without its line "extern template"
-            -Wundefined-func-template)
+            -Wreserved-identifier -Wreserved-macro-identifier -Wzero-as-null-pointer-constant)
     endif()
 endif()
 

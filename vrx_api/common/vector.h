@@ -32,9 +32,6 @@ protected:
     std::array<double, N> m_components{};
 };
 
-extern template class ExcVectorBase<2>;
-extern template class ExcVectorBase<3>;
-
 /// A point or a direction in a plane: x and y.
 class VRX_API ExcVector2d : public ExcVectorBase<2>
 {

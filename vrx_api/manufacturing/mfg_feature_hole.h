@@ -61,10 +61,4 @@ private:
     std::shared_ptr<T> m_holeData;
 };
 
-extern template class ExcMfgFeatureHoleType<ExcMfgSimpleHole>;
-extern template class ExcMfgFeatureHoleType<ExcMfgTaperHole>;
-extern template class ExcMfgFeatureHoleType<ExcMfgCounterBoreHole>;
-extern template class ExcMfgFeatureHoleType<ExcMfgCounterSinkHole>;
-extern template class ExcMfgFeatureHoleType<ExcMfgCounterDrillHole>;
-
 } // namespace vrx

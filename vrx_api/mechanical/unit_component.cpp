@@ -26,10 +26,11 @@ void ExcUnitComponent<T>::writeObject(JsonValue& value, JsonAllocator& allocator
     writeFields(*this, value, allocator);
 }
 
-// With each class come the walks over its description.
-template class ExcUnitComponent<EMassUnitType>;
-template class ExcUnitComponent<ELengthUnitType>;
-template class ExcUnitComponent<ETimeUnitType>;
-template class ExcUnitComponent<ETemperatureUnitType>;
+// With each class come the walks over its description. They are exported by themselves: Clang hides a class whose
+// argument is hidden, as an enumeration is.
+template class VRX_API ExcUnitComponent<EMassUnitType>;
+template class VRX_API ExcUnitComponent<ELengthUnitType>;
+template class VRX_API ExcUnitComponent<ETimeUnitType>;
+template class VRX_API ExcUnitComponent<ETemperatureUnitType>;
 
 } // namespace vrx

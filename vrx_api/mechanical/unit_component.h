@@ -41,10 +41,4 @@ private:
     T m_units = T::Unknown;
 };
 
-// With their own export: Clang hides a class whose argument is hidden, and an enumeration can't be exported.
-extern template class VRX_API ExcUnitComponent<EMassUnitType>;
-extern template class VRX_API ExcUnitComponent<ELengthUnitType>;
-extern template class VRX_API ExcUnitComponent<ETimeUnitType>;
-extern template class VRX_API ExcUnitComponent<ETemperatureUnitType>;
-
 } // namespace vrx
