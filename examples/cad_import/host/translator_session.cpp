@@ -1,0 +1,197 @@
+#include "translator_session.h"
+
+#include "common/framing.h"
+#include "common/shared_buffers.h"
+#include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/json_value.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace
+{
+
+bool hasKey(const mp::wstring& text, const mp::wchar* key)
+{
+    mp::wstringstream stream(text);
+    vrx::JsonDocument document;
+    vrx::JsonTextIO::read(stream, document);
+    return document.IsObject() && document.HasMember(key);
+}
+
+bool isEnvelope(const mp::wstring& text)
+{
+    return hasKey(text, WIDE("exchange_object_name"));
+}
+
+void handOn(const std::shared_ptr<vrx::IExchangeObject>& object, ImportListener& listener)
+{
+    if (const auto progress = std::dynamic_pointer_cast<vrx::ExcProgress>(object))
+    {
+        listener.onProgress(*progress);
+    }
+    else if (const auto message = std::dynamic_pointer_cast<vrx::ExcMessage>(object))
+    {
+        listener.onMessage(message->get());
+    }
+    else if (const auto log = std::dynamic_pointer_cast<vrx::ExcLog>(object))
+    {
+        listener.onLog(log->get());
+    }
+    else if (const auto stage = std::dynamic_pointer_cast<vrx::ExcStageFinished>(object))
+    {
+        listener.onStage(stage->stage());
+    }
+    else
+    {
+        listener.onObject(object);
+    }
+}
+
+std::shared_ptr<vrx::IExchangeObject> loadFirst(ReceivedObjects& waiting)
+{
+    try
+    {
+        return waiting.loadFirst();
+    }
+    catch (const std::exception& failure)
+    {
+        throw TranslatorFailure(std::string("What the translator sent can not be loaded: ") + failure.what());
+    }
+}
+
+// One after the other, so that no more than one of the large objects is in memory that the listener doesn't keep.
+void loadAll(ReceivedObjects& waiting, ImportListener& listener)
+{
+    waiting.keep([&listener](const vrx::IExchangeObject& object) { return listener.wants(object); });
+    vrx::ExcProgress progress;
+    progress.setStage(WIDE("Taking over the model"));
+    progress.setProgressMax(static_cast<std::int32_t>(waiting.count()));
+    for (std::int32_t done = 0; waiting.count() > 0; ++done)
+    {
+        if (ChildProcess::wasInterrupted())
+        {
+            throw TranslatorFailure("The import was interrupted.");
+        }
+        progress.setProgress(done);
+        listener.onProgress(progress);
+        handOn(loadFirst(waiting), listener);
+    }
+}
+
+void open(const mp::wstring& envelope, ReceivedObjects& waiting, ImportListener& listener)
+{
+    vrx::ExchangeObjectWrapper wrapper;
+    wrapper.setDelayedLoading(true);
+    framing::fromText(envelope, wrapper);
+
+    const mp::wstring buffer = shared_buffers::nameIn(envelope);
+    if (!wrapper.get())
+    {
+        // A newer translator may send what we do not know.
+        if (!buffer.empty())
+        {
+            shared_buffers::remove(buffer);
+        }
+    }
+    else if (buffer.empty())
+    {
+        handOn(wrapper.get(), listener);
+    }
+    else
+    {
+        waiting.add(wrapper.get(), buffer);
+    }
+}
+
+template <class Message>
+Message parsed(const mp::wstring& text, const char* what)
+{
+    Message message;
+    try
+    {
+        framing::fromText(text, message);
+    }
+    catch (const std::invalid_argument& failure)
+    {
+        throw TranslatorFailure(std::string("The translator sent no ") + what + ": " + failure.what());
+    }
+    return message;
+}
+
+} // namespace
+
+TranslatorSession::TranslatorSession(const std::string& program)
+    : m_translator(program)
+{
+    m_translator.takeInterrupts();
+}
+
+vrx::FerrantInfo TranslatorSession::info()
+{
+    vrx::Command command;
+    command.setType(vrx::Command::EType::Info);
+    send(command);
+    return parsed<vrx::FerrantInfo>(receive(), "description of itself");
+}
+
+vrx::Result TranslatorSession::ping()
+{
+    vrx::Command command;
+    command.setType(vrx::Command::EType::Ping);
+    send(command);
+    return parsed<vrx::Result>(receive(), "result");
+}
+
+vrx::Result TranslatorSession::import(const std::shared_ptr<vrx::ImportOptions>& options, ImportListener& listener)
+{
+    vrx::Command command;
+    command.setType(vrx::Command::EType::Import);
+    command.setImportOptions(options);
+    send(command);
+
+    ReceivedObjects waiting;
+    mp::wstring text = receive();
+    while (isEnvelope(text))
+    {
+        open(text, waiting, listener);
+        text = receive();
+    }
+    auto result = parsed<vrx::Result>(text, "result");
+    if (result.code() == vrx::Result::ECode::Ok || result.code() == vrx::Result::ECode::Warning)
+    {
+        loadAll(waiting, listener);
+    }
+    return result;
+}
+
+void TranslatorSession::send(const vrx::Command& command)
+{
+    try
+    {
+        framing::write(m_translator.input(), framing::toText(command));
+    }
+    catch (const std::runtime_error&)
+    {
+        throw TranslatorFailure("The translator does not take commands: " + m_translator.end() + ".");
+    }
+}
+
+mp::wstring TranslatorSession::receive()
+{
+    std::optional<mp::wstring> text;
+    std::string reason;
+    try
+    {
+        text = framing::read(m_translator.output());
+    }
+    catch (const std::runtime_error& failure)
+    {
+        reason = std::string(", ") + failure.what();
+    }
+    if (!text)
+    {
+        throw TranslatorFailure("The translator died: " + m_translator.end() + reason + ".");
+    }
+    return *text;
+}

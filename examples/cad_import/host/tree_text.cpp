@@ -1,0 +1,187 @@
+#include "common/property_names.h"
+#include "printable.h"
+#include "product_tree.h"
+#include "tree_output.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <ostream>
+#include <set>
+#include <sstream>
+#include <string>
+
+namespace
+{
+
+std::string counted(const std::string& count, const char* singular, const char* plural)
+{
+    return count + ' ' + (count == "1" ? singular : plural);
+}
+
+std::string property(const vrx::ExcMiscData& data, const mp::wchar* name)
+{
+    for (const vrx::ExcMiscProperty& property : data.properties())
+    {
+        if (property.name() == name)
+        {
+            return printable(property.value());
+        }
+    }
+    return {};
+}
+
+std::string partNote(const vrx::ExcBlock& block)
+{
+    std::string note = "part";
+    const char* separator = ": ";
+    const auto append = [&](const std::string& text) {
+        note += separator + text;
+        separator = ", ";
+    };
+    const std::string solids = property(block.miscData(), property_names::kSolids);
+    const std::string shells = property(block.miscData(), property_names::kShells);
+    const std::string faces = property(block.miscData(), property_names::kFaces);
+    const std::string material = property(block.miscData(), property_names::kMaterial);
+    if (!solids.empty() && solids != "0")
+    {
+        append(counted(solids, "solid", "solids"));
+    }
+    if (!shells.empty() && shells != "0")
+    {
+        append(counted(shells, "open shell", "open shells"));
+    }
+    if (!faces.empty())
+    {
+        append(counted(faces, "face", "faces"));
+    }
+    if (!material.empty())
+    {
+        append("material " + material);
+    }
+    return note;
+}
+
+std::string note(const ProductTreeNode& node)
+{
+    switch (node.state)
+    {
+    case ProductTreeNode::EState::MissingBlock:
+        return "no block with id " + std::to_string(node.references.front()->blockId());
+    case ProductTreeNode::EState::Recursion:
+        return "holds itself";
+    case ProductTreeNode::EState::Normal:
+        break;
+    }
+    if (node.block->isPart())
+    {
+        return partNote(*node.block);
+    }
+    return "assembly: " + counted(std::to_string(node.block->blockReferences().size()), "component", "components");
+}
+
+std::string colorText(const vrx::ExcColor& color)
+{
+    std::ostringstream stream;
+    stream << '#' << std::hex << std::setfill('0');
+    for (const auto channel : {vrx::ExcColor::ChannelRed, vrx::ExcColor::ChannelGreen, vrx::ExcColor::ChannelBlue})
+    {
+        stream << std::setw(2) << color[channel];
+    }
+    if (color.hasAlpha())
+    {
+        stream << std::setw(2) << color[vrx::ExcColor::ChannelAlpha];
+    }
+    return stream.str();
+}
+
+std::string names(const ProductTreeNode& node)
+{
+    const std::string first = printable(node.references.front()->name());
+    const std::string last = printable(node.references.back()->name());
+    return node.references.size() == 1 || first == last ? first : first + " .. " + last;
+}
+
+std::string line(const ProductTreeNode& node)
+{
+    const vrx::ExcBlockReference& reference = *node.references.front();
+    std::string text = names(node);
+    if (node.block)
+    {
+        text += " (" + printable(node.block->name()) + ')';
+    }
+    if (node.references.size() > 1)
+    {
+        text += " x" + std::to_string(node.references.size());
+    }
+    if (reference.color().hasRGB())
+    {
+        text += ' ' + colorText(reference.color());
+    }
+    if (reference.isHidden())
+    {
+        text += " hidden";
+    }
+    if (reference.isSuppressed())
+    {
+        text += " suppressed";
+    }
+    return text + " [" + note(node) + ']';
+}
+
+void printProperties(std::ostream& stream, const vrx::ExcMiscData& data, const std::string& indent)
+{
+    for (const vrx::ExcMiscProperty& property : data.properties())
+    {
+        stream << indent << "- " << printable(property.name()) << ": " << printable(property.value()) << '\n';
+    }
+}
+
+void printSummary(std::ostream& stream, const vrx::ExcProductStructure& structure,
+                  const std::vector<ProductTreeNode>& tree)
+{
+    const auto parts = std::count_if(structure.blocks().begin(), structure.blocks().end(),
+                                     [](const auto& block) { return block->isPart(); });
+    // How often the line being looked at stands in the whole product: the counts of the lines above it, multiplied.
+    std::vector<std::size_t> times;
+    std::size_t instances = 0;
+    std::size_t depth = 0;
+    for (const ProductTreeNode& node : tree)
+    {
+        times.resize(node.depth);
+        times.push_back(node.references.size() * (times.empty() ? 1 : times.back()));
+        depth = std::max(depth, node.depth + 1);
+        if (node.block && node.block->isPart())
+        {
+            instances += times.back();
+        }
+    }
+    const auto text = [](std::size_t count) { return std::to_string(count); };
+    stream << counted(text(structure.blocks().size()), "block", "blocks") << " ("
+           << counted(std::to_string(parts), "part", "parts") << "), "
+           << counted(text(instances), "instance", "instances") << " of parts, "
+           << counted(text(depth), "level", "levels") << '\n';
+}
+
+} // namespace
+
+void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, bool properties)
+{
+    const std::vector<ProductTreeNode> tree = productTree(structure, ESiblings::Collapsed);
+    stream << "product " << printable(structure.productName()) << ", units "
+           << printable(vrx::enumToString(structure.units())) << '\n';
+    if (properties)
+    {
+        printProperties(stream, structure.miscData(), "  ");
+    }
+    std::set<const vrx::ExcBlock*> described;
+    for (const ProductTreeNode& node : tree)
+    {
+        const std::string indent(2 * node.depth, ' ');
+        stream << indent << line(node) << '\n';
+        if (properties && node.block && described.insert(node.block).second)
+        {
+            printProperties(stream, node.block->miscData(), indent + "    ");
+        }
+    }
+    printSummary(stream, structure, tree);
+}

@@ -1,0 +1,236 @@
+#include "common/scene_conventions.h"
+#include "host/scene_json.h"
+#include "host/translator_session.h"
+#include "mp/narrow.h"
+#include "vrx_api/json/json_value.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <rapidjson/document.h>
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+rapidjson::Document parsed(const std::string& json)
+{
+    rapidjson::Document document;
+    document.Parse(json.c_str());
+    EXPECT_FALSE(document.HasParseError()) << json;
+    return document;
+}
+
+std::shared_ptr<vrx::ExcVisuNode> meshNode(const std::vector<vrx::ExcVisuFace::Polygon>& polygons)
+{
+    const auto face = std::make_shared<vrx::ExcVisuFace>();
+    face->setId(WIDE("f0"));
+    face->setVertices(std::vector<float>{0, 0, 0, 1, 0, 0, 0, 1, 0});
+    face->setPolygons(polygons);
+    auto node = std::make_shared<vrx::ExcVisuNode>();
+    node->setMesh(std::make_shared<vrx::ExcVisuMesh>());
+    node->mesh()->addFace(face);
+    return node;
+}
+
+vrx::ExcVisualizationData sceneOf(const std::shared_ptr<vrx::ExcVisuNode>& root)
+{
+    vrx::ExcVisualizationData scene;
+    scene.addSceneRootNode(root);
+    return scene;
+}
+
+TEST(Scene, LeavesOutWhatDoesNotFitTogether)
+{
+    const std::int32_t triangle = scene_conventions::kTriangle;
+    const auto root = meshNode({{triangle, {0, 1, 2}},
+                                {triangle, {0, 1, 3}},
+                                {triangle, {0, -1, 2}},
+                                {triangle, {0, 1}},
+                                {triangle + 1, {0, 1, 2}}});
+    const auto edge = std::make_shared<vrx::ExcVisuEdge>();
+    edge->setPoints(std::vector<float>{0, 0, 0, 1, 0, 0});
+    edge->setLineIndices(std::vector<std::int32_t>{0, 7});
+    edge->setLineType(vrx::ExcVisuEdge::ELineType::LineStrip);
+    root->mesh()->addEdge(edge);
+
+    const rapidjson::Document shape = parsed(scene_json::shape(sceneOf(root)));
+    EXPECT_EQ(shape["faces"][0]["triangles"].GetInt(), 1);
+    EXPECT_STREQ(shape["triangles"].GetString(), "AAAAAAEAAAACAAAA"); // 0, 1, 2
+    EXPECT_STREQ(shape["segments"].GetString(), "");
+}
+
+TEST(Scene, PlacesAndColoursByTheNodesAbove)
+{
+    const auto root = std::make_shared<vrx::ExcVisuNode>();
+    root->setTransformation(std::make_shared<vrx::ExcTransformation>());
+    root->transformation()->translation().set(1, 0, 0);
+    const auto group = std::make_shared<vrx::ExcVisuNode>();
+    group->setTransformation(std::make_shared<vrx::ExcTransformation>());
+    group->transformation()->affine()[0].set(0, -1, 0); // a quarter turn around z
+    group->transformation()->affine()[1].set(1, 0, 0);
+    group->setAttributes(std::make_shared<vrx::ExcVisuAttributes>());
+    group->attributes()->setColor(
+        std::make_shared<vrx::ExcColor>(std::uint16_t{1}, std::uint16_t{2}, std::uint16_t{3}));
+    group->addChildNode(meshNode({}));
+    root->addChildNode(group);
+    const auto hidden = meshNode({});
+    hidden->setAttributes(std::make_shared<vrx::ExcVisuAttributes>());
+    hidden->attributes()->setHidden(true);
+    root->addChildNode(hidden);
+
+    const rapidjson::Document shape = parsed(scene_json::shape(sceneOf(root)));
+    ASSERT_EQ(shape["meshes"].Size(), 1U);
+    EXPECT_EQ(shape["meshes"][0]["color"][1].GetInt(), 2);
+    // (1, 0, 0), (1, 1, 0), (0, 0, 0)
+    EXPECT_STREQ(shape["positions"].GetString(), "AACAPwAAAAAAAAAAAACAPwAAgD8AAAAAAAAAAAAAAAAAAAAA");
+}
+
+TEST(Scene, ShowsACaptureInsteadOfItsView)
+{
+    vrx::ExcVisualizationData scene;
+    const auto capture = std::make_shared<vrx::ExcVisuCapture>();
+    capture->setDisplayName(WIDE("front"));
+    scene.addCapture(capture);
+    for (const mp::wchar* name : {WIDE("front"), WIDE("top")})
+    {
+        const auto view = std::make_shared<vrx::ExcVisuView>();
+        view->setDisplayName(name);
+        view->setDirectionU({1, 0, 0});
+        view->setDirectionV({0, 1, 0});
+        scene.addView(view);
+    }
+    const rapidjson::Document views = parsed(scene_json::views(scene));
+    ASSERT_EQ(views.Size(), 2U);
+    EXPECT_STREQ(views[1]["name"].GetString(), "top");
+    EXPECT_EQ(views[1]["camera"]["eye"][2].GetDouble(), 1); // before the plane
+}
+
+// Keeps what a translator sends of a file.
+class Keeper : public ImportListener
+{
+public:
+    void onProgress(const vrx::ExcProgress&) override {}
+    void onMessage(const mp::wstring&) override {}
+    void onLog(const mp::wstring&) override {}
+    void onStage(vrx::ExcStageFinished::EStage) override {}
+    void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
+    {
+        if (const auto scene = std::dynamic_pointer_cast<vrx::ExcBlockVisualization>(object))
+        {
+            scenes[scene->blockId()] = scene;
+        }
+        if (const auto scene = std::dynamic_pointer_cast<vrx::ExcRootAssemblyVisualization>(object))
+        {
+            root = scene;
+        }
+        if (const auto structure = std::dynamic_pointer_cast<vrx::ExcProductStructure>(object))
+        {
+            product = structure;
+        }
+    }
+
+    std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockVisualization>> scenes;
+    std::shared_ptr<vrx::ExcRootAssemblyVisualization> root;
+    std::shared_ptr<vrx::ExcProductStructure> product;
+};
+
+double triangleNormalDotVertexNormal(const vrx::ExcVisuFace& face, const vrx::ExcVisuFace::Polygon& triangle)
+{
+    std::array<std::array<double, 3>, 3> points{};
+    double product = 0;
+    for (std::size_t corner = 0; corner < 3; ++corner)
+    {
+        for (std::size_t i = 0; i < 3; ++i)
+        {
+            points[corner][i] =
+                static_cast<double>(face.vertices()[static_cast<std::size_t>(triangle.indices[corner]) * 3 + i]);
+        }
+    }
+    for (std::size_t i = 0; i < 3; ++i)
+    {
+        const std::size_t j = (i + 1) % 3;
+        const std::size_t k = (i + 2) % 3;
+        const double normal = (points[1][j] - points[0][j]) * (points[2][k] - points[0][k]) -
+                              (points[1][k] - points[0][k]) * (points[2][j] - points[0][j]);
+        product += normal * static_cast<double>(face.normals()[static_cast<std::size_t>(triangle.indices[0]) * 3 + i]);
+    }
+    return product;
+}
+
+TEST(Scene, EachPartOfTheAssemblyHasFacesThatTheModelCanPointAt)
+{
+    const auto options = vrx::Command::newImportOptions();
+    options->setFile(mp::toWide(BENCH_VISE));
+    Keeper keeper;
+    TranslatorSession session(CAD_TRANSLATOR);
+    ASSERT_EQ(session.import(options, keeper).code(), vrx::Result::ECode::Ok);
+    for (const auto& block : keeper.product->blocks())
+    {
+        ASSERT_EQ(keeper.scenes.count(block->id()), block->isPart() ? 1U : 0U) << mp::toNarrow(block->name());
+        if (!block->isPart())
+        {
+            continue;
+        }
+        const vrx::ExcVisualizationData& scene = *keeper.scenes[block->id()]->visualizationData();
+        EXPECT_EQ(scene.units(), keeper.product->units());
+        const auto meshes = scene.sceneRootNodes().at(0)->childNodes().at(0)->childNodes().at(0);
+        ASSERT_EQ(meshes->type(), vrx::ExcVisuNode::EType::MESHES);
+        const vrx::ExcVisuMesh& mesh = *meshes->childNodes().at(0)->mesh();
+        EXPECT_FALSE(mesh.edges().empty());
+        int position = 0;
+        for (const auto& face : mesh.faces())
+        {
+            EXPECT_EQ(mp::toNarrow(face->id()), "f" + std::to_string(position++));
+            ASSERT_EQ(face->normals().size(), face->vertices().size());
+            int turned = 0;
+            for (const vrx::ExcVisuFace::Polygon& triangle : face->polygons())
+            {
+                turned += triangleNormalDotVertexNormal(*face, triangle) < -1e-6 ? 1 : 0;
+            }
+            EXPECT_EQ(turned, 0) << "of " << face->polygons().size() << " triangles of "
+                                 << mp::toNarrow(block->name() + WIDE(" ") + face->id());
+        }
+    }
+}
+
+TEST(Scene, DrawsANoteOfSeveralSetsWhereItIsMovedTo)
+{
+    const auto options = vrx::Command::newImportOptions();
+    options->setFile(mp::toWide(MOVED_NOTE));
+    Keeper keeper;
+    TranslatorSession session(CAD_TRANSLATOR);
+    ASSERT_EQ(session.import(options, keeper).code(), vrx::Result::ECode::Ok);
+    ASSERT_NE(keeper.root, nullptr);
+    const vrx::ExcVisualizationData& scene = *keeper.root->visualizationData();
+    const auto node = scene.sceneRootNodes().at(0)->childNodes().at(0)->childNodes().at(0)->childNodes().at(0);
+    EXPECT_EQ(node->type(), vrx::ExcVisuNode::EType::NOTE);
+    ASSERT_NE(node->pmi(), nullptr);
+    EXPECT_EQ(node->pmi()->displayName(), WIDE("note"));
+    EXPECT_THAT(scene.views().at(0)->annotationIds(), testing::ElementsAre(node->pmi()->id()));
+    std::vector<std::vector<float>> lines;
+    for (const auto& edge : node->pmi()->edges())
+    {
+        lines.push_back(edge->points());
+    }
+    const auto inches = [](const std::vector<float>& numbers) {
+        std::vector<testing::Matcher<float>> near;
+        near.reserve(numbers.size());
+        for (const float number : numbers)
+        {
+            near.push_back(testing::FloatNear(number * 25.4F, 1e-4F));
+        }
+        return testing::ElementsAreArray(near);
+    };
+    // The leader, the letter, and the outline of the full stop.
+    EXPECT_THAT(lines, testing::ElementsAre(inches({1, 2, 3, 2, 2, 3, 2, 2, 4}), inches({1, 2, 4, 1, 2, 5}),
+                                            inches({4, 2, 3, 5, 2, 3, 5, 2, 4, 4, 2, 4, 4, 2, 3})));
+}
+
+} // namespace

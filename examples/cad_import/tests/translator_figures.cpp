@@ -1,0 +1,62 @@
+// Prints what a translator measures of the bodies of a file before it sends them, on standard error:
+// cad_translator_figures <file>
+
+#include "bodies/block_bodies.h"
+#include "host_channel.h"
+#include "import_progress.h"
+#include "reading/step_reader.h"
+#include "structure/product_structure_builder.h"
+
+#include <XCAFDoc_ShapeTool.hxx>
+
+#include <exception>
+#include <iostream>
+
+namespace
+{
+
+// What is sent while a file is read is for no one here.
+class SilentChannel : public HostChannel
+{
+public:
+    using HostChannel::send;
+    void send(const std::shared_ptr<vrx::IExchangeObject>&) override {}
+};
+
+void printFigures(const std::string& path)
+{
+    SilentChannel channel;
+    ImportProgress progress(channel);
+    const StepModel model = readStep(path, {}, channel, progress);
+    ProductStructureBuilder builder(model);
+    for (const std::shared_ptr<vrx::ExcBlock>& block : builder.build()->blocks())
+    {
+        const TopoDS_Shape shape = block->isPart()
+                                       ? XCAFDoc_ShapeTool::GetShape(builder.blocks()(static_cast<int>(block->id())))
+                                       : TopoDS_Shape();
+        for (const std::string& line : figuresOfBodies(*block, shape))
+        {
+            std::cerr << line << '\n';
+        }
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 2)
+    {
+        return 2;
+    }
+    try
+    {
+        printFigures(argv[1]);
+    }
+    catch (const std::exception& failure)
+    {
+        std::cerr << "cad_translator_figures: " << failure.what() << '\n';
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,71 @@
+#include "common/framing.h"
+#include "host/translator_session.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace
+{
+
+vrx::Result answer(ChildProcess& translator, const mp::wstring& command)
+{
+    framing::write(translator.input(), command);
+    vrx::Result result;
+    framing::fromText(framing::read(translator.output()).value(), result);
+    return result;
+}
+
+TEST(Translator, TellsWhatItReads)
+{
+    TranslatorSession session(CAD_TRANSLATOR);
+    const vrx::FerrantInfo info = session.info();
+    EXPECT_EQ(info.name(), WIDE("cad_translator"));
+    EXPECT_EQ(info.requestedInterface(), vrx::EFerrantInterface::UConnect);
+    ASSERT_EQ(info.thirdpartyCores().size(), 1U);
+    EXPECT_EQ(info.thirdpartyCores()[0]->name(), WIDE("Open CASCADE Technology"));
+    ASSERT_EQ(info.importFormats().size(), 1U);
+    EXPECT_TRUE(info.importFormats()[0]->is(WIDE("folder/Part.STP")));
+    EXPECT_FALSE(info.importFormats()[0]->is(WIDE("part.stpx")));
+    EXPECT_TRUE(info.exportFormats().empty());
+}
+
+TEST(Translator, AnswersAPing)
+{
+    TranslatorSession session(CAD_TRANSLATOR);
+    EXPECT_EQ(session.ping().code(), vrx::Result::ECode::Ok);
+}
+
+TEST(Translator, RefusesWhatItCannotDoAndGoesOn)
+{
+    ChildProcess translator(CAD_TRANSLATOR);
+    for (const mp::wchar* command :
+         {WIDE("nonsense"), WIDE("{}"), WIDE("{\"command\":\"shutdown\"}"),
+          WIDE("{\"command\":\"export\",\"options\":{\"file\":\"a.step\"}}"), WIDE("{\"command\":\"import\"}"),
+          WIDE("{\"ferrant_interface\":\"legacy\",\"command\":\"import\",\"options\":{\"file\":\"a.step\"}}"),
+          WIDE("{\"command\":\"import\",\"options\":{\"file\":\"\"}}")})
+    {
+        vrx::Result result;
+        framing::write(translator.input(), command);
+        mp::wstring text = framing::read(translator.output()).value();
+        while (text.find(WIDE("exchange_object_name")) != mp::wstring::npos)
+        {
+            text = framing::read(translator.output()).value();
+        }
+        framing::fromText(text, result);
+        EXPECT_EQ(result.code(), vrx::Result::ECode::Error) << std::string(command, command + 20);
+        EXPECT_FALSE(result.message().empty());
+        EXPECT_TRUE(result.isFinished());
+    }
+    EXPECT_EQ(answer(translator, WIDE("{\"command\":\"ping\"}")).code(), vrx::Result::ECode::Ok);
+}
+
+TEST(Translator, EndsWhenItsInputIsClosed)
+{
+    ChildProcess translator(CAD_TRANSLATOR);
+    EXPECT_EQ(answer(translator, WIDE("{\"command\":\"ping\"}")).code(), vrx::Result::ECode::Ok);
+    EXPECT_EQ(translator.end(), "it exited with code 0");
+}
+
+} // namespace

@@ -1,0 +1,31 @@
+#include "kernel/kernel_messages.h"
+
+#include "host_channel.h"
+
+#include <TCollection_AsciiString.hxx>
+
+#include <stdexcept>
+
+void KernelMessages::send(const TCollection_AsciiString& text, Message_Gravity gravity) const
+{
+    TCollection_AsciiString line = text;
+    line.LeftAdjust();
+    line.RightAdjust();
+    if (line.IsEmpty() || gravity < Message_Info)
+    {
+        return;
+    }
+    if (gravity >= Message_Fail)
+    {
+        m_lastFailure = line.ToCString();
+    }
+    try
+    {
+        m_channel.log(line.ToCString());
+    }
+    catch (const std::runtime_error&)
+    {
+        // Whatever is sent next will find the same. The kernel reports from destructors, out of which nothing may be
+        // thrown.
+    }
+}

@@ -1,0 +1,199 @@
+#include "looks/block_scene.h"
+
+#include "looks/scene_nodes.h"
+#include "looks/shape_looks.h"
+#include "looks/tessellation.h"
+#include "mp/narrow.h"
+
+#include <TopExp.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS.hxx>
+#include <TopoDS_Builder.hxx>
+#include <TopoDS_Compound.hxx>
+#include <TopoDS_Iterator.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+
+#include <string>
+
+namespace
+{
+
+using Node = vrx::ExcVisuNode;
+
+mp::wstring id(char kind, int position)
+{
+    return mp::toWide(kind + std::to_string(position));
+}
+
+class BlockScene
+{
+public:
+    explicit BlockScene(const TDF_Label& part)
+        : m_shape(XCAFDoc_ShapeTool::GetShape(part))
+        , m_looks(part)
+        , m_look(m_looks.of(m_shape))
+        , m_root(scene_nodes::make(Node::EType::ROOT))
+        , m_geometry(scene_nodes::addTo(*m_root, Node::EType::GEOMETRY))
+    {
+        TopExp::MapShapes(m_shape, TopAbs_FACE, m_faces);
+        TopExp::MapShapes(m_shape, TopAbs_EDGE, m_edges);
+    }
+
+    std::shared_ptr<Node> build()
+    {
+        tessellation::mesh(m_shape);
+        setLook(*m_root, m_look);
+        addBodies(m_shape, nullptr);
+        return m_bodies > 0 ? m_root : nullptr;
+    }
+
+private:
+    // A body looks like the innermost of the groups that hold it and have a look.
+    void addBodies(const TopoDS_Shape& shape, const ShapeLooks::Look* above)
+    {
+        const TopoDS_Shape group = shape.ShapeType() < TopAbs_SOLID ? shape : wrapped(shape);
+        TopoDS_Compound loose;
+        TopoDS_Builder().MakeCompound(loose);
+        for (TopoDS_Iterator it(group); it.More(); it.Next())
+        {
+            const TopoDS_Shape& part = it.Value();
+            const ShapeLooks::Look* own = m_looks.of(part);
+            const ShapeLooks::Look* look = own ? own : above;
+            if (part.ShapeType() < TopAbs_SOLID)
+            {
+                addBodies(part, look);
+            }
+            else if (part.ShapeType() <= TopAbs_SHELL)
+            {
+                addMesh(part, look);
+            }
+            else if (!own || !own->hidden) // a hidden one would have no node of its own to say so
+            {
+                TopoDS_Builder().Add(loose, part);
+            }
+        }
+        if (TopExp_Explorer(loose, TopAbs_FACE).More())
+        {
+            addMesh(loose, above);
+        }
+        if (TopExp_Explorer(loose, TopAbs_EDGE, TopAbs_FACE).More())
+        {
+            addWire(loose, above);
+        }
+    }
+
+    static TopoDS_Shape wrapped(const TopoDS_Shape& shape)
+    {
+        TopoDS_Compound compound;
+        TopoDS_Builder().MakeCompound(compound);
+        TopoDS_Builder().Add(compound, shape);
+        return compound;
+    }
+
+    void addMesh(const TopoDS_Shape& body, const ShapeLooks::Look* look)
+    {
+        const auto mesh = std::make_shared<vrx::ExcVisuMesh>();
+        identify(*mesh, look);
+        for (TopExp_Explorer explorer(body, TopAbs_FACE); explorer.More(); explorer.Next())
+        {
+            if (const auto face = tessellation::face(TopoDS::Face(explorer.Current())))
+            {
+                face->setId(id('f', m_faces.FindIndex(explorer.Current()) - 1));
+                face->setMechanicalId(face->id());
+                face->setColor(faceColor(explorer.Current()));
+                mesh->addFace(face);
+            }
+        }
+        addEdges(*mesh, body, TopAbs_SHAPE);
+        if (!m_meshes)
+        {
+            m_meshes = scene_nodes::addTo(*m_geometry, Node::EType::MESHES);
+        }
+        const std::shared_ptr<Node> node = scene_nodes::addTo(*m_meshes, Node::EType::MESH);
+        node->setLeaf(true);
+        node->setMesh(mesh);
+        setLook(*node, look != m_look ? look : nullptr);
+    }
+
+    void addWire(const TopoDS_Shape& edges, const ShapeLooks::Look* look)
+    {
+        const auto wire = std::make_shared<vrx::ExcVisuWire>();
+        identify(*wire, look);
+        addEdges(*wire, edges, TopAbs_FACE);
+        if (!m_wires)
+        {
+            m_wires = scene_nodes::addTo(*m_geometry, Node::EType::WIRES);
+        }
+        const std::shared_ptr<Node> node = scene_nodes::addTo(*m_wires, Node::EType::WIRE);
+        node->setLeaf(true);
+        node->setWire(wire);
+        setLook(*node, look != m_look ? look : nullptr);
+    }
+
+    template <class Item>
+    void identify(Item& item, const ShapeLooks::Look* look)
+    {
+        item.setId(id('b', m_bodies++));
+        item.setMechanicalId(item.id());
+        item.setGeometryType(vrx::EVisuGeometryType::Part);
+        item.setDisplayName(look ? look->name : mp::wstring());
+    }
+
+    template <class Item>
+    void addEdges(Item& item, const TopoDS_Shape& shape, TopAbs_ShapeEnum notWithin)
+    {
+        TopTools_IndexedMapOfShape edges; // each of them once, though two faces share it
+        for (TopExp_Explorer explorer(shape, TopAbs_EDGE, notWithin); explorer.More(); explorer.Next())
+        {
+            edges.Add(explorer.Current());
+        }
+        for (int i = 1; i <= edges.Extent(); ++i)
+        {
+            if (const auto edge = tessellation::edge(TopoDS::Edge(edges(i))))
+            {
+                edge->setMechanicalId(id('e', m_edges.FindIndex(edges(i)) - 1));
+                item.addEdge(edge);
+            }
+        }
+    }
+
+    vrx::ExcColor faceColor(const TopoDS_Shape& face) const
+    {
+        const ShapeLooks::Look* look = m_looks.of(face);
+        return look ? look->color : vrx::ExcColor();
+    }
+
+    static void setLook(Node& node, const ShapeLooks::Look* look)
+    {
+        if (!look || (!look->color.hasRGB() && !look->hidden))
+        {
+            return;
+        }
+        const auto attributes = std::make_shared<vrx::ExcVisuAttributes>();
+        attributes->setHidden(look->hidden);
+        if (look->color.hasRGB())
+        {
+            attributes->setColor(std::make_shared<vrx::ExcColor>(look->color));
+        }
+        node.setAttributes(attributes);
+    }
+
+    TopoDS_Shape m_shape;
+    ShapeLooks m_looks;
+    const ShapeLooks::Look* m_look; // the part's own, which stands on the root and gives way to that of a reference
+    TopTools_IndexedMapOfShape m_faces;
+    TopTools_IndexedMapOfShape m_edges;
+    std::shared_ptr<Node> m_root;
+    std::shared_ptr<Node> m_geometry;
+    std::shared_ptr<Node> m_meshes;
+    std::shared_ptr<Node> m_wires;
+    int m_bodies = 0;
+};
+
+} // namespace
+
+std::shared_ptr<vrx::ExcVisuNode> blockScene(const TDF_Label& part)
+{
+    return XCAFDoc_ShapeTool::GetShape(part).IsNull() ? nullptr : BlockScene(part).build();
+}

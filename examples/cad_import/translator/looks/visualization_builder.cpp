@@ -1,0 +1,52 @@
+#include "looks/visualization_builder.h"
+
+#include "looks/block_scene.h"
+#include "looks/scene_nodes.h"
+#include "pmi/annotation_scene.h"
+#include "pmi/saved_views.h"
+#include "reading/step_reader.h"
+#include "structure/product_places.h"
+
+VisualizationBuilder::VisualizationBuilder(const StepModel& model, const vrx::ExcProductStructure& structure,
+                                           const TDF_LabelIndexedMap& blocks)
+    : m_model(model)
+    , m_structure(structure)
+    , m_blocks(blocks)
+{
+}
+
+std::shared_ptr<vrx::ExcRootAssemblyVisualization> VisualizationBuilder::root() const
+{
+    const auto data = std::make_shared<vrx::ExcVisualizationData>();
+    data->setUnits(m_structure.units());
+    addSavedViews(*data, m_model.document);
+    if (const auto annotations = annotationScene(m_model.document, ProductPlaces(m_model.document)))
+    {
+        const auto rootNode = scene_nodes::make(vrx::ExcVisuNode::EType::ROOT);
+        rootNode->addChildNode(annotations);
+        data->addSceneRootNode(rootNode);
+    }
+    if (data->views().empty() && data->sceneRootNodes().empty())
+    {
+        return nullptr;
+    }
+    auto visualization = std::make_shared<vrx::ExcRootAssemblyVisualization>();
+    visualization->setVisualizationData(data);
+    return visualization;
+}
+
+std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vrx::ExcBlock& block) const
+{
+    const auto scene = block.isPart() ? blockScene(m_blocks(static_cast<int>(block.id()))) : nullptr;
+    if (!scene)
+    {
+        return nullptr;
+    }
+    const auto data = std::make_shared<vrx::ExcVisualizationData>();
+    data->setUnits(m_structure.units());
+    data->addSceneRootNode(scene);
+    auto visualization = std::make_shared<vrx::ExcBlockVisualization>();
+    visualization->setBlockId(block.id());
+    visualization->setVisualizationData(data);
+    return visualization;
+}

@@ -1,0 +1,209 @@
+#include "structure/file_properties.h"
+
+#include "common/property_names.h"
+#include "kernel/occt_text.h"
+#include "reading/step_measures.h"
+#include "reading/step_reader.h"
+#include "structure/misc_properties.h"
+
+#include <APIHeaderSection_MakeHeader.hxx>
+#include <Interface_HArray1OfHAsciiString.hxx>
+#include <StepBasic_MeasureValueMember.hxx>
+#include <StepBasic_ProductDefinition.hxx>
+#include <StepBasic_ProductDefinitionRelationship.hxx>
+#include <StepGeom_CartesianPoint.hxx>
+#include <StepRepr_DescriptiveRepresentationItem.hxx>
+#include <StepRepr_MeasureRepresentationItem.hxx>
+#include <StepRepr_ProductDefinitionShape.hxx>
+#include <StepRepr_PropertyDefinition.hxx>
+#include <StepRepr_Representation.hxx>
+#include <StepRepr_ShapeAspect.hxx>
+#include <StepRepr_ValueRepresentationItem.hxx>
+#include <TColStd_SequenceOfAsciiString.hxx>
+
+#include <set>
+#include <string>
+
+namespace
+{
+
+using vrx::ExcMiscProperty;
+
+const char kValidation[] = "geometric validation property";
+const char kMaterial[] = "material property";
+
+// The others are written for a receiver to check its own work with, or come in the XDE document.
+bool isAttribute(const std::string& name)
+{
+    static const std::set<std::string> kOthers = {"",
+                                                  "attribute validation property",
+                                                  "pmi validation property",
+                                                  "assembly validation property",
+                                                  "tessellated validation property",
+                                                  kMaterial};
+    return kOthers.count(name) == 0;
+}
+
+// The product definition or usage of which the attribute tells; null for those of faces, documents and the like. Some
+// writers hang the figures of a whole shape on an aspect without a name.
+Handle(Standard_Transient) owner(const StepRepr_CharacterizedDefinition& described)
+{
+    const Handle(StepRepr_ShapeAspect) aspect = described.ShapeAspect();
+    const bool isWhole = !aspect.IsNull() && !aspect->Name().IsNull() && aspect->Name()->IsEmpty();
+    const Handle(StepRepr_ProductDefinitionShape) shape =
+        isWhole ? aspect->OfShape() : described.ProductDefinitionShape();
+    const StepRepr_CharacterizedDefinition definition = shape.IsNull() ? described : shape->Definition();
+    if (!definition.ProductDefinition().IsNull())
+    {
+        return definition.ProductDefinition();
+    }
+    return definition.ProductDefinitionRelationship();
+}
+
+void addItem(vrx::ExcMiscData& data, const mp::wstring& name, const Handle(StepRepr_RepresentationItem) & item,
+             double factor)
+{
+    if (const auto text = Handle(StepRepr_DescriptiveRepresentationItem)::DownCast(item); !text.IsNull())
+    {
+        add(data, name, ExcMiscProperty::EType::String, occt_text::wide(text->Description()));
+    }
+    else if (const auto measure = Handle(StepRepr_MeasureRepresentationItem)::DownCast(item);
+             !measure.IsNull() && !measure->Measure().IsNull())
+    {
+        add(data, name, inMillimetres(measure->Measure(), factor));
+    }
+    else if (const auto value = Handle(StepRepr_ValueRepresentationItem)::DownCast(item);
+             !value.IsNull() && !value->ValueComponentMember().IsNull())
+    {
+        add(data, name, value->ValueComponentMember()->Real());
+    }
+    else if (const auto point = Handle(StepGeom_CartesianPoint)::DownCast(item);
+             !point.IsNull() && point->NbCoordinates() == 3)
+    {
+        add(data, name, ExcMiscProperty::EType::String,
+            numberText(point->CoordinatesValue(1) * factor) + WIDE(' ') +
+                numberText(point->CoordinatesValue(2) * factor) + WIDE(' ') +
+                numberText(point->CoordinatesValue(3) * factor));
+    }
+}
+
+// Heads are full of blank texts; those say nothing.
+void addText(vrx::ExcMiscData& data, const mp::wchar* name, ExcMiscProperty::EType type,
+             const Handle(TCollection_HAsciiString) & text)
+{
+    const mp::wstring wide = occt_text::wide(text);
+    if (wide.find_first_not_of(WIDE(' ')) != mp::wstring::npos)
+    {
+        add(data, name, type, wide);
+    }
+}
+
+void addTexts(vrx::ExcMiscData& data, const mp::wchar* name, const Handle(Interface_HArray1OfHAsciiString) & texts)
+{
+    if (texts.IsNull())
+    {
+        return;
+    }
+    for (int i = texts->Lower(); i <= texts->Upper(); ++i)
+    {
+        addText(data, name, ExcMiscProperty::EType::String, texts->Value(i));
+    }
+}
+
+} // namespace
+
+FileProperties::FileProperties(const StepModel& model)
+{
+    const Handle(StepData_StepModel) entities = model.reader->Reader().StepModel();
+    readHead(model, entities);
+    for (int i = 1; i <= entities->NbEntities(); ++i)
+    {
+        const auto attributes = Handle(StepRepr_PropertyDefinitionRepresentation)::DownCast(entities->Value(i));
+        if (!attributes.IsNull())
+        {
+            readAttributes(attributes);
+        }
+    }
+}
+
+void FileProperties::readHead(const StepModel& model, const Handle(StepData_StepModel) & entities)
+{
+    const APIHeaderSection_MakeHeader head(entities);
+    if (head.HasFs())
+    {
+        addTexts(m_head, WIDE("schema"), head.SchemaIdentifiers());
+    }
+    if (head.HasFd())
+    {
+        addTexts(m_head, WIDE("description"), head.Description());
+    }
+    if (head.HasFn())
+    {
+        addText(m_head, WIDE("file name"), ExcMiscProperty::EType::String, head.Name());
+        addText(m_head, WIDE("time stamp"), ExcMiscProperty::EType::DateTime, head.TimeStamp());
+        addTexts(m_head, WIDE("author"), head.Author());
+        addTexts(m_head, WIDE("organization"), head.Organization());
+        addText(m_head, WIDE("originating system"), ExcMiscProperty::EType::String, head.OriginatingSystem());
+        addText(m_head, WIDE("preprocessor version"), ExcMiscProperty::EType::String, head.PreprocessorVersion());
+        addText(m_head, WIDE("authorization"), ExcMiscProperty::EType::String, head.Authorisation());
+    }
+    TColStd_SequenceOfAsciiString lengths;
+    TColStd_SequenceOfAsciiString angles;
+    TColStd_SequenceOfAsciiString solidAngles;
+    model.reader->ChangeReader().FileUnits(lengths, angles, solidAngles);
+    for (int i = 1; i <= lengths.Length(); ++i)
+    {
+        addText(m_head, property_names::kFileLengthUnit, ExcMiscProperty::EType::String,
+                new TCollection_HAsciiString(lengths(i)));
+    }
+}
+
+void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes)
+{
+    const Handle(StepRepr_PropertyDefinition) definition = attributes->Definition().PropertyDefinition();
+    const Handle(StepRepr_Representation) values = attributes->UsedRepresentation();
+    if (definition.IsNull() || definition->Name().IsNull() || values.IsNull())
+    {
+        return;
+    }
+    const Handle(Standard_Transient) entity = owner(definition->Definition());
+    const std::string name = definition->Name()->ToCString();
+    if (!entity.IsNull() && name == kMaterial)
+    {
+        m_withMaterial.insert(entity.get());
+    }
+    if (entity.IsNull() || !isAttribute(name))
+    {
+        return;
+    }
+    // A validation property is a group of figures, each of which has its own name: "volume measure" and so on.
+    const double factor = lengthFactor(values);
+    for (int i = 1; i <= values->NbItems(); ++i)
+    {
+        const Handle(StepRepr_RepresentationItem) item = values->ItemsValue(i);
+        if (item.IsNull()) // in a damaged file
+        {
+            continue;
+        }
+        addItem(m_attributes[entity.get()], occt_text::wide(name == kValidation ? item->Name() : definition->Name()),
+                item, factor);
+    }
+}
+
+bool FileProperties::hasMaterial(const Handle(Standard_Transient) & product) const
+{
+    return m_withMaterial.count(product.get()) > 0;
+}
+
+void FileProperties::addTo(vrx::ExcMiscData& data, const Handle(Standard_Transient) & entity) const
+{
+    const auto found = m_attributes.find(entity.get());
+    if (found == m_attributes.end())
+    {
+        return;
+    }
+    for (const ExcMiscProperty& property : found->second.properties())
+    {
+        data.emplaceProperty(property);
+    }
+}

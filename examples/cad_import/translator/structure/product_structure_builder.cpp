@@ -1,0 +1,209 @@
+#include "structure/product_structure_builder.h"
+
+#include "common/property_names.h"
+#include "kernel/occt_text.h"
+#include "kernel/occt_transformation.h"
+#include "mp/narrow.h"
+#include "reading/step_reader.h"
+#include "structure/block_content.h"
+#include "structure/misc_properties.h"
+
+#include <StepBasic_Product.hxx>
+#include <StepBasic_ProductDefinitionFormation.hxx>
+#include <TDF_LabelSequence.hxx>
+#include <TDataStd_Name.hxx>
+#include <XCAFDoc_ColorTool.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <utility>
+
+namespace
+{
+
+mp::wstring nameOf(const TDF_Label& label)
+{
+    Handle(TDataStd_Name) name;
+    return label.FindAttribute(TDataStd_Name::GetID(), name) ? occt_text::wide(name->Get()) : mp::wstring();
+}
+
+TDF_Label referred(const TDF_Label& component)
+{
+    TDF_Label label;
+    return XCAFDoc_ShapeTool::GetReferredShape(component, label) ? label : component;
+}
+
+std::vector<TDF_Label> components(const TDF_Label& label)
+{
+    TDF_LabelSequence sequence;
+    XCAFDoc_ShapeTool::GetComponents(label, sequence, false);
+    return {sequence.begin(), sequence.end()};
+}
+
+void addPartNumber(vrx::ExcMiscData& data, const Handle(StepBasic_ProductDefinition) & definition)
+{
+    const Handle(StepBasic_ProductDefinitionFormation) version = definition->Formation();
+    if (version.IsNull() || version->OfProduct().IsNull())
+    {
+        return;
+    }
+    const auto type = vrx::ExcMiscProperty::EType::String;
+    add(data, property_names::kPartNumber, type, occt_text::wide(version->OfProduct()->Id()));
+    const mp::wstring versionId = occt_text::wide(version->Id());
+    if (!versionId.empty())
+    {
+        add(data, property_names::kVersion, type, versionId);
+    }
+}
+
+vrx::ELengthUnitType lengthUnit(const Handle(TDocStd_Document) & document)
+{
+    static const std::pair<double, vrx::ELengthUnitType> kUnits[] = {
+        {0.001, vrx::ELengthUnitType::Millimeter}, {0.01, vrx::ELengthUnitType::Centimeter},
+        {1, vrx::ELengthUnitType::Meter},          {1000, vrx::ELengthUnitType::Kilometer},
+        {0.0254, vrx::ELengthUnitType::Inch},      {0.3048, vrx::ELengthUnitType::Foot},
+        {1e-6, vrx::ELengthUnitType::Micrometer},
+    };
+    double meters = 0;
+    if (XCAFDoc_DocumentTool::GetLengthUnit(document, meters))
+    {
+        for (const auto& [length, unit] : kUnits)
+        {
+            if (std::abs(meters - length) < length * 1e-9)
+            {
+                return unit;
+            }
+        }
+    }
+    return vrx::ELengthUnitType::Unknown;
+}
+
+} // namespace
+
+ProductStructureBuilder::ProductStructureBuilder(const StepModel& model)
+    : m_model(model)
+    , m_labels(model)
+    , m_properties(model)
+{
+}
+
+std::shared_ptr<vrx::ExcProductStructure> ProductStructureBuilder::build()
+{
+    m_structure = std::make_shared<vrx::ExcProductStructure>();
+    m_structure->setUnits(lengthUnit(m_model.document));
+    m_structure->miscData() = m_properties.head();
+
+    TDF_LabelSequence roots;
+    XCAFDoc_DocumentTool::ShapeTool(m_model.document->Main())->GetFreeShapes(roots);
+    for (const TDF_Label& root : roots)
+    {
+        addRoot(root);
+    }
+    // A block's references append the blocks that they name, so this goes down the whole tree.
+    for (int i = 1; i <= m_blocks.Extent(); ++i)
+    {
+        m_structure->addBlock(block(m_blocks(i), static_cast<std::uint64_t>(i)));
+    }
+    const auto& rootReferences = m_structure->rootBlockReferences();
+    m_structure->setProductName(rootReferences.size() == 1
+                                    ? rootReferences.front()->name()
+                                    : mp::toWide(std::filesystem::path(m_model.path).stem().string()));
+    return m_structure;
+}
+
+void ProductStructureBuilder::addRoot(const TDF_Label& label)
+{
+    const std::shared_ptr<vrx::ExcBlockReference> root = reference(label);
+    root->setName(nameOf(referred(label)));
+    m_structure->addRootBlockReference(root);
+}
+
+std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const TDF_Label& label, std::uint64_t id)
+{
+    auto block = std::make_shared<vrx::ExcBlock>();
+    block->setId(id);
+    block->setName(nameOf(label));
+    block->setStorageName(mp::toWide(std::filesystem::path(m_model.path).filename().string()));
+
+    const Handle(StepBasic_ProductDefinition) product = m_labels.productOf(label);
+    if (!product.IsNull())
+    {
+        addPartNumber(block->miscData(), product);
+        m_properties.addTo(block->miscData(), product);
+    }
+    block->setPart(isPart(label));
+    const BlockContent content(label, ownShapes(label));
+    if (block->isPart())
+    {
+        content.addCounts(block->miscData());
+        content.addLayers(block->miscData());
+    }
+    else
+    {
+        for (const TDF_Label& component : components(label))
+        {
+            block->addBlockReference(reference(component));
+        }
+    }
+    if (m_properties.hasMaterial(product))
+    {
+        content.addMaterial(block->miscData());
+    }
+    return block;
+}
+
+std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const TDF_Label& component)
+{
+    const TDF_Label target = referred(component);
+    const BlockContent content(target, ownShapes(target));
+
+    auto reference = std::make_shared<vrx::ExcBlockReference>();
+    reference->setGuid(vrx::IExchangeObject::generateUUID());
+    reference->setBlockId(blockId(target));
+    reference->setTransformation(occt_transformation::of(XCAFDoc_ShapeTool::GetLocation(component)));
+
+    const vrx::ExcColor own = BlockContent::colorOf(component);
+    reference->setColor(own.hasRGB() ? own : content.color());
+    const bool visible = XCAFDoc_DocumentTool::ColorTool(component)->IsVisible(component);
+    reference->setHidden(!visible || !content.isVisible());
+
+    const Handle(StepRepr_NextAssemblyUsageOccurrence) usage = m_labels.usageOf(component);
+    if (usage.IsNull())
+    {
+        reference->setName(nameOf(target));
+        return reference;
+    }
+    reference->setName(nameOf(component));
+    reference->setPersistentId(occt_text::wide(usage->Id()));
+    m_properties.addTo(reference->miscData(), usage);
+    return reference;
+}
+
+std::uint64_t ProductStructureBuilder::blockId(const TDF_Label& label)
+{
+    return static_cast<std::uint64_t>(m_blocks.Add(label));
+}
+
+// The shapes of a part that XDE has made an assembly of.
+std::vector<TDF_Label> ProductStructureBuilder::ownShapes(const TDF_Label& label) const
+{
+    std::vector<TDF_Label> shapes;
+    if (isPart(label))
+    {
+        for (const TDF_Label& component : components(label))
+        {
+            shapes.push_back(referred(component));
+        }
+    }
+    return shapes;
+}
+
+bool ProductStructureBuilder::isPart(const TDF_Label& label) const
+{
+    const std::vector<TDF_Label> all = components(label);
+    return std::none_of(all.begin(), all.end(), [this](const TDF_Label& component) {
+        return !m_labels.productOf(referred(component)).IsNull();
+    });
+}

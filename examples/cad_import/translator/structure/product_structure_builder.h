@@ -1,0 +1,40 @@
+#pragma once
+
+#include "reading/step_labels.h"
+#include "structure/file_properties.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
+
+#include <TDF_LabelIndexedMap.hxx>
+#include <XCAFDoc_ShapeTool.hxx>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+struct StepModel;
+
+/// Turns an XDE document into the product structure: each product once as a block, each usage as a reference.
+class ProductStructureBuilder
+{
+public:
+    explicit ProductStructureBuilder(const StepModel& model);
+
+    std::shared_ptr<vrx::ExcProductStructure> build();
+
+    /// The labels of the blocks that were built. The id of a block is the index of its label.
+    const TDF_LabelIndexedMap& blocks() const { return m_blocks; }
+
+private:
+    void addRoot(const TDF_Label& label);
+    std::shared_ptr<vrx::ExcBlock> block(const TDF_Label& label, std::uint64_t id);
+    std::shared_ptr<vrx::ExcBlockReference> reference(const TDF_Label& component);
+    std::uint64_t blockId(const TDF_Label& label);
+    std::vector<TDF_Label> ownShapes(const TDF_Label& label) const;
+    bool isPart(const TDF_Label& label) const;
+
+    const StepModel& m_model;
+    StepLabels m_labels;
+    FileProperties m_properties;
+    std::shared_ptr<vrx::ExcProductStructure> m_structure;
+    TDF_LabelIndexedMap m_blocks;
+};

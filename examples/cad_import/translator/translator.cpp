@@ -1,0 +1,215 @@
+#include "translator.h"
+
+#include "bodies/block_bodies.h"
+#include "common/framing.h"
+#include "delayed_termination.h"
+#include "host_channel.h"
+#include "import_progress.h"
+#include "looks/visualization_builder.h"
+#include "mp/narrow.h"
+#include "pmi/pmi_summary.h"
+#include "reading/step_reader.h"
+#include "structure/product_structure_builder.h"
+#include "vrx_api/vrx_api_exchange_object.h"
+#include "vrx_api/vrx_api_ferrant_info.h"
+#include "vrx_api/vrx_api_format_options.h"
+
+#include <OSD.hxx>
+#include <Standard_ErrorHandler.hxx>
+#include <Standard_Failure.hxx>
+#include <Standard_Version.hxx>
+
+#include <csignal>
+#include <exception>
+#include <new>
+#include <optional>
+#include <string>
+
+namespace
+{
+
+vrx::Result result(vrx::Result::ECode code, const std::string& message)
+{
+    vrx::Result result;
+    result.setCode(code);
+    result.setMessage(mp::toWide(message));
+    result.setFinished(true);
+    return result;
+}
+
+vrx::Result error(const std::string& message)
+{
+    return result(vrx::Result::ECode::Error, message);
+}
+
+// Layers: those that the assembly's shapes are on are sent with the blocks, unless the host wants the layer names of
+// the saved views only. PMI: read unless the host wants none. "Unknown" leaves it to us: all is read.
+StepReadingOptions readingOptions(const vrx::ImportOptions& options)
+{
+    StepReadingOptions reading;
+    const auto step = std::dynamic_pointer_cast<vrx::imp::OptionsSTEP>(options.formatOptions(vrx::EFormatType::STEP));
+    if (step)
+    {
+        reading.layers = step->layerNameProcessingMode() != vrx::ELayerNameProcessingModeType::SavedVisuRep;
+        reading.pmi = step->visuPMIProcessingMode() != vrx::EVisuPMIProcessingMode::None;
+    }
+    return reading;
+}
+
+} // namespace
+
+void Translator::run()
+{
+    OSD::SetSignal(false);
+    // The kernel takes these too, and would turn them into failures of the file.
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+    {
+        std::signal(number, SIG_DFL);
+    }
+    std::optional<mp::wstring> text;
+    while (m_kernelIsIntact && !DelayedTermination::isDue() && (text = HostChannel::receive()))
+    {
+        answer(*text);
+    }
+}
+
+void Translator::answer(const mp::wstring& text)
+{
+    vrx::Command command;
+    try
+    {
+        framing::fromText(text, command);
+    }
+    catch (const std::exception& failure)
+    {
+        m_channel.send(error(std::string("This is no command: ") + failure.what()));
+        return;
+    }
+    switch (command.type())
+    {
+    case vrx::Command::EType::Info:
+        sendInfo();
+        break;
+    case vrx::Command::EType::Ping:
+        m_channel.send(result(vrx::Result::ECode::Ok, ""));
+        break;
+    case vrx::Command::EType::Import:
+        m_channel.send(import(command));
+        break;
+    case vrx::Command::EType::Export:
+        m_channel.send(error("This translator does not export."));
+        break;
+    default:
+        m_channel.send(error("This translator does not know the command."));
+        break;
+    }
+}
+
+void Translator::sendInfo()
+{
+    vrx::FerrantInfo info;
+    info.setName(WIDE("cad_translator"));
+    info.setVersion(mp::toWide(CAD_TRANSLATOR_VERSION));
+    info.setRequestedInterface(vrx::EFerrantInterface::UConnect);
+    info.newThirdpartyCore().setName(WIDE("Open CASCADE Technology")).setVersion(mp::toWide(OCC_VERSION_COMPLETE));
+    info.newImportFormat()
+        .setDescription(WIDE("STEP files (AP203, AP214, AP242)"))
+        .addExtension(WIDE("stp"))
+        .addExtension(WIDE("step"))
+        .addExtension(WIDE("p21"))
+        .addFilterExtensions(WIDE("stp;step;p21"));
+    m_channel.send(info);
+}
+
+vrx::Result Translator::import(const vrx::Command& command)
+{
+    const DelayedTermination termination;
+    try
+    {
+        // Damaged files do crash the kernel: its signals become exceptions here.
+        OCC_CATCH_SIGNALS
+        if (command.internalInterface() == vrx::EFerrantInterface::Legacy || !command.importOptions())
+        {
+            return error("This translator does not take legacy commands.");
+        }
+        return translate(*command.importOptions());
+    }
+    catch (const Standard_Failure& failure)
+    {
+        // The kernel turns its crashes into such failures too, with nothing cleared up on the way: the answer is the
+        // last thing that this process does.
+        m_kernelIsIntact = false;
+        return error(std::string("The file is damaged, or too much for the modelling kernel: ") +
+                     failure.GetMessageString());
+    }
+    catch (const std::bad_alloc&)
+    {
+        return error("There is not enough memory for this file.");
+    }
+    catch (const std::exception& failure)
+    {
+        return error(DelayedTermination::isDue() ? "The translator was told to end." : failure.what());
+    }
+}
+
+vrx::Result Translator::translate(const vrx::ImportOptions& options)
+{
+    ImportProgress progress(m_channel);
+    const StepReadingOptions reading = readingOptions(options);
+    const StepModel model = readStep(mp::toNarrow(options.file()), reading, m_channel, progress);
+    if (reading.pmi)
+    {
+        sendPmiSummary(model, m_channel);
+    }
+
+    progress.beginStage("Sending the product structure", 60);
+    ProductStructureBuilder builder(model);
+    const std::shared_ptr<vrx::ExcProductStructure> structure = builder.build();
+    m_channel.send(structure);
+    m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
+
+    sendBodies(*structure, builder, progress);
+    sendVisualization(VisualizationBuilder(model, *structure, builder.blocks()), *structure, progress);
+    return model.warning.empty() ? result(vrx::Result::ECode::Ok, "")
+                                 : result(vrx::Result::ECode::Warning, model.warning);
+}
+
+void Translator::sendBodies(const vrx::ExcProductStructure& structure, const ProductStructureBuilder& builder,
+                            ImportProgress& progress)
+{
+    progress.beginStage("Sending the bodies", 65);
+    BlockBodies bodies;
+    double done = 0;
+    for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
+    {
+        // An assembly's shape is that of its components, and it has no solids of its own.
+        const TopoDS_Shape shape = block->isPart()
+                                       ? XCAFDoc_ShapeTool::GetShape(builder.blocks()(static_cast<int>(block->id())))
+                                       : TopoDS_Shape();
+        const std::shared_ptr<vrx::ExcBlockGeometry> geometry = bodies.make(*block, shape);
+        geometry->own(false);
+        m_channel.send(geometry);
+        progress.advance(++done / static_cast<double>(structure.blocks().size()));
+    }
+}
+
+void Translator::sendVisualization(const VisualizationBuilder& builder, const vrx::ExcProductStructure& structure,
+                                   ImportProgress& progress)
+{
+    progress.beginStage("Drawing the parts", 100);
+    if (const std::shared_ptr<vrx::ExcRootAssemblyVisualization> root = builder.root())
+    {
+        m_channel.send(root);
+        m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::RootVisualization));
+    }
+    double done = 0;
+    for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
+    {
+        if (const std::shared_ptr<vrx::ExcBlockVisualization> scene = builder.block(*block))
+        {
+            m_channel.send(scene);
+        }
+        progress.advance(++done / static_cast<double>(structure.blocks().size()));
+    }
+    m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::Visualization));
+}
