@@ -4,6 +4,7 @@
 #include "bodies/block_bodies.h"
 #include "host_channel.h"
 #include "import_progress.h"
+#include "reading/import_settings.h"
 #include "reading/step_reader.h"
 #include "structure/product_structure_builder.h"
 
@@ -26,8 +27,10 @@ public:
 void printFigures(const std::string& path)
 {
     SilentChannel channel;
+    ImportSettings settings;
+    settings.file = path;
     ImportProgress progress(channel);
-    const StepModel model = readStep(path, {}, channel, progress);
+    const CadModel model = readStep(settings, channel, progress);
     ProductStructureBuilder builder(model);
     for (const std::shared_ptr<vrx::ExcBlock>& block : builder.build()->blocks())
     {

@@ -8,11 +8,11 @@
 #include "looks/visualization_builder.h"
 #include "mp/narrow.h"
 #include "pmi/pmi_summary.h"
+#include "reading/import_settings.h"
 #include "reading/step_reader.h"
 #include "structure/product_structure_builder.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 #include "vrx_api/vrx_api_ferrant_info.h"
-#include "vrx_api/vrx_api_format_options.h"
 
 #include <OSD.hxx>
 #include <Standard_ErrorHandler.hxx>
@@ -40,20 +40,6 @@ vrx::Result result(vrx::Result::ECode code, const std::string& message)
 vrx::Result error(const std::string& message)
 {
     return result(vrx::Result::ECode::Error, message);
-}
-
-// Layers: those that the assembly's shapes are on are sent with the blocks, unless the host wants the layer names of
-// the saved views only. PMI: read unless the host wants none. "Unknown" leaves it to us: all is read.
-StepReadingOptions readingOptions(const vrx::ImportOptions& options)
-{
-    StepReadingOptions reading;
-    const auto step = std::dynamic_pointer_cast<vrx::imp::OptionsSTEP>(options.formatOptions(vrx::EFormatType::STEP));
-    if (step)
-    {
-        reading.layers = step->layerNameProcessingMode() != vrx::ELayerNameProcessingModeType::SavedVisuRep;
-        reading.pmi = step->visuPMIProcessingMode() != vrx::EVisuPMIProcessingMode::None;
-    }
-    return reading;
 }
 
 } // namespace
@@ -132,7 +118,7 @@ vrx::Result Translator::import(const vrx::Command& command)
         {
             return error("This translator does not take legacy commands.");
         }
-        return translate(*command.importOptions());
+        return translate(settingsOf(*command.importOptions()));
     }
     catch (const Standard_Failure& failure)
     {
@@ -152,12 +138,11 @@ vrx::Result Translator::import(const vrx::Command& command)
     }
 }
 
-vrx::Result Translator::translate(const vrx::ImportOptions& options)
+vrx::Result Translator::translate(const ImportSettings& settings)
 {
     ImportProgress progress(m_channel);
-    const StepReadingOptions reading = readingOptions(options);
-    const StepModel model = readStep(mp::toNarrow(options.file()), reading, m_channel, progress);
-    if (reading.pmi)
+    const CadModel model = readStep(settings, m_channel, progress);
+    if (settings.pmi)
     {
         sendPmiSummary(model, m_channel);
     }

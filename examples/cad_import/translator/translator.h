@@ -9,6 +9,7 @@ class HostChannel;
 class ImportProgress;
 class ProductStructureBuilder;
 class VisualizationBuilder;
+struct ImportSettings;
 
 /// Answers commands until the host closes the pipe.
 class Translator
@@ -25,7 +26,7 @@ private:
     void answer(const mp::wstring& text);
     void sendInfo();
     vrx::Result import(const vrx::Command& command);
-    vrx::Result translate(const vrx::ImportOptions& options);
+    vrx::Result translate(const ImportSettings& settings);
     void sendBodies(const vrx::ExcProductStructure& structure, const ProductStructureBuilder& builder,
                     ImportProgress& progress);
     void sendVisualization(const VisualizationBuilder& builder, const vrx::ExcProductStructure& structure,

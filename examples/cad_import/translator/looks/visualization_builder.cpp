@@ -4,10 +4,10 @@
 #include "looks/scene_nodes.h"
 #include "pmi/annotation_scene.h"
 #include "pmi/saved_views.h"
-#include "reading/step_reader.h"
+#include "reading/cad_model.h"
 #include "structure/product_places.h"
 
-VisualizationBuilder::VisualizationBuilder(const StepModel& model, const vrx::ExcProductStructure& structure,
+VisualizationBuilder::VisualizationBuilder(const CadModel& model, const vrx::ExcProductStructure& structure,
                                            const TDF_LabelIndexedMap& blocks)
     : m_model(model)
     , m_structure(structure)

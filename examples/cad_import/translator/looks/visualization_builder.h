@@ -7,14 +7,14 @@
 
 #include <memory>
 
-struct StepModel;
+struct CadModel;
 
 /// Makes the scenes of a model: one for the root with what belongs to the product as a whole, one for each part.
 class VisualizationBuilder
 {
 public:
     /// `blocks` holds the labels of the structure's blocks: the id of a block is the index of its label.
-    VisualizationBuilder(const StepModel& model, const vrx::ExcProductStructure& structure,
+    VisualizationBuilder(const CadModel& model, const vrx::ExcProductStructure& structure,
                          const TDF_LabelIndexedMap& blocks);
 
     /// Saved views and drawn annotations, as far as they were read. Null when there is neither.
@@ -24,7 +24,7 @@ public:
     std::shared_ptr<vrx::ExcBlockVisualization> block(const vrx::ExcBlock& block) const;
 
 private:
-    const StepModel& m_model;
+    const CadModel& m_model;
     const vrx::ExcProductStructure& m_structure;
     const TDF_LabelIndexedMap& m_blocks;
 };

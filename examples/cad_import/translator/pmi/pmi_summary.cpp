@@ -1,7 +1,7 @@
 #include "pmi/pmi_summary.h"
 
 #include "host_channel.h"
-#include "reading/step_reader.h"
+#include "reading/cad_model.h"
 
 #include <TDF_LabelSequence.hxx>
 #include <XCAFDoc_DimTolTool.hxx>
@@ -10,7 +10,7 @@
 
 #include <string>
 
-void sendPmiSummary(const StepModel& model, HostChannel& channel)
+void sendPmiSummary(const CadModel& model, HostChannel& channel)
 {
     const Handle(XCAFDoc_DimTolTool) tolerancing = XCAFDoc_DocumentTool::DimTolTool(model.document->Main());
     TDF_LabelSequence dimensions;

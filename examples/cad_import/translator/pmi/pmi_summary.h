@@ -1,7 +1,7 @@
 #pragma once
 
 class HostChannel;
-struct StepModel;
+struct CadModel;
 
 /// Tells the host in a message how much product manufacturing information the file holds, if any.
-void sendPmiSummary(const StepModel& model, HostChannel& channel);
+void sendPmiSummary(const CadModel& model, HostChannel& channel);

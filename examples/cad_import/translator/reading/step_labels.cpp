@@ -1,6 +1,6 @@
 #include "reading/step_labels.h"
 
-#include "reading/step_reader.h"
+#include "reading/cad_model.h"
 
 #include <Interface_InterfaceModel.hxx>
 #include <STEPConstruct_Tool.hxx>
@@ -11,7 +11,7 @@
 #include <XSControl_TransferReader.hxx>
 #include <XSControl_WorkSession.hxx>
 
-StepLabels::StepLabels(const StepModel& model)
+StepLabels::StepLabels(const CadModel& model)
 {
     const STEPCAFControl_Reader& reader = *model.reader;
     const Handle(XSControl_WorkSession) session = reader.Reader().WS();

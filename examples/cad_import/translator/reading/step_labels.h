@@ -6,13 +6,13 @@
 #include <TDF_Label.hxx>
 #include <TDF_LabelMapHasher.hxx>
 
-struct StepModel;
+struct CadModel;
 
 /// Which entity of the STEP file a label of the XDE document was made from.
 class StepLabels
 {
 public:
-    explicit StepLabels(const StepModel& model);
+    explicit StepLabels(const CadModel& model);
 
     /// The product definition behind a label, or null. XDE makes labels of its own too: a product with several shapes
     /// becomes an assembly of them.

@@ -3,6 +3,7 @@
 #include "import_progress.h"
 #include "kernel/kernel_messages.h"
 #include "reading/counting_buffer.h"
+#include "reading/import_settings.h"
 #include "reading/taught_entities.h"
 #include "reading/tessellated_annotations.h"
 #include "translation_error.h"
@@ -153,13 +154,13 @@ std::string damage(const Interface_InterfaceModel& entities)
 
 } // namespace
 
-StepModel readStep(const std::string& path, const StepReadingOptions& options, HostChannel& channel,
-                   ImportProgress& progress)
+CadModel readStep(const ImportSettings& settings, HostChannel& channel, ImportProgress& progress)
 {
+    const std::string& path = settings.file;
     const Handle(KernelMessages) messages = new KernelMessages(channel);
     const MessageRedirection redirection(messages);
 
-    StepModel model;
+    CadModel model;
     model.path = path;
     model.reader = std::make_unique<STEPCAFControl_Reader>();
     model.reader->SetColorMode(true);
@@ -167,20 +168,20 @@ StepModel readStep(const std::string& path, const StepReadingOptions& options, H
     model.reader->SetPropsMode(true);
     model.reader->SetMatMode(true);
     model.reader->SetSHUOMode(true);
-    model.reader->SetLayerMode(options.layers);
-    model.reader->SetGDTMode(options.pmi);
-    model.reader->SetViewMode(options.pmi);
+    model.reader->SetLayerMode(settings.layers);
+    model.reader->SetGDTMode(settings.pmi);
+    model.reader->SetViewMode(settings.pmi);
 
     progress.beginStage("Reading the file", 20);
     const Handle(XSControl_WorkSession) session = model.reader->Reader().WS();
-    if (options.pmi)
+    if (settings.pmi)
     {
         teachEntities(*session);
     }
     read(*model.reader, path, progress);
     const Handle(Interface_InterfaceModel) entities = session->Model();
     model.warning = damage(*entities);
-    if (options.pmi)
+    if (settings.pmi)
     {
         gatherTessellatedAnnotations(*entities);
     }

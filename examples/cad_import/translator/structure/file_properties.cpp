@@ -2,8 +2,8 @@
 
 #include "common/property_names.h"
 #include "kernel/occt_text.h"
+#include "reading/cad_model.h"
 #include "reading/step_measures.h"
-#include "reading/step_reader.h"
 #include "structure/misc_properties.h"
 
 #include <APIHeaderSection_MakeHeader.hxx>
@@ -112,7 +112,7 @@ void addTexts(vrx::ExcMiscData& data, const mp::wchar* name, const Handle(Interf
 
 } // namespace
 
-FileProperties::FileProperties(const StepModel& model)
+FileProperties::FileProperties(const CadModel& model)
 {
     const Handle(StepData_StepModel) entities = model.reader->Reader().StepModel();
     readHead(model, entities);
@@ -126,7 +126,7 @@ FileProperties::FileProperties(const StepModel& model)
     }
 }
 
-void FileProperties::readHead(const StepModel& model, const Handle(StepData_StepModel) & entities)
+void FileProperties::readHead(const CadModel& model, const Handle(StepData_StepModel) & entities)
 {
     const APIHeaderSection_MakeHeader head(entities);
     if (head.HasFs())

@@ -8,14 +8,14 @@
 #include <map>
 #include <set>
 
-struct StepModel;
+struct CadModel;
 
 /// The properties that a STEP file holds as text and numbers: those in its head, and the user-defined attributes of its
 /// products and usages. The reader does not bring these into the XDE document.
 class FileProperties
 {
 public:
-    explicit FileProperties(const StepModel& model);
+    explicit FileProperties(const CadModel& model);
 
     const vrx::ExcMiscData& head() const { return m_head; }
 
@@ -26,7 +26,7 @@ public:
     bool hasMaterial(const Handle(Standard_Transient) & product) const;
 
 private:
-    void readHead(const StepModel& model, const Handle(StepData_StepModel) & entities);
+    void readHead(const CadModel& model, const Handle(StepData_StepModel) & entities);
     void readAttributes(const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes);
 
     vrx::ExcMiscData m_head;

@@ -4,7 +4,7 @@
 #include "kernel/occt_text.h"
 #include "kernel/occt_transformation.h"
 #include "mp/narrow.h"
-#include "reading/step_reader.h"
+#include "reading/cad_model.h"
 #include "structure/block_content.h"
 #include "structure/misc_properties.h"
 
@@ -82,7 +82,7 @@ vrx::ELengthUnitType lengthUnit(const Handle(TDocStd_Document) & document)
 
 } // namespace
 
-ProductStructureBuilder::ProductStructureBuilder(const StepModel& model)
+ProductStructureBuilder::ProductStructureBuilder(const CadModel& model)
     : m_model(model)
     , m_labels(model)
     , m_properties(model)

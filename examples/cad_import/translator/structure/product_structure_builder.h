@@ -11,13 +11,13 @@
 #include <memory>
 #include <vector>
 
-struct StepModel;
+struct CadModel;
 
 /// Turns an XDE document into the product structure: each product once as a block, each usage as a reference.
 class ProductStructureBuilder
 {
 public:
-    explicit ProductStructureBuilder(const StepModel& model);
+    explicit ProductStructureBuilder(const CadModel& model);
 
     std::shared_ptr<vrx::ExcProductStructure> build();
 
@@ -32,7 +32,7 @@ private:
     std::vector<TDF_Label> ownShapes(const TDF_Label& label) const;
     bool isPart(const TDF_Label& label) const;
 
-    const StepModel& m_model;
+    const CadModel& m_model;
     StepLabels m_labels;
     FileProperties m_properties;
     std::shared_ptr<vrx::ExcProductStructure> m_structure;

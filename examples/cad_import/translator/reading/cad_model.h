@@ -1,0 +1,17 @@
+#pragma once
+
+#include <STEPCAFControl_Reader.hxx>
+#include <TDocStd_Document.hxx>
+
+#include <memory>
+#include <string>
+
+/// A CAD file as an XDE document, with the reader that still knows the file's own entities.
+struct CadModel
+{
+    std::string path;
+    Handle(TDocStd_Document) document;
+    std::unique_ptr<STEPCAFControl_Reader> reader;
+    /// For the user, when parts of the file could not be read and the model may be incomplete; otherwise empty.
+    std::string warning;
+};

@@ -1,0 +1,27 @@
+#include "reading/import_settings.h"
+
+#include "mp/narrow.h"
+#include "vrx_api/vrx_api_format_options.h"
+
+namespace
+{
+
+void take(const vrx::imp::OptionsSTEP& step, ImportSettings& settings)
+{
+    settings.layers = step.layerNameProcessingMode() != vrx::ELayerNameProcessingModeType::SavedVisuRep;
+    settings.pmi = step.visuPMIProcessingMode() != vrx::EVisuPMIProcessingMode::None;
+}
+
+} // namespace
+
+ImportSettings settingsOf(const vrx::ImportOptions& options)
+{
+    ImportSettings settings;
+    settings.file = mp::toNarrow(options.file());
+    const auto step = options.formatOptions(vrx::EFormatType::STEP);
+    if (const auto* const ofStep = dynamic_cast<const vrx::imp::OptionsSTEP*>(step.get()))
+    {
+        take(*ofStep, settings);
+    }
+    return settings;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "vrx_api/vrx_api_command.h"
+
+#include <string>
+
+/// What an import is to bring, as its command says it; what the command leaves to the translator is decided here.
+struct ImportSettings
+{
+    std::string file; // UTF-8
+    bool layers = true;
+    bool pmi = true;
+};
+
+ImportSettings settingsOf(const vrx::ImportOptions& options);
