@@ -1,6 +1,6 @@
 #include "common/scene_conventions.h"
 #include "host/scene_json.h"
-#include "host/translator_session.h"
+#include "imported.h"
 #include "mp/narrow.h"
 #include "vrx_api/json/json_value.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
@@ -11,7 +11,6 @@
 
 #include <array>
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -112,35 +111,6 @@ TEST(Scene, ShowsACaptureInsteadOfItsView)
     EXPECT_EQ(views[1]["camera"]["eye"][2].GetDouble(), 1); // before the plane
 }
 
-// Keeps what a translator sends of a file.
-class Keeper : public ImportListener
-{
-public:
-    void onProgress(const vrx::ExcProgress&) override {}
-    void onMessage(const mp::wstring&) override {}
-    void onLog(const mp::wstring&) override {}
-    void onStage(vrx::ExcStageFinished::EStage) override {}
-    void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
-    {
-        if (const auto scene = std::dynamic_pointer_cast<vrx::ExcBlockVisualization>(object))
-        {
-            scenes[scene->blockId()] = scene;
-        }
-        if (const auto scene = std::dynamic_pointer_cast<vrx::ExcRootAssemblyVisualization>(object))
-        {
-            root = scene;
-        }
-        if (const auto structure = std::dynamic_pointer_cast<vrx::ExcProductStructure>(object))
-        {
-            product = structure;
-        }
-    }
-
-    std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockVisualization>> scenes;
-    std::shared_ptr<vrx::ExcRootAssemblyVisualization> root;
-    std::shared_ptr<vrx::ExcProductStructure> product;
-};
-
 double triangleNormalDotVertexNormal(const vrx::ExcVisuFace& face, const vrx::ExcVisuFace::Polygon& triangle)
 {
     std::array<std::array<double, 3>, 3> points{};
@@ -166,20 +136,17 @@ double triangleNormalDotVertexNormal(const vrx::ExcVisuFace& face, const vrx::Ex
 
 TEST(Scene, EachPartOfTheAssemblyHasFacesThatTheModelCanPointAt)
 {
-    const auto options = vrx::Command::newImportOptions();
-    options->setFile(mp::toWide(BENCH_VISE));
-    Keeper keeper;
-    TranslatorSession session(CAD_TRANSLATOR);
-    ASSERT_EQ(session.import(options, keeper).code(), vrx::Result::ECode::Ok);
-    for (const auto& block : keeper.product->blocks())
+    const Imported imported = importFile(BENCH_VISE);
+    ASSERT_EQ(imported.result.code(), vrx::Result::ECode::Ok);
+    for (const auto& block : imported.structure->blocks())
     {
-        ASSERT_EQ(keeper.scenes.count(block->id()), block->isPart() ? 1U : 0U) << mp::toNarrow(block->name());
+        ASSERT_EQ(imported.scenes.count(block->id()), block->isPart() ? 1U : 0U) << mp::toNarrow(block->name());
         if (!block->isPart())
         {
             continue;
         }
-        const vrx::ExcVisualizationData& scene = *keeper.scenes[block->id()]->visualizationData();
-        EXPECT_EQ(scene.units(), keeper.product->units());
+        const vrx::ExcVisualizationData& scene = *imported.scenes.at(block->id())->visualizationData();
+        EXPECT_EQ(scene.units(), imported.structure->units());
         const auto meshes = scene.sceneRootNodes().at(0)->childNodes().at(0)->childNodes().at(0);
         ASSERT_EQ(meshes->type(), vrx::ExcVisuNode::EType::MESHES);
         const vrx::ExcVisuMesh& mesh = *meshes->childNodes().at(0)->mesh();
@@ -202,13 +169,10 @@ TEST(Scene, EachPartOfTheAssemblyHasFacesThatTheModelCanPointAt)
 
 TEST(Scene, DrawsANoteOfSeveralSetsWhereItIsMovedTo)
 {
-    const auto options = vrx::Command::newImportOptions();
-    options->setFile(mp::toWide(MOVED_NOTE));
-    Keeper keeper;
-    TranslatorSession session(CAD_TRANSLATOR);
-    ASSERT_EQ(session.import(options, keeper).code(), vrx::Result::ECode::Ok);
-    ASSERT_NE(keeper.root, nullptr);
-    const vrx::ExcVisualizationData& scene = *keeper.root->visualizationData();
+    const Imported imported = importFile(MOVED_NOTE);
+    ASSERT_EQ(imported.result.code(), vrx::Result::ECode::Ok);
+    ASSERT_NE(imported.root, nullptr);
+    const vrx::ExcVisualizationData& scene = *imported.root->visualizationData();
     const auto node = scene.sceneRootNodes().at(0)->childNodes().at(0)->childNodes().at(0)->childNodes().at(0);
     EXPECT_EQ(node->type(), vrx::ExcVisuNode::EType::NOTE);
     ASSERT_NE(node->pmi(), nullptr);

@@ -1,0 +1,62 @@
+#include "imported.h"
+
+#include "host/translator_session.h"
+#include "mp/narrow.h"
+
+namespace
+{
+
+class Keeper : public ImportListener
+{
+public:
+    explicit Keeper(Imported& imported)
+        : m_imported(imported)
+    {
+    }
+
+    void onProgress(const vrx::ExcProgress&) override {}
+    void onMessage(const mp::wstring& text) override { m_imported.messages.push_back(text); }
+    void onLog(const mp::wstring&) override {}
+    void onStage(vrx::ExcStageFinished::EStage) override {}
+    void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
+    {
+        m_imported.objects.push_back(object);
+        if (const auto scene = std::dynamic_pointer_cast<vrx::ExcBlockVisualization>(object))
+        {
+            m_imported.scenes[scene->blockId()] = scene;
+        }
+        else if (const auto bodies = std::dynamic_pointer_cast<vrx::ExcBlockGeometry>(object))
+        {
+            m_imported.bodies[bodies->blockId()] = bodies;
+        }
+        else if (const auto root = std::dynamic_pointer_cast<vrx::ExcRootAssemblyVisualization>(object))
+        {
+            m_imported.root = root;
+        }
+        else if (const auto structure = std::dynamic_pointer_cast<vrx::ExcProductStructure>(object))
+        {
+            m_imported.structure = structure;
+        }
+    }
+
+private:
+    Imported& m_imported;
+};
+
+} // namespace
+
+Imported importFile(const std::string& file, const std::shared_ptr<vrx::ImportOptions>& options)
+{
+    options->setFile(mp::toWide(file));
+    Imported imported;
+    Keeper keeper(imported);
+    imported.result = TranslatorSession(CAD_TRANSLATOR).import(options, keeper);
+    return imported;
+}
+
+Imported importFile(const std::string& file, const std::shared_ptr<vrx::IFormatOptions>& settings)
+{
+    const auto options = vrx::Command::newImportOptions();
+    options->setFormatOptions(settings);
+    return importFile(file, options);
+}
