@@ -7,14 +7,14 @@
 #include "vrx_api/json/fields.h"
 #include "vrx_api/json/json_text_io.h"
 #include "vrx_api/json/message.h"
-#include "vrx_api/json/required.h"
+#include "vrx_api/legacy/export_options_impl.h"
+#include "vrx_api/legacy/import_options_impl.h"
 
 #include <stdexcept>
 
 namespace vrx
 {
 
-static constexpr Key kType = WIDE("command");
 static constexpr Key kOptions = WIDE("options");
 
 static constexpr EnumName<Command::EType> kTypes[] = {
@@ -35,21 +35,23 @@ template <class Self, class Fields>
 void Command::describe(Self& self, Fields& fields)
 {
     fields.always(WIDE("ferrant_interface"), self.m_internalInterface);
-    fields.always(kType, self.m_type);
+    fields.required(WIDE("command"), "Json document has no command type.", self.m_type);
 }
 template struct Described<Command>;
 
 namespace
 {
 
-template <class Options>
-const FerrantOptions& requireHeld(const std::shared_ptr<Options>& options, const char* message)
+// The options if they are of this library's make; otherwise throws.
+template <class Impl, class Options>
+const FerrantOptions& requireImpl(const std::shared_ptr<Options>& options, const char* refusal)
 {
-    if (options == nullptr)
+    const auto* const impl = dynamic_cast<const Impl*>(options.get());
+    if (impl == nullptr)
     {
-        throw std::invalid_argument(message);
+        throw std::invalid_argument(refusal);
     }
-    return *options;
+    return *impl;
 }
 
 template <class Options>
@@ -80,7 +82,6 @@ void Command::readObject(wistream& stream)
     JsonDocument document;
     readMessage(stream, document);
     readMembers(*this, document);
-    requiredText(document, kType, "Json document has no command type.");
     if (carriesOptions())
     {
         const JsonValue* const options = find(document, kOptions);
@@ -99,11 +100,13 @@ const FerrantOptions& Command::options() const
     const bool isImport = m_type == EType::Import;
     if (m_internalInterface == EFerrantInterface::Legacy)
     {
-        throw std::invalid_argument(isImport ? "Import(LEGACY) command should contain import options(LEGACY)"
-                                             : "Export(LEGACY) command should contain export options(LEGACY)");
+        return isImport ? requireImpl<LegacyImportOptionsImpl>(
+                              m_legacyImportOptions, "Import(LEGACY) command should contain import options(LEGACY)")
+                        : requireImpl<LegacyExportOptionsImpl>(
+                              m_legacyExportOptions, "Export(LEGACY) command should contain export options(LEGACY)");
     }
-    return isImport ? requireHeld(m_importOptions, "Import command should contain import options")
-                    : requireHeld(m_exportOptions, "Export command should contain export options");
+    return isImport ? requireImpl<ImportOptionsImpl>(m_importOptions, "Import command should contain import options")
+                    : requireImpl<ExportOptionsImpl>(m_exportOptions, "Export command should contain export options");
 }
 
 void Command::readOptions(const JsonValue& value)
@@ -111,16 +114,13 @@ void Command::readOptions(const JsonValue& value)
     const bool isImport = m_type == EType::Import;
     if (m_internalInterface == EFerrantInterface::Legacy)
     {
-        throw std::invalid_argument(isImport ? "Import(LEGACY) options cannot be read"
-                                             : "Export(LEGACY) options cannot be read");
-    }
-    if (isImport)
-    {
-        replaceByRead(m_importOptions, newImportOptions(), value);
+        isImport ? replaceByRead(m_legacyImportOptions, newLegacyImportOptions(), value)
+                 : replaceByRead(m_legacyExportOptions, newLegacyExportOptions(), value);
     }
     else
     {
-        replaceByRead(m_exportOptions, newExportOptions(), value);
+        isImport ? replaceByRead(m_importOptions, newImportOptions(), value)
+                 : replaceByRead(m_exportOptions, newExportOptions(), value);
     }
 }
 
@@ -134,21 +134,25 @@ std::shared_ptr<ExportOptions> Command::newExportOptions()
     return std::make_shared<ExportOptionsImpl>();
 }
 
+std::shared_ptr<LegacyImportOptions> Command::newLegacyImportOptions()
+{
+    return std::make_shared<LegacyImportOptionsImpl>();
+}
+
+std::shared_ptr<LegacyExportOptions> Command::newLegacyExportOptions()
+{
+    return std::make_shared<LegacyExportOptionsImpl>();
+}
+
 void Command::setImportOptions(const std::shared_ptr<ImportOptions>& options)
 {
-    if (dynamic_cast<const ImportOptionsImpl*>(options.get()) == nullptr)
-    {
-        throw std::invalid_argument("Wrong implementation of ImportOptions interface.");
-    }
+    requireImpl<ImportOptionsImpl>(options, "Wrong implementation of ImportOptions interface.");
     m_importOptions = options;
 }
 
 void Command::setExportOptions(const std::shared_ptr<ExportOptions>& options)
 {
-    if (dynamic_cast<const ExportOptionsImpl*>(options.get()) == nullptr)
-    {
-        throw std::invalid_argument("Wrong implementation of ExportOptions interface");
-    }
+    requireImpl<ExportOptionsImpl>(options, "Wrong implementation of ExportOptions interface");
     m_exportOptions = options;
 }
 

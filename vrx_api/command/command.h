@@ -5,6 +5,8 @@
 #include "vrx_api/command/ferrant_interface.h"
 #include "vrx_api/command/import_options.h"
 #include "vrx_api/json/described.h"
+#include "vrx_api/legacy/export_options.h"
+#include "vrx_api/legacy/import_options.h"
 
 #include <cstdint>
 #include <memory>
@@ -12,7 +14,8 @@
 namespace vrx
 {
 
-/// What the host asks of the translator. An import and an export carry options; copies of a command share them.
+/// What the host asks of the translator. An import and an export carry options: those of the older interface when that
+/// is the command's interface. Copies of a command share them.
 class VRX_API Command : public mp::ISerializable
 {
 public:
@@ -25,7 +28,8 @@ public:
         Ping = 4,
     };
 
-    /// Throws `std::invalid_argument` when an import or an export has no options of its interface; the stream then has
+    /// Throws `std::invalid_argument` when an import or an export has no options of its interface, or options that no
+    /// factory of this class made; the stream then has
     /// nothing of it.
     void writeObject(wostream& stream) const override;
 
@@ -50,6 +54,23 @@ public:
     void setExportOptions(const std::shared_ptr<ExportOptions>& options);
     std::shared_ptr<ExportOptions> exportOptions() const { return m_exportOptions; }
 
+    static std::shared_ptr<LegacyImportOptions> newLegacyImportOptions();
+    static std::shared_ptr<LegacyExportOptions> newLegacyExportOptions();
+
+    /// Takes any options: those of another make are refused when the command is written.
+    void setLegacyImportOptions(const std::shared_ptr<LegacyImportOptions>& options)
+    {
+        m_legacyImportOptions = options;
+    }
+    std::shared_ptr<LegacyImportOptions> legacyImportOptions() const { return m_legacyImportOptions; }
+
+    /// As for the import options.
+    void setLegacyExportOptions(const std::shared_ptr<LegacyExportOptions>& options)
+    {
+        m_legacyExportOptions = options;
+    }
+    std::shared_ptr<LegacyExportOptions> legacyExportOptions() const { return m_legacyExportOptions; }
+
 private:
     friend struct Described<Command>;
     template <class Self, class Fields>
@@ -63,6 +84,8 @@ private:
     EFerrantInterface m_internalInterface = EFerrantInterface::UConnect;
     std::shared_ptr<ImportOptions> m_importOptions;
     std::shared_ptr<ExportOptions> m_exportOptions;
+    std::shared_ptr<LegacyImportOptions> m_legacyImportOptions;
+    std::shared_ptr<LegacyExportOptions> m_legacyExportOptions;
 };
 
 } // namespace vrx

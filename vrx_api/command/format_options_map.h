@@ -32,9 +32,39 @@ private:
     std::map<EFormatType, std::shared_ptr<IFormatOptions>> m_options;
 };
 
-inline JsonValue encode(const FormatOptionsMap& options, JsonAllocator& allocator)
+/// The settings of an import of a file, an array on the wire.
+template <class Map>
+struct SettingsForFile
 {
-    return options.write(allocator);
+    const wstring& file;
+    Map& options;
+};
+
+template <class Map>
+SettingsForFile<Map> forFile(const wstring& file, Map& options)
+{
+    return {file, options};
+}
+
+inline bool decode(const JsonValue& value, const SettingsForFile<FormatOptionsMap>& settings)
+{
+    if (!value.IsArray())
+    {
+        return false;
+    }
+    settings.options.read(value, settings.file);
+    return true;
+}
+
+inline JsonValue encode(const SettingsForFile<const FormatOptionsMap>& settings, JsonAllocator& allocator)
+{
+    return settings.options.write(allocator);
+}
+
+template <class Map>
+bool isEmpty(const SettingsForFile<Map>& settings)
+{
+    return settings.options.isEmpty();
 }
 
 } // namespace vrx

@@ -1,7 +1,6 @@
 #include "vrx_api/command/result.h"
 
 #include "vrx_api/json/message.h"
-#include "vrx_api/json/required.h"
 
 namespace vrx
 {
@@ -20,12 +19,10 @@ static constexpr Result::ECode enumFallback(Result::ECode)
     return Result::ECode::Unknown;
 }
 
-static constexpr Key kCode = WIDE("code");
-
 template <class Self, class Fields>
 void Result::describe(Self& self, Fields& fields)
 {
-    fields.always(kCode, self.m_code);
+    fields.required(WIDE("code"), "Json document has no result code.", self.m_code);
     fields.filled(WIDE("message"), self.m_message);
     fields.always(WIDE("is_finished"), self.m_finished);
 }
@@ -40,7 +37,6 @@ void Result::readObject(wistream& stream)
 {
     JsonDocument document;
     readMessage(stream, document);
-    requiredText(document, kCode, "Json document has no result code.");
     readMembers(*this, document);
 }
 

@@ -1,6 +1,6 @@
 #include "vrx_api/info/format.h"
 
-#include "vrx_api/json/required.h"
+#include "vrx_api/json/kind.h"
 #include "vrx_api/json/shapes.h"
 
 #include <boost/algorithm/string/case_conv.hpp>

@@ -1,7 +1,7 @@
 #include "vrx_api/info/thirdparty_core.h"
 
 #include "vrx_api/json/fields.h"
-#include "vrx_api/json/required.h"
+#include "vrx_api/json/kind.h"
 
 namespace vrx
 {

@@ -5,6 +5,7 @@
 #include "vrx_api/json/json_write.h"
 #include "vrx_api/json/kind.h"
 
+#include <stdexcept>
 #include <type_traits>
 #include <utility>
 
@@ -29,6 +30,15 @@ public:
     void always(Key key, T&& field)
     {
         take(key, std::forward<T>(field));
+    }
+
+    template <class T>
+    void required(Key key, const char* refusal, T&& field)
+    {
+        if (!take(key, std::forward<T>(field)))
+        {
+            throw std::invalid_argument(refusal);
+        }
     }
 
     template <class T>
@@ -88,6 +98,12 @@ public:
 
     template <class T>
     void always(Key key, const T& field)
+    {
+        derived().when(true, key, field);
+    }
+
+    template <class T>
+    void required(Key key, const char*, const T& field)
     {
         derived().when(true, key, field);
     }

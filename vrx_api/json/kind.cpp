@@ -3,6 +3,8 @@
 #include "kolt/log.h"
 #include "vrx_api/json/json_value.h"
 
+#include <stdexcept>
+
 namespace vrx
 {
 
@@ -23,6 +25,22 @@ bool isObject(const JsonValue& value, const char* className)
 bool isArray(const JsonValue& value, const char* className)
 {
     return report(value.IsArray(), className, " object should have a JSON array type.");
+}
+
+void requireObject(const JsonValue& value, const char* message)
+{
+    if (!value.IsObject())
+    {
+        throw std::invalid_argument(message);
+    }
+}
+
+void requireArray(const JsonValue& value, const char* message)
+{
+    if (!value.IsArray())
+    {
+        throw std::invalid_argument(message);
+    }
 }
 
 } // namespace vrx

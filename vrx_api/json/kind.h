@@ -14,4 +14,10 @@ bool isObject(const JsonValue& value, const char* className);
 /// True for an array; otherwise logs that the class's value should be one.
 bool isArray(const JsonValue& value, const char* className);
 
+/// Throws `std::invalid_argument` with the given message when the value is no object.
+void requireObject(const JsonValue& value, const char* message);
+
+/// Throws `std::invalid_argument` with the given message when the value is no array.
+void requireArray(const JsonValue& value, const char* message);
+
 } // namespace vrx

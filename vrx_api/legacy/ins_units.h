@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+
+namespace vrx
+{
+
+/// The units of a drawing, by their numbers in the variable INSUNITS of drawings.
+enum class EInsUnits : std::int32_t
+{
+    Unknown = 0,
+    Inches = 1,
+    Feet = 2,
+    Miles = 3,
+    Millimeters = 4,
+    Centimeters = 5,
+    Meters = 6,
+    Kilometers = 7,
+    Microinches = 8,
+    Nanometers = 12,
+    Microns = 13,
+    Decimeters = 14,
+};
+
+} // namespace vrx

@@ -1,0 +1,67 @@
+#include "vrx_api/legacy/material_map.h"
+
+#include "vrx_api/exchange/static_exchange_object.h"
+#include "vrx_api/json/shapes.h"
+#include "vrx_api/legacy/handle_entries.h"
+
+namespace vrx
+{
+
+const wstring LegacyMaterialMap::s_objectName = WIDE("legacy_component_material_map");
+static const StaticExchangeObject<LegacyMaterialMap> s_prototype;
+
+static constexpr Key kMaterialKey = WIDE("component_material");
+
+static const auto describeMaterial = [](auto& material, auto& fields) {
+    fields.always(WIDE("has_material"), material.hasMaterial);
+    fields.always(WIDE("name"), material.name);
+    fields.always(WIDE("density"), material.density);
+    fields.always(WIDE("thermal_conductivity"), material.thermalConductivity);
+    fields.always(WIDE("specific_heat"), material.specificHeat);
+};
+
+static bool decode(const JsonValue& value, LegacyMaterialMap::Material& material)
+{
+    return decode(value, record(material, describeMaterial));
+}
+
+static JsonValue encode(const LegacyMaterialMap::Material& material, JsonAllocator& allocator)
+{
+    return encode(record(material, describeMaterial), allocator);
+}
+
+void LegacyMaterialMap::readObject(const JsonValue& value)
+{
+    requireArray(value, "LegacyMaterialMap::readObject(): Input json object is not an array");
+    readEntries<Material>(value, kMaterialKey, [this](std::uint64_t handle, const Material& material) {
+        m_map.emplace(OdDbHandle(handle), material);
+    });
+}
+
+void LegacyMaterialMap::writeObject(JsonValue& value, JsonAllocator& allocator) const
+{
+    value = encodeEntries(m_map, kMaterialKey, allocator);
+}
+
+const wstring& LegacyMaterialMap::objectName() const
+{
+    return s_objectName;
+}
+
+std::shared_ptr<IExchangeObject> LegacyMaterialMap::clone() const
+{
+    return std::make_shared<LegacyMaterialMap>();
+}
+
+bool LegacyMaterialMap::addMaterial(const OdDbHandle& handle, const Material& material)
+{
+    m_map[handle] = material;
+    return true;
+}
+
+void LegacyMaterialMap::merge(const LegacyMaterialMap& other)
+{
+    m_map.insert(other.m_map.begin(), other.m_map.end());
+}
+
+} // namespace vrx
