@@ -1,15 +1,18 @@
 #include "tests/support/enum_row.h"
 #include "tests/support/model_row.h"
-#include "vrx_api/format_options/shared_mode_tables.h"
-#include "vrx_api/json/shapes.h"
 #include "vrx_api/vrx_api_format_options.h"
 
 #include <gmock/gmock.h>
+
+#include <functional>
+#include <map>
 
 using namespace vrx;
 using test::enumRow;
 using test::row;
 using testing::ElementsAre;
+using testing::Pair;
+using testing::SizeIs;
 
 namespace
 {
@@ -28,6 +31,14 @@ constexpr const char* kEmptyJT =
     R"({"operation_type":"import","format_type":"JT","edges_mode":"unknown","user_prop_mode":"unknown"})";
 constexpr const char* kEmptyParasolid =
     R"({"operation_type":"import","format_type":"parasolid","hidden_entities_mode":"unknown"})";
+constexpr const char* kEmptyCatiaV5 =
+    R"({"operation_type":"import","format_type":"CatiaV5","import_visualization":false,)"
+    R"("import_root_visualization":false,"import_preview_graphics":false,"in_work_object_mode":"unknown",)"
+    R"("name_processing_mode":"unknown","assembly_unfolded_view_mode":"unknown","mfg_processing_mode":"unknown",)"
+    R"("hidden_entities_mode":"unknown","suppressed_entities_mode":"unknown","visu_pmi_mode":"unknown",)"
+    R"("mfg_data_mode":"unknown","doc_delay_loading_mode":"none"})";
+constexpr const char* kEmptySolidEdge = R"({"operation_type":"import","format_type":"SolidEdge","search_paths":"",)"
+                                        R"("assembly_path_pref":"unknown","hidden_entities_mode":"unknown"})";
 
 const test::ModelRow kRows[] = {
     // A mismatch is logged, and the rest is taken all the same.
@@ -100,15 +111,6 @@ AnyOptions optionsOf(EFormatType format)
     return AnyOptions(EOperationType::Import, format);
 }
 
-// An enumeration that settings to come will hold.
-template <class E>
-test::EnumRow tableRow(const char* title, std::vector<test::EnumEntry> entries, const char* ofUnlistedName)
-{
-    return enumRow<E>(
-        title, [](E value) { return wstring(enumName(value)); }, [](const wstring& name) { return enumValue<E>(name); },
-        std::move(entries), ofUnlistedName);
-}
-
 const test::EnumRow kEnums[] = {
     enumRow<EOperationType>(
         "EOperationType", [](EOperationType operation) { return writtenName(optionsFor(operation), "operation_type"); },
@@ -154,35 +156,89 @@ const test::EnumRow kEnums[] = {
          "EDrawings",
          {30, "UDL"}},
         "3D_PDF"),
-    enumRow("ETranslateHiddenEntitiesModeType", R"({"format_type":"IGES","hidden_entities_mode":"?"})",
-            &imp::OptionsIGES::hiddenEntitiesMode, &imp::OptionsIGES::setHiddenEntitiesMode,
-            {"unknown", "all", "none", "only_with_visible_links"}, "all"),
-    enumRow("EImportEntities", R"({"format_type":"IGES","import_entities":"?"})", &imp::OptionsIGES::importEntities,
+    enumRow("ETranslateHiddenEntitiesModeType", "hidden_entities_mode", &imp::OptionsIGES::hiddenEntitiesMode,
+            &imp::OptionsIGES::setHiddenEntitiesMode, {"unknown", "all", "none", "only_with_visible_links"}, "all"),
+    enumRow("EImportEntities", "import_entities", &imp::OptionsIGES::importEntities,
             &imp::OptionsIGES::setImportEntities, {"unknown", "root_only", "root_and_nonroot"}, "root_and_nonroot"),
-    enumRow("EVisuPMIProcessingMode", R"({"format_type":"STEP","visu_pmi_mode":"?"})",
-            &imp::OptionsSTEP::visuPMIProcessingMode, &imp::OptionsSTEP::setVisuPMIProcessingMode,
+    enumRow("EVisuPMIProcessingMode", "visu_pmi_mode", &imp::OptionsSTEP::visuPMIProcessingMode,
+            &imp::OptionsSTEP::setVisuPMIProcessingMode, {"unknown", "all", "none"}, "all"),
+    enumRow("ELayerNameProcessingModeType", "layer_name_mode", &imp::OptionsSTEP::layerNameProcessingMode,
+            &imp::OptionsSTEP::setLayerNameProcessingMode, {"unknown", "asm_rep", "saved_visu_rep"}, "asm_rep"),
+    enumRow("EImportEdgesModeType", "edges_mode", &imp::OptionsJT::importEdgesMode, &imp::OptionsJT::setImportEdgesMode,
             {"unknown", "all", "none"}, "all"),
-    enumRow("ELayerNameProcessingModeType", R"({"format_type":"STEP","layer_name_mode":"?"})",
-            &imp::OptionsSTEP::layerNameProcessingMode, &imp::OptionsSTEP::setLayerNameProcessingMode,
-            {"unknown", "asm_rep", "saved_visu_rep"}, "asm_rep"),
-    enumRow("EImportEdgesModeType", R"({"format_type":"JT","edges_mode":"?"})", &imp::OptionsJT::importEdgesMode,
-            &imp::OptionsJT::setImportEdgesMode, {"unknown", "all", "none"}, "all"),
-    enumRow("EUserPropertiesModeType", R"({"format_type":"JT","user_prop_mode":"?"})",
-            &imp::OptionsJT::userPropertiesMode, &imp::OptionsJT::setUserPropertiesMode,
-            {"unknown", "translate_all", "translate_none"}, "translate_all"),
-    tableRow<ETranslateSuppressedEntitiesModeType>("ETranslateSuppressedEntitiesModeType", {"unknown", "all", "none"},
-                                                   "all"),
-    tableRow<EAssemblyPathPrefType>("EAssemblyPathPrefType",
-                                    {"unknown", "subfolders_first", "root_folder_only", "root_folder_first"},
-                                    "root_folder_first"),
-    tableRow<EPersistentNameProcessingModeType>(
-        "EPersistentNameProcessingModeType",
+    enumRow("EUserPropertiesModeType", "user_prop_mode", &imp::OptionsJT::userPropertiesMode,
+            &imp::OptionsJT::setUserPropertiesMode, {"unknown", "translate_all", "translate_none"}, "translate_all"),
+    enumRow("ETranslateSuppressedEntitiesModeType", "suppressed_entities_mode", &imp::OptionsNX::suppressedEntitiesMode,
+            &imp::OptionsNX::setSuppressedEntitiesMode, {"unknown", "all", "none"}, "all"),
+    enumRow("EAssemblyPathPrefType", "assembly_path_pref", &imp::OptionsInventor::assemblyPathPreference,
+            &imp::OptionsInventor::setAssemblyPathPreference,
+            {"unknown", "subfolders_first", "root_folder_only", "root_folder_first"}, "root_folder_first"),
+    enumRow<imp::OptionsSolidEdge>(
+        "EPersistentNameProcessingModeType", R"({"pname_modes":["?"]})",
+        [](const imp::OptionsSolidEdge& options) { return *options.persistentNameModes().begin(); },
+        &imp::OptionsSolidEdge::addPersistentNameMode,
         {"none", "vertex", "edge", {4, "face"}, {16, "instance"}, {255, "unknown"}}, "edge"),
+    enumRow("EProcessInWorkObjectModeType", "in_work_object_mode", &imp::OptionsCatiaV5::processInWorkObject,
+            &imp::OptionsCatiaV5::setProcessInWorkObject, {"unknown", "true", "false"}, "false"),
+    enumRow("ENameProcessingModeType", "name_processing_mode", &imp::OptionsCatiaV5::nameProcessingMode,
+            &imp::OptionsCatiaV5::setNameProcessingMode, {"unknown", "short_names", "long_names"}, "long_names"),
+    enumRow("EAssemblyUnfoldedViewMode", "assembly_unfolded_view_mode", &imp::OptionsCatiaV5::assemblyUnfoldedViewMode,
+            &imp::OptionsCatiaV5::setAssemblyUnfoldedViewMode, {"unknown", "true", "false"}, "false"),
+    enumRow("EImportMfgProcessingModeType", "mfg_processing_mode", &imp::OptionsCatiaV5::mfgProcessingMode,
+            &imp::OptionsCatiaV5::setMfgProcessingMode, {"unknown", "features_only", "results_only"}, "features_only"),
+    enumRow("EProcessMfgDataModeType", "mfg_data_mode", &imp::OptionsCatiaV5::processMfgDataMode,
+            &imp::OptionsCatiaV5::setProcessMfgDataMode, {"unknown", "all", "none"}, "all"),
+    enumRow("EDocumentDelayLoadingMode", "doc_delay_loading_mode", &imp::OptionsCatiaV5::documentDelayLoadingMode,
+            &imp::OptionsCatiaV5::setDocumentDelayLoadingMode, {"none", "part"}, "none"),
+    enumRow("EImportMfgHolesOnSheetsMode", "holes_on_sheets_mode", &imp::OptionsCreo::mfgHolesOnSheetsMode,
+            &imp::OptionsCreo::setMfgHolesOnSheetsMode, {"unknown", "ignore", "include"}, "ignore"),
+    enumRow("ETranslateDrivingDimensionsModeType", "driving_dimensions_type",
+            &imp::OptionsCreo::translateDrivingDimensionsMode, &imp::OptionsCreo::setTranslateDrivingDimensionsMode,
+            {"unknown", "true", "false"}, "false"),
+    enumRow("ETranslateConstructionGeometriesModeType", "construction_geom_mode",
+            &imp::OptionsCreo::translateConstructionGeometriesMode,
+            &imp::OptionsCreo::setTranslateConstructionGeometriesMode, {"unknown", "true", "false"}, "false"),
+    enumRow("ETranslateReferenceGeometryMode", "reference_geom_mode", &imp::OptionsCreo::translateReferenceGeometryMode,
+            &imp::OptionsCreo::setTranslateReferenceGeometryMode, {"unknown", "true", "false"}, "false"),
+    enumRow("EActiveStateProcessingModeType", "active_state_mode", &imp::OptionsInventor::activeStateProcessingMode,
+            &imp::OptionsInventor::setActiveStateProcessingMode, {"unknown", "active_only", "active_and_inactive"},
+            "active_and_inactive"),
+    enumRow("EImportProductStructureRepresentationMode", "product_structure_mode",
+            &imp::OptionsSolidWorks::productStructureMode, &imp::OptionsSolidWorks::setProductStructureMode,
+            {"unknown", "asm_rep", "saved_visu_rep", "asm_rep_and_saved_visu_rep"}, "asm_rep"),
 };
 
 class FormatOptionsEnums : public test::EnumRows
 {
 };
+
+// What is set is written under the key, and what is read under the key is what the class returns.
+template <class T, class Getter, class Setter, class Value>
+void expectUnder(const std::string& key, Getter getter, Setter setter, const std::string& json, const Value& value)
+{
+    T set;
+    std::invoke(setter, set, value);
+    const T read = test::readFrom<T>("{\"" + key + "\":" + json + '}');
+    EXPECT_EQ(std::invoke(getter, read), value) << key;
+    EXPECT_EQ(test::written(set), test::written(read)) << key;
+}
+
+template <class T>
+void checkSwitches()
+{
+    expectUnder<T>("import_visualization", &T::importVisualization, &T::setImportVisualization, "true", true);
+    expectUnder<T>("import_root_visualization", &T::importRootVisualization, &T::setImportRootVisualization, "true",
+                   true);
+    expectUnder<T>("import_preview_graphics", &T::importPreviewGraphics, &T::setImportPreviewGraphics, "true", true);
+}
+
+template <class T, class Getter, class Setter>
+void checkTexts(Getter searchPaths, Setter setSearchPaths)
+{
+    const wstring text = WIDE("t");
+    expectUnder<T>("search_paths", searchPaths, setSearchPaths, R"("t")", text);
+    expectUnder<T>("configuration_name", &T::importConfiguration, &T::setImportConfiguration, R"("t")", text);
+}
 
 // A settings class of a host, for an export.
 class ExportSTEP : public exp::FormatOptions
@@ -220,6 +276,9 @@ TEST(FormatOptions, AreMadeByOperationAndFormat)
         {R"({"operation_type":"import","format_type":"STEP","visu_pmi_mode":"none"})", kNoPMI, {}},
         {R"({"operation_type":"import","format_type":"JT"})", kEmptyJT, {}},
         {R"({"operation_type":"import","format_type":"parasolid"})", kEmptyParasolid, {}},
+        {R"({"operation_type":"import","format_type":"CatiaV5"})", kEmptyCatiaV5, {}},
+        // A key of other formats is passed over.
+        {R"({"operation_type":"import","format_type":"SolidEdge","visu_pmi_mode":"all"})", kEmptySolidEdge, {}},
         {"[]", nullptr, {"[ERROR] FormatOptions object should have a JSON object type."}},
         {R"({"format_type":"STEP"})", nullptr, {kNoOperation}},
         {R"({"operation_type":1,"format_type":"STEP"})", nullptr, {kNoOperation}},
@@ -243,6 +302,49 @@ TEST(FormatOptions, AreMadeByOperationAndFormat)
     }
 }
 
+TEST(FormatOptions, HaveAClassForFifteenFormats)
+{
+    std::map<int, std::string> classes;
+    for (int number = 0; number <= 30; ++number)
+    {
+        const auto format = static_cast<EFormatType>(number);
+        const test::LogCapture log;
+        const auto options = IFormatOptions::readOptions(test::parsed(test::written(optionsOf(format))));
+        if (options == nullptr)
+        {
+            EXPECT_THAT(log.complaints(), ElementsAre(kNoOptions)) << number;
+            continue;
+        }
+        EXPECT_EQ(options->formatType(), format);
+        test::readText(*options, "[]");
+        EXPECT_THAT(log.complaints(), SizeIs(1)) << number;
+        classes[number] = log.complaints().back();
+    }
+    const auto kind = [](const std::string& name) {
+        return "[ERROR] " + name + " object should have a JSON object type.";
+    };
+    EXPECT_THAT(classes,
+                ElementsAre(Pair(4, kind("OptionsParasolid")), Pair(5, kind("OptionsCatiaV5")),
+                            Pair(6, kind("OptionsCatiaV5Drawing")), Pair(7, kind("OptionsCatiaV4")),
+                            Pair(8, kind("OptionsIGES")), Pair(9, kind("OptionsSTEP")), Pair(11, kind("OptionsCreo")),
+                            Pair(12, kind("OptionsNX")), Pair(13, kind("OptionsSolidWorks")),
+                            Pair(14, kind("OptionsSolidWorksDrawing")), Pair(15, kind("OptionsSolidEdge")),
+                            Pair(16, kind("OptionsJT")), Pair(17, kind("OptionsInventor")),
+                            Pair(19, kind("Options3DXML")), Pair(24, kind("OptionsXCGM"))));
+}
+
+TEST(FormatOptions, HoldSwitchesAndTextsUnderTheirKeys)
+{
+    using imp::OptionsCreo;
+    using imp::OptionsNX;
+    using imp::OptionsSolidWorks;
+    checkSwitches<imp::OptionsCatiaV5>();
+    checkSwitches<OptionsSolidWorks>();
+    checkTexts<OptionsCreo>(&OptionsCreo::alternateSearchPaths, &OptionsCreo::setAlternateSearchPaths);
+    checkTexts<OptionsNX>(&OptionsNX::assemblySearchPaths, &OptionsNX::setAssemblySearchPaths);
+    checkTexts<OptionsSolidWorks>(&OptionsSolidWorks::assemblySearchPaths, &OptionsSolidWorks::setAssemblySearchPaths);
+}
+
 TEST(FormatOptions, OfAnExportTellTheirOperation)
 {
     ExportSTEP options;
@@ -256,14 +358,17 @@ TEST(FormatOptions, OfAnExportTellTheirOperation)
                 ElementsAre(kOtherOperation, "[ERROR] FormatOptions object should have a JSON object type."));
 }
 
-TEST(FormatOptions, ASetOfModesAddsAndIsSorted)
+TEST(FormatOptions, AddToTheirSetOfModesWhenRead)
 {
     using EMode = EPersistentNameProcessingModeType;
-    std::set<EMode> modes = {EMode::Instance};
-    decode(test::parsed(R"(["unknown","face",3,"vertex","face","Face"])"), valid(modes));
-    decode(test::parsed(R"({"none":"none"})"), valid(modes));
-    modes.insert(EMode{8});
-    JsonDocument document;
-    encode(valid(modes), document.GetAllocator()).Swap(document);
-    EXPECT_EQ(test::textOf(document), R"(["vertex","edge","face","none","instance","unknown"])");
+    imp::OptionsSolidEdge options;
+    options.addPersistentNameMode(EMode::None);
+    options.setPersistentNameModes({EMode::Instance});
+    options.addPersistentNameMode(EMode{8});
+    test::readText(options, R"({"pname_modes":["unknown","face",3,"vertex","face","Face"]})");
+    test::readText(options, R"({"pname_modes":{"none":"none"}})");
+    EXPECT_EQ(
+        test::written(options),
+        R"({"operation_type":"import","format_type":"SolidEdge","search_paths":"","assembly_path_pref":"unknown",)"
+        R"("hidden_entities_mode":"unknown","pname_modes":["vertex","edge","face","none","instance","unknown"]})");
 }

@@ -16,14 +16,9 @@ static constexpr const auto& enumTable(ELayerNameProcessingModeType)
     return kLayerNameModes;
 }
 
-static constexpr EnumName<EImportEdgesModeType> kEdgesModes[] = {
-    {EImportEdgesModeType::Unknown, WIDE("unknown")},
-    {EImportEdgesModeType::All, WIDE("all")},
-    {EImportEdgesModeType::None, WIDE("none")},
-};
 static constexpr const auto& enumTable(EImportEdgesModeType)
 {
-    return kEdgesModes;
+    return kAllOrNone<EImportEdgesModeType>;
 }
 
 static constexpr EnumName<EUserPropertiesModeType> kUserPropertiesModes[] = {

@@ -6,6 +6,23 @@
 namespace vrx
 {
 
+// The names that several enumerations share.
+
+template <class E>
+inline constexpr EnumName<E> kAllOrNone[3] = {
+    {E::Unknown, WIDE("unknown")},
+    {E::All, WIDE("all")},
+    {E::None, WIDE("none")},
+};
+
+/// The names are texts, not JSON booleans.
+template <class E>
+inline constexpr EnumName<E> kTrueOrFalse[3] = {
+    {E::Unknown, WIDE("unknown")},
+    {E::True, WIDE("true")},
+    {E::False, WIDE("false")},
+};
+
 inline constexpr EnumName<ETranslateHiddenEntitiesModeType> kHiddenEntitiesModes[] = {
     {ETranslateHiddenEntitiesModeType::Unknown, WIDE("unknown")},
     {ETranslateHiddenEntitiesModeType::All, WIDE("all")},
@@ -17,24 +34,14 @@ constexpr const auto& enumTable(ETranslateHiddenEntitiesModeType)
     return kHiddenEntitiesModes;
 }
 
-inline constexpr EnumName<ETranslateSuppressedEntitiesModeType> kSuppressedEntitiesModes[] = {
-    {ETranslateSuppressedEntitiesModeType::Unknown, WIDE("unknown")},
-    {ETranslateSuppressedEntitiesModeType::All, WIDE("all")},
-    {ETranslateSuppressedEntitiesModeType::None, WIDE("none")},
-};
 constexpr const auto& enumTable(ETranslateSuppressedEntitiesModeType)
 {
-    return kSuppressedEntitiesModes;
+    return kAllOrNone<ETranslateSuppressedEntitiesModeType>;
 }
 
-inline constexpr EnumName<EVisuPMIProcessingMode> kVisuPMIModes[] = {
-    {EVisuPMIProcessingMode::Unknown, WIDE("unknown")},
-    {EVisuPMIProcessingMode::All, WIDE("all")},
-    {EVisuPMIProcessingMode::None, WIDE("none")},
-};
 constexpr const auto& enumTable(EVisuPMIProcessingMode)
 {
-    return kVisuPMIModes;
+    return kAllOrNone<EVisuPMIProcessingMode>;
 }
 
 inline constexpr EnumName<EImportEntities> kImportEntities[] = {
