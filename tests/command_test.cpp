@@ -307,7 +307,9 @@ TEST(ExportOptions, ReadsAndWrites)
 
 TEST(Options, AreStrictAboutTheirKindAndFile)
 {
-    const std::shared_ptr<FerrantOptions> all[] = {Command::newImportOptions(), Command::newExportOptions()};
+    const std::shared_ptr<FerrantOptions> all[] = {Command::newImportOptions(), Command::newExportOptions(),
+                                                   Command::newLegacyImportOptions(),
+                                                   Command::newLegacyExportOptions()};
     for (const std::shared_ptr<FerrantOptions>& options : all)
     {
         const test::LogCapture log;

@@ -8,11 +8,15 @@
 #include "vrx_api/exchange/json_binary_io.h"
 #include "vrx_api/exchange/static_exchange_object.h"
 #include "vrx_api/vrx_api_exchange_common.h"
+#include "vrx_api/vrx_api_exchange_mechanical.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
+#include "vrx_api/vrx_api_exchange_visualization.h"
 
+#include <iterator>
 #include <regex>
 #include <set>
+#include <typeinfo>
 
 using namespace vrx;
 using test::envelopeOf;
@@ -89,21 +93,41 @@ const ExchangeObjectRegistry& registry()
     return ExchangeObjectRegistry::instance();
 }
 
-TEST(Registry, MakesNewObjectsOfEachName)
+struct ExchangeClass
 {
-    const std::pair<const char*, bool> classes[] = {
-        {"exc_stage_finished", false}, {"exc_message", false},          {"exc_log", false},
-        {"exc_progress", false},       {"exc_product_structure", true},
+    const char* name;
+    const std::type_info& type;
+    bool binary;
+};
+
+TEST(Registry, MakesNewObjectsOfTwelveClasses)
+{
+    const ExchangeClass classes[] = {
+        {"exc_block_geometry", typeid(ExcBlockGeometry), false},
+        {"exc_block_mechanical_data", typeid(ExcBlockMechanicalData), true},
+        {"exc_block_visualization", typeid(ExcBlockVisualization), true},
+        {"exc_log", typeid(ExcLog), false},
+        {"exc_message", typeid(ExcMessage), false},
+        {"exc_product_structure", typeid(ExcProductStructure), true},
+        {"exc_progress", typeid(ExcProgress), false},
+        {"exc_root_assembly_visualization", typeid(ExcRootAssemblyVisualization), true},
+        {"exc_root_mechanical_data", typeid(ExcRootMechanicalData), true},
+        {"exc_stage_finished", typeid(ExcStageFinished), false},
+        {"legacy_component_instance_names", typeid(LegacyComponentInstanceNames), false},
+        {"legacy_component_material_map", typeid(LegacyMaterialMap), false},
     };
-    for (const auto& [name, binary] : classes)
+    EXPECT_EQ(registry().names().size(), std::size(classes));
+    for (const ExchangeClass& row : classes)
     {
-        const auto object = registry().get(wide(name));
-        ASSERT_NE(object, nullptr) << name;
-        EXPECT_EQ(object->objectName(), wide(name));
-        EXPECT_EQ(object->binary(), binary) << name;
-        EXPECT_EQ(object->compress(), binary) << name;
-        EXPECT_FALSE(object->isLoaded());
-        EXPECT_NE(object, registry().get(wide(name)));
+        const auto object = registry().get(wide(row.name));
+        ASSERT_NE(object, nullptr) << row.name;
+        const IExchangeObject& made = *object;
+        EXPECT_EQ(typeid(made), row.type) << row.name;
+        EXPECT_EQ(made.objectName(), wide(row.name));
+        EXPECT_EQ(made.binary(), row.binary) << row.name;
+        EXPECT_EQ(made.compress(), row.binary) << row.name;
+        EXPECT_FALSE(made.isLoaded());
+        EXPECT_NE(object, registry().get(wide(row.name)));
     }
     EXPECT_EQ(registry().get(WIDE("EXC_PROGRESS")), nullptr);
     EXPECT_EQ(registry().get(wstring()), nullptr);

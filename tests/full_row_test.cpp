@@ -137,7 +137,7 @@ std::string readTwice(const FullRow& row)
 {
     JsonDocument document = parsed(row.out);
     JsonAllocator& allocator = document.GetAllocator();
-    if (holdsObjectsOrTexts(document))
+    if (holdsObjectsOrTexts(document) && row.keeping.count("") == 0)
     {
         repeat(document, allocator);
     }

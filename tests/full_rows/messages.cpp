@@ -37,6 +37,27 @@ std::vector<FullRow> messageRows()
             .keeps({"format_options"}),
         settingsRow<Command::newExportOptions>("ExportOptions",
                                                R"({"file":"f","format_version":"v","geometry_flags":-3})"),
+        settingsRow<Command::newLegacyImportOptions>(
+            "LegacyImportOptions",
+            R"({"file":"f","temporary_dwg":"t","format_options":[{"operation_type":"import",)"
+            R"("format_type":"3D_XML","visu_pmi_mode":"all"}],"use_interop_mp":true,"pmi_mode":"semantic",)"
+            R"("product_structure_mode":"as_blocks","colors_mode":"nearest_index",)"
+            R"("hidden_parts_mode":"import_hide","ins_units_def_source":"microns","ins_units_scaling":true,)"
+            R"("import_acis_with_draftwell":true,"step_rotate_yz":true,"solidworks_rotate_yz":true,)"
+            R"("alternate_search_paths":{"a":"b","c":""},"debug_log":true})")
+            .loudAbout({"format_options"})
+            .keeps({"format_options"}),
+        settingsRow<Command::newLegacyExportOptions>(
+            "LegacyExportOptions",
+            R"({"file":"f","temporary_dwg":"t","format_version":"v","geometry_flags":-3,"ins_units_scaling":true,)"
+            R"("ins_units_def_target":"decimeters","product_structure_mode":"none",)"
+            R"("hidden_parts_mode":"do_not_export","selection_set":[18446744073709551615,1],)"
+            R"("component_names":[{"component_handle":1,"component_name":"a"},)"
+            R"({"component_handle":18446744073709551615,"component_name":""}],"hidden_components":[2,2],)"
+            R"("step_format_version":3,"acis_format_version":4,"catiav4_format_version":5,)"
+            R"("catiav5_format_version":-6,"parasolid_format_version":7,"xcgm_format_version":8,"debug_log":true})")
+            .appends({"selection_set", "hidden_components"})
+            .keeps({"component_names"}),
         fullRow<MessageObject<Command>>("Command", R"({"ferrant_interface":"connect","command":"ping"})").throws(),
         fullRow<MessageObject<Result>>("Result", R"({"code":"warning","message":"m","is_finished":true})").throws(),
         fullRow<ThirdpartyCore>("ThirdpartyCore", core).throws(),

@@ -23,6 +23,16 @@ std::vector<FullRow> structureRows()
         fullRow<ExcBlockReference>("ExcBlockReference", reference),
         fullRow<ExcBlock>("ExcBlock", block),
         fullRow<ExcProductStructure>("ExcProductStructure", structure),
+        fullRow<LegacyComponentInstanceNames>("LegacyComponentInstanceNames",
+                                              R"([{"component_handle":7,"component_name":"n"},)"
+                                              R"({"component_handle":18446744073709551615,"component_name":""}])")
+            .throws()
+            .keeps({""}),
+        fullRow<LegacyMaterialMap>("LegacyMaterialMap",
+                                   R"([{"component_handle":42,"component_material":{"has_material":true,"name":"n",)"
+                                   R"("density":7.85,"thermal_conductivity":50.0,"specific_heat":490.0}}])")
+            .throws()
+            .keeps({""}),
     };
 }
 

@@ -94,7 +94,7 @@ struct FullRow
         return std::move(*this);
     }
 
-    /// These arrays of objects or texts are as long after a second read as they were.
+    /// These arrays of objects or texts are as long after a second read as they were; "" is the object itself.
     FullRow keeps(Keys keys) &&
     {
         keeping = std::move(keys);
