@@ -1,7 +1,7 @@
 #include "tests/support/json_text.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/message_text.h"
-#include "vrx_api/vrx_api_exchange_structure.h"
+#include "vrx_api/vrx_api_exchange_object.h"
 
 #include <gmock/gmock.h>
 
@@ -63,7 +63,7 @@ TEST(LegacyMaps, AreStrictAboutTheArrayAndSilentAboutItsElements)
     EXPECT_THAT(log.lines("TRACE"), IsEmpty());
 }
 
-// What reads is kept apart: the later name wins, the earlier material.
+// Of two entries for one handle the later name counts, but the earlier material.
 TEST(LegacyMaps, ReadAHandleThatIsThere)
 {
     LegacyComponentInstanceNames names;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "vrx_api/legacy/component_instance_names.h"
-#include "vrx_api/legacy/material_map.h"
 #include "vrx_api/structure/block.h"
 #include "vrx_api/structure/block_reference.h"
 #include "vrx_api/structure/product_structure.h"

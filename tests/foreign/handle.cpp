@@ -1,7 +1,6 @@
 // The maps of a library that was built with a drawing database's own handle: what is written is read again.
 
 #include "vrx_api/vrx_api_exchange_object.h"
-#include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <iostream>
 #include <limits>

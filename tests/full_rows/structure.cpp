@@ -1,5 +1,6 @@
 #include "tests/full_rows/full_rows.h"
 #include "tests/full_rows/shared_texts.h"
+#include "vrx_api/vrx_api_exchange_object.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 using namespace vrx;

@@ -28,13 +28,12 @@ public:
         Ping = 4,
     };
 
-    /// Throws `std::invalid_argument` when an import or an export has no options of its interface, or options that no
-    /// factory of this class made; the stream then has
-    /// nothing of it.
+    /// Throws `std::invalid_argument` when an import or an export has no options of its interface that the factories of
+    /// this class made. The stream then has nothing of it.
     void writeObject(wostream& stream) const override;
 
-    /// Throws `std::invalid_argument` for a text that is no JSON object, has no type, or lacks its options. What was
-    /// read before stays.
+    /// Throws `std::invalid_argument` for a text that is no JSON object, has no type, or lacks its options, and when
+    /// the options refuse theirs. What was read before stays.
     void readObject(wistream& stream) override;
 
     EType type() const { return m_type; }
@@ -46,11 +45,11 @@ public:
     static std::shared_ptr<ImportOptions> newImportOptions();
     static std::shared_ptr<ExportOptions> newExportOptions();
 
-    /// Options that no factory of this class made, null among them, are refused with `std::invalid_argument`.
+    /// Options that `newImportOptions` did not make, null among them, are refused with `std::invalid_argument`.
     void setImportOptions(const std::shared_ptr<ImportOptions>& options);
     std::shared_ptr<ImportOptions> importOptions() const { return m_importOptions; }
 
-    /// As for the import options.
+    /// As for the import options, with `newExportOptions`.
     void setExportOptions(const std::shared_ptr<ExportOptions>& options);
     std::shared_ptr<ExportOptions> exportOptions() const { return m_exportOptions; }
 

@@ -6,7 +6,8 @@ namespace vrx
 {
 
 /// The file of an export. The version of the target format and the geometry flags are agreed between host and
-/// translator. Made by the factories of `Command`. Reading throws `std::invalid_argument` when the file is missing.
+/// translator. Made by the factories of `Command`. Reading throws `std::invalid_argument` for a value that is no object
+/// or has no file.
 class VRX_API ExportOptions : public FerrantOptions
 {
 public:

@@ -17,9 +17,7 @@ template struct Described<ExportOptionsImpl>;
 
 void ExportOptionsImpl::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    requireObject(value, kOptionsAreNoObject);
-    readMembers(*this, value);
+    readOptions(*this, value);
     logFields();
 }
 

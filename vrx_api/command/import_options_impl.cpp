@@ -19,9 +19,7 @@ template struct Described<ImportOptionsImpl>;
 
 void ImportOptionsImpl::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    requireObject(value, kOptionsAreNoObject);
-    readMembers(*this, value);
+    readOptions(*this, value);
 }
 
 void ImportOptionsImpl::writeObject(JsonValue& value, JsonAllocator& allocator) const

@@ -7,8 +7,6 @@ namespace vrx
 
 // What the descriptions of several options have in common.
 
-inline constexpr const char* kOptionsAreNoObject = "!object.IsObject()";
-
 template <class Fields, class Text>
 void describeFile(Fields& fields, Text& file)
 {
@@ -29,6 +27,15 @@ void logReading(const Fields&, const Parts&... parts)
     {
         kolt::log(kolt::kDebug, parts...);
     }
+}
+
+/// The `readObject` of options. Unlike a regular class they throw when the value is no object.
+template <class T>
+void readOptions(T& options, const JsonValue& value, kolt::SourcePlace place = kolt::SourcePlace::current())
+{
+    kolt::trace(place);
+    requireObject(value, "!object.IsObject()");
+    readMembers(options, value);
 }
 
 } // namespace vrx

@@ -35,7 +35,7 @@ void checkIdentity(const IFormatOptions& options, const JsonValue& value)
 
 } // namespace
 
-// The keys are read by readOptions, since they choose the class.
+// The class of an object stands for both keys: reading only compares them.
 template <class Self, class Fields>
 void IFormatOptions::describe(Self& self, Fields& fields)
 {

@@ -8,16 +8,16 @@
 namespace vrx
 {
 
-/// The settings of a translator for one CAD format. The class of an object says which format and which operation; a
-/// default object leaves every decision to the translator.
+/// The settings of a translator for one CAD format. The class of an object says which format and which operation. A
+/// mode that is "unknown", as it is in a default object, leaves the decision to the translator.
 class VRX_API IFormatOptions : public IJsonObject
 {
 public:
     virtual EFormatType formatType() const = 0;
     virtual EOperationType operationType() const = 0;
 
-    /// Makes and reads the object whose class the two identifying keys name. Null when there is no such class, which is
-    /// logged, or for an export, which is not.
+    /// Makes and reads the object whose class the two identifying keys name. Null when one of them is missing or names
+    /// no class, which is logged, and for an export, which is not.
     static std::shared_ptr<IFormatOptions> readOptions(const JsonValue& value);
 
 private:
@@ -35,7 +35,7 @@ namespace imp
 class VRX_API FormatOptions : public IFormatOptions
 {
 public:
-    /// Stores nothing: logs that the value is for another operation or another format.
+    /// Stores nothing, and logs when the value is for another operation or another format.
     void readObject(const JsonValue& value) override;
 
     /// Adds the keys of operation and format to the value, which is made an object if it is none.

@@ -8,6 +8,7 @@
 namespace vrx
 {
 
+/// Where the names of layers are taken from: the assembly, or the views that were saved with it.
 enum class ELayerNameProcessingModeType : std::int32_t
 {
     Unknown = 0,
@@ -15,6 +16,7 @@ enum class ELayerNameProcessingModeType : std::int32_t
     SavedVisuRep = 2,
 };
 
+/// Which edges come with the tessellated faces.
 enum class EImportEdgesModeType : std::int32_t
 {
     Unknown = 0,
@@ -22,6 +24,7 @@ enum class EImportEdgesModeType : std::int32_t
     None = 2,
 };
 
+/// Which properties are taken that users gave to parts.
 enum class EUserPropertiesModeType : std::int32_t
 {
     Unknown = 0,

@@ -89,7 +89,7 @@ private:
     const JsonValue& m_object;
 };
 
-/// What the walks that write make of the verbs: each is a `when`.
+/// What the walks that write make of the verbs: each that writes is a `when`.
 template <class Walk>
 class WritingWalk
 {

@@ -24,10 +24,10 @@ enum class EExportHiddenPartsMode : std::int32_t
     DoNotExport = 1,
 };
 
-/// The options of an export by the older interface: beside those of every export the temporary drawing that holds the
-/// model, its objects to export, by the handles of the drawing, and a version number for each target format. The
-/// version numbers are agreed between host and translator. Made by `Command::newLegacyExportOptions`. Reading throws
-/// `std::invalid_argument` when the file or the temporary drawing is missing.
+/// The options of an export by the older interface. They have all that other exports have, the temporary drawing that
+/// holds the model, the objects of that drawing to export and their names, by their handles, and a version number for
+/// each target format. Host and translator agree on the version numbers. Made by `Command::newLegacyExportOptions`.
+/// Reading throws `std::invalid_argument` for a value that is no object, has no file or no temporary drawing.
 class VRX_API LegacyExportOptions : public ExportOptions
 {
 public:
@@ -43,6 +43,7 @@ public:
     virtual EExportHiddenPartsMode hiddenPartsMode() const = 0;
     virtual void setHiddenPartsMode(EExportHiddenPartsMode mode) = 0;
 
+    /// The units of the exported file.
     virtual EInsUnits insUnitsDefTarget() const = 0;
     virtual void setInsUnitsDefTarget(EInsUnits units) = 0;
 
@@ -57,6 +58,7 @@ public:
     virtual void addComponentName(std::uint64_t handle, const wstring& name) = 0;
     virtual void setComponentNames(const std::map<std::uint64_t, wstring>& names) = 0;
 
+    /// The handles of the components that the mode of hidden parts is about.
     virtual const std::vector<std::uint64_t>& hiddenComponents() const = 0;
     virtual void addHiddenComponent(std::uint64_t handle) = 0;
     virtual void setHiddenComponents(const std::vector<std::uint64_t>& handles) = 0;

@@ -102,9 +102,7 @@ template struct Described<LegacyExportOptionsImpl>;
 
 void LegacyExportOptionsImpl::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    requireObject(value, kOptionsAreNoObject);
-    readMembers(*this, value);
+    readOptions(*this, value);
 }
 
 void LegacyExportOptionsImpl::writeObject(JsonValue& value, JsonAllocator& allocator) const

@@ -24,8 +24,8 @@ enum class EProductStructureMode : std::int32_t
     AsMechanicalComponents = 2,
 };
 
-/// How a colour is stated: by its components, by an index of the drawing's palette that is the same colour, or by the
-/// index of the nearest one.
+/// How a colour is stated: by red, green and blue; by its index in the drawing's palette where that has just this
+/// colour; or by the index of the nearest colour.
 enum class EColorsMode : std::int32_t
 {
     Rgb = 0,
@@ -41,9 +41,10 @@ enum class EHiddenPartsMode : std::int32_t
     DoNotImport = 2,
 };
 
-/// The options of an import by the older interface: beside those of every import a temporary drawing to work in, and
-/// how the model is mapped into it. Made by `Command::newLegacyImportOptions`, with defaults that work. Reading throws
-/// `std::invalid_argument` when the file or the temporary drawing is missing.
+/// The options of an import by the older interface. They have all that other imports have, a temporary drawing to work
+/// in, and settings of how the model comes into that drawing. Made by `Command::newLegacyImportOptions`, with defaults
+/// that work. Reading throws `std::invalid_argument` for a value that is no object, has no file or no temporary
+/// drawing.
 class VRX_API LegacyImportOptions : public ImportOptions
 {
 public:
@@ -65,9 +66,11 @@ public:
     virtual EHiddenPartsMode hiddenPartsMode() const = 0;
     virtual void setHiddenPartsMode(EHiddenPartsMode mode) = 0;
 
+    /// The units of a model that states none.
     virtual EInsUnits insUnitsDefSource() const = 0;
     virtual void setInsUnitsDefSource(EInsUnits units) = 0;
 
+    /// Whether the host imports ACIS files by itself.
     virtual bool importAcisWithDraftwell() const = 0;
     virtual void setImportAcisWithDraftwell(bool import) = 0;
 
@@ -77,6 +80,7 @@ public:
     virtual bool solidWorksRotateYZ() const = 0;
     virtual void setSolidWorksRotateYZ(bool rotate) = 0;
 
+    /// Whether the model is scaled between its units and those of the drawing.
     virtual bool insUnitsScaling() const = 0;
     virtual void setInsUnitsScaling(bool scaling) = 0;
 
@@ -85,7 +89,7 @@ public:
     /// The path under a key that host and translator have agreed upon; empty when there is none.
     virtual const wstring& alternateSearchPath(const wstring& key) const = 0;
 
-    /// Replaces the path under the key, where reading keeps it. An empty path is ignored.
+    /// Replaces the path under the key, unlike reading, which keeps it. An empty path is ignored.
     virtual void setAlternateSearchPath(const wstring& key, const wstring& path) = 0;
 
     virtual bool printDebugLog() const = 0;

@@ -66,8 +66,6 @@ static constexpr EHiddenPartsMode enumFallback(EHiddenPartsMode)
 namespace
 {
 
-// Each setting has a line in the log when its key has been looked for, be it there or not.
-
 bool shown(bool flag)
 {
     return flag;
@@ -84,6 +82,7 @@ mp::Narrow shown(const wstring& text)
     return {text};
 }
 
+// What is read is logged setting by setting, whether or not the key of a setting was there.
 template <class Fields, class T>
 void line(Fields& fields, const char* name, const T& field)
 {
@@ -180,9 +179,7 @@ template struct Described<LegacyImportOptionsImpl>;
 
 void LegacyImportOptionsImpl::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    requireObject(value, kOptionsAreNoObject);
-    readMembers(*this, value);
+    readOptions(*this, value);
 }
 
 void LegacyImportOptionsImpl::writeObject(JsonValue& value, JsonAllocator& allocator) const

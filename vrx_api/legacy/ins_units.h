@@ -5,7 +5,7 @@
 namespace vrx
 {
 
-/// The units of a drawing, by their numbers in the variable INSUNITS of drawings.
+/// The units of a drawing. The gaps in the numbers are part of the format.
 enum class EInsUnits : std::int32_t
 {
     Unknown = 0,
