@@ -24,8 +24,10 @@
 #include <XSControl_TransferReader.hxx>
 #include <XSControl_WorkSession.hxx>
 #include <gp_GTrsf.hxx>
+#include <gp_Quaternion.hxx>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 
 namespace
@@ -88,6 +90,14 @@ std::string ownName(const Entity& entity)
 void setName(const TDF_Label& label, const std::string& name)
 {
     TDataStd_Name::Set(label, TCollection_ExtendedString(name.c_str(), true));
+}
+
+// Whatever the transformation was made from.
+bool isIdentity(const gp_Trsf& place)
+{
+    const double nothing = 1e-12;
+    return place.TranslationPart().Modulus() < nothing && std::abs(place.ScaleFactor() - 1) < nothing &&
+           place.GetRotation().GetRotationAngle() < nothing;
 }
 
 bool hasColor(const Entity& entity, Quantity_Color& color)
@@ -254,9 +264,11 @@ TDF_Label IgesDocument::blockOf(const Entity& container)
     }
     m_blocks.Bind(container, TDF_Label()); // a damaged one may hold itself
     const std::string name = nameOf(container);
-    const std::vector<Item> items = itemsOf(membersOf(container), name);
+    const std::vector<Entity> members = membersOf(container);
+    const std::vector<Item> items = itemsOf(members, name);
+    const bool isOnePart = items.size() == 1 && items[0].isPart && (members.size() == 1 || items[0].entity.IsNull());
     TDF_Label block;
-    if (items.size() == 1 && items[0].isPart && items[0].place.IsIdentity() && !items[0].isHidden)
+    if (isOnePart && items[0].place.IsIdentity() && !items[0].isHidden)
     {
         block = items[0].block;
         if (!ownName(container).empty())
@@ -382,7 +394,7 @@ TopLoc_Location IgesDocument::placeOf(const Entity& entity) const
         }
         place.Multiply(own);
     }
-    return place.Form() == gp_Identity ? TopLoc_Location() : TopLoc_Location(place);
+    return isIdentity(place) ? TopLoc_Location() : TopLoc_Location(place);
 }
 
 std::string IgesDocument::nameOf(const Entity& entity) const
