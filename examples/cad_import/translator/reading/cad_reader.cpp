@@ -57,7 +57,7 @@ CadModel readModel(const ImportSettings& settings, HostChannel& channel, ImportP
     XCAFDoc_DocumentTool::ShapeTool(model.document->Main())->GetFreeShapes(shapes);
     if (shapes.IsEmpty())
     {
-        const std::string& reason = messages->lastFailure();
+        const std::string& reason = messages->lastFailure().empty() ? model.warning : messages->lastFailure();
         throw TranslationError("Nothing in " + model.path + " could be translated" +
                                (reason.empty() ? "." : ": " + reason));
     }

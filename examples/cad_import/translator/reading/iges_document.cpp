@@ -15,11 +15,11 @@
 #include <Interface_EntityIterator.hxx>
 #include <Interface_Protocol.hxx>
 #include <Quantity_Color.hxx>
-#include <Standard_Failure.hxx>
 #include <TCollection_HAsciiString.hxx>
 #include <TDataStd_Name.hxx>
 #include <TopoDS_Builder.hxx>
 #include <TransferBRep.hxx>
+#include <Transfer_TransferFailure.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XSControl_TransferReader.hxx>
 #include <XSControl_WorkSession.hxx>
@@ -98,6 +98,13 @@ bool isIdentity(const gp_Trsf& place)
     const double nothing = 1e-12;
     return place.TranslationPart().Modulus() < nothing && std::abs(place.ScaleFactor() - 1) < nothing &&
            place.GetRotation().GetRotationAngle() < nothing;
+}
+
+// XDE has no place for what is scaled or mirrored.
+bool isRigid(const TopLoc_Location& place)
+{
+    const gp_Trsf matrix = place.Transformation();
+    return !matrix.IsNegative() && std::abs(matrix.ScaleFactor() - 1) < TopLoc_Location::ScalePrec();
 }
 
 bool hasColor(const Entity& entity, Quantity_Color& color)
@@ -328,16 +335,12 @@ TDF_Label IgesDocument::assemblyOf(const std::vector<Item>& items, const std::st
     setName(assembly, name);
     for (const Item& item : items)
     {
-        TDF_Label component;
-        try
+        if (!isRigid(item.place))
         {
-            component = m_shapes->AddComponent(assembly, item.block, item.place);
-        }
-        catch (const Standard_Failure&) // scaled or mirrored
-        {
-            ++m_failures;
+            m_untranslatable.Add(item.entity);
             continue;
         }
+        const TDF_Label component = m_shapes->AddComponent(assembly, item.block, item.place);
         const std::string own = item.entity.IsNull() ? std::string() : ownName(item.entity);
         Handle(TDataStd_Name) blockName;
         if (!own.empty())
@@ -360,6 +363,18 @@ TDF_Label IgesDocument::assemblyOf(const std::vector<Item>& items, const std::st
     return assembly;
 }
 
+bool IgesDocument::translate(const Entity& entity)
+{
+    try
+    {
+        return m_reader.TransferEntity(entity);
+    }
+    catch (const Transfer_TransferFailure&) // a damaged part of it has failed before
+    {
+        return false;
+    }
+}
+
 // Null when the kernel cannot translate the entity.
 TopoDS_Shape IgesDocument::shapeOf(const Entity& entity)
 {
@@ -368,9 +383,14 @@ TopoDS_Shape IgesDocument::shapeOf(const Entity& entity)
     {
         return {};
     }
-    if (!transfer->IsRecorded(entity))
+    if (m_untranslatable.Contains(entity))
     {
-        m_failures += m_reader.TransferEntity(entity) ? 0 : 1;
+        return {};
+    }
+    if (!transfer->IsRecorded(entity) && !translate(entity))
+    {
+        m_untranslatable.Add(entity);
+        return {};
     }
     return TransferBRep::ShapeResult(transfer->TransientProcess(), entity);
 }

@@ -5,6 +5,7 @@
 #include <IGESData_IGESModel.hxx>
 #include <Interface_Graph.hxx>
 #include <NCollection_DataMap.hxx>
+#include <TColStd_MapOfTransient.hxx>
 #include <TColStd_MapTransientHasher.hxx>
 #include <TDF_Label.hxx>
 #include <TDocStd_Document.hxx>
@@ -32,7 +33,7 @@ public:
     void build(ImportProgress& progress);
 
     /// How many entities were wanted but could not be translated.
-    int failures() const { return m_failures; }
+    int failures() const { return m_untranslatable.Extent(); }
 
 private:
     using Entity = Handle(IGESData_IGESEntity);
@@ -56,6 +57,7 @@ private:
     TDF_Label partOf(const Entity& entity, const TopoDS_Shape& body);
     TDF_Label looseOf(const std::vector<Entity>& entities, const std::string& name);
     TDF_Label assemblyOf(const std::vector<Item>& items, const std::string& name);
+    bool translate(const Entity& entity);
     TopoDS_Shape shapeOf(const Entity& entity);
     TopLoc_Location placeOf(const Entity& entity) const;
     std::string nameOf(const Entity& entity) const;
@@ -72,5 +74,5 @@ private:
     Handle(XCAFDoc_ColorTool) m_colors;
     Handle(XCAFDoc_LayerTool) m_layers;
     NCollection_DataMap<Entity, TDF_Label, TColStd_MapTransientHasher> m_blocks;
-    int m_failures = 0;
+    TColStd_MapOfTransient m_untranslatable;
 };

@@ -32,15 +32,19 @@ std::string lastRecord(const CadFile& file)
     return lineEnd == std::string::npos ? text : text.substr(lineEnd + 1);
 }
 
-// Geometry that the kernel found unreadable. What it does not know of other entities is no damage.
+// Geometry, solids, and the groups and subfigures that hold them.
+bool bringsShapes(int type)
+{
+    return type < 200 || type == 308 || type == 402 || type == 408 || (type >= 500 && type < 600);
+}
+
+// What the kernel does not know of other entities is no damage.
 std::string damage(const IGESData_IGESModel& entities)
 {
     int unreadable = 0;
     for (int i = 1; i <= entities.NbEntities(); ++i)
     {
-        const int type = entities.Entity(i)->TypeNumber();
-        const bool isGeometry = type < 200 || (type >= 500 && type < 600);
-        unreadable += isGeometry && entities.IsErrorEntity(i) ? 1 : 0;
+        unreadable += bringsShapes(entities.Entity(i)->TypeNumber()) && entities.IsErrorEntity(i) ? 1 : 0;
     }
     if (unreadable > 0)
     {
