@@ -30,8 +30,29 @@ expect 1 "cut.step is cut off: its end, END-ISO-10303-21, is missing." "$host" "
 { sed '/^DATA;/q' "$vise"; echo 'ENDSEC;'; echo 'END-ISO-10303-21;'; } >"$scratch/hollow.step"
 expect 1 "hollow.step holds no product." "$host" "$scratch/hollow.step"
 
+# The same of IGES files, which the first line tells of whatever the name.
+"$generator" "$scratch/vise.igs"
+: >"$scratch/empty.igs"
+expect 1 "empty.igs is empty." "$host" "$scratch/empty.igs"
+echo "hello" >"$scratch/text.igs"
+expect 1 "text.igs is not an IGES file in its ASCII form: its first line is no record of the start section." \
+    "$host" "$scratch/text.igs"
+head -c 100000 "$scratch/vise.igs" >"$scratch/cut.igs"
+expect 1 "cut.igs is cut off: its end, the record of the terminate section, is missing." "$host" "$scratch/cut.igs"
+grep -v '[DP] *[0-9]*$' "$scratch/vise.igs" >"$scratch/hollow.igs"
+expect 1 "hollow.igs holds no geometry." "$host" "$scratch/hollow.igs"
+cp "$scratch/vise.igs" "$scratch/named.step"
+expect 0 "" "$host" "$scratch/named.step"
+cp "$vise" "$scratch/named.igs"
+expect 0 "" "$host" "$scratch/named.igs"
+
 # Damage in the middle: the rest is imported, with a warning.
 sed 's/^\(#[0-9]* = \)ADVANCED_FACE(/\1ADVANCED_FARCE(/' "$vise" >"$scratch/faces.step"
 expect 0 "geometric entities could not be read. The model may be incomplete." "$host" "$scratch/faces.step"
 sed '100s/^/) nonsense ;; (/' "$vise" >"$scratch/syntax.step"
 expect 0 "The file has errors of syntax" "$host" "$scratch/syntax.step"
+awk 'substr($0, 73, 1) == "P" && /^190,/ { $0 = sprintf("%-64s%s", "190,;", substr($0, 65)) } { print }' \
+    "$scratch/vise.igs" >"$scratch/planes.igs"
+expect 0 "geometric entities could not be read. The model may be incomplete." "$host" "$scratch/planes.igs"
+grep -v 'P *[0-9]*$' "$scratch/vise.igs" >"$scratch/bare.igs"
+expect 1 "Nothing in $scratch/bare.igs could be translated: The file is damaged" "$host" "$scratch/bare.igs"
