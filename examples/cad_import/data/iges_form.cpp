@@ -57,7 +57,7 @@ Handle(IGESGeom_TransformationMatrix) matrixOf(const gp_Trsf& place)
             values->SetValue(row, column, place.Value(row, column));
         }
     }
-    const Handle(IGESGeom_TransformationMatrix) matrix = new IGESGeom_TransformationMatrix;
+    Handle(IGESGeom_TransformationMatrix) matrix = new IGESGeom_TransformationMatrix;
     matrix->Init(values);
     return matrix;
 }
@@ -99,7 +99,7 @@ private:
 
     Handle(IGESBasic_SingularSubfigure) instance(const TDF_Label& label, const TDF_Label& product)
     {
-        const Handle(IGESBasic_SingularSubfigure) result = new IGESBasic_SingularSubfigure;
+        Handle(IGESBasic_SingularSubfigure) result = new IGESBasic_SingularSubfigure;
         result->Init(subfigure(product), gp_XYZ(), false, 1);
         const TopLoc_Location place = XCAFDoc_ShapeTool::GetLocation(label);
         if (!place.IsIdentity())
@@ -140,7 +140,7 @@ private:
             members[i]->InitStatus(0, dependent, 0, 0);
             list->SetValue(static_cast<int>(i) + 1, members[i]);
         }
-        const Handle(IGESBasic_SubfigureDef) result = new IGESBasic_SubfigureDef;
+        Handle(IGESBasic_SubfigureDef) result = new IGESBasic_SubfigureDef;
         result->Init(depth, nameOf(product), list);
         const int definition = 2;
         result->InitStatus(0, 0, definition, 0);
@@ -154,7 +154,7 @@ private:
         m_writer.AddShape(XCAFDoc_ShapeTool::GetShape(part));
         for (int i = before + 1; i <= m_writer.Model()->NbEntities(); ++i)
         {
-            const Entity entity = m_writer.Model()->Entity(i);
+            Entity entity = m_writer.Model()->Entity(i);
             if (entity->IsKind(STANDARD_TYPE(IGESSolid_ManifoldSolid)))
             {
                 setName(entity, part);

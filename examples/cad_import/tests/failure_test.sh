@@ -54,5 +54,8 @@ expect 0 "The file has errors of syntax" "$host" "$scratch/syntax.step"
 awk 'substr($0, 73, 1) == "P" && /^190,/ { $0 = sprintf("%-64s%s", "190,;", substr($0, 65)) } { print }' \
     "$scratch/vise.igs" >"$scratch/planes.igs"
 expect 0 "geometric entities could not be read. The model may be incomplete." "$host" "$scratch/planes.igs"
+awk 'substr($0, 73, 1) == "P" && /^408,/ && !done++ { sub(/,,0,1,/, ",2.,0,1,"); $0 = substr($0, 1, 64) substr($0, 67) } { print }' \
+    "$scratch/vise.igs" >"$scratch/scaled.igs"
+expect 0 "1 of the file's entities could not be translated. The model may be incomplete." "$host" "$scratch/scaled.igs"
 grep -v 'P *[0-9]*$' "$scratch/vise.igs" >"$scratch/bare.igs"
 expect 1 "Nothing in $scratch/bare.igs could be translated: The file is damaged" "$host" "$scratch/bare.igs"

@@ -109,7 +109,7 @@ public:
 private:
     static Handle(IGESData_HArray1OfIGESEntity) list(std::initializer_list<Entity> members)
     {
-        const Handle(IGESData_HArray1OfIGESEntity) result =
+        Handle(IGESData_HArray1OfIGESEntity) result =
             new IGESData_HArray1OfIGESEntity(1, static_cast<int>(members.size()));
         int next = 1;
         for (const Entity& member : members)

@@ -11,11 +11,13 @@
 #include <IGESData_ToolLocation.hxx>
 #include <IGESGraph_Color.hxx>
 #include <IGESSolid_Face.hxx>
+#include <IGESSolid_ManifoldSolid.hxx>
 #include <IGESSolid_Shell.hxx>
 #include <Interface_EntityIterator.hxx>
 #include <Interface_Protocol.hxx>
 #include <Quantity_Color.hxx>
 #include <TCollection_HAsciiString.hxx>
+#include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
 #include <TopoDS_Builder.hxx>
 #include <TransferBRep.hxx>
@@ -128,34 +130,69 @@ bool hasColor(const Entity& entity, Quantity_Color& color)
     return true;
 }
 
+bool saysSomething(const Entity& entity)
+{
+    Quantity_Color color;
+    return !ownName(entity).empty() || hasColor(entity, color);
+}
+
 } // namespace
 
 IgesDocument::IgesDocument(IGESControl_Reader& reader, const ImportSettings& settings,
-                           const Handle(TDocStd_Document) & document)
+                           const Handle(TDocStd_Document) & document, ImportProgress& progress)
     : m_reader(reader)
     , m_settings(settings)
     , m_model(reader.IGESModel())
-    , m_document(document)
     , m_graph(m_model, reader.WS()->Protocol())
     , m_shapes(XCAFDoc_DocumentTool::ShapeTool(document->Main()))
     , m_colors(XCAFDoc_DocumentTool::ColorTool(document->Main()))
     , m_layers(XCAFDoc_DocumentTool::LayerTool(document->Main()))
+    , m_progress(progress)
+    , m_expected(countOfShapes())
 {
 }
 
-void IgesDocument::build(ImportProgress& progress)
+// Solids wherever they are, and what does not belong physically to others: curves of faces do, loose ones do not.
+int IgesDocument::countOfShapes() const
+{
+    int count = 0;
+    for (int i = 1; i <= m_model->NbEntities(); ++i)
+    {
+        const Entity entity = m_model->Entity(i);
+        const bool standsByItself =
+            entity->IsKind(STANDARD_TYPE(IGESSolid_ManifoldSolid)) || entity->SubordinateStatus() != 1;
+        count += standsByItself && m_reader.WS()->TransferReader()->Recognize(entity) ? 1 : 0;
+    }
+    return count;
+}
+
+void IgesDocument::build()
 {
     const std::string name = std::filesystem::path(m_settings.file).stem().string();
-    const std::vector<Entity> roots = wantedRoots();
-    double done = 0;
-    const std::vector<Item> items =
-        itemsOf(roots, name, [&] { progress.advance(++done / static_cast<double>(roots.size())); });
-    const bool isOneThing = items.size() == 1 && items[0].place.IsIdentity() && !items[0].isHidden;
-    if (!isOneThing && !items.empty())
+    const std::vector<Item> items = itemsOf(wantedRoots(), name);
+    if (items.empty())
     {
-        assemblyOf(items, name);
+        return;
     }
+    const bool isOneThing = items.size() == 1 && items[0].place.IsIdentity() && !items[0].isHidden;
+    removeAllBut(isOneThing ? items[0].block : assemblyOf(items, name));
     m_shapes->UpdateAssemblies();
+}
+
+// Blocks are left over when each of their instances is scaled or mirrored, and so are the blocks in these.
+void IgesDocument::removeAllBut(const TDF_Label& top)
+{
+    bool isDone = false;
+    while (!isDone)
+    {
+        isDone = true;
+        TDF_LabelSequence free;
+        m_shapes->GetFreeShapes(free);
+        for (const TDF_Label& label : free)
+        {
+            isDone = (label == top || !m_shapes->RemoveShape(label)) && isDone;
+        }
+    }
 }
 
 std::vector<Entity> IgesDocument::wantedRoots() const
@@ -203,8 +240,7 @@ bool IgesDocument::isWanted(const Entity& entity) const
     return false;
 }
 
-std::vector<IgesDocument::Item> IgesDocument::itemsOf(const std::vector<Entity>& members, const std::string& name,
-                                                      const std::function<void()>& afterEach)
+std::vector<IgesDocument::Item> IgesDocument::itemsOf(const std::vector<Entity>& members, const std::string& name)
 {
     std::vector<Item> items;
     std::vector<Entity> loose;
@@ -222,7 +258,6 @@ std::vector<IgesDocument::Item> IgesDocument::itemsOf(const std::vector<Entity>&
                 (isHidden(entity) ? hiddenLoose : loose).push_back(entity);
             }
         }
-        afterEach();
     }
     for (const auto* const entities : {&loose, &hiddenLoose})
     {
@@ -318,7 +353,7 @@ TDF_Label IgesDocument::looseOf(const std::vector<Entity>& entities, const std::
     setName(part, name);
     for (const Entity& entity : entities)
     {
-        const TDF_Label label = m_shapes->AddSubShape(part, shapeOf(entity));
+        const TDF_Label label = saysSomething(entity) ? m_shapes->AddSubShape(part, shapeOf(entity)) : TDF_Label();
         if (!label.IsNull())
         {
             setName(label, nameOf(entity));
@@ -365,6 +400,7 @@ TDF_Label IgesDocument::assemblyOf(const std::vector<Item>& items, const std::st
 
 bool IgesDocument::translate(const Entity& entity)
 {
+    m_progress.advance(m_translated++ / m_expected);
     try
     {
         return m_reader.TransferEntity(entity);

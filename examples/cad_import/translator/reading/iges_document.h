@@ -15,7 +15,6 @@
 #include <XCAFDoc_LayerTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -28,9 +27,10 @@ struct ImportSettings;
 class IgesDocument
 {
 public:
-    IgesDocument(IGESControl_Reader& reader, const ImportSettings& settings, const Handle(TDocStd_Document) & document);
+    IgesDocument(IGESControl_Reader& reader, const ImportSettings& settings, const Handle(TDocStd_Document) & document,
+                 ImportProgress& progress);
 
-    void build(ImportProgress& progress);
+    void build();
 
     /// How many entities were wanted but could not be translated.
     int failures() const { return m_untranslatable.Extent(); }
@@ -48,10 +48,11 @@ private:
         bool isHidden = false;
     };
 
+    int countOfShapes() const;
+    void removeAllBut(const TDF_Label& top);
     std::vector<Entity> wantedRoots() const;
     bool isWanted(const Entity& entity) const;
-    std::vector<Item> itemsOf(
-        const std::vector<Entity>& members, const std::string& name, const std::function<void()>& afterEach = [] {});
+    std::vector<Item> itemsOf(const std::vector<Entity>& members, const std::string& name);
     Item itemOf(const Entity& entity);
     TDF_Label blockOf(const Entity& container);
     TDF_Label partOf(const Entity& entity, const TopoDS_Shape& body);
@@ -68,11 +69,13 @@ private:
     IGESControl_Reader& m_reader;
     const ImportSettings& m_settings;
     Handle(IGESData_IGESModel) m_model;
-    Handle(TDocStd_Document) m_document;
     Interface_Graph m_graph;
     Handle(XCAFDoc_ShapeTool) m_shapes;
     Handle(XCAFDoc_ColorTool) m_colors;
     Handle(XCAFDoc_LayerTool) m_layers;
     NCollection_DataMap<Entity, TDF_Label, TColStd_MapTransientHasher> m_blocks;
     TColStd_MapOfTransient m_untranslatable;
+    ImportProgress& m_progress;
+    double m_expected; // how many entities are to be translated, about
+    double m_translated = 0;
 };

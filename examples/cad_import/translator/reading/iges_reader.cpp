@@ -53,8 +53,8 @@ std::string damage(const IGESData_IGESModel& entities)
     }
     if (entities.GlobalCheck()->HasFailed())
     {
-        return std::string("The file has errors of syntax, the first one: ") + entities.GlobalCheck()->CFail(1) +
-               ". The model may be incomplete.";
+        return std::string("The file's global section, which tells the unit of lengths, has errors, the first one: ") +
+               entities.GlobalCheck()->CFail(1);
     }
     return {};
 }
@@ -95,8 +95,8 @@ void readIges(const CadFile& file, const ImportSettings& settings, ImportProgres
     progress.beginStage("Translating the shapes", 55);
     XCAFDoc_DocumentTool::SetLengthUnit(model.document, 0.001);
     entities->ChangeGlobalSection().SetCascadeUnit(1); // in millimetres
-    IgesDocument document(reader, settings, model.document);
-    document.build(progress);
+    IgesDocument document(reader, settings, model.document, progress);
+    document.build();
     if (document.failures() > 0 && model.warning.empty())
     {
         model.warning = std::to_string(document.failures()) +

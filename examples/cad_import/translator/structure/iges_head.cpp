@@ -30,11 +30,14 @@ mp::wstring unitText(const IGESData_GlobalSection& section)
     return isKnown ? mp::toWide(kUnits[flag - 1]) : occt_text::wide(section.UnitName());
 }
 
-// "20240131.235959", or with two digits of the year, which are of the last century.
+// "20240131.235959", or with two digits of the year, of which the earliest is 1980.
 mp::wstring timeText(const Handle(TCollection_HAsciiString) & date)
 {
     std::string digits = date.IsNull() ? "" : date->ToCString();
-    digits.insert(0, digits.find('.') == 6 ? "19" : "");
+    if (digits.find('.') == 6)
+    {
+        digits.insert(0, digits < "80" ? "20" : "19");
+    }
     if (digits.size() != 15 || digits[8] != '.')
     {
         return mp::toWide(digits);
