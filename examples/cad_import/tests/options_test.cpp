@@ -161,6 +161,20 @@ TEST_F(OptionsIges, MembersOfGroupsByThemselves)
 )";
     EXPECT_EQ(treeOf(import(Hidden::None, Entities::RootAndNonroot)), none);
 
+    // What only a hidden entity refers to has no visible link.
+    EXPECT_EQ(treeOf(import(Hidden::OnlyWithVisibleLinks, Entities::RootAndNonroot)),
+              R"(sample (sample) [assembly: 7 components]
+  box (box) #ff0000 [part: 1 solid, 6 faces]
+  pair (pair) [assembly: 2 components]
+    left (left) [part: 1 solid, 6 faces]
+    right (right) hidden [part: 1 solid, 6 faces]
+  cube (cube) [part: 1 solid, 6 faces]
+  left (left) [part: 1 solid, 6 faces]
+  right (right) hidden [part: 1 solid, 6 faces]
+  inside (inside) [part: 1 solid, 6 faces]
+  sample (sample) [part: 0 faces]
+)");
+
     const Imported all = import(Hidden::All, Entities::RootAndNonroot);
     const auto& product = *all.structure->getBlockById(all.structure->rootBlockReferences()[0]->blockId());
     ASSERT_EQ(product.blockReferences().size(), 11U);
