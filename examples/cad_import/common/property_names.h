@@ -17,7 +17,7 @@ inline const mp::wchar* const kShells = WIDE("open shells"); // integer: those o
 inline const mp::wchar* const kFaces = WIDE("faces");        // integer
 inline const mp::wchar* const kMaterial = WIDE("material");
 inline const mp::wchar* const kDensity = WIDE("density"); // double, g/cm3
-inline const mp::wchar* const kLayer = WIDE("layer");     // one property for each layer
+inline const mp::wchar* const kLayer = WIDE("layer");     // one property for each layer; its number in IGES files
 
 // of the product, from the head of the file
 inline const mp::wchar* const kFileLengthUnit = WIDE("length unit of the file");

@@ -1,5 +1,7 @@
-// Writes the STEP assembly on which the example is shown: make_bench_vise <file.step>
+// Writes the assembly on which the example is shown, in the form that the extension names:
+// make_bench_vise <file.step or file.igs>
 
+#include "iges_form.h"
 #include "vise_document.h"
 
 #include <APIHeaderSection_MakeHeader.hxx>
@@ -14,7 +16,9 @@
 #include <XSControl_WorkSession.hxx>
 
 #include <exception>
+#include <filesystem>
 #include <iostream>
+#include <string>
 
 namespace
 {
@@ -37,7 +41,7 @@ void setHeader(const Handle(StepData_StepModel) & model)
     header.SetDescriptionValue(1, text("Bench vise, an assembly to try an import on"));
 }
 
-bool write(const Handle(TDocStd_Document) & document, const char* path)
+bool writeStep(const Handle(TDocStd_Document) & document, const char* path)
 {
     STEPCAFControl_Writer writer;
     Interface_Static::SetCVal("write.step.schema", "AP214IS");
@@ -50,13 +54,19 @@ bool write(const Handle(TDocStd_Document) & document, const char* path)
     return writer.Write(path) == IFSelect_RetDone;
 }
 
+bool write(const Handle(TDocStd_Document) & document, const char* path)
+{
+    const std::string extension = std::filesystem::path(path).extension().string();
+    return extension == ".igs" || extension == ".iges" ? writeIges(document, path) : writeStep(document, path);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     if (argc != 2)
     {
-        std::cerr << "usage: make_bench_vise <file.step>\n";
+        std::cerr << "usage: make_bench_vise <file.step or file.igs>\n";
         return 2;
     }
     Message::DefaultMessenger()->RemovePrinters(STANDARD_TYPE(Message_Printer));

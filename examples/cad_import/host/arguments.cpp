@@ -4,17 +4,19 @@
 #include <cstddef>
 #include <string_view>
 
-const char* const kUsage = R"(usage: cad_host [options] <file.step>
+const char* const kUsage = R"(usage: cad_host [options] <file>
 
-Has a translator import a STEP file and prints the product tree on standard output. Progress and messages go to standard
-error.
+Has a translator import a CAD file, STEP or IGES, and prints the product tree on standard output. Progress and messages
+go to standard error.
 
   --json               the tree as JSON
   --bodies             the exact bodies of each part: their faces, edges and vertices, area, volume and box, measured
                        from what arrived; not with --json
   --properties         the free properties of the product and of each block below their lines
-  --layers MODE        layer names: asm_rep (with the blocks) or saved_visu_rep (not with the blocks)
-  --pmi MODE           product manufacturing information: all or none
+  --layers MODE        layer names of STEP files: asm_rep (with the blocks) or saved_visu_rep (not with the blocks)
+  --pmi MODE           product manufacturing information of STEP files: all or none
+  --hidden MODE        hidden entities of IGES files: all, none or only_with_visible_links
+  --entities MODE      entities of IGES files: root_only or root_and_nonroot
   --view FILE          a page on which the model can be looked at: one file of HTML that needs no network
   --picture FILE       a picture of that page as PNG; needs Chromium, but no display
   --translator PATH    the translator to start; default: cad_translator beside this program
@@ -48,6 +50,36 @@ vrx::ELayerNameProcessingModeType layerMode(std::string_view mode)
     throw UsageError("--layers takes asm_rep or saved_visu_rep");
 }
 
+vrx::ETranslateHiddenEntitiesModeType hiddenMode(std::string_view mode)
+{
+    if (mode == "all")
+    {
+        return vrx::ETranslateHiddenEntitiesModeType::All;
+    }
+    if (mode == "none")
+    {
+        return vrx::ETranslateHiddenEntitiesModeType::None;
+    }
+    if (mode == "only_with_visible_links")
+    {
+        return vrx::ETranslateHiddenEntitiesModeType::OnlyWithVisibleLinks;
+    }
+    throw UsageError("--hidden takes all, none or only_with_visible_links");
+}
+
+vrx::EImportEntities entitiesMode(std::string_view mode)
+{
+    if (mode == "root_only")
+    {
+        return vrx::EImportEntities::RootOnly;
+    }
+    if (mode == "root_and_nonroot")
+    {
+        return vrx::EImportEntities::RootAndNonroot;
+    }
+    throw UsageError("--entities takes root_only or root_and_nonroot");
+}
+
 vrx::EVisuPMIProcessingMode pmiMode(std::string_view mode)
 {
     if (mode == "all")
@@ -79,6 +111,10 @@ struct Setting
 };
 
 const Setting kSettings[] = {
+    {"--entities",
+     [](Arguments& arguments, const std::string& value) { arguments.iges.setImportEntities(entitiesMode(value)); }},
+    {"--hidden",
+     [](Arguments& arguments, const std::string& value) { arguments.iges.setHiddenEntitiesMode(hiddenMode(value)); }},
     {"--layers", [](Arguments& arguments,
                     const std::string& value) { arguments.step.setLayerNameProcessingMode(layerMode(value)); }},
     {"--picture", [](Arguments& arguments, const std::string& value) { arguments.picture = value; }},

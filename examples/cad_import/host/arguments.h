@@ -18,6 +18,7 @@ struct Arguments
     bool quiet = false;
     bool verbose = false;
     vrx::imp::OptionsSTEP step;
+    vrx::imp::OptionsIGES iges;
 };
 
 /// What is wrong with the command line.

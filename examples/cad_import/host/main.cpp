@@ -1,4 +1,4 @@
-// A host for STEP files: has the translator import a file, prints its product tree and shows the model.
+// A host for CAD files: has the translator import a file, prints its product tree and shows the model.
 
 #include "arguments.h"
 #include "body_report.h"
@@ -218,6 +218,7 @@ int import(const Arguments& arguments)
     const std::shared_ptr<vrx::ImportOptions> options = vrx::Command::newImportOptions();
     options->setFile(mp::toWide(arguments.file));
     options->setFormatOptions(std::make_shared<vrx::imp::OptionsSTEP>(arguments.step));
+    options->setFormatOptions(std::make_shared<vrx::imp::OptionsIGES>(arguments.iges));
 
     std::shared_ptr<vrx::ExcProductStructure> structure;
     ScenePage page;

@@ -4,8 +4,8 @@
 #include "bodies/block_bodies.h"
 #include "host_channel.h"
 #include "import_progress.h"
+#include "reading/cad_reader.h"
 #include "reading/import_settings.h"
-#include "reading/step_reader.h"
 #include "structure/product_structure_builder.h"
 
 #include <XCAFDoc_ShapeTool.hxx>
@@ -30,7 +30,7 @@ void printFigures(const std::string& path)
     ImportSettings settings;
     settings.file = path;
     ImportProgress progress(channel);
-    const CadModel model = readStep(settings, channel, progress);
+    const CadModel model = readModel(settings, channel, progress);
     ProductStructureBuilder builder(model);
     for (const std::shared_ptr<vrx::ExcBlock>& block : builder.build()->blocks())
     {

@@ -25,9 +25,11 @@ TEST(Translator, TellsWhatItReads)
     EXPECT_EQ(info.requestedInterface(), vrx::EFerrantInterface::UConnect);
     ASSERT_EQ(info.thirdpartyCores().size(), 1U);
     EXPECT_EQ(info.thirdpartyCores()[0]->name(), WIDE("Open CASCADE Technology"));
-    ASSERT_EQ(info.importFormats().size(), 1U);
+    ASSERT_EQ(info.importFormats().size(), 2U);
     EXPECT_TRUE(info.importFormats()[0]->is(WIDE("folder/Part.STP")));
     EXPECT_FALSE(info.importFormats()[0]->is(WIDE("part.stpx")));
+    EXPECT_TRUE(info.importFormats()[1]->is(WIDE("folder/Part.IGES")));
+    EXPECT_FALSE(info.importFormats()[1]->is(WIDE("part.step")));
     EXPECT_TRUE(info.exportFormats().empty());
 }
 

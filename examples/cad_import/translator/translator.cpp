@@ -8,8 +8,8 @@
 #include "looks/visualization_builder.h"
 #include "mp/narrow.h"
 #include "pmi/pmi_summary.h"
+#include "reading/cad_reader.h"
 #include "reading/import_settings.h"
-#include "reading/step_reader.h"
 #include "structure/product_structure_builder.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 #include "vrx_api/vrx_api_ferrant_info.h"
@@ -104,6 +104,11 @@ void Translator::sendInfo()
         .addExtension(WIDE("step"))
         .addExtension(WIDE("p21"))
         .addFilterExtensions(WIDE("stp;step;p21"));
+    info.newImportFormat()
+        .setDescription(WIDE("IGES files"))
+        .addExtension(WIDE("igs"))
+        .addExtension(WIDE("iges"))
+        .addFilterExtensions(WIDE("igs;iges"));
     m_channel.send(info);
 }
 
@@ -141,7 +146,7 @@ vrx::Result Translator::import(const vrx::Command& command)
 vrx::Result Translator::translate(const ImportSettings& settings)
 {
     ImportProgress progress(m_channel);
-    const CadModel model = readStep(settings, m_channel, progress);
+    const CadModel model = readModel(settings, m_channel, progress);
     if (settings.pmi)
     {
         sendPmiSummary(model, m_channel);

@@ -2,6 +2,8 @@
 
 #include "host_channel.h"
 
+#include <Message.hxx>
+#include <Message_Messenger.hxx>
 #include <TCollection_AsciiString.hxx>
 
 #include <stdexcept>
@@ -28,4 +30,17 @@ void KernelMessages::send(const TCollection_AsciiString& text, Message_Gravity g
         // Whatever is sent next will find the same. The kernel reports from destructors, out of which nothing may be
         // thrown.
     }
+}
+
+MessageRedirection::MessageRedirection(const Handle(KernelMessages) & messages)
+    : m_messages(messages)
+{
+    const Handle(Message_Messenger)& messenger = Message::DefaultMessenger();
+    messenger->RemovePrinters(STANDARD_TYPE(Message_Printer));
+    messenger->AddPrinter(m_messages);
+}
+
+MessageRedirection::~MessageRedirection()
+{
+    Message::DefaultMessenger()->RemovePrinter(m_messages);
 }

@@ -24,3 +24,16 @@ private:
     HostChannel& m_channel;
     mutable std::string m_lastFailure;
 };
+
+/// What the modelling kernel reports goes to these messages while this lives, and nowhere else.
+class MessageRedirection
+{
+public:
+    explicit MessageRedirection(const Handle(KernelMessages) & messages);
+    MessageRedirection(const MessageRedirection&) = delete;
+    MessageRedirection& operator=(const MessageRedirection&) = delete;
+    ~MessageRedirection();
+
+private:
+    Handle(KernelMessages) m_messages;
+};

@@ -1,17 +1,20 @@
 #pragma once
 
+#include <IGESControl_Reader.hxx>
 #include <STEPCAFControl_Reader.hxx>
 #include <TDocStd_Document.hxx>
 
 #include <memory>
 #include <string>
 
-/// A CAD file as an XDE document, with the reader that still knows the file's own entities.
+/// A CAD file as an XDE document, with the reader that still knows the file's own entities: that of its format, the
+/// other is null.
 struct CadModel
 {
     std::string path;
     Handle(TDocStd_Document) document;
-    std::unique_ptr<STEPCAFControl_Reader> reader;
+    std::unique_ptr<STEPCAFControl_Reader> step;
+    std::unique_ptr<IGESControl_Reader> iges;
     /// For the user, when parts of the file could not be read and the model may be incomplete; otherwise empty.
     std::string warning;
 };

@@ -1,7 +1,6 @@
 #include "reading/import_settings.h"
 
 #include "mp/narrow.h"
-#include "vrx_api/vrx_api_format_options.h"
 
 namespace
 {
@@ -12,16 +11,32 @@ void take(const vrx::imp::OptionsSTEP& step, ImportSettings& settings)
     settings.pmi = step.visuPMIProcessingMode() != vrx::EVisuPMIProcessingMode::None;
 }
 
+void take(const vrx::imp::OptionsIGES& iges, ImportSettings& settings)
+{
+    if (iges.hiddenEntitiesMode() != vrx::ETranslateHiddenEntitiesModeType::Unknown)
+    {
+        settings.hidden = iges.hiddenEntitiesMode();
+    }
+    settings.nonroots = iges.importEntities() == vrx::EImportEntities::RootAndNonroot;
+}
+
+template <class Options>
+void takeFormat(const vrx::ImportOptions& options, vrx::EFormatType format, ImportSettings& settings)
+{
+    const auto found = options.formatOptions(format);
+    if (const auto* const ofFormat = dynamic_cast<const Options*>(found.get()))
+    {
+        take(*ofFormat, settings);
+    }
+}
+
 } // namespace
 
 ImportSettings settingsOf(const vrx::ImportOptions& options)
 {
     ImportSettings settings;
     settings.file = mp::toNarrow(options.file());
-    const auto step = options.formatOptions(vrx::EFormatType::STEP);
-    if (const auto* const ofStep = dynamic_cast<const vrx::imp::OptionsSTEP*>(step.get()))
-    {
-        take(*ofStep, settings);
-    }
+    takeFormat<vrx::imp::OptionsSTEP>(options, vrx::EFormatType::STEP, settings);
+    takeFormat<vrx::imp::OptionsIGES>(options, vrx::EFormatType::IGES, settings);
     return settings;
 }

@@ -13,7 +13,11 @@
 
 StepLabels::StepLabels(const CadModel& model)
 {
-    const STEPCAFControl_Reader& reader = *model.reader;
+    if (!model.step)
+    {
+        return;
+    }
+    const STEPCAFControl_Reader& reader = *model.step;
     const Handle(XSControl_WorkSession) session = reader.Reader().WS();
     const Handle(Transfer_TransientProcess) transfer = session->TransferReader()->TransientProcess();
     const Handle(Interface_InterfaceModel) entities = session->Model();

@@ -8,7 +8,7 @@
 
 struct CadModel;
 
-/// Which entity of the STEP file a label of the XDE document was made from.
+/// Which entity of the STEP file a label of the XDE document was made from; none in the model of another format.
 class StepLabels
 {
 public:

@@ -1,7 +1,7 @@
 #include "reading/step_reader.h"
 
 #include "import_progress.h"
-#include "kernel/kernel_messages.h"
+#include "reading/cad_file.h"
 #include "reading/counting_buffer.h"
 #include "reading/import_settings.h"
 #include "reading/taught_entities.h"
@@ -10,106 +10,33 @@
 
 #include <Interface_Check.hxx>
 #include <Interface_InterfaceModel.hxx>
-#include <Message.hxx>
-#include <Message_Messenger.hxx>
 #include <StepGeom_Curve.hxx>
 #include <StepGeom_Placement.hxx>
 #include <StepGeom_Point.hxx>
 #include <StepGeom_Surface.hxx>
 #include <StepShape_TopologicalRepresentationItem.hxx>
-#include <TDF_LabelSequence.hxx>
-#include <XCAFApp_Application.hxx>
-#include <XCAFDoc_DocumentTool.hxx>
-#include <XCAFDoc_ShapeTool.hxx>
 #include <XSControl_WorkSession.hxx>
 
-#include <algorithm>
-#include <cerrno>
 #include <cstdint>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 
 namespace
 {
 
 const char kFirstWord[] = "ISO-10303-21";
 const char kLastWord[] = "END-ISO-10303-21";
-const std::uint64_t kEndPiece = 4096; // the first and last words stand within this many bytes of the file's ends
 
-std::string piece(std::istream& file, std::uint64_t begin, std::uint64_t size)
+void read(STEPCAFControl_Reader& reader, CadFile& file, ImportProgress& progress)
 {
-    std::string text(static_cast<std::size_t>(size), '\0');
-    file.seekg(static_cast<std::streamoff>(begin));
-    file.read(text.data(), static_cast<std::streamsize>(size));
-    text.resize(static_cast<std::size_t>(std::max<std::streamsize>(file.gcount(), 0)));
-    file.clear();
-    file.seekg(0);
-    return text;
-}
-
-std::ifstream openStep(const std::string& path, std::uint64_t& size)
-{
-    std::error_code failure;
-    const std::filesystem::file_status status = std::filesystem::status(path, failure);
-    if (!std::filesystem::exists(status))
-    {
-        throw TranslationError("There is no file " + path + ".");
-    }
-    if (!std::filesystem::is_regular_file(status))
-    {
-        throw TranslationError(path + " is not a file.");
-    }
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-    {
-        throw TranslationError("Cannot open " + path + ": " + std::strerror(errno) + ".");
-    }
-    size = std::filesystem::file_size(path);
-    if (size == 0)
-    {
-        throw TranslationError(path + " is empty.");
-    }
-    if (piece(file, 0, std::min(size, kEndPiece)).find(kFirstWord) == std::string::npos)
+    const std::string& path = file.path();
+    if (!beginsAsStep(file))
     {
         throw TranslationError(path + " is not a STEP file: it does not begin with " + kFirstWord + ".");
     }
-    return file;
-}
+    const bool complete = file.end().find(kLastWord) != std::string::npos;
 
-bool isComplete(std::istream& file, std::uint64_t size)
-{
-    const std::uint64_t begin = size > kEndPiece ? size - kEndPiece : 0;
-    return piece(file, begin, size - begin).find(kLastWord) != std::string::npos;
-}
-
-// The reader's messages go to the host's log while this lives.
-class MessageRedirection
-{
-public:
-    explicit MessageRedirection(const Handle(KernelMessages) & printer)
-        : m_printer(printer)
-    {
-        const Handle(Message_Messenger)& messenger = Message::DefaultMessenger();
-        messenger->RemovePrinters(STANDARD_TYPE(Message_Printer));
-        messenger->AddPrinter(m_printer);
-    }
-    MessageRedirection(const MessageRedirection&) = delete;
-    MessageRedirection& operator=(const MessageRedirection&) = delete;
-    ~MessageRedirection() { Message::DefaultMessenger()->RemovePrinter(m_printer); }
-
-private:
-    Handle(KernelMessages) m_printer;
-};
-
-void read(STEPCAFControl_Reader& reader, const std::string& path, ImportProgress& progress)
-{
-    std::uint64_t size = 0;
-    std::ifstream file = openStep(path, size);
-    const bool complete = isComplete(file, size);
-
-    CountingBuffer buffer(
-        file, [&](std::uint64_t count) { progress.advance(static_cast<double>(count) / static_cast<double>(size)); });
+    CountingBuffer buffer(file.stream(), [&](std::uint64_t count) {
+        progress.advance(static_cast<double>(count) / static_cast<double>(file.size()));
+    });
     std::istream stream(&buffer);
     const IFSelect_ReturnStatus status = reader.ChangeReader().ReadStream(path.c_str(), stream);
     if (status != IFSelect_RetDone && !complete)
@@ -154,31 +81,30 @@ std::string damage(const Interface_InterfaceModel& entities)
 
 } // namespace
 
-CadModel readStep(const ImportSettings& settings, HostChannel& channel, ImportProgress& progress)
+bool beginsAsStep(const CadFile& file)
 {
-    const std::string& path = settings.file;
-    const Handle(KernelMessages) messages = new KernelMessages(channel);
-    const MessageRedirection redirection(messages);
+    return file.begin().find(kFirstWord) != std::string::npos;
+}
 
-    CadModel model;
-    model.path = path;
-    model.reader = std::make_unique<STEPCAFControl_Reader>();
-    model.reader->SetColorMode(true);
-    model.reader->SetNameMode(true);
-    model.reader->SetPropsMode(true);
-    model.reader->SetMatMode(true);
-    model.reader->SetSHUOMode(true);
-    model.reader->SetLayerMode(settings.layers);
-    model.reader->SetGDTMode(settings.pmi);
-    model.reader->SetViewMode(settings.pmi);
+void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& progress, CadModel& model)
+{
+    model.step = std::make_unique<STEPCAFControl_Reader>();
+    model.step->SetColorMode(true);
+    model.step->SetNameMode(true);
+    model.step->SetPropsMode(true);
+    model.step->SetMatMode(true);
+    model.step->SetSHUOMode(true);
+    model.step->SetLayerMode(settings.layers);
+    model.step->SetGDTMode(settings.pmi);
+    model.step->SetViewMode(settings.pmi);
 
     progress.beginStage("Reading the file", 20);
-    const Handle(XSControl_WorkSession) session = model.reader->Reader().WS();
+    const Handle(XSControl_WorkSession) session = model.step->Reader().WS();
     if (settings.pmi)
     {
         teachEntities(*session);
     }
-    read(*model.reader, path, progress);
+    read(*model.step, file, progress);
     const Handle(Interface_InterfaceModel) entities = session->Model();
     model.warning = damage(*entities);
     if (settings.pmi)
@@ -187,17 +113,6 @@ CadModel readStep(const ImportSettings& settings, HostChannel& channel, ImportPr
     }
 
     progress.beginStage("Translating the shapes", 55);
-    XCAFApp_Application::GetApplication()->NewDocument("BinXCAF", model.document);
     const Handle(KernelProgress) kernelProgress = new KernelProgress(progress);
-    TDF_LabelSequence shapes;
-    if (model.reader->Transfer(model.document, kernelProgress->Start()))
-    {
-        XCAFDoc_DocumentTool::ShapeTool(model.document->Main())->GetFreeShapes(shapes);
-    }
-    if (shapes.IsEmpty())
-    {
-        const std::string& reason = messages->lastFailure();
-        throw TranslationError("Nothing in " + path + " could be translated" + (reason.empty() ? "." : ": " + reason));
-    }
-    return model;
+    model.step->Transfer(model.document, kernelProgress->Start());
 }

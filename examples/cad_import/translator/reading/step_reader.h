@@ -2,9 +2,12 @@
 
 #include "reading/cad_model.h"
 
-class HostChannel;
+class CadFile;
 class ImportProgress;
 struct ImportSettings;
 
-/// Reads and transfers a STEP file. Throws TranslationError with a message for the user.
-CadModel readStep(const ImportSettings& settings, HostChannel& channel, ImportProgress& progress);
+bool beginsAsStep(const CadFile& file);
+
+/// Reads a STEP file and transfers it to the model's document, which stays empty when nothing could be transferred.
+/// Throws TranslationError with a message for the user.
+void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& progress, CadModel& model);

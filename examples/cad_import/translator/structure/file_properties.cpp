@@ -2,11 +2,14 @@
 
 #include "common/property_names.h"
 #include "kernel/occt_text.h"
+#include "mp/narrow.h"
 #include "reading/cad_model.h"
 #include "reading/step_measures.h"
+#include "structure/iges_head.h"
 #include "structure/misc_properties.h"
 
 #include <APIHeaderSection_MakeHeader.hxx>
+#include <IGESData_IGESModel.hxx>
 #include <Interface_HArray1OfHAsciiString.hxx>
 #include <StepBasic_MeasureValueMember.hxx>
 #include <StepBasic_ProductDefinition.hxx>
@@ -87,17 +90,6 @@ void addItem(vrx::ExcMiscData& data, const mp::wstring& name, const Handle(StepR
     }
 }
 
-// Heads are full of blank texts; those say nothing.
-void addText(vrx::ExcMiscData& data, const mp::wchar* name, ExcMiscProperty::EType type,
-             const Handle(TCollection_HAsciiString) & text)
-{
-    const mp::wstring wide = occt_text::wide(text);
-    if (wide.find_first_not_of(WIDE(' ')) != mp::wstring::npos)
-    {
-        add(data, name, type, wide);
-    }
-}
-
 void addTexts(vrx::ExcMiscData& data, const mp::wchar* name, const Handle(Interface_HArray1OfHAsciiString) & texts)
 {
     if (texts.IsNull())
@@ -106,7 +98,7 @@ void addTexts(vrx::ExcMiscData& data, const mp::wchar* name, const Handle(Interf
     }
     for (int i = texts->Lower(); i <= texts->Upper(); ++i)
     {
-        addText(data, name, ExcMiscProperty::EType::String, texts->Value(i));
+        addText(data, name, ExcMiscProperty::EType::String, occt_text::wide(texts->Value(i)));
     }
 }
 
@@ -114,7 +106,15 @@ void addTexts(vrx::ExcMiscData& data, const mp::wchar* name, const Handle(Interf
 
 FileProperties::FileProperties(const CadModel& model)
 {
-    const Handle(StepData_StepModel) entities = model.reader->Reader().StepModel();
+    if (model.iges)
+    {
+        m_head = igesHead(model.iges->IGESModel()->GlobalSection());
+    }
+    if (!model.step)
+    {
+        return;
+    }
+    const Handle(StepData_StepModel) entities = model.step->Reader().StepModel();
     readHead(model, entities);
     for (int i = 1; i <= entities->NbEntities(); ++i)
     {
@@ -139,22 +139,24 @@ void FileProperties::readHead(const CadModel& model, const Handle(StepData_StepM
     }
     if (head.HasFn())
     {
-        addText(m_head, WIDE("file name"), ExcMiscProperty::EType::String, head.Name());
-        addText(m_head, WIDE("time stamp"), ExcMiscProperty::EType::DateTime, head.TimeStamp());
+        addText(m_head, WIDE("file name"), ExcMiscProperty::EType::String, occt_text::wide(head.Name()));
+        addText(m_head, WIDE("time stamp"), ExcMiscProperty::EType::DateTime, occt_text::wide(head.TimeStamp()));
         addTexts(m_head, WIDE("author"), head.Author());
         addTexts(m_head, WIDE("organization"), head.Organization());
-        addText(m_head, WIDE("originating system"), ExcMiscProperty::EType::String, head.OriginatingSystem());
-        addText(m_head, WIDE("preprocessor version"), ExcMiscProperty::EType::String, head.PreprocessorVersion());
-        addText(m_head, WIDE("authorization"), ExcMiscProperty::EType::String, head.Authorisation());
+        addText(m_head, WIDE("originating system"), ExcMiscProperty::EType::String,
+                occt_text::wide(head.OriginatingSystem()));
+        addText(m_head, WIDE("preprocessor version"), ExcMiscProperty::EType::String,
+                occt_text::wide(head.PreprocessorVersion()));
+        addText(m_head, WIDE("authorization"), ExcMiscProperty::EType::String, occt_text::wide(head.Authorisation()));
     }
     TColStd_SequenceOfAsciiString lengths;
     TColStd_SequenceOfAsciiString angles;
     TColStd_SequenceOfAsciiString solidAngles;
-    model.reader->ChangeReader().FileUnits(lengths, angles, solidAngles);
+    model.step->ChangeReader().FileUnits(lengths, angles, solidAngles);
     for (int i = 1; i <= lengths.Length(); ++i)
     {
         addText(m_head, property_names::kFileLengthUnit, ExcMiscProperty::EType::String,
-                new TCollection_HAsciiString(lengths(i)));
+                mp::toWide(lengths(i).ToCString()));
     }
 }
 

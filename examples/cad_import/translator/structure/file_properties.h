@@ -10,8 +10,8 @@
 
 struct CadModel;
 
-/// The properties that a STEP file holds as text and numbers: those in its head, and the user-defined attributes of its
-/// products and usages. The reader does not bring these into the XDE document.
+/// The properties that a file holds as text and numbers: those in its head, and the user-defined attributes of the
+/// products and usages of a STEP file. The readers do not bring these into the XDE document.
 class FileProperties
 {
 public:

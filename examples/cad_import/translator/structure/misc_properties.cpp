@@ -27,3 +27,11 @@ void add(vrx::ExcMiscData& data, const mp::wstring& name, int value)
 {
     add(data, name, vrx::ExcMiscProperty::EType::Integer, mp::toWide(std::to_string(value)));
 }
+
+void addText(vrx::ExcMiscData& data, const mp::wstring& name, vrx::ExcMiscProperty::EType type, const mp::wstring& text)
+{
+    if (text.find_first_not_of(WIDE(' ')) != mp::wstring::npos)
+    {
+        add(data, name, type, text);
+    }
+}

@@ -9,3 +9,7 @@ mp::wstring numberText(double value);
 void add(vrx::ExcMiscData& data, const mp::wstring& name, vrx::ExcMiscProperty::EType type, const mp::wstring& value);
 void add(vrx::ExcMiscData& data, const mp::wstring& name, double value);
 void add(vrx::ExcMiscData& data, const mp::wstring& name, int value);
+
+/// Only if the text says something: heads of files are full of blank texts.
+void addText(vrx::ExcMiscData& data, const mp::wstring& name, vrx::ExcMiscProperty::EType type,
+             const mp::wstring& text);

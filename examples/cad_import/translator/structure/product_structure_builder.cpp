@@ -170,14 +170,14 @@ std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const
     reference->setHidden(!visible || !content.isVisible());
 
     const Handle(StepRepr_NextAssemblyUsageOccurrence) usage = m_labels.usageOf(component);
-    if (usage.IsNull())
+    const bool isNamed =
+        !m_model.step || !usage.IsNull(); // XDE has names of its own for other components of STEP files
+    reference->setName(nameOf(isNamed ? component : target));
+    if (!usage.IsNull())
     {
-        reference->setName(nameOf(target));
-        return reference;
+        reference->setPersistentId(occt_text::wide(usage->Id()));
+        m_properties.addTo(reference->miscData(), usage);
     }
-    reference->setName(nameOf(component));
-    reference->setPersistentId(occt_text::wide(usage->Id()));
-    m_properties.addTo(reference->miscData(), usage);
     return reference;
 }
 
@@ -186,7 +186,7 @@ std::uint64_t ProductStructureBuilder::blockId(const TDF_Label& label)
     return static_cast<std::uint64_t>(m_blocks.Add(label));
 }
 
-// The shapes of a part that XDE has made an assembly of.
+// The shapes of a part that XDE has made an assembly of, as it does with the products of STEP files.
 std::vector<TDF_Label> ProductStructureBuilder::ownShapes(const TDF_Label& label) const
 {
     std::vector<TDF_Label> shapes;
@@ -202,6 +202,10 @@ std::vector<TDF_Label> ProductStructureBuilder::ownShapes(const TDF_Label& label
 
 bool ProductStructureBuilder::isPart(const TDF_Label& label) const
 {
+    if (!m_model.step)
+    {
+        return !XCAFDoc_ShapeTool::IsAssembly(label);
+    }
     const std::vector<TDF_Label> all = components(label);
     return std::none_of(all.begin(), all.end(), [this](const TDF_Label& component) {
         return !m_labels.productOf(referred(component)).IsNull();

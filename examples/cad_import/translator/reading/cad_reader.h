@@ -1,0 +1,11 @@
+#pragma once
+
+#include "reading/cad_model.h"
+
+class HostChannel;
+class ImportProgress;
+struct ImportSettings;
+
+/// Reads and transfers a file of any format that the translator knows. Throws TranslationError with a message for the
+/// user.
+CadModel readModel(const ImportSettings& settings, HostChannel& channel, ImportProgress& progress);

@@ -1,0 +1,509 @@
+#include "reading/iges_document.h"
+
+#include "import_progress.h"
+#include "reading/import_settings.h"
+
+#include <IGESBasic_Group.hxx>
+#include <IGESBasic_SingularSubfigure.hxx>
+#include <IGESBasic_SubfigureDef.hxx>
+#include <IGESCAFControl.hxx>
+#include <IGESData_LevelListEntity.hxx>
+#include <IGESData_ToolLocation.hxx>
+#include <IGESGraph_Color.hxx>
+#include <IGESSolid_Face.hxx>
+#include <IGESSolid_ManifoldSolid.hxx>
+#include <IGESSolid_Shell.hxx>
+#include <Interface_EntityIterator.hxx>
+#include <Interface_Protocol.hxx>
+#include <Quantity_Color.hxx>
+#include <TCollection_HAsciiString.hxx>
+#include <TDF_LabelSequence.hxx>
+#include <TDataStd_Name.hxx>
+#include <TopoDS_Builder.hxx>
+#include <TransferBRep.hxx>
+#include <Transfer_TransferFailure.hxx>
+#include <XCAFDoc_DocumentTool.hxx>
+#include <XSControl_TransferReader.hxx>
+#include <XSControl_WorkSession.hxx>
+#include <gp_GTrsf.hxx>
+#include <gp_Quaternion.hxx>
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+
+namespace
+{
+
+using Entity = Handle(IGESData_IGESEntity);
+using HiddenMode = vrx::ETranslateHiddenEntitiesModeType;
+
+bool isHidden(const Entity& entity)
+{
+    return entity->BlankStatus() == 1;
+}
+
+bool isLogicallyDependent(const Entity& entity)
+{
+    return entity->SubordinateStatus() == 2 || entity->SubordinateStatus() == 3;
+}
+
+bool isContainer(const Entity& entity)
+{
+    return entity->IsKind(STANDARD_TYPE(IGESBasic_Group)) || entity->IsKind(STANDARD_TYPE(IGESBasic_SubfigureDef));
+}
+
+std::vector<Entity> membersOf(const Entity& container)
+{
+    std::vector<Entity> members;
+    if (const auto group = Handle(IGESBasic_Group)::DownCast(container); !group.IsNull())
+    {
+        for (int i = 1; i <= group->NbEntities(); ++i)
+        {
+            members.push_back(group->Entity(i));
+        }
+    }
+    else if (const auto subfigure = Handle(IGESBasic_SubfigureDef)::DownCast(container); !subfigure.IsNull())
+    {
+        for (int i = 1; i <= subfigure->NbEntities(); ++i)
+        {
+            members.push_back(subfigure->AssociatedEntity(i));
+        }
+    }
+    members.erase(std::remove_if(members.begin(), members.end(), [](const Entity& entity) { return entity.IsNull(); }),
+                  members.end());
+    return members;
+}
+
+std::string text(const Handle(TCollection_HAsciiString) & value)
+{
+    TCollection_AsciiString trimmed = value.IsNull() ? TCollection_AsciiString() : value->String();
+    trimmed.LeftAdjust();
+    trimmed.RightAdjust();
+    return trimmed.ToCString();
+}
+
+std::string ownName(const Entity& entity)
+{
+    const auto subfigure = Handle(IGESBasic_SubfigureDef)::DownCast(entity);
+    return text(subfigure.IsNull() ? entity->NameValue() : subfigure->Name());
+}
+
+void setName(const TDF_Label& label, const std::string& name)
+{
+    TDataStd_Name::Set(label, TCollection_ExtendedString(name.c_str(), true));
+}
+
+// Whatever the transformation was made from.
+bool isIdentity(const gp_Trsf& place)
+{
+    const double nothing = 1e-12;
+    return place.TranslationPart().Modulus() < nothing && std::abs(place.ScaleFactor() - 1) < nothing &&
+           place.GetRotation().GetRotationAngle() < nothing;
+}
+
+// XDE has no place for what is scaled or mirrored.
+bool isRigid(const TopLoc_Location& place)
+{
+    const gp_Trsf matrix = place.Transformation();
+    return !matrix.IsNegative() && std::abs(matrix.ScaleFactor() - 1) < TopLoc_Location::ScalePrec();
+}
+
+bool hasColor(const Entity& entity, Quantity_Color& color)
+{
+    if (entity->DefColor() == IGESData_DefValue)
+    {
+        color = IGESCAFControl::DecodeColor(entity->RankColor());
+        return true;
+    }
+    const auto definition = Handle(IGESGraph_Color)::DownCast(entity->Color());
+    if (definition.IsNull())
+    {
+        return false;
+    }
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+    definition->RGBIntensity(red, green, blue);
+    const auto share = [](double percent) { return std::clamp(percent / 100, 0.0, 1.0); };
+    color.SetValues(share(red), share(green), share(blue), Quantity_TOC_sRGB);
+    return true;
+}
+
+bool saysSomething(const Entity& entity)
+{
+    Quantity_Color color;
+    return !ownName(entity).empty() || hasColor(entity, color);
+}
+
+} // namespace
+
+IgesDocument::IgesDocument(IGESControl_Reader& reader, const ImportSettings& settings,
+                           const Handle(TDocStd_Document) & document, ImportProgress& progress)
+    : m_reader(reader)
+    , m_settings(settings)
+    , m_model(reader.IGESModel())
+    , m_graph(m_model, reader.WS()->Protocol())
+    , m_shapes(XCAFDoc_DocumentTool::ShapeTool(document->Main()))
+    , m_colors(XCAFDoc_DocumentTool::ColorTool(document->Main()))
+    , m_layers(XCAFDoc_DocumentTool::LayerTool(document->Main()))
+    , m_progress(progress)
+    , m_expected(countOfShapes())
+{
+}
+
+// Solids wherever they are, and what does not belong physically to others: curves of faces do, loose ones do not.
+int IgesDocument::countOfShapes() const
+{
+    int count = 0;
+    for (int i = 1; i <= m_model->NbEntities(); ++i)
+    {
+        const Entity entity = m_model->Entity(i);
+        const bool standsByItself =
+            entity->IsKind(STANDARD_TYPE(IGESSolid_ManifoldSolid)) || entity->SubordinateStatus() != 1;
+        count += standsByItself && m_reader.WS()->TransferReader()->Recognize(entity) ? 1 : 0;
+    }
+    return count;
+}
+
+void IgesDocument::build()
+{
+    const std::string name = std::filesystem::path(m_settings.file).stem().string();
+    const std::vector<Item> items = itemsOf(wantedRoots(), name);
+    if (items.empty())
+    {
+        return;
+    }
+    const bool isOneThing = items.size() == 1 && items[0].place.IsIdentity() && !items[0].isHidden;
+    removeAllBut(isOneThing ? items[0].block : assemblyOf(items, name));
+    m_shapes->UpdateAssemblies();
+}
+
+// Blocks are left over when each of their instances is scaled or mirrored, and so are the blocks in these.
+void IgesDocument::removeAllBut(const TDF_Label& top)
+{
+    bool isDone = false;
+    while (!isDone)
+    {
+        isDone = true;
+        TDF_LabelSequence free;
+        m_shapes->GetFreeShapes(free);
+        for (const TDF_Label& label : free)
+        {
+            isDone = (label == top || !m_shapes->RemoveShape(label)) && isDone;
+        }
+    }
+}
+
+std::vector<Entity> IgesDocument::wantedRoots() const
+{
+    std::vector<Entity> entities;
+    for (int i = 1; i <= m_reader.NbRootsForTransfer(); ++i)
+    {
+        entities.push_back(Entity::DownCast(m_reader.RootForTransfer(i)));
+    }
+    for (int i = 1; m_settings.nonroots && i <= m_model->NbEntities(); ++i)
+    {
+        const Entity entity = m_model->Entity(i);
+        if (isLogicallyDependent(entity) && !entity->IsKind(STANDARD_TYPE(IGESBasic_SubfigureDef)) &&
+            std::find(entities.begin(), entities.end(), entity) == entities.end())
+        {
+            entities.push_back(entity);
+        }
+    }
+    return entities;
+}
+
+bool IgesDocument::isWanted(const Entity& entity) const
+{
+    if (!m_reader.WS()->TransferReader()->Recognize(entity))
+    {
+        return false;
+    }
+    if (!isHidden(entity) || m_settings.hidden == HiddenMode::All)
+    {
+        return true;
+    }
+    if (m_settings.hidden == HiddenMode::None)
+    {
+        return false;
+    }
+    Interface_EntityIterator referring = m_graph.Sharings(entity);
+    for (; referring.More(); referring.Next())
+    {
+        const Entity other = Entity::DownCast(referring.Value());
+        if (!other.IsNull() && !isHidden(other))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::vector<IgesDocument::Item> IgesDocument::itemsOf(const std::vector<Entity>& members, const std::string& name)
+{
+    std::vector<Item> items;
+    std::vector<Entity> loose;
+    std::vector<Entity> hiddenLoose;
+    for (const Entity& entity : members)
+    {
+        if (isWanted(entity))
+        {
+            if (Item item = itemOf(entity); !item.block.IsNull())
+            {
+                items.push_back(item);
+            }
+            else if (!shapeOf(entity).IsNull())
+            {
+                (isHidden(entity) ? hiddenLoose : loose).push_back(entity);
+            }
+        }
+    }
+    for (const auto* const entities : {&loose, &hiddenLoose})
+    {
+        if (!entities->empty())
+        {
+            Item item;
+            item.block = looseOf(*entities, name);
+            item.isPart = true;
+            item.isHidden = entities == &hiddenLoose;
+            items.push_back(item);
+        }
+    }
+    return items;
+}
+
+// Without a block for loose geometry, and for what holds nothing.
+IgesDocument::Item IgesDocument::itemOf(const Entity& entity)
+{
+    Item item;
+    item.entity = entity;
+    item.isHidden = isHidden(entity);
+    if (const auto instance = Handle(IGESBasic_SingularSubfigure)::DownCast(entity); !instance.IsNull())
+    {
+        item.block = instance->Subfigure().IsNull() ? TDF_Label() : blockOf(instance->Subfigure());
+        item.place = placeOf(entity);
+    }
+    else if (isContainer(entity))
+    {
+        item.block = blockOf(entity);
+        item.place = placeOf(entity);
+    }
+    else if (const TopoDS_Shape shape = shapeOf(entity); !shape.IsNull() && shape.ShapeType() <= TopAbs_SHELL)
+    {
+        item.block = partOf(entity, shape);
+        item.place = shape.Location();
+        item.isPart = true;
+    }
+    return item;
+}
+
+TDF_Label IgesDocument::blockOf(const Entity& container)
+{
+    if (const TDF_Label* const known = m_blocks.Seek(container))
+    {
+        return *known;
+    }
+    m_blocks.Bind(container, TDF_Label()); // a damaged one may hold itself
+    const std::string name = nameOf(container);
+    const std::vector<Entity> members = membersOf(container);
+    const std::vector<Item> items = itemsOf(members, name);
+    const bool isOnePart = items.size() == 1 && items[0].isPart && (members.size() == 1 || items[0].entity.IsNull());
+    TDF_Label block;
+    if (isOnePart && items[0].place.IsIdentity() && !items[0].isHidden)
+    {
+        block = items[0].block;
+        if (!ownName(container).empty())
+        {
+            setName(block, name);
+        }
+    }
+    else if (!items.empty())
+    {
+        block = assemblyOf(items, name);
+    }
+    m_blocks.Bind(container, block);
+    return block;
+}
+
+TDF_Label IgesDocument::partOf(const Entity& entity, const TopoDS_Shape& body)
+{
+    if (const TDF_Label* const known = m_blocks.Seek(entity))
+    {
+        return *known;
+    }
+    const TDF_Label part = m_shapes->AddShape(body.Located(TopLoc_Location()), false);
+    setName(part, nameOf(entity));
+    setLook(part, entity);
+    setLayers(part, entity);
+    setFaceLooks(part, entity);
+    m_blocks.Bind(entity, part);
+    return part;
+}
+
+TDF_Label IgesDocument::looseOf(const std::vector<Entity>& entities, const std::string& name)
+{
+    TopoDS_Compound shape;
+    TopoDS_Builder().MakeCompound(shape);
+    for (const Entity& entity : entities)
+    {
+        TopoDS_Builder().Add(shape, shapeOf(entity));
+    }
+    const TDF_Label part = m_shapes->AddShape(shape, false);
+    setName(part, name);
+    for (const Entity& entity : entities)
+    {
+        const TDF_Label label = saysSomething(entity) ? m_shapes->AddSubShape(part, shapeOf(entity)) : TDF_Label();
+        if (!label.IsNull())
+        {
+            setName(label, nameOf(entity));
+            setLook(label, entity);
+        }
+        setLayers(part, entity);
+    }
+    return part;
+}
+
+TDF_Label IgesDocument::assemblyOf(const std::vector<Item>& items, const std::string& name)
+{
+    const TDF_Label assembly = m_shapes->NewShape();
+    setName(assembly, name);
+    for (const Item& item : items)
+    {
+        if (!isRigid(item.place))
+        {
+            m_untranslatable.Add(item.entity);
+            continue;
+        }
+        const TDF_Label component = m_shapes->AddComponent(assembly, item.block, item.place);
+        const std::string own = item.entity.IsNull() ? std::string() : ownName(item.entity);
+        Handle(TDataStd_Name) blockName;
+        if (!own.empty())
+        {
+            setName(component, own);
+        }
+        else if (item.block.FindAttribute(TDataStd_Name::GetID(), blockName))
+        {
+            TDataStd_Name::Set(component, blockName->Get());
+        }
+        if (!item.isPart)
+        {
+            setLook(component, item.entity);
+        }
+        if (item.isHidden)
+        {
+            m_colors->SetVisibility(component, false);
+        }
+    }
+    return assembly;
+}
+
+bool IgesDocument::translate(const Entity& entity)
+{
+    m_progress.advance(m_translated++ / m_expected);
+    try
+    {
+        return m_reader.TransferEntity(entity);
+    }
+    catch (const Transfer_TransferFailure&) // a damaged part of it has failed before
+    {
+        return false;
+    }
+}
+
+// Null when the kernel cannot translate the entity.
+TopoDS_Shape IgesDocument::shapeOf(const Entity& entity)
+{
+    const Handle(XSControl_TransferReader)& transfer = m_reader.WS()->TransferReader();
+    if (isContainer(entity) || entity->IsKind(STANDARD_TYPE(IGESBasic_SingularSubfigure)))
+    {
+        return {};
+    }
+    if (m_untranslatable.Contains(entity))
+    {
+        return {};
+    }
+    if (!transfer->IsRecorded(entity) && !translate(entity))
+    {
+        m_untranslatable.Add(entity);
+        return {};
+    }
+    return TransferBRep::ShapeResult(transfer->TransientProcess(), entity);
+}
+
+TopLoc_Location IgesDocument::placeOf(const Entity& entity) const
+{
+    const double unit = m_model->GlobalSection().UnitValue();
+    gp_Trsf place;
+    if (entity->HasTransf())
+    {
+        const double precision = 1e-4;
+        IGESData_ToolLocation::ConvertLocation(precision, entity->CompoundLocation(), place, unit);
+    }
+    if (const auto instance = Handle(IGESBasic_SingularSubfigure)::DownCast(entity); !instance.IsNull())
+    {
+        gp_Trsf own;
+        own.SetTranslation(gp_Vec(instance->Translation() * unit));
+        if (instance->HasScaleFactor())
+        {
+            own.SetScaleFactor(instance->ScaleFactor());
+        }
+        place.Multiply(own);
+    }
+    return isIdentity(place) ? TopLoc_Location() : TopLoc_Location(place);
+}
+
+std::string IgesDocument::nameOf(const Entity& entity) const
+{
+    const std::string own = ownName(entity);
+    return own.empty() ? text(m_model->StringLabel(entity)) : own;
+}
+
+void IgesDocument::setLook(const TDF_Label& label, const Entity& entity)
+{
+    Quantity_Color color;
+    if (!entity.IsNull() && hasColor(entity, color))
+    {
+        m_colors->SetColor(label, color, XCAFDoc_ColorGen);
+    }
+}
+
+void IgesDocument::setLayers(const TDF_Label& label, const Entity& entity)
+{
+    const Handle(IGESData_LevelListEntity) levels = entity->LevelList();
+    if (!levels.IsNull())
+    {
+        for (int i = 1; i <= levels->NbLevelNumbers(); ++i)
+        {
+            m_layers->SetLayer(label, TCollection_ExtendedString(levels->LevelNumber(i)));
+        }
+    }
+    else if (entity->DefLevel() == IGESData_DefOne)
+    {
+        m_layers->SetLayer(label, TCollection_ExtendedString(entity->Level()));
+    }
+}
+
+// The faces of a solid or of a shell.
+void IgesDocument::setFaceLooks(const TDF_Label& part, const Entity& entity)
+{
+    Interface_EntityIterator parts = m_graph.Shareds(entity);
+    for (; parts.More(); parts.Next())
+    {
+        const Entity shared = Entity::DownCast(parts.Value());
+        Quantity_Color color;
+        if (shared->IsKind(STANDARD_TYPE(IGESSolid_Shell)))
+        {
+            setFaceLooks(part, shared);
+        }
+        else if (shared->IsKind(STANDARD_TYPE(IGESSolid_Face)) && hasColor(shared, color))
+        {
+            const TopoDS_Shape face = shapeOf(shared);
+            const TDF_Label label = face.IsNull() ? TDF_Label() : m_shapes->AddSubShape(part, face);
+            if (!label.IsNull())
+            {
+                m_colors->SetColor(label, color, XCAFDoc_ColorGen);
+            }
+        }
+    }
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "vrx_api/vrx_api_exchange_common.h"
+
+#include <IGESData_GlobalSection.hxx>
+
+/// What the global section of an IGES file tells of the file, under the names that the head of a STEP file has.
+vrx::ExcMiscData igesHead(const IGESData_GlobalSection& section);
