@@ -1,22 +1,17 @@
 #include "reading/iges_document.h"
 
 #include "import_progress.h"
+#include "reading/iges_entity.h"
 #include "reading/import_settings.h"
 
-#include <IGESBasic_Group.hxx>
 #include <IGESBasic_SingularSubfigure.hxx>
 #include <IGESBasic_SubfigureDef.hxx>
-#include <IGESCAFControl.hxx>
-#include <IGESData_LevelListEntity.hxx>
-#include <IGESData_ToolLocation.hxx>
-#include <IGESGraph_Color.hxx>
 #include <IGESSolid_Face.hxx>
 #include <IGESSolid_ManifoldSolid.hxx>
 #include <IGESSolid_Shell.hxx>
 #include <Interface_EntityIterator.hxx>
 #include <Interface_Protocol.hxx>
 #include <Quantity_Color.hxx>
-#include <TCollection_HAsciiString.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
 #include <TopoDS_Builder.hxx>
@@ -25,8 +20,6 @@
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XSControl_TransferReader.hxx>
 #include <XSControl_WorkSession.hxx>
-#include <gp_GTrsf.hxx>
-#include <gp_Quaternion.hxx>
 
 #include <algorithm>
 #include <cmath>
@@ -35,71 +28,12 @@
 namespace
 {
 
-using Entity = Handle(IGESData_IGESEntity);
+using iges_entity::Entity;
 using HiddenMode = vrx::ETranslateHiddenEntitiesModeType;
-
-bool isHidden(const Entity& entity)
-{
-    return entity->BlankStatus() == 1;
-}
-
-bool isLogicallyDependent(const Entity& entity)
-{
-    return entity->SubordinateStatus() == 2 || entity->SubordinateStatus() == 3;
-}
-
-bool isContainer(const Entity& entity)
-{
-    return entity->IsKind(STANDARD_TYPE(IGESBasic_Group)) || entity->IsKind(STANDARD_TYPE(IGESBasic_SubfigureDef));
-}
-
-std::vector<Entity> membersOf(const Entity& container)
-{
-    std::vector<Entity> members;
-    if (const auto group = Handle(IGESBasic_Group)::DownCast(container); !group.IsNull())
-    {
-        for (int i = 1; i <= group->NbEntities(); ++i)
-        {
-            members.push_back(group->Entity(i));
-        }
-    }
-    else if (const auto subfigure = Handle(IGESBasic_SubfigureDef)::DownCast(container); !subfigure.IsNull())
-    {
-        for (int i = 1; i <= subfigure->NbEntities(); ++i)
-        {
-            members.push_back(subfigure->AssociatedEntity(i));
-        }
-    }
-    members.erase(std::remove_if(members.begin(), members.end(), [](const Entity& entity) { return entity.IsNull(); }),
-                  members.end());
-    return members;
-}
-
-std::string text(const Handle(TCollection_HAsciiString) & value)
-{
-    TCollection_AsciiString trimmed = value.IsNull() ? TCollection_AsciiString() : value->String();
-    trimmed.LeftAdjust();
-    trimmed.RightAdjust();
-    return trimmed.ToCString();
-}
-
-std::string ownName(const Entity& entity)
-{
-    const auto subfigure = Handle(IGESBasic_SubfigureDef)::DownCast(entity);
-    return text(subfigure.IsNull() ? entity->NameValue() : subfigure->Name());
-}
 
 void setName(const TDF_Label& label, const std::string& name)
 {
     TDataStd_Name::Set(label, TCollection_ExtendedString(name.c_str(), true));
-}
-
-// Whatever the transformation was made from.
-bool isIdentity(const gp_Trsf& place)
-{
-    const double nothing = 1e-12;
-    return place.TranslationPart().Modulus() < nothing && std::abs(place.ScaleFactor() - 1) < nothing &&
-           place.GetRotation().GetRotationAngle() < nothing;
 }
 
 // XDE has no place for what is scaled or mirrored.
@@ -109,31 +43,10 @@ bool isRigid(const TopLoc_Location& place)
     return !matrix.IsNegative() && std::abs(matrix.ScaleFactor() - 1) < TopLoc_Location::ScalePrec();
 }
 
-bool hasColor(const Entity& entity, Quantity_Color& color)
-{
-    if (entity->DefColor() == IGESData_DefValue)
-    {
-        color = IGESCAFControl::DecodeColor(entity->RankColor());
-        return true;
-    }
-    const auto definition = Handle(IGESGraph_Color)::DownCast(entity->Color());
-    if (definition.IsNull())
-    {
-        return false;
-    }
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-    definition->RGBIntensity(red, green, blue);
-    const auto share = [](double percent) { return std::clamp(percent / 100, 0.0, 1.0); };
-    color.SetValues(share(red), share(green), share(blue), Quantity_TOC_sRGB);
-    return true;
-}
-
 bool saysSomething(const Entity& entity)
 {
     Quantity_Color color;
-    return !ownName(entity).empty() || hasColor(entity, color);
+    return !iges_entity::nameOf(entity).empty() || iges_entity::hasColor(entity, color);
 }
 
 } // namespace
@@ -205,7 +118,7 @@ std::vector<Entity> IgesDocument::wantedRoots() const
     for (int i = 1; m_settings.nonroots && i <= m_model->NbEntities(); ++i)
     {
         const Entity entity = m_model->Entity(i);
-        if (isLogicallyDependent(entity) && !entity->IsKind(STANDARD_TYPE(IGESBasic_SubfigureDef)) &&
+        if (iges_entity::isLogicallyDependent(entity) && !entity->IsKind(STANDARD_TYPE(IGESBasic_SubfigureDef)) &&
             std::find(entities.begin(), entities.end(), entity) == entities.end())
         {
             entities.push_back(entity);
@@ -220,7 +133,7 @@ bool IgesDocument::isWanted(const Entity& entity) const
     {
         return false;
     }
-    if (!isHidden(entity) || m_settings.hidden == HiddenMode::All)
+    if (!iges_entity::isHidden(entity) || m_settings.hidden == HiddenMode::All)
     {
         return true;
     }
@@ -232,7 +145,7 @@ bool IgesDocument::isWanted(const Entity& entity) const
     for (; referring.More(); referring.Next())
     {
         const Entity other = Entity::DownCast(referring.Value());
-        if (!other.IsNull() && !isHidden(other))
+        if (!other.IsNull() && !iges_entity::isHidden(other))
         {
             return true;
         }
@@ -255,7 +168,7 @@ std::vector<IgesDocument::Item> IgesDocument::itemsOf(const std::vector<Entity>&
             }
             else if (!shapeOf(entity).IsNull())
             {
-                (isHidden(entity) ? hiddenLoose : loose).push_back(entity);
+                (iges_entity::isHidden(entity) ? hiddenLoose : loose).push_back(entity);
             }
         }
     }
@@ -276,18 +189,19 @@ std::vector<IgesDocument::Item> IgesDocument::itemsOf(const std::vector<Entity>&
 // Without a block for loose geometry, and for what holds nothing.
 IgesDocument::Item IgesDocument::itemOf(const Entity& entity)
 {
+    const double unit = m_model->GlobalSection().UnitValue();
     Item item;
     item.entity = entity;
-    item.isHidden = isHidden(entity);
+    item.isHidden = iges_entity::isHidden(entity);
     if (const auto instance = Handle(IGESBasic_SingularSubfigure)::DownCast(entity); !instance.IsNull())
     {
         item.block = instance->Subfigure().IsNull() ? TDF_Label() : blockOf(instance->Subfigure());
-        item.place = placeOf(entity);
+        item.place = iges_entity::placeOf(entity, unit);
     }
-    else if (isContainer(entity))
+    else if (iges_entity::isContainer(entity))
     {
         item.block = blockOf(entity);
-        item.place = placeOf(entity);
+        item.place = iges_entity::placeOf(entity, unit);
     }
     else if (const TopoDS_Shape shape = shapeOf(entity); !shape.IsNull() && shape.ShapeType() <= TopAbs_SHELL)
     {
@@ -306,14 +220,14 @@ TDF_Label IgesDocument::blockOf(const Entity& container)
     }
     m_blocks.Bind(container, TDF_Label()); // a damaged one may hold itself
     const std::string name = nameOf(container);
-    const std::vector<Entity> members = membersOf(container);
+    const std::vector<Entity> members = iges_entity::membersOf(container);
     const std::vector<Item> items = itemsOf(members, name);
     const bool isOnePart = items.size() == 1 && items[0].isPart && (members.size() == 1 || items[0].entity.IsNull());
     TDF_Label block;
     if (isOnePart && items[0].place.IsIdentity() && !items[0].isHidden)
     {
         block = items[0].block;
-        if (!ownName(container).empty())
+        if (!iges_entity::nameOf(container).empty())
         {
             setName(block, name);
         }
@@ -376,7 +290,7 @@ TDF_Label IgesDocument::assemblyOf(const std::vector<Item>& items, const std::st
             continue;
         }
         const TDF_Label component = m_shapes->AddComponent(assembly, item.block, item.place);
-        const std::string own = item.entity.IsNull() ? std::string() : ownName(item.entity);
+        const std::string own = item.entity.IsNull() ? std::string() : iges_entity::nameOf(item.entity);
         Handle(TDataStd_Name) blockName;
         if (!own.empty())
         {
@@ -415,7 +329,7 @@ bool IgesDocument::translate(const Entity& entity)
 TopoDS_Shape IgesDocument::shapeOf(const Entity& entity)
 {
     const Handle(XSControl_TransferReader)& transfer = m_reader.WS()->TransferReader();
-    if (isContainer(entity) || entity->IsKind(STANDARD_TYPE(IGESBasic_SingularSubfigure)))
+    if (iges_entity::isContainer(entity) || entity->IsKind(STANDARD_TYPE(IGESBasic_SingularSubfigure)))
     {
         return {};
     }
@@ -431,38 +345,16 @@ TopoDS_Shape IgesDocument::shapeOf(const Entity& entity)
     return TransferBRep::ShapeResult(transfer->TransientProcess(), entity);
 }
 
-TopLoc_Location IgesDocument::placeOf(const Entity& entity) const
-{
-    const double unit = m_model->GlobalSection().UnitValue();
-    gp_Trsf place;
-    if (entity->HasTransf())
-    {
-        const double precision = 1e-4;
-        IGESData_ToolLocation::ConvertLocation(precision, entity->CompoundLocation(), place, unit);
-    }
-    if (const auto instance = Handle(IGESBasic_SingularSubfigure)::DownCast(entity); !instance.IsNull())
-    {
-        gp_Trsf own;
-        own.SetTranslation(gp_Vec(instance->Translation() * unit));
-        if (instance->HasScaleFactor())
-        {
-            own.SetScaleFactor(instance->ScaleFactor());
-        }
-        place.Multiply(own);
-    }
-    return isIdentity(place) ? TopLoc_Location() : TopLoc_Location(place);
-}
-
 std::string IgesDocument::nameOf(const Entity& entity) const
 {
-    const std::string own = ownName(entity);
-    return own.empty() ? text(m_model->StringLabel(entity)) : own;
+    const std::string own = iges_entity::nameOf(entity);
+    return own.empty() ? m_model->StringLabel(entity)->ToCString() : own;
 }
 
 void IgesDocument::setLook(const TDF_Label& label, const Entity& entity)
 {
     Quantity_Color color;
-    if (!entity.IsNull() && hasColor(entity, color))
+    if (!entity.IsNull() && iges_entity::hasColor(entity, color))
     {
         m_colors->SetColor(label, color, XCAFDoc_ColorGen);
     }
@@ -470,17 +362,9 @@ void IgesDocument::setLook(const TDF_Label& label, const Entity& entity)
 
 void IgesDocument::setLayers(const TDF_Label& label, const Entity& entity)
 {
-    const Handle(IGESData_LevelListEntity) levels = entity->LevelList();
-    if (!levels.IsNull())
+    for (const int layer : iges_entity::layersOf(entity))
     {
-        for (int i = 1; i <= levels->NbLevelNumbers(); ++i)
-        {
-            m_layers->SetLayer(label, TCollection_ExtendedString(levels->LevelNumber(i)));
-        }
-    }
-    else if (entity->DefLevel() == IGESData_DefOne)
-    {
-        m_layers->SetLayer(label, TCollection_ExtendedString(entity->Level()));
+        m_layers->SetLayer(label, TCollection_ExtendedString(layer));
     }
 }
 
@@ -496,7 +380,7 @@ void IgesDocument::setFaceLooks(const TDF_Label& part, const Entity& entity)
         {
             setFaceLooks(part, shared);
         }
-        else if (shared->IsKind(STANDARD_TYPE(IGESSolid_Face)) && hasColor(shared, color))
+        else if (shared->IsKind(STANDARD_TYPE(IGESSolid_Face)) && iges_entity::hasColor(shared, color))
         {
             const TopoDS_Shape face = shapeOf(shared);
             const TDF_Label label = face.IsNull() ? TDF_Label() : m_shapes->AddSubShape(part, face);

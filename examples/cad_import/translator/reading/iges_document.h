@@ -60,7 +60,6 @@ private:
     TDF_Label assemblyOf(const std::vector<Item>& items, const std::string& name);
     bool translate(const Entity& entity);
     TopoDS_Shape shapeOf(const Entity& entity);
-    TopLoc_Location placeOf(const Entity& entity) const;
     std::string nameOf(const Entity& entity) const;
     void setLook(const TDF_Label& label, const Entity& entity);
     void setLayers(const TDF_Label& label, const Entity& entity);
