@@ -9,6 +9,7 @@
 #include "scene_page.h"
 #include "translator_session.h"
 #include "tree_output.h"
+#include "usage_error.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
 #include "write_text.h"
@@ -199,6 +200,8 @@ void show(const ScenePage& page, const vrx::ExcProductStructure& structure, cons
 
 int import(const Arguments& arguments)
 {
+    const std::shared_ptr<vrx::ImportOptions> options = importOptions(arguments.file, arguments.settings);
+
     TranslatorSession session(arguments.translator.empty() ? defaultTranslator() : arguments.translator);
     const vrx::FerrantInfo info = session.info();
     if (info.name().empty())
@@ -214,10 +217,6 @@ int import(const Arguments& arguments)
         explainFormats(info, arguments.file);
         return kForeignFormat;
     }
-
-    const std::shared_ptr<vrx::ImportOptions> options = vrx::Command::newImportOptions();
-    options->setFile(mp::toWide(arguments.file));
-    options->setFormatOptions(std::make_shared<vrx::imp::OptionsSTEP>(arguments.step));
 
     std::shared_ptr<vrx::ExcProductStructure> structure;
     ScenePage page;

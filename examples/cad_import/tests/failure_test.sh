@@ -4,7 +4,13 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 expect 2 "no file" "$host"
 expect 2 "no option --frobnicate" "$host" --frobnicate "$vise"
-expect 2 "--pmi takes all or none" "$host" --pmi some "$vise"
+expect 2 "--option takes NAME=VALUE" "$host" --option visu_pmi_mode "$vise"
+expect 2 "for STEP files, there are layer_name_mode, visu_pmi_mode" "$host" --option import_entities=root_only "$vise"
+expect 2 "visu_pmi_mode takes unknown, all, none" "$host" --option visu_pmi_mode=some "$vise"
+expect 2 "hidden_entities_mode takes unknown, all, none, only_with_visible_links" "$host" \
+    --option hidden_entities_mode=some "$scratch/part.IGS"
+expect 2 "no settings for files like $scratch/part.stl, only for those of STEP, IGES" "$host" \
+    --option visu_pmi_mode=all "$scratch/part.stl"
 expect 3 "does not read files like $scratch/part.igs" "$host" "$scratch/part.igs"
 expect 3 "STEP files (AP203, AP214, AP242)|stp;step;p21" "$host" "$scratch/part.igs"
 expect 4 "cannot start $scratch/none" "$host" --translator "$scratch/none" "$vise"
