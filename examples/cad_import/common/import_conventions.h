@@ -7,3 +7,9 @@
 /// - "visu_pmi_mode": "none" leaves out the product manufacturing information; otherwise all of it is sent.
 ///
 /// "unknown" leaves it to the translator, which sends all there is.
+///
+/// A command of the older interface also brings the names and materials of components, by their handles. The handle of
+/// a component is the position of its block reference, from 1, among all of the product structure: first those at the
+/// top, then those of each block in the order of the blocks. A material is the one of the component's block, with its
+/// density in g/cm3; the file tells of no thermal conductivity and no specific heat, which are 0. A component without a
+/// material has an entry that says so.

@@ -17,6 +17,7 @@ error.
   --properties         the free properties of the product and of each block below their lines
   --option NAME=VALUE  a setting of the import for files of this format, by its name in a command; can be repeated, a
                        wrong name or value is answered with a list of what there is
+  --legacy             the older interface, which has settings of its own and tells the names and materials of components
   --view FILE          a page on which the model can be looked at: one file of HTML that needs no network
   --picture FILE       a picture of that page as PNG; needs Chromium, but no display
   --translator PATH    the translator to start; default: cad_translator beside this program
@@ -54,8 +55,13 @@ struct Flag
 };
 
 const Flag kFlags[] = {
-    {"--bodies", &Arguments::bodies},         {"--help", &Arguments::help},   {"--json", &Arguments::json},
-    {"--properties", &Arguments::properties}, {"--quiet", &Arguments::quiet}, {"--verbose", &Arguments::verbose},
+    {"--bodies", &Arguments::bodies},
+    {"--help", &Arguments::help},
+    {"--json", &Arguments::json},
+    {"--legacy", &Arguments::legacy},
+    {"--properties", &Arguments::properties},
+    {"--quiet", &Arguments::quiet},
+    {"--verbose", &Arguments::verbose},
 };
 
 struct Option

@@ -14,6 +14,7 @@ struct Arguments
     bool bodies = false;
     bool help = false;
     bool json = false;
+    bool legacy = false;
     bool properties = false;
     bool quiet = false;
     bool verbose = false;

@@ -14,8 +14,16 @@
 /// One setting: its name, and the values that it takes.
 struct Setting
 {
+    enum class EKind
+    {
+        Mode,
+        Flag,
+        Paths, // a path for each of several keys
+    };
+
     std::string_view name;
     std::vector<std::string_view> values;
+    EKind kind = EKind::Mode;
 };
 
 /// The settings of one format.
@@ -29,9 +37,17 @@ struct FormatSettings
 
 const std::vector<FormatSettings>& formatSettings();
 
+/// The settings of the older interface, for files of all formats.
+const std::vector<Setting>& legacySettings();
+
 /// A name and the value that a user gives it.
 using GivenSetting = std::pair<std::string, std::string>;
 
 /// The options for an import of a file. Throws UsageError, with a list of what there is, when the file's format has no
 /// such setting, or the setting no such value.
 std::shared_ptr<vrx::ImportOptions> importOptions(const std::string& file, const std::vector<GivenSetting>& given);
+
+/// The same for the older interface, whose settings can be given beside those of the format. The temporary drawing is
+/// a path that nobody else uses.
+std::shared_ptr<vrx::LegacyImportOptions> legacyImportOptions(const std::string& file,
+                                                              const std::vector<GivenSetting>& given);

@@ -2,6 +2,7 @@
 
 #include "arguments.h"
 #include "body_report.h"
+#include "component_data.h"
 #include "mp/narrow.h"
 #include "page_picture.h"
 #include "printable.h"
@@ -95,6 +96,14 @@ public:
         {
             m_bodies.add(*bodies);
         }
+        else if (auto names = std::dynamic_pointer_cast<vrx::LegacyComponentInstanceNames>(object))
+        {
+            m_components.names = std::move(names);
+        }
+        else if (auto materials = std::dynamic_pointer_cast<vrx::LegacyMaterialMap>(object))
+        {
+            m_components.materials = std::move(materials);
+        }
     }
 
     bool wants(const vrx::IExchangeObject& object) override
@@ -116,6 +125,7 @@ public:
     const std::shared_ptr<vrx::ExcProductStructure>& structure() const { return m_structure; }
     ScenePage takePage() { return std::move(m_page); }
     const BodyReport& bodies() const { return m_bodies; }
+    const ComponentData& components() const { return m_components; }
 
 private:
     const Arguments& m_arguments;
@@ -123,6 +133,7 @@ private:
     std::shared_ptr<vrx::ExcProductStructure> m_structure;
     ScenePage m_page;
     BodyReport m_bodies;
+    ComponentData m_components;
 };
 
 std::string defaultTranslator()
@@ -160,15 +171,17 @@ std::string describe(const vrx::FerrantInfo& info)
 }
 
 // Prints the tree and what else is asked for on standard output.
-void print(const BodyReport& bodies, const vrx::ExcProductStructure& structure, const Arguments& arguments)
+void print(const BodyReport& bodies, const ComponentData& components, const vrx::ExcProductStructure& structure,
+           const Arguments& arguments)
 {
     if (arguments.json)
     {
-        printJson(std::cout, structure);
+        printJson(std::cout, structure, components);
     }
     else
     {
         printText(std::cout, structure, arguments.properties);
+        printComponents(std::cout, components);
     }
     if (arguments.bodies)
     {
@@ -200,7 +213,9 @@ void show(const ScenePage& page, const vrx::ExcProductStructure& structure, cons
 
 int import(const Arguments& arguments)
 {
-    const std::shared_ptr<vrx::ImportOptions> options = importOptions(arguments.file, arguments.settings);
+    const std::shared_ptr<vrx::ImportOptions> options = arguments.legacy
+                                                            ? legacyImportOptions(arguments.file, arguments.settings)
+                                                            : importOptions(arguments.file, arguments.settings);
 
     TranslatorSession session(arguments.translator.empty() ? defaultTranslator() : arguments.translator);
     const vrx::FerrantInfo info = session.info();
@@ -221,6 +236,7 @@ int import(const Arguments& arguments)
     std::shared_ptr<vrx::ExcProductStructure> structure;
     ScenePage page;
     BodyReport bodies;
+    ComponentData components;
     {
         Listener listener(arguments);
         const vrx::Result result = session.import(options, listener);
@@ -239,6 +255,7 @@ int import(const Arguments& arguments)
         structure = listener.structure();
         page = listener.takePage();
         bodies = listener.bodies();
+        components = listener.components();
     }
     if (!structure)
     {
@@ -246,7 +263,7 @@ int import(const Arguments& arguments)
     }
     try
     {
-        print(bodies, *structure, arguments);
+        print(bodies, components, *structure, arguments);
         show(page, *structure, arguments);
     }
     catch (const std::exception& failure)

@@ -7,6 +7,7 @@
 #include <rapidjson/stringbuffer.h>
 
 #include <cmath>
+#include <cstdint>
 #include <ostream>
 #include <string>
 
@@ -16,8 +17,9 @@ namespace
 class TreeWriter
 {
 public:
-    explicit TreeWriter(const vrx::ExcProductStructure& structure)
+    TreeWriter(const vrx::ExcProductStructure& structure, const ComponentData& components)
         : m_structure(structure)
+        , m_components(components)
         , m_writer(m_buffer)
     {
         m_writer.SetIndent(' ', 2);
@@ -32,6 +34,8 @@ public:
         properties(m_structure.miscData());
         blocks();
         tree();
+        componentNames();
+        componentMaterials();
         m_writer.EndObject();
         return m_buffer.GetString();
     }
@@ -134,6 +138,48 @@ private:
         m_writer.StartArray();
     }
 
+    void componentNames()
+    {
+        if (!m_components.names)
+        {
+            return;
+        }
+        m_writer.Key("component_names");
+        m_writer.StartArray();
+        for (const auto& [handle, name] : m_components.names->map())
+        {
+            m_writer.StartObject();
+            m_writer.Key("handle");
+            m_writer.Uint64(static_cast<std::uint64_t>(handle));
+            field("name", name);
+            m_writer.EndObject();
+        }
+        m_writer.EndArray();
+    }
+
+    void componentMaterials()
+    {
+        if (!m_components.materials)
+        {
+            return;
+        }
+        m_writer.Key("component_materials");
+        m_writer.StartArray();
+        for (const auto& [handle, material] : m_components.materials->map())
+        {
+            m_writer.StartObject();
+            m_writer.Key("handle");
+            m_writer.Uint64(static_cast<std::uint64_t>(handle));
+            m_writer.Key("has_material");
+            m_writer.Bool(material.hasMaterial);
+            field("name", material.name);
+            m_writer.Key("density");
+            number(material.density);
+            m_writer.EndObject();
+        }
+        m_writer.EndArray();
+    }
+
     void color(const vrx::ExcColor& color)
     {
         m_writer.Key("color");
@@ -169,20 +215,23 @@ private:
         m_writer.StartArray();
         for (std::size_t i = 0; i < 3; ++i)
         {
-            // JSON has no numbers that are not finite.
-            std::isfinite(vector[i]) ? m_writer.Double(vector[i]) : m_writer.Null();
+            number(vector[i]);
         }
         m_writer.EndArray();
     }
 
+    // JSON has no numbers that are not finite.
+    void number(double value) { std::isfinite(value) ? m_writer.Double(value) : m_writer.Null(); }
+
     const vrx::ExcProductStructure& m_structure;
+    const ComponentData& m_components;
     rapidjson::StringBuffer m_buffer;
     rapidjson::PrettyWriter<rapidjson::StringBuffer> m_writer;
 };
 
 } // namespace
 
-void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure)
+void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure, const ComponentData& components)
 {
-    stream << TreeWriter(structure).text() << '\n';
+    stream << TreeWriter(structure, components).text() << '\n';
 }

@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <map>
 #include <set>
 
 namespace
@@ -82,37 +84,99 @@ TEST(FormatSettings, ReachTheOptionsWithEachOfTheirValues)
     EXPECT_THAT([] { importOptions("step", {{"visu_pmi_mode", "all"}}); }, Throws<UsageError>());
 }
 
-// Each number of an enumeration travels under a name that the table has.
+// Each number of an enumeration travels under a name that is one of the setting's values.
 template <class Options, class Enumeration>
-void expectNames(const std::string& key, void (Options::*set)(Enumeration))
+void expectAllValues(const std::vector<Setting>& settings, const std::string& key, Options& options,
+                     void (Options::*set)(Enumeration))
 {
-    Options options;
     std::set<std::string> names;
     for (int number = 0; number < 20; ++number)
     {
         (options.*set)(static_cast<Enumeration>(number));
         names.insert(textsOf(options).at(key));
     }
-    for (const FormatSettings& format : formatSettings())
-    {
-        for (const Setting& setting : format.settings)
-        {
-            if (format.newOptions()->formatType() == options.formatType() && setting.name == key)
-            {
-                EXPECT_EQ(names, std::set<std::string>(setting.values.begin(), setting.values.end())) << key;
-                return;
-            }
-        }
-    }
-    FAIL() << "no setting " << key;
+    const auto setting =
+        std::find_if(settings.begin(), settings.end(), [&key](const Setting& one) { return one.name == key; });
+    ASSERT_NE(setting, settings.end()) << key;
+    EXPECT_EQ(names, std::set<std::string>(setting->values.begin(), setting->values.end())) << key;
 }
 
 TEST(FormatSettings, HaveAllValues)
 {
-    expectNames("layer_name_mode", &vrx::imp::OptionsSTEP::setLayerNameProcessingMode);
-    expectNames("visu_pmi_mode", &vrx::imp::OptionsSTEP::setVisuPMIProcessingMode);
-    expectNames("import_entities", &vrx::imp::OptionsIGES::setImportEntities);
-    expectNames("hidden_entities_mode", &vrx::imp::OptionsIGES::setHiddenEntitiesMode);
+    vrx::imp::OptionsSTEP step;
+    const std::vector<Setting>& ofStep = formatSettings().at(0).settings;
+    expectAllValues(ofStep, "layer_name_mode", step, &vrx::imp::OptionsSTEP::setLayerNameProcessingMode);
+    expectAllValues(ofStep, "visu_pmi_mode", step, &vrx::imp::OptionsSTEP::setVisuPMIProcessingMode);
+    vrx::imp::OptionsIGES iges;
+    const std::vector<Setting>& ofIges = formatSettings().at(1).settings;
+    expectAllValues(ofIges, "import_entities", iges, &vrx::imp::OptionsIGES::setImportEntities);
+    expectAllValues(ofIges, "hidden_entities_mode", iges, &vrx::imp::OptionsIGES::setHiddenEntitiesMode);
+}
+
+TEST(LegacySettings, AreThoseOfTheLibraryWithEachOfTheirValues)
+{
+    std::set<std::string> modes;
+    for (const Setting& setting : legacySettings())
+    {
+        const std::string name(setting.name);
+        if (setting.kind == Setting::EKind::Mode)
+        {
+            modes.insert(name);
+            for (const std::string_view value : setting.values)
+            {
+                EXPECT_EQ(textsOf(*legacyImportOptions("a.step", {{name, std::string(value)}})).at(name), value);
+            }
+        }
+        else if (setting.kind == Setting::EKind::Flag)
+        {
+            vrx::JsonDocument document;
+            legacyImportOptions("a.step", {{name, "true"}})->writeObject(document, document.GetAllocator());
+            ASSERT_TRUE(document.HasMember(mp::toWide(name).c_str())) << name;
+            EXPECT_TRUE(document[mp::toWide(name).c_str()].IsTrue());
+            legacyImportOptions("a.step", {{name, "true"}, {name, "false"}})
+                ->writeObject(document, document.GetAllocator());
+            EXPECT_FALSE(document.HasMember(mp::toWide(name).c_str())) << name;
+        }
+        EXPECT_THAT(
+            [&] {
+                legacyImportOptions("a.step", {{name, "some"}});
+            },
+            ThrowsMessage<UsageError>(HasSubstr(std::string(setting.values.back()))));
+    }
+    std::map<std::string, std::string> texts = textsOf(*legacyImportOptions("a.step", {}));
+    EXPECT_EQ(texts.erase("file") + texts.erase("temporary_dwg"), 2U);
+    for (const auto& [key, value] : texts)
+    {
+        EXPECT_EQ(modes.erase(key), 1U) << key;
+    }
+    EXPECT_TRUE(modes.empty());
+}
+
+TEST(LegacySettings, HaveAllValues)
+{
+    const auto options = vrx::Command::newLegacyImportOptions();
+    const std::vector<Setting>& all = legacySettings();
+    using Options = vrx::LegacyImportOptions;
+    expectAllValues(all, "pmi_mode", *options, &Options::setPmiMode);
+    expectAllValues(all, "product_structure_mode", *options, &Options::setProductStructureMode);
+    expectAllValues(all, "colors_mode", *options, &Options::setColorsMode);
+    expectAllValues(all, "hidden_parts_mode", *options, &Options::setHiddenPartsMode);
+    expectAllValues(all, "ins_units_def_source", *options, &Options::setInsUnitsDefSource);
+}
+
+TEST(LegacySettings, StandBesideThoseOfTheFormat)
+{
+    const auto options = legacyImportOptions(
+        "a.igs", {{"alternate_search_paths", "files=/a=b"}, {"import_entities", "root_only"}, {"pmi_mode", "none"}});
+    EXPECT_EQ(options->alternateSearchPath(WIDE("files")), WIDE("/a=b"));
+    EXPECT_EQ(options->pmiMode(), vrx::EPmiMode::None);
+    EXPECT_NE(options->formatOptions(vrx::EFormatType::IGES), nullptr);
+    EXPECT_THAT(
+        [] {
+            legacyImportOptions("a.igs", {{"visu_pmi_mode", "all"}});
+        },
+        ThrowsMessage<UsageError>(HasSubstr("hidden_entities_mode, use_interop_mp")));
+    EXPECT_THAT([] { importOptions("a.step", {{"pmi_mode", "none"}}); }, Throws<UsageError>());
 }
 
 } // namespace

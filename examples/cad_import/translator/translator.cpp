@@ -10,6 +10,7 @@
 #include "pmi/pmi_summary.h"
 #include "reading/import_settings.h"
 #include "reading/step_reader.h"
+#include "structure/component_maps.h"
 #include "structure/product_structure_builder.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 #include "vrx_api/vrx_api_ferrant_info.h"
@@ -114,11 +115,9 @@ vrx::Result Translator::import(const vrx::Command& command)
     {
         // Damaged files do crash the kernel: its signals become exceptions here.
         OCC_CATCH_SIGNALS
-        if (command.internalInterface() == vrx::EFerrantInterface::Legacy || !command.importOptions())
-        {
-            return error("This translator does not take legacy commands.");
-        }
-        return translate(settingsOf(*command.importOptions()));
+        return translate(command.internalInterface() == vrx::EFerrantInterface::Legacy
+                             ? settingsOf(*command.legacyImportOptions())
+                             : settingsOf(*command.importOptions()));
     }
     catch (const Standard_Failure& failure)
     {
@@ -151,6 +150,11 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     ProductStructureBuilder builder(model);
     const std::shared_ptr<vrx::ExcProductStructure> structure = builder.build();
     m_channel.send(structure);
+    if (settings.componentMaps)
+    {
+        m_channel.send(componentNames(*structure));
+        m_channel.send(componentMaterials(*structure, builder.materials()));
+    }
     m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
 
     sendBodies(*structure, builder, progress);

@@ -25,3 +25,10 @@ ImportSettings settingsOf(const vrx::ImportOptions& options)
     }
     return settings;
 }
+
+ImportSettings settingsOf(const vrx::LegacyImportOptions& options)
+{
+    ImportSettings settings = settingsOf(static_cast<const vrx::ImportOptions&>(options));
+    settings.componentMaps = options.productStructureMode() == vrx::EProductStructureMode::AsMechanicalComponents;
+    return settings;
+}

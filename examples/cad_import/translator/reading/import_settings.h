@@ -10,6 +10,12 @@ struct ImportSettings
     std::string file; // UTF-8
     bool layers = true;
     bool pmi = true;
+
+    // of the older interface
+    bool componentMaps = false; // the names and materials of components by their handles
 };
 
 ImportSettings settingsOf(const vrx::ImportOptions& options);
+
+/// Settings for the file's format count in a legacy command as they do in any other.
+ImportSettings settingsOf(const vrx::LegacyImportOptions& options);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reading/step_labels.h"
+#include "structure/block_content.h"
 #include "structure/file_properties.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
@@ -8,7 +9,9 @@
 #include <XCAFDoc_ShapeTool.hxx>
 
 #include <cstdint>
+#include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 struct CadModel;
@@ -24,10 +27,14 @@ public:
     /// The labels of the blocks that were built. The id of a block is the index of its label.
     const TDF_LabelIndexedMap& blocks() const { return m_blocks; }
 
+    /// The materials of the blocks that have one, by the id of the block.
+    const std::map<std::uint64_t, Material>& materials() const { return m_materials; }
+
 private:
     void addRoot(const TDF_Label& label);
     std::shared_ptr<vrx::ExcBlock> block(const TDF_Label& label, std::uint64_t id);
     std::shared_ptr<vrx::ExcBlockReference> reference(const TDF_Label& component);
+    void addMaterial(vrx::ExcBlock& block, const std::optional<Material>& material);
     std::uint64_t blockId(const TDF_Label& label);
     std::vector<TDF_Label> ownShapes(const TDF_Label& label) const;
     bool isPart(const TDF_Label& label) const;
@@ -37,4 +44,5 @@ private:
     FileProperties m_properties;
     std::shared_ptr<vrx::ExcProductStructure> m_structure;
     TDF_LabelIndexedMap m_blocks;
+    std::map<std::uint64_t, Material> m_materials;
 };
