@@ -13,3 +13,13 @@
 /// top, then those of each block in the order of the blocks. A material is the one of the component's block, with its
 /// density in g/cm3; the file tells of no thermal conductivity and no specific heat, which are 0. A component without a
 /// material has an entry that says so.
+///
+/// Settings of the older interface, for files of all formats; those for the format count beside them:
+/// - "pmi_mode": "graphical" sends the drawn annotations and the saved views; "semantic" sends neither, but the message
+///   still tells how much PMI the file holds; "none" does not read the PMI.
+/// - "product_structure_mode": "as_mechanical_components" sends all there is; "as_blocks" sends the same blocks and
+///   references without their free properties, and neither names nor materials by handles; "none" sends, in the same
+///   way, one part for each product at the top, with all its shapes in place.
+/// - "hidden_parts_mode": "import_hide" sends hidden components and shapes hidden; "import_show" sends nothing hidden;
+///   "do_not_import" does not send hidden components, nor the blocks that only these use, but still sends the hidden
+///   shapes within a part.

@@ -147,7 +147,7 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     }
 
     progress.beginStage("Sending the product structure", 60);
-    ProductStructureBuilder builder(model);
+    ProductStructureBuilder builder(model, settings);
     const std::shared_ptr<vrx::ExcProductStructure> structure = builder.build();
     m_channel.send(structure);
     if (settings.componentMaps)
@@ -158,7 +158,7 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
 
     sendBodies(*structure, builder, progress);
-    sendVisualization(VisualizationBuilder(model, *structure, builder.blocks()), *structure, progress);
+    sendVisualization(VisualizationBuilder(model, settings, *structure, builder), *structure, progress);
     return model.warning.empty() ? result(vrx::Result::ECode::Ok, "")
                                  : result(vrx::Result::ECode::Warning, model.warning);
 }
@@ -171,11 +171,7 @@ void Translator::sendBodies(const vrx::ExcProductStructure& structure, const Pro
     double done = 0;
     for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
     {
-        // An assembly's shape is that of its components, and it has no solids of its own.
-        const TopoDS_Shape shape = block->isPart()
-                                       ? XCAFDoc_ShapeTool::GetShape(builder.blocks()(static_cast<int>(block->id())))
-                                       : TopoDS_Shape();
-        const std::shared_ptr<vrx::ExcBlockGeometry> geometry = bodies.make(*block, shape);
+        const std::shared_ptr<vrx::ExcBlockGeometry> geometry = bodies.make(*block, builder.shapeOf(*block));
         geometry->own(false);
         m_channel.send(geometry);
         progress.advance(++done / static_cast<double>(structure.blocks().size()));

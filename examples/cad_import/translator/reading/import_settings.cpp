@@ -29,6 +29,10 @@ ImportSettings settingsOf(const vrx::ImportOptions& options)
 ImportSettings settingsOf(const vrx::LegacyImportOptions& options)
 {
     ImportSettings settings = settingsOf(static_cast<const vrx::ImportOptions&>(options));
-    settings.componentMaps = options.productStructureMode() == vrx::EProductStructureMode::AsMechanicalComponents;
+    settings.pmi = settings.pmi && options.pmiMode() != vrx::EPmiMode::None;
+    settings.drawnPmi = options.pmiMode() == vrx::EPmiMode::Graphical;
+    settings.structure = options.productStructureMode();
+    settings.hiddenParts = options.hiddenPartsMode();
+    settings.componentMaps = settings.structure == vrx::EProductStructureMode::AsMechanicalComponents;
     return settings;
 }

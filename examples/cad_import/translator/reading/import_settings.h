@@ -11,7 +11,11 @@ struct ImportSettings
     bool layers = true;
     bool pmi = true;
 
-    // of the older interface
+    bool drawnPmi = true; // where there is PMI: its drawn annotations and saved views
+
+    // of the older interface; otherwise as here
+    vrx::EProductStructureMode structure = vrx::EProductStructureMode::AsMechanicalComponents;
+    vrx::EHiddenPartsMode hiddenParts = vrx::EHiddenPartsMode::ImportHide;
     bool componentMaps = false; // the names and materials of components by their handles
 };
 

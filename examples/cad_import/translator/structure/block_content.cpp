@@ -86,11 +86,6 @@ vrx::ExcColor BlockContent::color() const
     return {};
 }
 
-bool BlockContent::isVisible() const
-{
-    return XCAFDoc_DocumentTool::ColorTool(m_labels.front())->IsVisible(m_labels.front());
-}
-
 void BlockContent::addCounts(vrx::ExcMiscData& data) const
 {
     const TopoDS_Shape shape = XCAFDoc_ShapeTool::GetShape(m_labels.front());

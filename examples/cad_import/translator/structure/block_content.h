@@ -24,8 +24,6 @@ public:
     /// The product's colour: its own, or that of the first of its shapes that has one. No colour if none has.
     vrx::ExcColor color() const;
 
-    bool isVisible() const;
-
     void addCounts(vrx::ExcMiscData& data) const;
     void addLayers(vrx::ExcMiscData& data) const;
 
