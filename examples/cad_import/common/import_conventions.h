@@ -20,6 +20,9 @@
 /// - "product_structure_mode": "as_mechanical_components" sends all there is; "as_blocks" sends the same blocks and
 ///   references without their free properties, and neither names nor materials by handles; "none" sends, in the same
 ///   way, one part for each product at the top, with all its shapes in place.
+/// - "colors_mode": colours always travel as red, green and blue. With "matching_index" those that have a colour index
+///   of drawings (see color_index.h) mean that index; with "nearest_index" each colour is sent as the nearest one that
+///   has an index; with "rgb" they mean no index. The alpha is sent in all of them.
 /// - "hidden_parts_mode": "import_hide" sends hidden components and shapes hidden; "import_show" sends nothing hidden;
 ///   "do_not_import" does not send hidden components, nor the blocks that only these use, but still sends the hidden
 ///   shapes within a part.

@@ -170,18 +170,24 @@ std::string describe(const vrx::FerrantInfo& info)
     return text;
 }
 
+// Whether the options ask for the colour index of drawings.
+bool hasColorIndices(const vrx::ImportOptions& options)
+{
+    const auto* const legacy = dynamic_cast<const vrx::LegacyImportOptions*>(&options);
+    return legacy != nullptr && legacy->colorsMode() != vrx::EColorsMode::Rgb;
+}
+
 // Prints the tree and what else is asked for on standard output.
-void print(const BodyReport& bodies, const ComponentData& components, const vrx::ExcProductStructure& structure,
+void print(const BodyReport& bodies, const TreeExtras& extras, const vrx::ExcProductStructure& structure,
            const Arguments& arguments)
 {
     if (arguments.json)
     {
-        printJson(std::cout, structure, components);
+        printJson(std::cout, structure, extras);
     }
     else
     {
-        printText(std::cout, structure, arguments.properties);
-        printComponents(std::cout, components);
+        printText(std::cout, structure, extras);
     }
     if (arguments.bodies)
     {
@@ -236,7 +242,7 @@ int import(const Arguments& arguments)
     std::shared_ptr<vrx::ExcProductStructure> structure;
     ScenePage page;
     BodyReport bodies;
-    ComponentData components;
+    TreeExtras extras{arguments.properties, hasColorIndices(*options), {}};
     {
         Listener listener(arguments);
         const vrx::Result result = session.import(options, listener);
@@ -255,7 +261,7 @@ int import(const Arguments& arguments)
         structure = listener.structure();
         page = listener.takePage();
         bodies = listener.bodies();
-        components = listener.components();
+        extras.components = listener.components();
     }
     if (!structure)
     {
@@ -263,7 +269,7 @@ int import(const Arguments& arguments)
     }
     try
     {
-        print(bodies, components, *structure, arguments);
+        print(bodies, extras, *structure, arguments);
         show(page, *structure, arguments);
     }
     catch (const std::exception& failure)

@@ -1,3 +1,4 @@
+#include "common/color_index.h"
 #include "mp/narrow.h"
 #include "product_tree.h"
 #include "tree_output.h"
@@ -17,9 +18,9 @@ namespace
 class TreeWriter
 {
 public:
-    TreeWriter(const vrx::ExcProductStructure& structure, const ComponentData& components)
+    TreeWriter(const vrx::ExcProductStructure& structure, const TreeExtras& extras)
         : m_structure(structure)
-        , m_components(components)
+        , m_extras(extras)
         , m_writer(m_buffer)
     {
         m_writer.SetIndent(' ', 2);
@@ -128,6 +129,12 @@ private:
         }
         field("persistent_id", reference.persistentId());
         color(reference.color());
+        if (m_extras.colorIndices)
+        {
+            const int index = color_index::matching(reference.color());
+            m_writer.Key("color_index");
+            index != 0 ? m_writer.Int(index) : m_writer.Null();
+        }
         m_writer.Key("hidden");
         m_writer.Bool(reference.isHidden());
         m_writer.Key("suppressed");
@@ -140,13 +147,13 @@ private:
 
     void componentNames()
     {
-        if (!m_components.names)
+        if (!m_extras.components.names)
         {
             return;
         }
         m_writer.Key("component_names");
         m_writer.StartArray();
-        for (const auto& [handle, name] : m_components.names->map())
+        for (const auto& [handle, name] : m_extras.components.names->map())
         {
             m_writer.StartObject();
             m_writer.Key("handle");
@@ -159,13 +166,13 @@ private:
 
     void componentMaterials()
     {
-        if (!m_components.materials)
+        if (!m_extras.components.materials)
         {
             return;
         }
         m_writer.Key("component_materials");
         m_writer.StartArray();
-        for (const auto& [handle, material] : m_components.materials->map())
+        for (const auto& [handle, material] : m_extras.components.materials->map())
         {
             m_writer.StartObject();
             m_writer.Key("handle");
@@ -224,14 +231,14 @@ private:
     void number(double value) { std::isfinite(value) ? m_writer.Double(value) : m_writer.Null(); }
 
     const vrx::ExcProductStructure& m_structure;
-    const ComponentData& m_components;
+    const TreeExtras& m_extras;
     rapidjson::StringBuffer m_buffer;
     rapidjson::PrettyWriter<rapidjson::StringBuffer> m_writer;
 };
 
 } // namespace
 
-void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure, const ComponentData& components)
+void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure, const TreeExtras& extras)
 {
-    stream << TreeWriter(structure, components).text() << '\n';
+    stream << TreeWriter(structure, extras).text() << '\n';
 }

@@ -5,7 +5,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 expect 2 "no file" "$host"
 expect 2 "no option --frobnicate" "$host" --frobnicate "$vise"
 expect 2 "--option takes NAME=VALUE" "$host" --option visu_pmi_mode "$vise"
-expect 2 "for STEP files, there are layer_name_mode, visu_pmi_mode" "$host" --option import_entities=root_only "$vise"
+expect 2 "there are layer_name_mode, visu_pmi_mode" "$host" --option import_entities=root_only "$vise"
 expect 2 "visu_pmi_mode takes unknown, all, none" "$host" --option visu_pmi_mode=some "$vise"
 expect 2 "hidden_entities_mode takes unknown, all, none, only_with_visible_links" "$host" \
     --option hidden_entities_mode=some "$scratch/part.IGS"

@@ -1,4 +1,5 @@
 #include "acis_kernel/acis_kernel.h"
+#include "common/color_index.h"
 #include "host/product_tree.h"
 #include "imported.h"
 #include "mp/narrow.h"
@@ -7,6 +8,8 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -223,6 +226,73 @@ TEST(Legacy, SendsHiddenShapesOfOneBlockAsTheModeSays)
     std::vector<std::uint64_t> ids;
     ASSERT_TRUE(leave.bodies.begin()->second->getGeometry(bodies, ids));
     EXPECT_EQ(ids.size(), 3U);
+}
+
+// The colours of the references and of the block scenes.
+std::set<std::vector<int>> colorsOf(const Imported& imported)
+{
+    std::set<std::vector<int>> colors;
+    const auto insert = [&colors](const vrx::ExcColor& color) {
+        colors.insert(
+            {color[vrx::ExcColor::ChannelRed], color[vrx::ExcColor::ChannelGreen], color[vrx::ExcColor::ChannelBlue]});
+    };
+    for (const auto& block : imported.structure->blocks())
+    {
+        for (const auto& reference : block->blockReferences())
+        {
+            if (reference->color().hasRGB())
+            {
+                insert(reference->color());
+            }
+        }
+    }
+    for (const auto& [id, scene] : imported.scenes)
+    {
+        insert(*scene->visualizationData()->sceneRootNodes().at(0)->attributes()->color());
+    }
+    return colors;
+}
+
+TEST(Legacy, SendsColorsAsTheModeSays)
+{
+    using Colors = std::set<std::vector<int>>;
+    const auto options = defaults();
+    for (const vrx::EColorsMode mode : {vrx::EColorsMode::Rgb, vrx::EColorsMode::MatchingIndex})
+    {
+        options->setColorsMode(mode);
+        EXPECT_EQ(colorsOf(importFile(CART, options)),
+                  (Colors{{0, 90, 200}, {250, 5, 5}, {255, 0, 0}, {255, 255, 127}}));
+    }
+    options->setColorsMode(vrx::EColorsMode::NearestIndex);
+    EXPECT_EQ(colorsOf(importFile(CART, options)), (Colors{{0, 82, 165}, {255, 0, 0}, {255, 255, 127}}));
+}
+
+TEST(ColorIndex, HasTheColorsOfDrawings)
+{
+    const std::map<int, std::vector<int>> known = {{1, {255, 0, 0}},       {7, {255, 255, 255}},  {8, {128, 128, 128}},
+                                                   {11, {255, 127, 127}},  {22, {165, 41, 0}},    {33, {165, 124, 82}},
+                                                   {54, {127, 127, 0}},    {76, {38, 76, 0}},     {98, {0, 38, 0}},
+                                                   {151, {127, 191, 255}}, {175, {63, 63, 127}},  {197, {57, 38, 76}},
+                                                   {219, {38, 19, 38}},    {240, {255, 0, 63}},   {249, {38, 19, 23}},
+                                                   {250, {51, 51, 51}},    {255, {255, 255, 255}}};
+    for (const auto& [index, rgb] : known)
+    {
+        const vrx::ExcColor color = color_index::color(index);
+        EXPECT_THAT(rgb, ElementsAre(color[vrx::ExcColor::ChannelRed], color[vrx::ExcColor::ChannelGreen],
+                                     color[vrx::ExcColor::ChannelBlue]))
+            << index;
+    }
+}
+
+TEST(ColorIndex, FindsTheLowestIndex)
+{
+    EXPECT_EQ(color_index::matching(color_index::color(255)), 7);
+    EXPECT_EQ(color_index::matching(color_index::color(11)), 11);
+    EXPECT_EQ(color_index::matching(vrx::ExcColor(254, 0, 0)), 0);
+    EXPECT_EQ(color_index::matching(vrx::ExcColor()), 0);
+    EXPECT_EQ(color_index::nearest(vrx::ExcColor(254, 0, 0)), 1);
+    EXPECT_EQ(color_index::nearest(vrx::ExcColor(65535, 0, 0)), 1);
+    EXPECT_EQ(color_index::nearest(vrx::ExcColor(130, 131, 129)), 8);
 }
 
 } // namespace

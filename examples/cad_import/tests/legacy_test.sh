@@ -19,6 +19,12 @@ node -e '
 "$host" --quiet --json "$vise" >"$scratch/tree.json"
 ! grep -q component_names "$scratch/tree.json" || fail "components that nobody asked for"
 
+# A colour of the file that has an index is told as that.
+"$host" --quiet --legacy "$example/tests/cart.step" >"$scratch/tree"
+grep -qxF '  left ball .. right ball (ball) x2 color 1 [part: 1 solid, 1 face]' "$scratch/tree" || fail "no colour index"
+grep -qF '  lid (lid) #fa0505' "$scratch/tree" || fail "a colour index that does not match"
+"$host" --quiet --legacy --option colors_mode=rgb "$example/tests/cart.step" | grep -qF ' #ff0000 ' || fail "no colour"
+
 # Settings of the format count beside those of the interface; wrong ones are answered with what there is.
 "$host" --quiet --legacy --properties --option layer_name_mode=saved_visu_rep "$vise" >"$scratch/tree"
 ! grep -qF -- '- layer:' "$scratch/tree" || fail "layers although the command asks for none"

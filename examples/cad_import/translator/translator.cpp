@@ -5,6 +5,7 @@
 #include "delayed_termination.h"
 #include "host_channel.h"
 #include "import_progress.h"
+#include "looks/palette_colors.h"
 #include "looks/visualization_builder.h"
 #include "mp/narrow.h"
 #include "pmi/pmi_summary.h"
@@ -149,6 +150,10 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     progress.beginStage("Sending the product structure", 60);
     ProductStructureBuilder builder(model, settings);
     const std::shared_ptr<vrx::ExcProductStructure> structure = builder.build();
+    if (settings.paletteColors)
+    {
+        palette_colors::apply(*structure);
+    }
     m_channel.send(structure);
     if (settings.componentMaps)
     {

@@ -1,6 +1,7 @@
 #include "looks/visualization_builder.h"
 
 #include "looks/block_scene.h"
+#include "looks/palette_colors.h"
 #include "looks/scene_nodes.h"
 #include "pmi/annotation_scene.h"
 #include "pmi/saved_views.h"
@@ -55,6 +56,10 @@ std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vr
     const auto data = std::make_shared<vrx::ExcVisualizationData>();
     data->setUnits(m_structure.units());
     data->addSceneRootNode(scene);
+    if (m_settings.paletteColors)
+    {
+        palette_colors::apply(*data);
+    }
     auto visualization = std::make_shared<vrx::ExcBlockVisualization>();
     visualization->setBlockId(block.id());
     visualization->setVisualizationData(data);

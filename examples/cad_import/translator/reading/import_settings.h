@@ -16,6 +16,7 @@ struct ImportSettings
     // of the older interface; otherwise as here
     vrx::EProductStructureMode structure = vrx::EProductStructureMode::AsMechanicalComponents;
     vrx::EHiddenPartsMode hiddenParts = vrx::EHiddenPartsMode::ImportHide;
+    bool paletteColors = false; // the nearest colours that have a colour index
     bool componentMaps = false; // the names and materials of components by their handles
 };
 
