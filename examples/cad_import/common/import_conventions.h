@@ -14,3 +14,22 @@
 ///   what is in them; "only_with_visible_links" sends a hidden entity only when a visible one refers to it.
 ///
 /// "unknown" leaves it to the translator, which sends all there is, once.
+///
+/// A command of the older interface also brings the names and materials of components, by their handles. The handle of
+/// a component is the position of its block reference, from 1, among all of the product structure: first those at the
+/// top, then those of each block in the order of the blocks. A material is the one of the component's block, with its
+/// density in g/cm3; the file tells of no thermal conductivity and no specific heat, which are 0. A component without a
+/// material has an entry that says so.
+///
+/// Settings of the older interface, for files of all formats; those for the format count beside them:
+/// - "pmi_mode": "graphical" sends the drawn annotations and the saved views; "semantic" sends neither, but the message
+///   still tells how much PMI the file holds; "none" does not read the PMI.
+/// - "product_structure_mode": "as_mechanical_components" sends all there is; "as_blocks" sends the same blocks and
+///   references without their free properties, and neither names nor materials by handles; "none" sends, in the same
+///   way, one part for each product at the top, with all its shapes in place.
+/// - "colors_mode": colours always travel as red, green and blue. With "matching_index" those that have a colour index
+///   of drawings (see color_index.h) mean that index; with "nearest_index" each colour is sent as the nearest one that
+///   has an index; with "rgb" they mean no index. The alpha is sent in all of them.
+/// - "hidden_parts_mode": "import_hide" sends hidden components and shapes hidden; "import_show" sends nothing hidden;
+///   "do_not_import" does not send hidden components, nor the blocks that only these use, but still sends the hidden
+///   shapes within a part.

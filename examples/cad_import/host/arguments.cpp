@@ -1,5 +1,7 @@
 #include "arguments.h"
 
+#include "usage_error.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
@@ -13,10 +15,9 @@ go to standard error.
   --bodies             the exact bodies of each part: their faces, edges and vertices, area, volume and box, measured
                        from what arrived; not with --json
   --properties         the free properties of the product and of each block below their lines
-  --layers MODE        layer names of STEP files: asm_rep (with the blocks) or saved_visu_rep (not with the blocks)
-  --pmi MODE           product manufacturing information of STEP files: all or none
-  --hidden MODE        hidden entities of IGES files: all, none or only_with_visible_links
-  --entities MODE      entities of IGES files: root_only or root_and_nonroot
+  --option NAME=VALUE  a setting of the import for files of this format, by its name in a command; can be repeated, a
+                       wrong name or value is answered with a list of what there is
+  --legacy             the older interface, which has settings of its own and tells the names and materials of components
   --view FILE          a page on which the model can be looked at: one file of HTML that needs no network
   --picture FILE       a picture of that page as PNG; needs Chromium, but no display
   --translator PATH    the translator to start; default: cad_translator beside this program
@@ -37,60 +38,14 @@ exit codes:
 namespace
 {
 
-vrx::ELayerNameProcessingModeType layerMode(std::string_view mode)
+GivenSetting setting(const std::string& text)
 {
-    if (mode == "asm_rep")
+    const std::size_t sign = text.find('=');
+    if (sign == std::string::npos)
     {
-        return vrx::ELayerNameProcessingModeType::AsmRep;
+        throw UsageError("--option takes NAME=VALUE");
     }
-    if (mode == "saved_visu_rep")
-    {
-        return vrx::ELayerNameProcessingModeType::SavedVisuRep;
-    }
-    throw UsageError("--layers takes asm_rep or saved_visu_rep");
-}
-
-vrx::ETranslateHiddenEntitiesModeType hiddenMode(std::string_view mode)
-{
-    if (mode == "all")
-    {
-        return vrx::ETranslateHiddenEntitiesModeType::All;
-    }
-    if (mode == "none")
-    {
-        return vrx::ETranslateHiddenEntitiesModeType::None;
-    }
-    if (mode == "only_with_visible_links")
-    {
-        return vrx::ETranslateHiddenEntitiesModeType::OnlyWithVisibleLinks;
-    }
-    throw UsageError("--hidden takes all, none or only_with_visible_links");
-}
-
-vrx::EImportEntities entitiesMode(std::string_view mode)
-{
-    if (mode == "root_only")
-    {
-        return vrx::EImportEntities::RootOnly;
-    }
-    if (mode == "root_and_nonroot")
-    {
-        return vrx::EImportEntities::RootAndNonroot;
-    }
-    throw UsageError("--entities takes root_only or root_and_nonroot");
-}
-
-vrx::EVisuPMIProcessingMode pmiMode(std::string_view mode)
-{
-    if (mode == "all")
-    {
-        return vrx::EVisuPMIProcessingMode::All;
-    }
-    if (mode == "none")
-    {
-        return vrx::EVisuPMIProcessingMode::None;
-    }
-    throw UsageError("--pmi takes all or none");
+    return {text.substr(0, sign), text.substr(sign + 1)};
 }
 
 struct Flag
@@ -100,36 +55,33 @@ struct Flag
 };
 
 const Flag kFlags[] = {
-    {"--bodies", &Arguments::bodies},         {"--help", &Arguments::help},   {"--json", &Arguments::json},
-    {"--properties", &Arguments::properties}, {"--quiet", &Arguments::quiet}, {"--verbose", &Arguments::verbose},
+    {"--bodies", &Arguments::bodies},
+    {"--help", &Arguments::help},
+    {"--json", &Arguments::json},
+    {"--legacy", &Arguments::legacy},
+    {"--properties", &Arguments::properties},
+    {"--quiet", &Arguments::quiet},
+    {"--verbose", &Arguments::verbose},
 };
 
-struct Setting
+struct Option
 {
     std::string_view name;
     void (*take)(Arguments& arguments, const std::string& value);
 };
 
-const Setting kSettings[] = {
-    {"--entities",
-     [](Arguments& arguments, const std::string& value) { arguments.iges.setImportEntities(entitiesMode(value)); }},
-    {"--hidden",
-     [](Arguments& arguments, const std::string& value) { arguments.iges.setHiddenEntitiesMode(hiddenMode(value)); }},
-    {"--layers", [](Arguments& arguments,
-                    const std::string& value) { arguments.step.setLayerNameProcessingMode(layerMode(value)); }},
+const Option kOptions[] = {
+    {"--option", [](Arguments& arguments, const std::string& value) { arguments.settings.push_back(setting(value)); }},
     {"--picture", [](Arguments& arguments, const std::string& value) { arguments.picture = value; }},
-    {"--pmi",
-     [](Arguments& arguments, const std::string& value) { arguments.step.setVisuPMIProcessingMode(pmiMode(value)); }},
     {"--translator", [](Arguments& arguments, const std::string& value) { arguments.translator = value; }},
     {"--view", [](Arguments& arguments, const std::string& value) { arguments.view = value; }},
 };
 
-template <class Option, std::size_t Count>
-const Option* find(const Option (&options)[Count], std::string_view name)
+template <class Named, std::size_t Count>
+const Named* find(const Named (&all)[Count], std::string_view name)
 {
-    const Option* const found =
-        std::find_if(options, options + Count, [name](const Option& option) { return option.name == name; });
-    return found != options + Count ? found : nullptr;
+    const Named* const found = std::find_if(all, all + Count, [name](const Named& one) { return one.name == name; });
+    return found != all + Count ? found : nullptr;
 }
 
 // Takes one option, with its value where it has one; the number of words that it took.
@@ -141,8 +93,8 @@ int takeOption(Arguments& arguments, char** words, int count)
         arguments.*flag->field = true;
         return 1;
     }
-    const Setting* const setting = find(kSettings, name);
-    if (setting == nullptr)
+    const Option* const option = find(kOptions, name);
+    if (option == nullptr)
     {
         throw UsageError("there is no option " + std::string(name));
     }
@@ -150,7 +102,7 @@ int takeOption(Arguments& arguments, char** words, int count)
     {
         throw UsageError(std::string(name) + " needs a value");
     }
-    setting->take(arguments, words[1]);
+    option->take(arguments, words[1]);
     return 2;
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "vrx_api/vrx_api_format_options.h"
+#include "format_settings.h"
 
-#include <stdexcept>
 #include <string>
+#include <vector>
 
 struct Arguments
 {
@@ -14,23 +14,14 @@ struct Arguments
     bool bodies = false;
     bool help = false;
     bool json = false;
+    bool legacy = false;
     bool properties = false;
     bool quiet = false;
     bool verbose = false;
-    vrx::imp::OptionsSTEP step;
-    vrx::imp::OptionsIGES iges;
-};
-
-/// What is wrong with the command line.
-class UsageError : public std::runtime_error
-{
-public:
-    explicit UsageError(const std::string& message)
-        : std::runtime_error(message)
-    {
-    }
+    std::vector<GivenSetting> settings;
 };
 
 extern const char* const kUsage;
 
+/// Throws UsageError.
 Arguments parseArguments(int argc, char** argv);

@@ -2,6 +2,7 @@
 
 #include "arguments.h"
 #include "body_report.h"
+#include "component_data.h"
 #include "mp/narrow.h"
 #include "page_picture.h"
 #include "printable.h"
@@ -9,6 +10,7 @@
 #include "scene_page.h"
 #include "translator_session.h"
 #include "tree_output.h"
+#include "usage_error.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
 #include "write_text.h"
@@ -94,6 +96,14 @@ public:
         {
             m_bodies.add(*bodies);
         }
+        else if (auto names = std::dynamic_pointer_cast<vrx::LegacyComponentInstanceNames>(object))
+        {
+            m_components.names = std::move(names);
+        }
+        else if (auto materials = std::dynamic_pointer_cast<vrx::LegacyMaterialMap>(object))
+        {
+            m_components.materials = std::move(materials);
+        }
     }
 
     bool wants(const vrx::IExchangeObject& object) override
@@ -115,6 +125,7 @@ public:
     const std::shared_ptr<vrx::ExcProductStructure>& structure() const { return m_structure; }
     ScenePage takePage() { return std::move(m_page); }
     const BodyReport& bodies() const { return m_bodies; }
+    const ComponentData& components() const { return m_components; }
 
 private:
     const Arguments& m_arguments;
@@ -122,6 +133,7 @@ private:
     std::shared_ptr<vrx::ExcProductStructure> m_structure;
     ScenePage m_page;
     BodyReport m_bodies;
+    ComponentData m_components;
 };
 
 std::string defaultTranslator()
@@ -158,16 +170,24 @@ std::string describe(const vrx::FerrantInfo& info)
     return text;
 }
 
+// Whether the options ask for the colour index of drawings.
+bool hasColorIndices(const vrx::ImportOptions& options)
+{
+    const auto* const legacy = dynamic_cast<const vrx::LegacyImportOptions*>(&options);
+    return legacy != nullptr && legacy->colorsMode() != vrx::EColorsMode::Rgb;
+}
+
 // Prints the tree and what else is asked for on standard output.
-void print(const BodyReport& bodies, const vrx::ExcProductStructure& structure, const Arguments& arguments)
+void print(const BodyReport& bodies, const TreeExtras& extras, const vrx::ExcProductStructure& structure,
+           const Arguments& arguments)
 {
     if (arguments.json)
     {
-        printJson(std::cout, structure);
+        printJson(std::cout, structure, extras);
     }
     else
     {
-        printText(std::cout, structure, arguments.properties);
+        printText(std::cout, structure, extras);
     }
     if (arguments.bodies)
     {
@@ -199,6 +219,10 @@ void show(const ScenePage& page, const vrx::ExcProductStructure& structure, cons
 
 int import(const Arguments& arguments)
 {
+    const std::shared_ptr<vrx::ImportOptions> options = arguments.legacy
+                                                            ? legacyImportOptions(arguments.file, arguments.settings)
+                                                            : importOptions(arguments.file, arguments.settings);
+
     TranslatorSession session(arguments.translator.empty() ? defaultTranslator() : arguments.translator);
     const vrx::FerrantInfo info = session.info();
     if (info.name().empty())
@@ -215,14 +239,10 @@ int import(const Arguments& arguments)
         return kForeignFormat;
     }
 
-    const std::shared_ptr<vrx::ImportOptions> options = vrx::Command::newImportOptions();
-    options->setFile(mp::toWide(arguments.file));
-    options->setFormatOptions(std::make_shared<vrx::imp::OptionsSTEP>(arguments.step));
-    options->setFormatOptions(std::make_shared<vrx::imp::OptionsIGES>(arguments.iges));
-
     std::shared_ptr<vrx::ExcProductStructure> structure;
     ScenePage page;
     BodyReport bodies;
+    TreeExtras extras{arguments.properties, hasColorIndices(*options), {}};
     {
         Listener listener(arguments);
         const vrx::Result result = session.import(options, listener);
@@ -241,6 +261,7 @@ int import(const Arguments& arguments)
         structure = listener.structure();
         page = listener.takePage();
         bodies = listener.bodies();
+        extras.components = listener.components();
     }
     if (!structure)
     {
@@ -248,7 +269,7 @@ int import(const Arguments& arguments)
     }
     try
     {
-        print(bodies, *structure, arguments);
+        print(bodies, extras, *structure, arguments);
         show(page, *structure, arguments);
     }
     catch (const std::exception& failure)

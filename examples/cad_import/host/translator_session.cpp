@@ -147,7 +147,15 @@ vrx::Result TranslatorSession::import(const std::shared_ptr<vrx::ImportOptions>&
 {
     vrx::Command command;
     command.setType(vrx::Command::EType::Import);
-    command.setImportOptions(options);
+    if (const auto legacy = std::dynamic_pointer_cast<vrx::LegacyImportOptions>(options))
+    {
+        command.setInternalInterface(vrx::EFerrantInterface::Legacy);
+        command.setLegacyImportOptions(legacy);
+    }
+    else
+    {
+        command.setImportOptions(options);
+    }
     send(command);
 
     ReceivedObjects waiting;

@@ -47,8 +47,8 @@ public:
     vrx::FerrantInfo info();
     vrx::Result ping();
 
-    /// The translator's result. When that is no error, the listener has got all objects by then: those in shared memory
-    /// are loaded when the result has come.
+    /// The options say by which interface. The translator's result. When that is no error, the listener has got all
+    /// objects by then: those in shared memory are loaded when the result has come.
     vrx::Result import(const std::shared_ptr<vrx::ImportOptions>& options, ImportListener& listener);
 
 private:

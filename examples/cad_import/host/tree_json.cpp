@@ -1,3 +1,4 @@
+#include "common/color_index.h"
 #include "mp/narrow.h"
 #include "product_tree.h"
 #include "tree_output.h"
@@ -7,6 +8,7 @@
 #include <rapidjson/stringbuffer.h>
 
 #include <cmath>
+#include <cstdint>
 #include <ostream>
 #include <string>
 
@@ -16,8 +18,9 @@ namespace
 class TreeWriter
 {
 public:
-    explicit TreeWriter(const vrx::ExcProductStructure& structure)
+    TreeWriter(const vrx::ExcProductStructure& structure, const TreeExtras& extras)
         : m_structure(structure)
+        , m_extras(extras)
         , m_writer(m_buffer)
     {
         m_writer.SetIndent(' ', 2);
@@ -32,6 +35,8 @@ public:
         properties(m_structure.miscData());
         blocks();
         tree();
+        componentNames();
+        componentMaterials();
         m_writer.EndObject();
         return m_buffer.GetString();
     }
@@ -124,6 +129,12 @@ private:
         }
         field("persistent_id", reference.persistentId());
         color(reference.color());
+        if (m_extras.colorIndices)
+        {
+            const int index = color_index::matching(reference.color());
+            m_writer.Key("color_index");
+            index != 0 ? m_writer.Int(index) : m_writer.Null();
+        }
         m_writer.Key("hidden");
         m_writer.Bool(reference.isHidden());
         m_writer.Key("suppressed");
@@ -132,6 +143,48 @@ private:
         properties(reference.miscData());
         m_writer.Key("children");
         m_writer.StartArray();
+    }
+
+    void componentNames()
+    {
+        if (!m_extras.components.names)
+        {
+            return;
+        }
+        m_writer.Key("component_names");
+        m_writer.StartArray();
+        for (const auto& [handle, name] : m_extras.components.names->map())
+        {
+            m_writer.StartObject();
+            m_writer.Key("handle");
+            m_writer.Uint64(static_cast<std::uint64_t>(handle));
+            field("name", name);
+            m_writer.EndObject();
+        }
+        m_writer.EndArray();
+    }
+
+    void componentMaterials()
+    {
+        if (!m_extras.components.materials)
+        {
+            return;
+        }
+        m_writer.Key("component_materials");
+        m_writer.StartArray();
+        for (const auto& [handle, material] : m_extras.components.materials->map())
+        {
+            m_writer.StartObject();
+            m_writer.Key("handle");
+            m_writer.Uint64(static_cast<std::uint64_t>(handle));
+            m_writer.Key("has_material");
+            m_writer.Bool(material.hasMaterial);
+            field("name", material.name);
+            m_writer.Key("density");
+            number(material.density);
+            m_writer.EndObject();
+        }
+        m_writer.EndArray();
     }
 
     void color(const vrx::ExcColor& color)
@@ -169,20 +222,23 @@ private:
         m_writer.StartArray();
         for (std::size_t i = 0; i < 3; ++i)
         {
-            // JSON has no numbers that are not finite.
-            std::isfinite(vector[i]) ? m_writer.Double(vector[i]) : m_writer.Null();
+            number(vector[i]);
         }
         m_writer.EndArray();
     }
 
+    // JSON has no numbers that are not finite.
+    void number(double value) { std::isfinite(value) ? m_writer.Double(value) : m_writer.Null(); }
+
     const vrx::ExcProductStructure& m_structure;
+    const TreeExtras& m_extras;
     rapidjson::StringBuffer m_buffer;
     rapidjson::PrettyWriter<rapidjson::StringBuffer> m_writer;
 };
 
 } // namespace
 
-void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure)
+void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure, const TreeExtras& extras)
 {
-    stream << TreeWriter(structure).text() << '\n';
+    stream << TreeWriter(structure, extras).text() << '\n';
 }

@@ -1,13 +1,22 @@
 #pragma once
 
+#include "component_data.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <iosfwd>
 
+/// What is told beside the tree.
+struct TreeExtras
+{
+    bool properties = false;   // of the text: the free properties below their lines
+    bool colorIndices = false; // the index of a colour that has one
+    ComponentData components;
+};
+
 /// The product tree as indented text: a line for each group of equal instances, with instance names, block name, count,
-/// colour and a note of what the block holds. With `properties` the free properties stand below.
-void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, bool properties);
+/// colour and a note of what the block holds. The components follow, if they arrived.
+void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, const TreeExtras& extras = {});
 
 /// The same tree as JSON in UTF-8: "product", "units", "properties", "blocks" (each once, by id) and "tree", where each
-/// instance has a node with its "children".
-void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure);
+/// instance has a node with its "children"; then "component_names" and "component_materials", if they arrived.
+void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure, const TreeExtras& extras = {});

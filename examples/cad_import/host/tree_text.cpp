@@ -1,3 +1,4 @@
+#include "common/color_index.h"
 #include "common/property_names.h"
 #include "printable.h"
 #include "product_tree.h"
@@ -79,8 +80,13 @@ std::string note(const ProductTreeNode& node)
     return "assembly: " + counted(std::to_string(node.block->blockReferences().size()), "component", "components");
 }
 
-std::string colorText(const vrx::ExcColor& color)
+std::string colorText(const vrx::ExcColor& color, bool indices)
 {
+    const int index = indices ? color_index::matching(color) : 0;
+    if (index != 0)
+    {
+        return "color " + std::to_string(index);
+    }
     std::ostringstream stream;
     stream << '#' << std::hex << std::setfill('0');
     for (const auto channel : {vrx::ExcColor::ChannelRed, vrx::ExcColor::ChannelGreen, vrx::ExcColor::ChannelBlue})
@@ -101,7 +107,7 @@ std::string names(const ProductTreeNode& node)
     return node.references.size() == 1 || first == last ? first : first + " .. " + last;
 }
 
-std::string line(const ProductTreeNode& node)
+std::string line(const ProductTreeNode& node, bool indices)
 {
     const vrx::ExcBlockReference& reference = *node.references.front();
     std::string text = names(node);
@@ -115,7 +121,7 @@ std::string line(const ProductTreeNode& node)
     }
     if (reference.color().hasRGB())
     {
-        text += ' ' + colorText(reference.color());
+        text += ' ' + colorText(reference.color(), indices);
     }
     if (reference.isHidden())
     {
@@ -164,12 +170,12 @@ void printSummary(std::ostream& stream, const vrx::ExcProductStructure& structur
 
 } // namespace
 
-void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, bool properties)
+void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, const TreeExtras& extras)
 {
     const std::vector<ProductTreeNode> tree = productTree(structure, ESiblings::Collapsed);
     stream << "product " << printable(structure.productName()) << ", units "
            << printable(vrx::enumToString(structure.units())) << '\n';
-    if (properties)
+    if (extras.properties)
     {
         printProperties(stream, structure.miscData(), "  ");
     }
@@ -177,11 +183,12 @@ void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, 
     for (const ProductTreeNode& node : tree)
     {
         const std::string indent(2 * node.depth, ' ');
-        stream << indent << line(node) << '\n';
-        if (properties && node.block && described.insert(node.block).second)
+        stream << indent << line(node, extras.colorIndices) << '\n';
+        if (extras.properties && node.block && described.insert(node.block).second)
         {
             printProperties(stream, node.block->miscData(), indent + "    ");
         }
     }
     printSummary(stream, structure, tree);
+    printComponents(stream, extras.components);
 }

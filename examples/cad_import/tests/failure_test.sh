@@ -4,9 +4,13 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 expect 2 "no file" "$host"
 expect 2 "no option --frobnicate" "$host" --frobnicate "$vise"
-expect 2 "--pmi takes all or none" "$host" --pmi some "$vise"
-expect 2 "--hidden takes all, none or only_with_visible_links" "$host" --hidden some "$vise"
-expect 2 "--entities takes root_only or root_and_nonroot" "$host" --entities some "$vise"
+expect 2 "--option takes NAME=VALUE" "$host" --option visu_pmi_mode "$vise"
+expect 2 "there are layer_name_mode, visu_pmi_mode" "$host" --option import_entities=root_only "$vise"
+expect 2 "visu_pmi_mode takes unknown, all, none" "$host" --option visu_pmi_mode=some "$vise"
+expect 2 "hidden_entities_mode takes unknown, all, none, only_with_visible_links" "$host" \
+    --option hidden_entities_mode=some "$scratch/part.IGS"
+expect 2 "no settings for files like $scratch/part.stl, only for those of STEP, IGES" "$host" \
+    --option visu_pmi_mode=all "$scratch/part.stl"
 expect 3 "does not read files like $scratch/part.stl" "$host" "$scratch/part.stl"
 expect 3 "STEP files (AP203, AP214, AP242)|stp;step;p21" "$host" "$scratch/part.stl"
 expect 3 "IGES files|igs;iges" "$host" "$scratch/part.stl"

@@ -37,6 +37,14 @@ public:
         {
             m_imported.structure = structure;
         }
+        else if (const auto names = std::dynamic_pointer_cast<vrx::LegacyComponentInstanceNames>(object))
+        {
+            m_imported.names = names;
+        }
+        else if (const auto materials = std::dynamic_pointer_cast<vrx::LegacyMaterialMap>(object))
+        {
+            m_imported.materials = materials;
+        }
     }
 
 private:

@@ -20,11 +20,13 @@ struct Imported
     std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockVisualization>> scenes; // by block
     std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockGeometry>> bodies;      // by block
     std::shared_ptr<vrx::ExcRootAssemblyVisualization> root;
+    std::shared_ptr<vrx::LegacyComponentInstanceNames> names;
+    std::shared_ptr<vrx::LegacyMaterialMap> materials;
     std::vector<std::shared_ptr<vrx::IExchangeObject>> objects; // these and all others but the reports on the way
     std::vector<mp::wstring> messages;
 };
 
-/// Has the translator import a file with options of a command.
+/// Has the translator import a file with options of a command, which say by which interface.
 Imported importFile(const std::string& file, const std::shared_ptr<vrx::ImportOptions>& options);
 
 /// The same with settings for its format, or with none.

@@ -25,7 +25,7 @@ using Entities = vrx::EImportEntities;
 std::string treeOf(const Imported& imported)
 {
     std::ostringstream stream;
-    printText(stream, *imported.structure, false);
+    printText(stream, *imported.structure);
     const std::string text = stream.str();
     const std::size_t begin = text.find('\n') + 1;
     return text.substr(begin, text.rfind('\n', text.size() - 2) + 1 - begin);

@@ -50,7 +50,7 @@ TEST(ProductTree, ShowsReferencesToNoBlock)
     EXPECT_EQ(tree[0].state, State::MissingBlock);
 
     std::ostringstream text;
-    printText(text, structure, true);
+    printText(text, structure, {true, false, {}});
     EXPECT_THAT(text.str(), testing::HasSubstr("lost [no block with id 7]"));
     printJson(text, structure);
     EXPECT_THAT(text.str(), testing::HasSubstr("\"name\": \"lost\""));
@@ -105,7 +105,7 @@ TEST(ProductTree, KeepsControlCharactersOffTheTerminal)
     vrx::ExcProductStructure structure;
     structure.addRootBlockReference(reference(1, WIDE("a\x1B[31mb\nc\u009B2J")));
     std::ostringstream text;
-    printText(text, structure, false);
+    printText(text, structure);
     EXPECT_THAT(text.str(), testing::HasSubstr("a [31mb c 2J [no block"));
 }
 

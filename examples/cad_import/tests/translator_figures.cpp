@@ -8,8 +8,6 @@
 #include "reading/import_settings.h"
 #include "structure/product_structure_builder.h"
 
-#include <XCAFDoc_ShapeTool.hxx>
-
 #include <exception>
 #include <iostream>
 
@@ -31,13 +29,10 @@ void printFigures(const std::string& path)
     settings.file = path;
     ImportProgress progress(channel);
     const CadModel model = readModel(settings, channel, progress);
-    ProductStructureBuilder builder(model);
+    ProductStructureBuilder builder(model, settings);
     for (const std::shared_ptr<vrx::ExcBlock>& block : builder.build()->blocks())
     {
-        const TopoDS_Shape shape = block->isPart()
-                                       ? XCAFDoc_ShapeTool::GetShape(builder.blocks()(static_cast<int>(block->id())))
-                                       : TopoDS_Shape();
-        for (const std::string& line : figuresOfBodies(*block, shape))
+        for (const std::string& line : figuresOfBodies(*block, builder.shapeOf(*block)))
         {
             std::cerr << line << '\n';
         }

@@ -28,5 +28,5 @@ done
 for line in 'material: EN-GJL-250' 'density: 7.2' 'layer: castings' 'time stamp: 2024-01-01T00:00:00'; do
     grep -qF -- "- $line" "$scratch/properties" || fail "no property $line"
 done
-"$host" --quiet --properties --layers saved_visu_rep "$vise" >"$scratch/properties"
+"$host" --quiet --properties --option layer_name_mode=saved_visu_rep "$vise" >"$scratch/properties"
 ! grep -qF -- '- layer:' "$scratch/properties" || fail "layers although the command asks for none"

@@ -5,11 +5,13 @@
 #include "delayed_termination.h"
 #include "host_channel.h"
 #include "import_progress.h"
+#include "looks/palette_colors.h"
 #include "looks/visualization_builder.h"
 #include "mp/narrow.h"
 #include "pmi/pmi_summary.h"
 #include "reading/cad_reader.h"
 #include "reading/import_settings.h"
+#include "structure/component_maps.h"
 #include "structure/product_structure_builder.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 #include "vrx_api/vrx_api_ferrant_info.h"
@@ -119,11 +121,9 @@ vrx::Result Translator::import(const vrx::Command& command)
     {
         // Damaged files do crash the kernel: its signals become exceptions here.
         OCC_CATCH_SIGNALS
-        if (command.internalInterface() == vrx::EFerrantInterface::Legacy || !command.importOptions())
-        {
-            return error("This translator does not take legacy commands.");
-        }
-        return translate(settingsOf(*command.importOptions()));
+        return translate(command.internalInterface() == vrx::EFerrantInterface::Legacy
+                             ? settingsOf(*command.legacyImportOptions())
+                             : settingsOf(*command.importOptions()));
     }
     catch (const Standard_Failure& failure)
     {
@@ -153,13 +153,22 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     }
 
     progress.beginStage("Sending the product structure", 60);
-    ProductStructureBuilder builder(model);
+    ProductStructureBuilder builder(model, settings);
     const std::shared_ptr<vrx::ExcProductStructure> structure = builder.build();
+    if (settings.paletteColors)
+    {
+        palette_colors::apply(*structure);
+    }
     m_channel.send(structure);
+    if (settings.componentMaps)
+    {
+        m_channel.send(componentNames(*structure));
+        m_channel.send(componentMaterials(*structure, builder.materials()));
+    }
     m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
 
     sendBodies(*structure, builder, progress);
-    sendVisualization(VisualizationBuilder(model, *structure, builder.blocks()), *structure, progress);
+    sendVisualization(VisualizationBuilder(model, settings, *structure, builder), *structure, progress);
     return model.warning.empty() ? result(vrx::Result::ECode::Ok, "")
                                  : result(vrx::Result::ECode::Warning, model.warning);
 }
@@ -172,11 +181,7 @@ void Translator::sendBodies(const vrx::ExcProductStructure& structure, const Pro
     double done = 0;
     for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
     {
-        // An assembly's shape is that of its components, and it has no solids of its own.
-        const TopoDS_Shape shape = block->isPart()
-                                       ? XCAFDoc_ShapeTool::GetShape(builder.blocks()(static_cast<int>(block->id())))
-                                       : TopoDS_Shape();
-        const std::shared_ptr<vrx::ExcBlockGeometry> geometry = bodies.make(*block, shape);
+        const std::shared_ptr<vrx::ExcBlockGeometry> geometry = bodies.make(*block, builder.shapeOf(*block));
         geometry->own(false);
         m_channel.send(geometry);
         progress.advance(++done / static_cast<double>(structure.blocks().size()));

@@ -29,10 +29,10 @@ mp::wstring id(char kind, int position)
 class BlockScene
 {
 public:
-    explicit BlockScene(const TDF_Label& part)
-        : m_shape(XCAFDoc_ShapeTool::GetShape(part))
-        , m_looks(part)
-        , m_look(m_looks.of(m_shape))
+    BlockScene(const TDF_Label& part, const TopoDS_Shape& shape, bool showHidden)
+        : m_shape(shape)
+        , m_looks(part, showHidden)
+        , m_look(m_looks.of(XCAFDoc_ShapeTool::GetShape(part)))
         , m_root(scene_nodes::make(Node::EType::ROOT))
         , m_geometry(scene_nodes::addTo(*m_root, Node::EType::GEOMETRY))
     {
@@ -193,7 +193,7 @@ private:
 
 } // namespace
 
-std::shared_ptr<vrx::ExcVisuNode> blockScene(const TDF_Label& part)
+std::shared_ptr<vrx::ExcVisuNode> blockScene(const TDF_Label& part, const TopoDS_Shape& shape, bool showHidden)
 {
-    return XCAFDoc_ShapeTool::GetShape(part).IsNull() ? nullptr : BlockScene(part).build();
+    return shape.IsNull() ? nullptr : BlockScene(part, shape, showHidden).build();
 }

@@ -2,6 +2,7 @@
 
 #include "kernel/occt_text.h"
 #include "structure/block_content.h"
+#include "structure/component_labels.h"
 
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
@@ -12,56 +13,62 @@
 namespace
 {
 
-ShapeLooks::Look lookOf(const TDF_Label& label)
+// A look where it does not say its own.
+ShapeLooks::Look within(const ShapeLooks::Look& above, ShapeLooks::Look look)
 {
-    ShapeLooks::Look look;
+    look.color = look.color.hasRGB() ? look.color : above.color;
+    look.hidden = look.hidden || above.hidden;
+    return look;
+}
+
+} // namespace
+
+// The product's own look is not that of its shapes: it gives way to the look of a reference.
+ShapeLooks::ShapeLooks(const TDF_Label& product, bool showHidden)
+    : m_showHidden(showHidden)
+{
+    add(product, TopLoc_Location(), lookOf(product), Look());
+    addComponents(product, TopLoc_Location(), Look());
+}
+
+ShapeLooks::Look ShapeLooks::lookOf(const TDF_Label& label) const
+{
+    Look look;
     Handle(TDataStd_Name) name;
     if (label.FindAttribute(TDataStd_Name::GetID(), name))
     {
         look.name = occt_text::wide(name->Get());
     }
     look.color = BlockContent::colorOf(label);
-    look.hidden = !XCAFDoc_DocumentTool::ColorTool(label)->IsVisible(label);
+    look.hidden = !m_showHidden && !XCAFDoc_DocumentTool::ColorTool(label)->IsVisible(label);
     return look;
 }
 
-} // namespace
-
-ShapeLooks::ShapeLooks(const TDF_Label& product)
+void ShapeLooks::add(const TDF_Label& label, const TopLoc_Location& place, const Look& look, const Look& ofBodies)
 {
-    add(product, TopLoc_Location());
-    addComponents(product, TopLoc_Location());
-}
-
-void ShapeLooks::add(const TDF_Label& label, const TopLoc_Location& place)
-{
-    m_looks.Bind(XCAFDoc_ShapeTool::GetShape(label).Moved(place), lookOf(label));
+    m_looks.Bind(XCAFDoc_ShapeTool::GetShape(label).Moved(place), look);
     TDF_LabelSequence parts;
     XCAFDoc_ShapeTool::GetSubShapes(label, parts);
     for (const TDF_Label& part : parts)
     {
-        m_looks.Bind(XCAFDoc_ShapeTool::GetShape(part).Moved(place), lookOf(part));
+        const TopoDS_Shape shape = XCAFDoc_ShapeTool::GetShape(part);
+        const bool isBody = !shape.IsNull() && shape.ShapeType() <= TopAbs_SHELL;
+        m_looks.Bind(shape.Moved(place), isBody ? within(ofBodies, lookOf(part)) : lookOf(part));
     }
 }
 
-// A product with several shapes is an assembly of them in XDE. What a component says of its shape goes first.
-void ShapeLooks::addComponents(const TDF_Label& label, const TopLoc_Location& place)
+// A product with several shapes is an assembly of them in XDE. What a component says of its shape goes first, and what
+// stands above it last.
+void ShapeLooks::addComponents(const TDF_Label& label, const TopLoc_Location& place, const Look& above)
 {
-    TDF_LabelSequence components;
-    XCAFDoc_ShapeTool::GetComponents(label, components, false);
-    for (const TDF_Label& component : components)
+    for (const TDF_Label& component : component_labels::of(label))
     {
-        TDF_Label shape;
-        if (!XCAFDoc_ShapeTool::GetReferredShape(component, shape))
-        {
-            continue;
-        }
-        const TopLoc_Location within = place * XCAFDoc_ShapeTool::GetLocation(component);
-        add(shape, within);
-        Look& look = m_looks.ChangeFind(XCAFDoc_ShapeTool::GetShape(shape).Moved(within));
-        const Look own = lookOf(component);
-        look.color = own.color.hasRGB() ? own.color : look.color;
-        look.hidden = look.hidden || own.hidden;
-        addComponents(shape, within);
+        const TDF_Label shape = component_labels::referred(component);
+        const TopLoc_Location here = place * XCAFDoc_ShapeTool::GetLocation(component);
+        const Look own = lookOf(shape);
+        Look look = within(above, within(own, lookOf(component)));
+        look.name = own.name;
+        add(shape, here, look, look);
+        addComponents(shape, here, look);
     }
 }

@@ -19,14 +19,17 @@ public:
         bool hidden = false;
     };
 
-    explicit ShapeLooks(const TDF_Label& product);
+    /// With `showHidden` nothing is hidden.
+    ShapeLooks(const TDF_Label& product, bool showHidden);
 
     /// Of a shape within the product's shape, or null.
     const Look* of(const TopoDS_Shape& shape) const { return m_looks.Seek(shape); }
 
 private:
-    void add(const TDF_Label& label, const TopLoc_Location& place);
-    void addComponents(const TDF_Label& label, const TopLoc_Location& place);
+    Look lookOf(const TDF_Label& label) const;
+    void add(const TDF_Label& label, const TopLoc_Location& place, const Look& look, const Look& ofBodies);
+    void addComponents(const TDF_Label& label, const TopLoc_Location& place, const Look& above);
 
+    bool m_showHidden;
     NCollection_DataMap<TopoDS_Shape, Look, TopTools_ShapeMapHasher> m_looks;
 };

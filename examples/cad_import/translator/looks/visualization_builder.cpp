@@ -1,15 +1,20 @@
 #include "looks/visualization_builder.h"
 
 #include "looks/block_scene.h"
+#include "looks/palette_colors.h"
 #include "looks/scene_nodes.h"
 #include "pmi/annotation_scene.h"
 #include "pmi/saved_views.h"
 #include "reading/cad_model.h"
+#include "reading/import_settings.h"
 #include "structure/product_places.h"
+#include "structure/product_structure_builder.h"
 
-VisualizationBuilder::VisualizationBuilder(const CadModel& model, const vrx::ExcProductStructure& structure,
-                                           const TDF_LabelIndexedMap& blocks)
+VisualizationBuilder::VisualizationBuilder(const CadModel& model, const ImportSettings& settings,
+                                           const vrx::ExcProductStructure& structure,
+                                           const ProductStructureBuilder& blocks)
     : m_model(model)
+    , m_settings(settings)
     , m_structure(structure)
     , m_blocks(blocks)
 {
@@ -17,10 +22,15 @@ VisualizationBuilder::VisualizationBuilder(const CadModel& model, const vrx::Exc
 
 std::shared_ptr<vrx::ExcRootAssemblyVisualization> VisualizationBuilder::root() const
 {
+    if (!m_settings.drawnPmi)
+    {
+        return nullptr;
+    }
     const auto data = std::make_shared<vrx::ExcVisualizationData>();
     data->setUnits(m_structure.units());
     addSavedViews(*data, m_model.document);
-    if (const auto annotations = annotationScene(m_model.document, ProductPlaces(m_model.document)))
+    const ProductPlaces places(m_model.document, m_settings.hiddenParts == vrx::EHiddenPartsMode::DoNotImport);
+    if (const auto annotations = annotationScene(m_model.document, places))
     {
         const auto rootNode = scene_nodes::make(vrx::ExcVisuNode::EType::ROOT);
         rootNode->addChildNode(annotations);
@@ -37,7 +47,8 @@ std::shared_ptr<vrx::ExcRootAssemblyVisualization> VisualizationBuilder::root() 
 
 std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vrx::ExcBlock& block) const
 {
-    const auto scene = block.isPart() ? blockScene(m_blocks(static_cast<int>(block.id()))) : nullptr;
+    const auto scene = blockScene(m_blocks.blocks()(static_cast<int>(block.id())), m_blocks.shapeOf(block),
+                                  m_settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow);
     if (!scene)
     {
         return nullptr;
@@ -45,6 +56,10 @@ std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vr
     const auto data = std::make_shared<vrx::ExcVisualizationData>();
     data->setUnits(m_structure.units());
     data->addSceneRootNode(scene);
+    if (m_settings.paletteColors)
+    {
+        palette_colors::apply(*data);
+    }
     auto visualization = std::make_shared<vrx::ExcBlockVisualization>();
     visualization->setBlockId(block.id());
     visualization->setVisualizationData(data);

@@ -158,6 +158,11 @@ private:
         {
             return;
         }
+        const TDF_Label shape = shapeOf(label);
+        if (!shape.IsNull() && !m_places.hold(shape))
+        {
+            return;
+        }
         const auto pmi = std::make_shared<vrx::ExcVisuPMI>();
         pmi->setEdges(tessellation::polylines(drawing));
         if (pmi->edges().empty())
@@ -171,7 +176,7 @@ private:
         const std::shared_ptr<vrx::ExcVisuNode> node = scene_nodes::addTo(*group(groupOf(type)), type);
         node->setLeaf(true);
         node->setPMI(pmi);
-        node->setTransformation(placeOf(label));
+        node->setTransformation(m_places.firstPlaceOf(shape));
     }
 
     std::shared_ptr<vrx::ExcVisuNode> group(EType type)
@@ -188,12 +193,13 @@ private:
         return group;
     }
 
-    std::shared_ptr<vrx::ExcTransformation> placeOf(const TDF_Label& annotation) const
+    // Of what an annotation tells; null when it does not say.
+    TDF_Label shapeOf(const TDF_Label& annotation) const
     {
         TDF_LabelSequence first;
         TDF_LabelSequence second;
         m_tool->GetRefShapeLabel(annotation, first, second);
-        return first.IsEmpty() ? nullptr : m_places.firstPlaceOf(first.First());
+        return first.IsEmpty() ? TDF_Label() : first.First();
     }
 
     Handle(XCAFDoc_DimTolTool) m_tool;

@@ -18,6 +18,7 @@ mp::wstring annotationId(const TDF_Label& annotation);
 std::optional<gp_Ax2> annotationPlane(const TDF_Label& annotation);
 
 /// The drawn form of all annotations that have one: PMI, below it DATUMS, DIMENSIONS, GEOMTOLS and NOTES with a node
-/// for each annotation. What is said of a part is drawn where the part first stands. Null when nothing is drawn.
+/// for each annotation. What is said of a part is drawn where the part first stands, if anywhere. Null when nothing is
+/// drawn.
 std::shared_ptr<vrx::ExcVisuNode> annotationScene(const Handle(TDocStd_Document) & document,
                                                   const ProductPlaces& places);

@@ -40,3 +40,15 @@ ImportSettings settingsOf(const vrx::ImportOptions& options)
     takeFormat<vrx::imp::OptionsIGES>(options, vrx::EFormatType::IGES, settings);
     return settings;
 }
+
+ImportSettings settingsOf(const vrx::LegacyImportOptions& options)
+{
+    ImportSettings settings = settingsOf(static_cast<const vrx::ImportOptions&>(options));
+    settings.pmi = settings.pmi && options.pmiMode() != vrx::EPmiMode::None;
+    settings.drawnPmi = options.pmiMode() == vrx::EPmiMode::Graphical;
+    settings.structure = options.productStructureMode();
+    settings.hiddenParts = options.hiddenPartsMode();
+    settings.paletteColors = options.colorsMode() == vrx::EColorsMode::NearestIndex;
+    settings.componentMaps = settings.structure == vrx::EProductStructureMode::AsMechanicalComponents;
+    return settings;
+}

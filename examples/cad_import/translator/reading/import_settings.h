@@ -17,6 +17,16 @@ struct ImportSettings
     // of IGES files
     vrx::ETranslateHiddenEntitiesModeType hidden = vrx::ETranslateHiddenEntitiesModeType::All; // never Unknown
     bool nonroots = false; // the entities that belong logically to others also by themselves
+    bool drawnPmi = true; // where there is PMI: its drawn annotations and saved views
+
+    // of the older interface; otherwise as here
+    vrx::EProductStructureMode structure = vrx::EProductStructureMode::AsMechanicalComponents;
+    vrx::EHiddenPartsMode hiddenParts = vrx::EHiddenPartsMode::ImportHide;
+    bool paletteColors = false; // the nearest colours that have a colour index
+    bool componentMaps = false; // the names and materials of components by their handles
 };
 
 ImportSettings settingsOf(const vrx::ImportOptions& options);
+
+/// Settings for the file's format count in a legacy command as they do in any other.
+ImportSettings settingsOf(const vrx::LegacyImportOptions& options);

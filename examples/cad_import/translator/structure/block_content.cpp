@@ -86,11 +86,6 @@ vrx::ExcColor BlockContent::color() const
     return {};
 }
 
-bool BlockContent::isVisible() const
-{
-    return XCAFDoc_DocumentTool::ColorTool(m_labels.front())->IsVisible(m_labels.front());
-}
-
 void BlockContent::addCounts(vrx::ExcMiscData& data) const
 {
     const TopoDS_Shape shape = XCAFDoc_ShapeTool::GetShape(m_labels.front());
@@ -112,7 +107,7 @@ void BlockContent::addCounts(vrx::ExcMiscData& data) const
     add(data, property_names::kFaces, faces.Extent());
 }
 
-void BlockContent::addMaterial(vrx::ExcMiscData& data) const
+std::optional<Material> BlockContent::material() const
 {
     for (const TDF_Label& label : m_labels)
     {
@@ -127,17 +122,12 @@ void BlockContent::addMaterial(vrx::ExcMiscData& data) const
         Handle(TCollection_HAsciiString) densityType;
         double density = 0;
         const Handle(XCAFDoc_MaterialTool) materials = XCAFDoc_DocumentTool::MaterialTool(label);
-        if (!materials->GetMaterial(node->Father()->Label(), name, description, density, densityName, densityType))
+        if (materials->GetMaterial(node->Father()->Label(), name, description, density, densityName, densityType))
         {
-            continue;
+            return Material{occt_text::wide(name), density};
         }
-        add(data, property_names::kMaterial, vrx::ExcMiscProperty::EType::String, occt_text::wide(name));
-        if (density > 0)
-        {
-            add(data, property_names::kDensity, density);
-        }
-        return;
     }
+    return std::nullopt;
 }
 
 void BlockContent::addLayers(vrx::ExcMiscData& data) const

@@ -1,10 +1,18 @@
 #pragma once
 
+#include "mp/wide.h"
 #include "vrx_api/vrx_api_exchange_common.h"
 
 #include <TDF_Label.hxx>
 
+#include <optional>
 #include <vector>
+
+struct Material
+{
+    mp::wstring name;
+    double density = 0; // g/cm3; 0 when the file does not tell
+};
 
 /// What the XDE document says of one product: its label, and the labels of the shapes of which it consists when XDE
 /// has made an assembly of them.
@@ -16,11 +24,11 @@ public:
     /// The product's colour: its own, or that of the first of its shapes that has one. No colour if none has.
     vrx::ExcColor color() const;
 
-    bool isVisible() const;
-
     void addCounts(vrx::ExcMiscData& data) const;
-    void addMaterial(vrx::ExcMiscData& data) const;
     void addLayers(vrx::ExcMiscData& data) const;
+
+    /// That of the first of its shapes that has one.
+    std::optional<Material> material() const;
 
     static vrx::ExcColor colorOf(const TDF_Label& label);
 

@@ -1,24 +1,26 @@
 #include "structure/product_places.h"
 
 #include "kernel/occt_transformation.h"
+#include "structure/component_labels.h"
 
-#include <TDF_LabelSequence.hxx>
-#include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 
 #include <utility>
 #include <vector>
 
-ProductPlaces::ProductPlaces(const Handle(TDocStd_Document) & document)
+ProductPlaces::ProductPlaces(const Handle(TDocStd_Document) & document, bool withoutHidden)
 {
-    TDF_LabelSequence roots;
-    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(roots);
     std::vector<std::pair<TDF_Label, TopLoc_Location>> waiting;
-    for (const TDF_Label& root : roots)
+    const auto add = [&](const TDF_Label& component, const TopLoc_Location& above) {
+        const TDF_Label shape = component_labels::referred(component);
+        if (!m_places.IsBound(shape) && !(withoutHidden && component_labels::isHidden(component)))
+        {
+            waiting.emplace_back(shape, above * XCAFDoc_ShapeTool::GetLocation(component));
+        }
+    };
+    for (const TDF_Label& root : component_labels::roots(document))
     {
-        TDF_Label shape;
-        waiting.emplace_back(XCAFDoc_ShapeTool::GetReferredShape(root, shape) ? shape : root,
-                             XCAFDoc_ShapeTool::GetLocation(root));
+        add(root, TopLoc_Location());
     }
     while (!waiting.empty())
     {
@@ -28,29 +30,29 @@ ProductPlaces::ProductPlaces(const Handle(TDocStd_Document) & document)
         {
             continue; // it stands elsewhere already, and all below it too
         }
-        TDF_LabelSequence components;
-        XCAFDoc_ShapeTool::GetComponents(label, components, false);
-        for (const TDF_Label& component : components)
+        for (const TDF_Label& component : component_labels::of(label))
         {
-            TDF_Label shape;
-            if (XCAFDoc_ShapeTool::GetReferredShape(component, shape) && !m_places.IsBound(shape))
-            {
-                waiting.emplace_back(shape, place * XCAFDoc_ShapeTool::GetLocation(component));
-            }
+            add(component, place);
         }
     }
 }
 
-std::shared_ptr<vrx::ExcTransformation> ProductPlaces::firstPlaceOf(const TDF_Label& shape) const
+const TopLoc_Location* ProductPlaces::find(const TDF_Label& shape) const
 {
     for (TDF_Label label = shape; !label.IsNull() && !label.IsRoot(); label = label.Father())
     {
-        const TopLoc_Location* place = m_places.Seek(label);
-        if (place)
+        if (const TopLoc_Location* const place = m_places.Seek(label))
         {
-            return place->IsIdentity() ? nullptr
-                                       : std::make_shared<vrx::ExcTransformation>(occt_transformation::of(*place));
+            return place;
         }
     }
     return nullptr;
+}
+
+std::shared_ptr<vrx::ExcTransformation> ProductPlaces::firstPlaceOf(const TDF_Label& shape) const
+{
+    const TopLoc_Location* const place = find(shape);
+    return place == nullptr || place->IsIdentity()
+               ? nullptr
+               : std::make_shared<vrx::ExcTransformation>(occt_transformation::of(*place));
 }

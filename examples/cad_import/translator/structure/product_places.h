@@ -14,11 +14,17 @@
 class ProductPlaces
 {
 public:
-    explicit ProductPlaces(const Handle(TDocStd_Document) & document);
+    /// Without what is hidden, or with it.
+    ProductPlaces(const Handle(TDocStd_Document) & document, bool withoutHidden);
 
     /// Of the shape of a label, or of which the label tells a part. Null for a shape that is not moved.
     std::shared_ptr<vrx::ExcTransformation> firstPlaceOf(const TDF_Label& shape) const;
 
+    /// False for the shape of a label, or a part of it, that stands nowhere.
+    bool hold(const TDF_Label& shape) const { return find(shape) != nullptr; }
+
 private:
+    const TopLoc_Location* find(const TDF_Label& shape) const;
+
     NCollection_DataMap<TDF_Label, TopLoc_Location, TDF_LabelMapHasher> m_places;
 };

@@ -5,14 +5,16 @@
 #include "kernel/occt_transformation.h"
 #include "mp/narrow.h"
 #include "reading/cad_model.h"
+#include "reading/import_settings.h"
 #include "structure/block_content.h"
+#include "structure/component_labels.h"
 #include "structure/misc_properties.h"
 
+#include <BRep_Builder.hxx>
 #include <StepBasic_Product.hxx>
 #include <StepBasic_ProductDefinitionFormation.hxx>
-#include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
-#include <XCAFDoc_ColorTool.hxx>
+#include <TopoDS_Compound.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 
 #include <algorithm>
@@ -29,19 +31,6 @@ mp::wstring nameOf(const TDF_Label& label)
     return label.FindAttribute(TDataStd_Name::GetID(), name) ? occt_text::wide(name->Get()) : mp::wstring();
 }
 
-TDF_Label referred(const TDF_Label& component)
-{
-    TDF_Label label;
-    return XCAFDoc_ShapeTool::GetReferredShape(component, label) ? label : component;
-}
-
-std::vector<TDF_Label> components(const TDF_Label& label)
-{
-    TDF_LabelSequence sequence;
-    XCAFDoc_ShapeTool::GetComponents(label, sequence, false);
-    return {sequence.begin(), sequence.end()};
-}
-
 void addPartNumber(vrx::ExcMiscData& data, const Handle(StepBasic_ProductDefinition) & definition)
 {
     const Handle(StepBasic_ProductDefinitionFormation) version = definition->Formation();
@@ -55,6 +44,23 @@ void addPartNumber(vrx::ExcMiscData& data, const Handle(StepBasic_ProductDefinit
     if (!versionId.empty())
     {
         add(data, property_names::kVersion, type, versionId);
+    }
+}
+
+void clearProperties(vrx::ExcProductStructure& structure)
+{
+    structure.miscData().clearProperties();
+    for (const auto& root : structure.rootBlockReferences())
+    {
+        root->miscData().clearProperties();
+    }
+    for (const auto& block : structure.blocks())
+    {
+        block->miscData().clearProperties();
+        for (const auto& reference : block->blockReferences())
+        {
+            reference->miscData().clearProperties();
+        }
     }
 }
 
@@ -82,8 +88,9 @@ vrx::ELengthUnitType lengthUnit(const Handle(TDocStd_Document) & document)
 
 } // namespace
 
-ProductStructureBuilder::ProductStructureBuilder(const CadModel& model)
+ProductStructureBuilder::ProductStructureBuilder(const CadModel& model, const ImportSettings& settings)
     : m_model(model)
+    , m_settings(settings)
     , m_labels(model)
     , m_properties(model)
 {
@@ -95,11 +102,12 @@ std::shared_ptr<vrx::ExcProductStructure> ProductStructureBuilder::build()
     m_structure->setUnits(lengthUnit(m_model.document));
     m_structure->miscData() = m_properties.head();
 
-    TDF_LabelSequence roots;
-    XCAFDoc_DocumentTool::ShapeTool(m_model.document->Main())->GetFreeShapes(roots);
-    for (const TDF_Label& root : roots)
+    for (const TDF_Label& root : component_labels::roots(m_model.document))
     {
-        addRoot(root);
+        if (!isLeftOut(root))
+        {
+            addRoot(root);
+        }
     }
     // A block's references append the blocks that they name, so this goes down the whole tree.
     for (int i = 1; i <= m_blocks.Extent(); ++i)
@@ -110,13 +118,43 @@ std::shared_ptr<vrx::ExcProductStructure> ProductStructureBuilder::build()
     m_structure->setProductName(rootReferences.size() == 1
                                     ? rootReferences.front()->name()
                                     : mp::toWide(std::filesystem::path(m_model.path).stem().string()));
+    if (m_settings.structure != vrx::EProductStructureMode::AsMechanicalComponents)
+    {
+        clearProperties(*m_structure);
+    }
     return m_structure;
+}
+
+TopoDS_Shape ProductStructureBuilder::shapeOf(const vrx::ExcBlock& block) const
+{
+    return block.isPart() ? shapeOf(m_blocks(static_cast<int>(block.id()))) : TopoDS_Shape();
+}
+
+// The document's own shape of a product holds the hidden components too.
+TopoDS_Shape ProductStructureBuilder::shapeOf(const TDF_Label& product) const
+{
+    if (isPart(product) || m_settings.hiddenParts != vrx::EHiddenPartsMode::DoNotImport)
+    {
+        return XCAFDoc_ShapeTool::GetShape(product);
+    }
+    TopoDS_Compound compound;
+    BRep_Builder().MakeCompound(compound);
+    for (const TDF_Label& component : component_labels::of(product))
+    {
+        const TopoDS_Shape shape =
+            isLeftOut(component) ? TopoDS_Shape() : shapeOf(component_labels::referred(component));
+        if (!shape.IsNull())
+        {
+            BRep_Builder().Add(compound, shape.Moved(XCAFDoc_ShapeTool::GetLocation(component)));
+        }
+    }
+    return compound;
 }
 
 void ProductStructureBuilder::addRoot(const TDF_Label& label)
 {
     const std::shared_ptr<vrx::ExcBlockReference> root = reference(label);
-    root->setName(nameOf(referred(label)));
+    root->setName(nameOf(component_labels::referred(label)));
     m_structure->addRootBlockReference(root);
 }
 
@@ -133,7 +171,7 @@ std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const TDF_Label& l
         addPartNumber(block->miscData(), product);
         m_properties.addTo(block->miscData(), product);
     }
-    block->setPart(isPart(label));
+    block->setPart(m_settings.structure == vrx::EProductStructureMode::None || isPart(label));
     const BlockContent content(label, ownShapes(label));
     if (block->isPart())
     {
@@ -142,21 +180,38 @@ std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const TDF_Label& l
     }
     else
     {
-        for (const TDF_Label& component : components(label))
+        for (const TDF_Label& component : component_labels::of(label))
         {
-            block->addBlockReference(reference(component));
+            if (!isLeftOut(component))
+            {
+                block->addBlockReference(reference(component));
+            }
         }
     }
     if (m_properties.hasMaterial(product))
     {
-        content.addMaterial(block->miscData());
+        addMaterial(*block, content.material());
     }
     return block;
 }
 
+void ProductStructureBuilder::addMaterial(vrx::ExcBlock& block, const std::optional<Material>& material)
+{
+    if (!material)
+    {
+        return;
+    }
+    m_materials[block.id()] = *material;
+    add(block.miscData(), property_names::kMaterial, vrx::ExcMiscProperty::EType::String, material->name);
+    if (material->density > 0)
+    {
+        add(block.miscData(), property_names::kDensity, material->density);
+    }
+}
+
 std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const TDF_Label& component)
 {
-    const TDF_Label target = referred(component);
+    const TDF_Label target = component_labels::referred(component);
     const BlockContent content(target, ownShapes(target));
 
     auto reference = std::make_shared<vrx::ExcBlockReference>();
@@ -166,8 +221,8 @@ std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const
 
     const vrx::ExcColor own = BlockContent::colorOf(component);
     reference->setColor(own.hasRGB() ? own : content.color());
-    const bool visible = XCAFDoc_DocumentTool::ColorTool(component)->IsVisible(component);
-    reference->setHidden(!visible || !content.isVisible());
+    reference->setHidden(m_settings.hiddenParts != vrx::EHiddenPartsMode::ImportShow &&
+                         component_labels::isHidden(component));
 
     const Handle(StepRepr_NextAssemblyUsageOccurrence) usage = m_labels.usageOf(component);
     const bool isNamed =
@@ -192,9 +247,9 @@ std::vector<TDF_Label> ProductStructureBuilder::ownShapes(const TDF_Label& label
     std::vector<TDF_Label> shapes;
     if (isPart(label))
     {
-        for (const TDF_Label& component : components(label))
+        for (const TDF_Label& component : component_labels::of(label))
         {
-            shapes.push_back(referred(component));
+            shapes.push_back(component_labels::referred(component));
         }
     }
     return shapes;
@@ -206,8 +261,13 @@ bool ProductStructureBuilder::isPart(const TDF_Label& label) const
     {
         return !XCAFDoc_ShapeTool::IsAssembly(label);
     }
-    const std::vector<TDF_Label> all = components(label);
+    const std::vector<TDF_Label> all = component_labels::of(label);
     return std::none_of(all.begin(), all.end(), [this](const TDF_Label& component) {
-        return !m_labels.productOf(referred(component)).IsNull();
+        return !m_labels.productOf(component_labels::referred(component)).IsNull();
     });
+}
+
+bool ProductStructureBuilder::isLeftOut(const TDF_Label& component) const
+{
+    return m_settings.hiddenParts == vrx::EHiddenPartsMode::DoNotImport && component_labels::isHidden(component);
 }

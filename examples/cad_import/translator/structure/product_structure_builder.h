@@ -1,40 +1,56 @@
 #pragma once
 
 #include "reading/step_labels.h"
+#include "structure/block_content.h"
 #include "structure/file_properties.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <TDF_LabelIndexedMap.hxx>
+#include <TopoDS_Shape.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 
 #include <cstdint>
+#include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 struct CadModel;
+struct ImportSettings;
 
 /// Turns an XDE document into the product structure: each product once as a block, each usage as a reference.
 class ProductStructureBuilder
 {
 public:
-    explicit ProductStructureBuilder(const CadModel& model);
+    ProductStructureBuilder(const CadModel& model, const ImportSettings& settings);
 
     std::shared_ptr<vrx::ExcProductStructure> build();
 
     /// The labels of the blocks that were built. The id of a block is the index of its label.
     const TDF_LabelIndexedMap& blocks() const { return m_blocks; }
 
+    /// All that a block shows, in the block's coordinates; null for an assembly, which shows its components.
+    TopoDS_Shape shapeOf(const vrx::ExcBlock& block) const;
+
+    /// The materials of the blocks that have one, by the id of the block.
+    const std::map<std::uint64_t, Material>& materials() const { return m_materials; }
+
 private:
     void addRoot(const TDF_Label& label);
     std::shared_ptr<vrx::ExcBlock> block(const TDF_Label& label, std::uint64_t id);
     std::shared_ptr<vrx::ExcBlockReference> reference(const TDF_Label& component);
+    void addMaterial(vrx::ExcBlock& block, const std::optional<Material>& material);
     std::uint64_t blockId(const TDF_Label& label);
     std::vector<TDF_Label> ownShapes(const TDF_Label& label) const;
     bool isPart(const TDF_Label& label) const;
+    bool isLeftOut(const TDF_Label& component) const;
+    TopoDS_Shape shapeOf(const TDF_Label& product) const;
 
     const CadModel& m_model;
+    const ImportSettings& m_settings;
     StepLabels m_labels;
     FileProperties m_properties;
     std::shared_ptr<vrx::ExcProductStructure> m_structure;
     TDF_LabelIndexedMap m_blocks;
+    std::map<std::uint64_t, Material> m_materials;
 };

@@ -1,0 +1,211 @@
+#include "format_settings.h"
+
+#include "mp/narrow.h"
+#include "usage_error.h"
+#include "vrx_api/json/json_value.h"
+#include "vrx_api/vrx_api_exchange_object.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+
+namespace
+{
+
+template <class Options>
+std::shared_ptr<vrx::IFormatOptions> newOptions()
+{
+    return std::make_shared<Options>();
+}
+
+const FormatSettings* settingsFor(const std::string& file)
+{
+    std::string extension = std::filesystem::path(file).extension().string();
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    for (const FormatSettings& format : formatSettings())
+    {
+        for (const std::string_view known : format.extensions)
+        {
+            if (extension.size() == known.size() + 1 && extension.substr(1) == known)
+            {
+                return &format;
+            }
+        }
+    }
+    return nullptr;
+}
+
+const Setting* find(const std::vector<Setting>& settings, const std::string& name)
+{
+    const auto found = std::find_if(settings.begin(), settings.end(),
+                                    [&name](const Setting& setting) { return setting.name == name; });
+    return found != settings.end() ? &*found : nullptr;
+}
+
+template <class Item, class Text>
+std::string listed(const std::vector<Item>& items, Text text)
+{
+    std::string list;
+    for (const Item& item : items)
+    {
+        list += (list.empty() ? "" : ", ") + std::string(text(item));
+    }
+    return list;
+}
+
+UsageError wrongValue(const Setting& setting)
+{
+    return UsageError(std::string(setting.name) + " takes " +
+                      listed(setting.values, [](std::string_view value) { return value; }));
+}
+
+vrx::JsonValue text(std::string_view narrow, vrx::JsonAllocator& allocator)
+{
+    const mp::wstring wide = mp::toWide(narrow);
+    return {wide.data(), static_cast<rapidjson::SizeType>(wide.size()), allocator};
+}
+
+// Sets a member of an object; the class that reads the object decides what it takes. It writes back what it took, but
+// for a flag that is false.
+void set(vrx::IJsonObject& options, const Setting& setting, const std::string& value)
+{
+    const bool isFlag = setting.kind == Setting::EKind::Flag;
+    if (isFlag && value != "true" && value != "false")
+    {
+        throw wrongValue(setting);
+    }
+    vrx::JsonDocument document;
+    vrx::JsonAllocator& allocator = document.GetAllocator();
+    options.writeObject(document, allocator);
+    vrx::JsonValue name = text(setting.name, allocator);
+    const vrx::JsonValue given = isFlag ? vrx::JsonValue(value == "true") : text(value, allocator);
+    document.RemoveMember(name);
+    document.AddMember(name, vrx::JsonValue(given, allocator), allocator);
+    options.readObject(document);
+
+    vrx::JsonDocument written;
+    options.writeObject(written, written.GetAllocator());
+    const auto member = written.FindMember(text(setting.name, written.GetAllocator()));
+    if (member != written.MemberEnd() ? member->value != given : !given.IsFalse())
+    {
+        throw wrongValue(setting);
+    }
+}
+
+void setLegacy(vrx::LegacyImportOptions& options, const Setting& setting, const std::string& value)
+{
+    if (setting.kind != Setting::EKind::Paths)
+    {
+        set(options, setting, value);
+        return;
+    }
+    const std::size_t sign = value.find('=');
+    if (sign == 0 || sign >= value.size() - 1)
+    {
+        throw wrongValue(setting);
+    }
+    options.setAlternateSearchPath(mp::toWide(value.substr(0, sign)), mp::toWide(value.substr(sign + 1)));
+}
+
+// `legacy` holds the other settings that could have been given.
+void setFormat(vrx::ImportOptions& options, const std::string& file, const std::vector<GivenSetting>& given,
+               const std::vector<Setting>& legacy)
+{
+    if (given.empty())
+    {
+        return;
+    }
+    const FormatSettings* const format = settingsFor(file);
+    if (format == nullptr && legacy.empty())
+    {
+        throw UsageError("there are no settings for files like " + file + ", only for those of " +
+                         listed(formatSettings(), [](const FormatSettings& known) { return known.format; }));
+    }
+    std::vector<Setting> all = format != nullptr ? format->settings : std::vector<Setting>();
+    all.insert(all.end(), legacy.begin(), legacy.end());
+    const auto ofFormat = format != nullptr ? format->newOptions() : nullptr;
+    for (const auto& [name, value] : given)
+    {
+        const Setting* const setting = format != nullptr ? find(format->settings, name) : nullptr;
+        if (setting == nullptr)
+        {
+            throw UsageError("there is no setting " + name + " for files like " + file + ", there are " +
+                             listed(all, [](const Setting& known) { return known.name; }));
+        }
+        set(*ofFormat, *setting, value);
+    }
+    options.setFormatOptions(ofFormat);
+}
+
+} // namespace
+
+const std::vector<FormatSettings>& formatSettings()
+{
+    static const std::vector<FormatSettings> kFormats = {
+        {"STEP",
+         {"stp", "step", "p21"},
+         newOptions<vrx::imp::OptionsSTEP>,
+         {{"layer_name_mode", {"unknown", "asm_rep", "saved_visu_rep"}},
+          {"visu_pmi_mode", {"unknown", "all", "none"}}}},
+        {"IGES",
+         {"igs", "iges"},
+         newOptions<vrx::imp::OptionsIGES>,
+         {{"import_entities", {"unknown", "root_only", "root_and_nonroot"}},
+          {"hidden_entities_mode", {"unknown", "all", "none", "only_with_visible_links"}}}},
+    };
+    return kFormats;
+}
+
+const std::vector<Setting>& legacySettings()
+{
+    using EKind = Setting::EKind;
+    static const std::vector<Setting> kSettings = {
+        {"use_interop_mp", {"true", "false"}, EKind::Flag},
+        {"pmi_mode", {"none", "graphical", "semantic"}},
+        {"product_structure_mode", {"none", "as_blocks", "as_mechanical_components"}},
+        {"colors_mode", {"rgb", "matching_index", "nearest_index"}},
+        {"hidden_parts_mode", {"import_hide", "import_show", "do_not_import"}},
+        {"ins_units_def_source",
+         {"unknown", "inches", "feet", "miles", "millimeters", "centimeters", "meters", "kilometers", "microinches",
+          "nanometers", "microns", "decimeters"}},
+        {"ins_units_scaling", {"true", "false"}, EKind::Flag},
+        {"import_acis_with_draftwell", {"true", "false"}, EKind::Flag},
+        {"step_rotate_yz", {"true", "false"}, EKind::Flag},
+        {"solidworks_rotate_yz", {"true", "false"}, EKind::Flag},
+        {"alternate_search_paths", {"KEY=PATH"}, EKind::Paths},
+        {"debug_log", {"true", "false"}, EKind::Flag},
+    };
+    return kSettings;
+}
+
+std::shared_ptr<vrx::ImportOptions> importOptions(const std::string& file, const std::vector<GivenSetting>& given)
+{
+    std::shared_ptr<vrx::ImportOptions> options = vrx::Command::newImportOptions();
+    options->setFile(mp::toWide(file));
+    setFormat(*options, file, given, {});
+    return options;
+}
+
+std::shared_ptr<vrx::LegacyImportOptions> legacyImportOptions(const std::string& file,
+                                                              const std::vector<GivenSetting>& given)
+{
+    std::shared_ptr<vrx::LegacyImportOptions> options = vrx::Command::newLegacyImportOptions();
+    options->setFile(mp::toWide(file));
+    const std::string drawing = mp::toNarrow(vrx::IExchangeObject::generateUUID()) + ".dwg";
+    options->setTemporaryDwg(mp::toWide((std::filesystem::temp_directory_path() / drawing).string()));
+    std::vector<GivenSetting> ofFormat;
+    for (const auto& [name, value] : given)
+    {
+        if (const Setting* const setting = find(legacySettings(), name))
+        {
+            setLegacy(*options, *setting, value);
+        }
+        else
+        {
+            ofFormat.emplace_back(name, value);
+        }
+    }
+    setFormat(*options, file, ofFormat, legacySettings());
+    return options;
+}

@@ -1,0 +1,298 @@
+#include "acis_kernel/acis_kernel.h"
+#include "common/color_index.h"
+#include "host/product_tree.h"
+#include "imported.h"
+#include "mp/narrow.h"
+#include "vrx_api/vrx_api_format_options.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+
+std::shared_ptr<vrx::LegacyImportOptions> defaults()
+{
+    return vrx::Command::newLegacyImportOptions();
+}
+
+// The names in the product tree, each behind a space for each level.
+std::vector<std::string> treeOf(const vrx::ExcProductStructure& structure)
+{
+    std::vector<std::string> lines;
+    for (const ProductTreeNode& node : productTree(structure, ESiblings::Separate))
+    {
+        const vrx::ExcBlockReference& reference = *node.references.front();
+        lines.push_back(std::string(node.depth, ' ') + mp::toNarrow(reference.name()) +
+                        (reference.isHidden() ? ", hidden" : ""));
+    }
+    return lines;
+}
+
+// The nodes of the bodies in a block's scene.
+std::vector<std::shared_ptr<vrx::ExcVisuNode>> bodyNodes(const vrx::ExcBlockVisualization& scene)
+{
+    const auto root = scene.visualizationData()->sceneRootNodes().at(0);
+    return root->childNodes().at(0)->childNodes().at(0)->childNodes();
+}
+
+bool isHidden(const vrx::ExcVisuNode& node)
+{
+    return node.attributes() && node.attributes()->isHidden();
+}
+
+// The names of the blocks that have bodies, and of those that have scenes, are the same.
+std::vector<std::string> shownBlocks(const Imported& imported)
+{
+    std::vector<std::string> names;
+    for (const auto& block : imported.structure->blocks())
+    {
+        const bool shown = imported.scenes.count(block->id()) > 0;
+        EXPECT_EQ(shown, block->isPart());
+        if (shown)
+        {
+            names.push_back(mp::toNarrow(block->name()));
+        }
+    }
+    EXPECT_EQ(imported.scenes.size(), names.size());
+    EXPECT_EQ(imported.bodies.size(), imported.structure->blocks().size());
+    return names;
+}
+
+Imported importCart(vrx::EHiddenPartsMode hidden,
+                    vrx::EProductStructureMode structure = vrx::EProductStructureMode::AsMechanicalComponents)
+{
+    const auto options = defaults();
+    options->setHiddenPartsMode(hidden);
+    options->setProductStructureMode(structure);
+    return importFile(CART, options);
+}
+
+TEST(Legacy, NamesComponentsAndTheirMaterials)
+{
+    const Imported imported = importFile(BENCH_VISE, defaults());
+    ASSERT_EQ(imported.result.code(), vrx::Result::ECode::Ok);
+    ASSERT_NE(imported.names, nullptr);
+    ASSERT_NE(imported.materials, nullptr);
+
+    const std::map<OdDbHandle, mp::wstring>& names = imported.names->map();
+    std::size_t references = imported.structure->rootBlockReferences().size();
+    for (const auto& block : imported.structure->blocks())
+    {
+        references += block->blockReferences().size();
+    }
+    ASSERT_EQ(names.size(), references);
+    // The root, its ten components, and those of the next block that has any.
+    EXPECT_THAT(*names.begin(), Pair(OdDbHandle(1), WIDE("bench vise")));
+    EXPECT_EQ(names.at(OdDbHandle(2)), WIDE("base"));
+    EXPECT_EQ(names.at(OdDbHandle(3)), WIDE("fixed jaw"));
+    EXPECT_EQ(names.at(OdDbHandle(12)), WIDE("jaw"));
+
+    const auto& materials = imported.materials->map();
+    ASSERT_EQ(materials.size(), references);
+    EXPECT_FALSE(materials.at(OdDbHandle(1)).hasMaterial);
+    const vrx::LegacyMaterialMap::Material& base = materials.at(OdDbHandle(2));
+    EXPECT_TRUE(base.hasMaterial);
+    EXPECT_EQ(base.name, WIDE("EN-GJL-250"));
+    EXPECT_DOUBLE_EQ(base.density, 7.2);
+    EXPECT_EQ(base.thermalConductivity, 0);
+}
+
+TEST(Legacy, BringsPmiAsTheModeSays)
+{
+    const auto options = defaults();
+    const Imported graphical = importFile(MOVED_NOTE, options);
+    ASSERT_NE(graphical.root, nullptr);
+    EXPECT_EQ(graphical.root->visualizationData()->views().size(), 1U);
+    EXPECT_EQ(graphical.root->visualizationData()->sceneRootNodes().size(), 1U);
+    EXPECT_THAT(graphical.messages, ElementsAre(mp::toWide("The file holds PMI: dimensions 1, tolerances 0, datum "
+                                                           "uses 0, saved views 1.")));
+
+    options->setPmiMode(vrx::EPmiMode::Semantic);
+    const Imported semantic = importFile(MOVED_NOTE, options);
+    EXPECT_EQ(semantic.root, nullptr);
+    EXPECT_EQ(semantic.messages, graphical.messages);
+
+    options->setPmiMode(vrx::EPmiMode::None);
+    const Imported none = importFile(MOVED_NOTE, options);
+    EXPECT_EQ(none.root, nullptr);
+    EXPECT_THAT(none.messages, IsEmpty());
+    EXPECT_EQ(none.scenes.size(), 1U);
+}
+
+TEST(Legacy, LeavesPmiOutWhenTheSettingsOfTheFormatSaySo)
+{
+    const auto options = defaults();
+    const auto step = std::make_shared<vrx::imp::OptionsSTEP>();
+    step->setVisuPMIProcessingMode(vrx::EVisuPMIProcessingMode::None);
+    options->setFormatOptions(step);
+    EXPECT_THAT(importFile(MOVED_NOTE, options).messages, IsEmpty());
+}
+
+TEST(Legacy, BringsBlocksWithoutPropertiesAndMaps)
+{
+    const auto options = defaults();
+    const Imported components = importFile(BENCH_VISE, options);
+    options->setProductStructureMode(vrx::EProductStructureMode::AsBlocks);
+    const Imported blocks = importFile(BENCH_VISE, options);
+    EXPECT_EQ(treeOf(*blocks.structure), treeOf(*components.structure));
+    EXPECT_EQ(blocks.scenes.size(), components.scenes.size());
+    EXPECT_FALSE(components.structure->miscData().isEmpty());
+    EXPECT_TRUE(blocks.structure->miscData().isEmpty());
+    EXPECT_FALSE(components.structure->blocks().at(0)->miscData().isEmpty());
+    for (const auto& block : blocks.structure->blocks())
+    {
+        EXPECT_TRUE(block->miscData().isEmpty()) << mp::toNarrow(block->name());
+    }
+    EXPECT_EQ(blocks.names, nullptr);
+    EXPECT_EQ(blocks.materials, nullptr);
+}
+
+TEST(Legacy, BringsOneBlockWithAllShapesInPlace)
+{
+    const Imported imported = importCart(vrx::EHiddenPartsMode::ImportHide, vrx::EProductStructureMode::None);
+    EXPECT_THAT(treeOf(*imported.structure), ElementsAre("cart"));
+    EXPECT_THAT(shownBlocks(imported), ElementsAre("cart"));
+    EXPECT_TRUE(imported.structure->blocks().at(0)->miscData().isEmpty());
+    EXPECT_EQ(imported.names, nullptr);
+
+    ENTITY_LIST bodies;
+    std::vector<std::uint64_t> ids;
+    ASSERT_TRUE(imported.bodies.begin()->second->getGeometry(bodies, ids));
+    EXPECT_EQ(ids.size(), 7U);
+
+    // Where each ball stands along x, which says which one it is, and what it looks like.
+    std::map<int, std::string> looks;
+    for (const auto& node : bodyNodes(*imported.scenes.begin()->second))
+    {
+        float low = 1000;
+        float high = -1000;
+        for (const auto& face : node->mesh()->faces())
+        {
+            for (std::size_t i = 0; i < face->vertices().size(); i += 3)
+            {
+                low = std::min(low, face->vertices()[i]);
+                high = std::max(high, face->vertices()[i]);
+            }
+        }
+        ASSERT_NE(node->attributes(), nullptr);
+        const vrx::ExcColor& color = *node->attributes()->color();
+        looks[static_cast<int>((low + high) / 2 + 0.5F)] =
+            std::to_string(color[vrx::ExcColor::ChannelRed]) + (isHidden(*node) ? " hidden" : "");
+    }
+    EXPECT_THAT(looks, ElementsAre(Pair(10, "255"), Pair(20, "255 hidden"), Pair(40, "255"), Pair(60, "250 hidden"),
+                                   Pair(80, "0 hidden"), Pair(90, "255"), Pair(100, "0 hidden")));
+}
+
+TEST(Legacy, SendsHiddenPartsAsTheModeSays)
+{
+    const Imported hide = importCart(vrx::EHiddenPartsMode::ImportHide);
+    EXPECT_THAT(treeOf(*hide.structure),
+                ElementsAre("cart", " left ball", " right ball, hidden", " painted ball", " lid, hidden", " wagon",
+                            "  front wheel, hidden", "  load", " spare wheel, hidden"));
+
+    const Imported show = importCart(vrx::EHiddenPartsMode::ImportShow);
+    EXPECT_THAT(treeOf(*show.structure), ElementsAre("cart", " left ball", " right ball", " painted ball", " lid",
+                                                     " wagon", "  front wheel", "  load", " spare wheel"));
+    EXPECT_THAT(shownBlocks(show), ElementsAre("ball", "lid", "wheel"));
+
+    const Imported leave = importCart(vrx::EHiddenPartsMode::DoNotImport);
+    EXPECT_THAT(treeOf(*leave.structure), ElementsAre("cart", " left ball", " painted ball", " wagon", "  load"));
+    EXPECT_THAT(shownBlocks(leave), ElementsAre("ball"));
+    EXPECT_EQ(leave.structure->blocks().size(), 3U);
+    EXPECT_EQ(leave.names->map().size(), 5U);
+}
+
+TEST(Legacy, SendsHiddenShapesOfOneBlockAsTheModeSays)
+{
+    const auto none = vrx::EProductStructureMode::None;
+    const Imported show = importCart(vrx::EHiddenPartsMode::ImportShow, none);
+    const auto shown = bodyNodes(*show.scenes.begin()->second);
+    EXPECT_EQ(shown.size(), 7U);
+    EXPECT_TRUE(std::none_of(shown.begin(), shown.end(), [](const auto& node) { return isHidden(*node); }));
+
+    const Imported leave = importCart(vrx::EHiddenPartsMode::DoNotImport, none);
+    EXPECT_EQ(bodyNodes(*leave.scenes.begin()->second).size(), 3U);
+    ENTITY_LIST bodies;
+    std::vector<std::uint64_t> ids;
+    ASSERT_TRUE(leave.bodies.begin()->second->getGeometry(bodies, ids));
+    EXPECT_EQ(ids.size(), 3U);
+}
+
+// The colours of the references and of the block scenes.
+std::set<std::vector<int>> colorsOf(const Imported& imported)
+{
+    std::set<std::vector<int>> colors;
+    const auto insert = [&colors](const vrx::ExcColor& color) {
+        colors.insert(
+            {color[vrx::ExcColor::ChannelRed], color[vrx::ExcColor::ChannelGreen], color[vrx::ExcColor::ChannelBlue]});
+    };
+    for (const auto& block : imported.structure->blocks())
+    {
+        for (const auto& reference : block->blockReferences())
+        {
+            if (reference->color().hasRGB())
+            {
+                insert(reference->color());
+            }
+        }
+    }
+    for (const auto& [id, scene] : imported.scenes)
+    {
+        insert(*scene->visualizationData()->sceneRootNodes().at(0)->attributes()->color());
+    }
+    return colors;
+}
+
+TEST(Legacy, SendsColorsAsTheModeSays)
+{
+    using Colors = std::set<std::vector<int>>;
+    const auto options = defaults();
+    for (const vrx::EColorsMode mode : {vrx::EColorsMode::Rgb, vrx::EColorsMode::MatchingIndex})
+    {
+        options->setColorsMode(mode);
+        EXPECT_EQ(colorsOf(importFile(CART, options)),
+                  (Colors{{0, 90, 200}, {250, 5, 5}, {255, 0, 0}, {255, 255, 127}}));
+    }
+    options->setColorsMode(vrx::EColorsMode::NearestIndex);
+    EXPECT_EQ(colorsOf(importFile(CART, options)), (Colors{{0, 82, 165}, {255, 0, 0}, {255, 255, 127}}));
+}
+
+TEST(ColorIndex, HasTheColorsOfDrawings)
+{
+    const std::map<int, std::vector<int>> known = {{1, {255, 0, 0}},       {7, {255, 255, 255}},  {8, {128, 128, 128}},
+                                                   {11, {255, 127, 127}},  {22, {165, 41, 0}},    {33, {165, 124, 82}},
+                                                   {54, {127, 127, 0}},    {76, {38, 76, 0}},     {98, {0, 38, 0}},
+                                                   {151, {127, 191, 255}}, {175, {63, 63, 127}},  {197, {57, 38, 76}},
+                                                   {219, {38, 19, 38}},    {240, {255, 0, 63}},   {249, {38, 19, 23}},
+                                                   {250, {51, 51, 51}},    {255, {255, 255, 255}}};
+    for (const auto& [index, rgb] : known)
+    {
+        const vrx::ExcColor color = color_index::color(index);
+        EXPECT_THAT(rgb, ElementsAre(color[vrx::ExcColor::ChannelRed], color[vrx::ExcColor::ChannelGreen],
+                                     color[vrx::ExcColor::ChannelBlue]))
+            << index;
+    }
+}
+
+TEST(ColorIndex, FindsTheLowestIndex)
+{
+    EXPECT_EQ(color_index::matching(color_index::color(255)), 7);
+    EXPECT_EQ(color_index::matching(color_index::color(11)), 11);
+    EXPECT_EQ(color_index::matching(vrx::ExcColor(254, 0, 0)), 0);
+    EXPECT_EQ(color_index::matching(vrx::ExcColor()), 0);
+    EXPECT_EQ(color_index::nearest(vrx::ExcColor(254, 0, 0)), 1);
+    EXPECT_EQ(color_index::nearest(vrx::ExcColor(65535, 0, 0)), 1);
+    EXPECT_EQ(color_index::nearest(vrx::ExcColor(130, 131, 129)), 8);
+}
+
+} // namespace
