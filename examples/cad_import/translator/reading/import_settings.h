@@ -13,11 +13,11 @@ struct ImportSettings
     // of STEP files
     bool layers = true;
     bool pmi = true;
+    bool drawnPmi = true; // where there is PMI: its drawn annotations and saved views
 
     // of IGES files
     vrx::ETranslateHiddenEntitiesModeType hidden = vrx::ETranslateHiddenEntitiesModeType::All; // never Unknown
     bool nonroots = false; // the entities that belong logically to others also by themselves
-    bool drawnPmi = true; // where there is PMI: its drawn annotations and saved views
 
     // of the older interface; otherwise as here
     vrx::EProductStructureMode structure = vrx::EProductStructureMode::AsMechanicalComponents;
