@@ -23,6 +23,13 @@
 /// - "colors_mode": colours always travel as red, green and blue. With "matching_index" those that have a colour index
 ///   of drawings (see color_index.h) mean that index; with "nearest_index" each colour is sent as the nearest one that
 ///   has an index; with "rgb" they mean no index. The alpha is sent in all of them.
+/// - "ins_units_def_source" with "ins_units_scaling": the whole model is scaled to this unit: transformations, bodies,
+///   scenes, and the lengths, areas and volumes among the properties; a file that names no unit is in millimetres then.
+/// - "ins_units_def_source" without "ins_units_scaling": the unit of a file that names none, whose numbers are sent as
+///   they are. Otherwise it has no effect: a model is sent in millimetres.
+/// - "step_rotate_yz": the Y axis of a STEP file becomes the Z axis: the block references at the top and the scene of
+/// the
+///   product as a whole are turned by 90 degrees around X.
 /// - "hidden_parts_mode": "import_hide" sends hidden components and shapes hidden; "import_show" sends nothing hidden;
 ///   "do_not_import" does not send hidden components, nor the blocks that only these use, but still sends the hidden
 ///   shapes within a part.

@@ -2,6 +2,7 @@
 
 #include "looks/block_scene.h"
 #include "looks/palette_colors.h"
+#include "looks/placed_scene.h"
 #include "looks/scene_nodes.h"
 #include "pmi/annotation_scene.h"
 #include "pmi/saved_views.h"
@@ -36,6 +37,7 @@ std::shared_ptr<vrx::ExcRootAssemblyVisualization> VisualizationBuilder::root() 
         rootNode->addChildNode(annotations);
         data->addSceneRootNode(rootNode);
     }
+    placeScene(*data, m_blocks.frame());
     if (data->views().empty() && data->sceneRootNodes().empty())
     {
         return nullptr;
@@ -56,6 +58,7 @@ std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vr
     const auto data = std::make_shared<vrx::ExcVisualizationData>();
     data->setUnits(m_structure.units());
     data->addSceneRootNode(scene);
+    scaleScene(*data, m_blocks.frame());
     if (m_settings.paletteColors)
     {
         palette_colors::apply(*data);

@@ -12,6 +12,7 @@ struct CadModel
     std::string path;
     Handle(TDocStd_Document) document;
     std::unique_ptr<STEPCAFControl_Reader> reader;
+    bool namesUnit = true; // of lengths
     /// For the user, when parts of the file could not be read and the model may be incomplete; otherwise empty.
     std::string warning;
 };

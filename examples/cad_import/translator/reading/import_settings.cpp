@@ -33,6 +33,9 @@ ImportSettings settingsOf(const vrx::LegacyImportOptions& options)
     settings.drawnPmi = options.pmiMode() == vrx::EPmiMode::Graphical;
     settings.structure = options.productStructureMode();
     settings.hiddenParts = options.hiddenPartsMode();
+    settings.units = options.insUnitsDefSource();
+    settings.scaled = options.insUnitsScaling();
+    settings.turnStep = options.stepRotateYZ();
     settings.paletteColors = options.colorsMode() == vrx::EColorsMode::NearestIndex;
     settings.componentMaps = settings.structure == vrx::EProductStructureMode::AsMechanicalComponents;
     return settings;

@@ -16,6 +16,9 @@ struct ImportSettings
     // of the older interface; otherwise as here
     vrx::EProductStructureMode structure = vrx::EProductStructureMode::AsMechanicalComponents;
     vrx::EHiddenPartsMode hiddenParts = vrx::EHiddenPartsMode::ImportHide;
+    vrx::EInsUnits units = vrx::EInsUnits::Unknown; // of a file that names none; when scaled, those to scale to
+    bool scaled = false;
+    bool turnStep = false;      // the Y axis of a STEP file to Z
     bool paletteColors = false; // the nearest colours that have a colour index
     bool componentMaps = false; // the names and materials of components by their handles
 };

@@ -17,6 +17,7 @@
 #include <StepGeom_Point.hxx>
 #include <StepGeom_Surface.hxx>
 #include <StepShape_TopologicalRepresentationItem.hxx>
+#include <TColStd_SequenceOfAsciiString.hxx>
 #include <TDF_LabelSequence.hxx>
 #include <XCAFApp_Application.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
@@ -126,6 +127,15 @@ void read(STEPCAFControl_Reader& reader, const std::string& path, ImportProgress
     }
 }
 
+bool namesUnit(STEPControl_Reader& reader)
+{
+    TColStd_SequenceOfAsciiString lengths;
+    TColStd_SequenceOfAsciiString angles;
+    TColStd_SequenceOfAsciiString solidAngles;
+    reader.FileUnits(lengths, angles, solidAngles);
+    return !lengths.IsEmpty();
+}
+
 // Damage that may cost geometry. What the kernel does not know of other data, PMI above all, is no damage.
 std::string damage(const Interface_InterfaceModel& entities)
 {
@@ -180,6 +190,7 @@ CadModel readStep(const ImportSettings& settings, HostChannel& channel, ImportPr
     }
     read(*model.reader, path, progress);
     const Handle(Interface_InterfaceModel) entities = session->Model();
+    model.namesUnit = namesUnit(model.reader->ChangeReader());
     model.warning = damage(*entities);
     if (settings.pmi)
     {

@@ -3,6 +3,7 @@
 #include "reading/step_labels.h"
 #include "structure/block_content.h"
 #include "structure/file_properties.h"
+#include "structure/model_frame.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <TDF_LabelIndexedMap.hxx>
@@ -29,7 +30,10 @@ public:
     /// The labels of the blocks that were built. The id of a block is the index of its label.
     const TDF_LabelIndexedMap& blocks() const { return m_blocks; }
 
-    /// All that a block shows, in the block's coordinates; null for an assembly, which shows its components.
+    const ModelFrame& frame() const { return m_frame; }
+
+    /// All that a block shows, in the block's coordinates of the document; null for an assembly, which shows its
+    /// components.
     TopoDS_Shape shapeOf(const vrx::ExcBlock& block) const;
 
     /// The materials of the blocks that have one, by the id of the block.
@@ -48,6 +52,7 @@ private:
 
     const CadModel& m_model;
     const ImportSettings& m_settings;
+    ModelFrame m_frame;
     StepLabels m_labels;
     FileProperties m_properties;
     std::shared_ptr<vrx::ExcProductStructure> m_structure;
