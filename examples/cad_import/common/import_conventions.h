@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mp/wide.h"
+
 /// What the settings of an import do in this translator.
 ///
 /// Settings for STEP files:
@@ -33,3 +35,12 @@
 /// - "hidden_parts_mode": "import_hide" sends hidden components and shapes hidden; "import_show" sends nothing hidden;
 ///   "do_not_import" does not send hidden components, nor the blocks that only these use, but still sends the hidden
 ///   shapes within a part.
+/// - "alternate_search_paths": under the key "files" a folder. A file that is not where the command says is looked for
+///   there by its name, and so are the files to which a STEP assembly refers when they are not beside it; but not those
+///   to which these refer in their turn.
+namespace import_conventions
+{
+
+inline const mp::wchar* const kFiles = WIDE("files");
+
+} // namespace import_conventions

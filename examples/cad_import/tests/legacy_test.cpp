@@ -1,5 +1,7 @@
 #include "acis_kernel/acis_kernel.h"
 #include "common/color_index.h"
+#include "common/import_conventions.h"
+#include "common/property_names.h"
 #include "host/product_tree.h"
 #include "imported.h"
 #include "mp/narrow.h"
@@ -428,6 +430,24 @@ TEST(Legacy, TakesTheUnitForAFileThatNamesNone)
         const auto& components = imported->structure->blocks().at(0)->blockReferences();
         EXPECT_THAT(numbersOf(components.at(0)->transformation().translation()), near({10, 1, 2}));
     }
+}
+
+TEST(Legacy, LooksForFilesInTheSearchFolder)
+{
+    const auto folder = std::filesystem::path(TWO_FILES).parent_path();
+    const std::string missing = (folder / "missing" / "cart.step").string();
+    EXPECT_EQ(importFile(missing, defaults()).result.code(), vrx::Result::ECode::Error);
+    const auto options = defaults();
+    options->setAlternateSearchPath(import_conventions::kFiles, mp::toWide(folder.string()));
+    EXPECT_EQ(importFile(missing, options).result.code(), vrx::Result::ECode::Ok);
+
+    // The file of the balls is in the folder "elsewhere" beside that of the cart.
+    const auto ballFaces = [](const Imported& imported) {
+        return number(imported.structure->blocks().at(1)->miscData(), property_names::kFaces);
+    };
+    EXPECT_EQ(ballFaces(importFile(TWO_FILES, options)), 0);
+    options->setAlternateSearchPath(import_conventions::kFiles, mp::toWide((folder / "elsewhere").string()));
+    EXPECT_EQ(ballFaces(importFile(TWO_FILES, options)), 1);
 }
 
 TEST(ColorIndex, HasTheColorsOfDrawings)

@@ -1,5 +1,6 @@
 #include "reading/import_settings.h"
 
+#include "common/import_conventions.h"
 #include "mp/narrow.h"
 #include "vrx_api/vrx_api_format_options.h"
 
@@ -33,6 +34,7 @@ ImportSettings settingsOf(const vrx::LegacyImportOptions& options)
     settings.drawnPmi = options.pmiMode() == vrx::EPmiMode::Graphical;
     settings.structure = options.productStructureMode();
     settings.hiddenParts = options.hiddenPartsMode();
+    settings.searchFolder = mp::toNarrow(options.alternateSearchPath(import_conventions::kFiles));
     settings.units = options.insUnitsDefSource();
     settings.scaled = options.insUnitsScaling();
     settings.turnStep = options.stepRotateYZ();

@@ -16,6 +16,7 @@ struct ImportSettings
     // of the older interface; otherwise as here
     vrx::EProductStructureMode structure = vrx::EProductStructureMode::AsMechanicalComponents;
     vrx::EHiddenPartsMode hiddenParts = vrx::EHiddenPartsMode::ImportHide;
+    std::string searchFolder;                       // for files that are not where they should be; may be empty
     vrx::EInsUnits units = vrx::EInsUnits::Unknown; // of a file that names none; when scaled, those to scale to
     bool scaled = false;
     bool turnStep = false;      // the Y axis of a STEP file to Z

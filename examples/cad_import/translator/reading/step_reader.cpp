@@ -4,6 +4,7 @@
 #include "kernel/kernel_messages.h"
 #include "reading/counting_buffer.h"
 #include "reading/import_settings.h"
+#include "reading/search_folder.h"
 #include "reading/taught_entities.h"
 #include "reading/tessellated_annotations.h"
 #include "translation_error.h"
@@ -166,7 +167,7 @@ std::string damage(const Interface_InterfaceModel& entities)
 
 CadModel readStep(const ImportSettings& settings, HostChannel& channel, ImportProgress& progress)
 {
-    const std::string& path = settings.file;
+    const std::string path = fileToRead(settings);
     const Handle(KernelMessages) messages = new KernelMessages(channel);
     const MessageRedirection redirection(messages);
 
@@ -192,6 +193,7 @@ CadModel readStep(const ImportSettings& settings, HostChannel& channel, ImportPr
     const Handle(Interface_InterfaceModel) entities = session->Model();
     model.namesUnit = namesUnit(model.reader->ChangeReader());
     model.warning = damage(*entities);
+    findExternalFiles(*entities, path, settings);
     if (settings.pmi)
     {
         gatherTessellatedAnnotations(*entities);
