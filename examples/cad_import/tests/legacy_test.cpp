@@ -450,6 +450,16 @@ TEST(Legacy, LooksForFilesInTheSearchFolder)
     EXPECT_EQ(ballFaces(importFile(TWO_FILES, options)), 1);
 }
 
+TEST(Legacy, LogsTheKernelsDebugLines)
+{
+    const auto options = defaults();
+    EXPECT_THAT(importFile(CART, options).logs, IsEmpty());
+    options->setPrintDebugLog(true);
+    const Imported imported = importFile(CART, options);
+    EXPECT_TRUE(std::any_of(imported.logs.begin(), imported.logs.end(),
+                            [](const mp::wstring& line) { return line.find(WIDE("STEP File")) != mp::wstring::npos; }));
+}
+
 TEST(ColorIndex, HasTheColorsOfDrawings)
 {
     const std::map<int, std::vector<int>> known = {{1, {255, 0, 0}},       {7, {255, 255, 255}},  {8, {128, 128, 128}},

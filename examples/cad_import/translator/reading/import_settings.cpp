@@ -39,6 +39,7 @@ ImportSettings settingsOf(const vrx::LegacyImportOptions& options)
     settings.scaled = options.insUnitsScaling();
     settings.turnStep = options.stepRotateYZ();
     settings.paletteColors = options.colorsMode() == vrx::EColorsMode::NearestIndex;
+    settings.debugLog = options.printDebugLog();
     settings.componentMaps = settings.structure == vrx::EProductStructureMode::AsMechanicalComponents;
     return settings;
 }

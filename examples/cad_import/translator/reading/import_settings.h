@@ -21,6 +21,7 @@ struct ImportSettings
     bool scaled = false;
     bool turnStep = false;      // the Y axis of a STEP file to Z
     bool paletteColors = false; // the nearest colours that have a colour index
+    bool debugLog = false;      // the kernel's debug lines in the log
     bool componentMaps = false; // the names and materials of components by their handles
 };
 

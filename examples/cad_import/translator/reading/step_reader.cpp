@@ -168,7 +168,7 @@ std::string damage(const Interface_InterfaceModel& entities)
 CadModel readStep(const ImportSettings& settings, HostChannel& channel, ImportProgress& progress)
 {
     const std::string path = fileToRead(settings);
-    const Handle(KernelMessages) messages = new KernelMessages(channel);
+    const Handle(KernelMessages) messages = new KernelMessages(channel, settings.debugLog);
     const MessageRedirection redirection(messages);
 
     CadModel model;
