@@ -13,8 +13,7 @@
 /// Settings of the older interface, for files of all formats; those for the format count beside them:
 /// - "pmi_mode": "graphical" sends the drawn annotations and the saved views; "semantic" sends neither, but the message
 ///   still tells how much PMI the file holds; "none" does not read the PMI.
-/// - "product_structure_mode": "as_mechanical_components" sends all there is, with the names and materials of
-/// components
+/// - "product_structure_mode": "as_mechanical_components" sends all there is, and the names and materials of components
 ///   by their handles; "as_blocks" sends the same blocks and references without their free properties, names and
 ///   materials; "none" sends, as plainly, one part for each product at the top, with all its shapes in place.
 /// - "colors_mode": a colour travels as red, green and blue, in all modes with its alpha. "nearest_index" sends each as

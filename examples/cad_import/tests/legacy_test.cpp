@@ -1,5 +1,4 @@
 #include "acis_kernel/acis_kernel.h"
-#include "common/color_index.h"
 #include "common/import_conventions.h"
 #include "common/property_names.h"
 #include "host/product_tree.h"
@@ -193,7 +192,7 @@ TEST(Legacy, BringsOneBlockWithAllShapesInPlace)
         }
         ASSERT_NE(node->attributes(), nullptr);
         const vrx::ExcColor& color = *node->attributes()->color();
-        looks[static_cast<int>((low + high) / 2 + 0.5F)] =
+        looks[static_cast<int>(std::lround((low + high) / 2))] =
             std::to_string(color[vrx::ExcColor::ChannelRed]) + (isHidden(*node) ? " hidden" : "");
     }
     EXPECT_THAT(looks, ElementsAre(Pair(10, "255"), Pair(20, "255 hidden"), Pair(40, "255"), Pair(60, "250 hidden"),
@@ -288,6 +287,7 @@ std::vector<double> turned(const vrx::ExcVector3d& vector)
 testing::Matcher<std::vector<double>> near(const std::vector<double>& numbers, double scale = 1)
 {
     std::vector<testing::Matcher<double>> all;
+    all.reserve(numbers.size());
     for (const double number : numbers)
     {
         all.push_back(testing::DoubleNear(number * scale, 1e-9 + std::abs(number * scale) * 1e-6));
@@ -458,34 +458,6 @@ TEST(Legacy, LogsTheKernelsDebugLines)
     const Imported imported = importFile(CART, options);
     EXPECT_TRUE(std::any_of(imported.logs.begin(), imported.logs.end(),
                             [](const mp::wstring& line) { return line.find(WIDE("STEP File")) != mp::wstring::npos; }));
-}
-
-TEST(ColorIndex, HasTheColorsOfDrawings)
-{
-    const std::map<int, std::vector<int>> known = {{1, {255, 0, 0}},       {7, {255, 255, 255}},  {8, {128, 128, 128}},
-                                                   {11, {255, 127, 127}},  {22, {165, 41, 0}},    {33, {165, 124, 82}},
-                                                   {54, {127, 127, 0}},    {76, {38, 76, 0}},     {98, {0, 38, 0}},
-                                                   {151, {127, 191, 255}}, {175, {63, 63, 127}},  {197, {57, 38, 76}},
-                                                   {219, {38, 19, 38}},    {240, {255, 0, 63}},   {249, {38, 19, 23}},
-                                                   {250, {51, 51, 51}},    {255, {255, 255, 255}}};
-    for (const auto& [index, rgb] : known)
-    {
-        const vrx::ExcColor color = color_index::color(index);
-        EXPECT_THAT(rgb, ElementsAre(color[vrx::ExcColor::ChannelRed], color[vrx::ExcColor::ChannelGreen],
-                                     color[vrx::ExcColor::ChannelBlue]))
-            << index;
-    }
-}
-
-TEST(ColorIndex, FindsTheLowestIndex)
-{
-    EXPECT_EQ(color_index::matching(color_index::color(255)), 7);
-    EXPECT_EQ(color_index::matching(color_index::color(11)), 11);
-    EXPECT_EQ(color_index::matching(vrx::ExcColor(254, 0, 0)), 0);
-    EXPECT_EQ(color_index::matching(vrx::ExcColor()), 0);
-    EXPECT_EQ(color_index::nearest(vrx::ExcColor(254, 0, 0)), 1);
-    EXPECT_EQ(color_index::nearest(vrx::ExcColor(65535, 0, 0)), 1);
-    EXPECT_EQ(color_index::nearest(vrx::ExcColor(130, 131, 129)), 8);
 }
 
 } // namespace

@@ -30,8 +30,7 @@ std::shared_ptr<vrx::ExcRootAssemblyVisualization> VisualizationBuilder::root() 
     const auto data = std::make_shared<vrx::ExcVisualizationData>();
     data->setUnits(m_structure.units());
     addSavedViews(*data, m_model.document);
-    const ProductPlaces places(m_model.document, m_settings.hiddenParts == vrx::EHiddenPartsMode::DoNotImport);
-    if (const auto annotations = annotationScene(m_model.document, places))
+    if (const auto annotations = annotationScene(m_model.document, ProductPlaces(m_model.document, m_blocks)))
     {
         const auto rootNode = scene_nodes::make(vrx::ExcVisuNode::EType::ROOT);
         rootNode->addChildNode(annotations);

@@ -10,15 +10,14 @@ struct ImportSettings
     std::string file; // UTF-8
     bool layers = true;
     bool pmi = true;
-
     bool drawnPmi = true; // where there is PMI: its drawn annotations and saved views
 
     // of the older interface; otherwise as here
     vrx::EProductStructureMode structure = vrx::EProductStructureMode::AsMechanicalComponents;
     vrx::EHiddenPartsMode hiddenParts = vrx::EHiddenPartsMode::ImportHide;
-    std::string searchFolder;                       // for files that are not where they should be; may be empty
     vrx::EInsUnits units = vrx::EInsUnits::Unknown; // of a file that names none; when scaled, those to scale to
     bool scaled = false;
+    std::string searchFolder;   // for files that are not where they should be, in UTF-8; may be empty
     bool turnStep = false;      // the Y axis of a STEP file to Z
     bool paletteColors = false; // the nearest colours that have a colour index
     bool debugLog = false;      // the kernel's debug lines in the log

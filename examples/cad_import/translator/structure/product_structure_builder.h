@@ -36,6 +36,12 @@ public:
     /// components.
     TopoDS_Shape shapeOf(const vrx::ExcBlock& block) const;
 
+    /// True for a product whose components, if any, are no products but its shapes.
+    bool isPart(const TDF_Label& label) const;
+
+    /// True for a product at the top, or a component of a product that is no part, that is not sent.
+    bool isLeftOut(const TDF_Label& component) const;
+
     /// The materials of the blocks that have one, by the id of the block.
     const std::map<std::uint64_t, Material>& materials() const { return m_materials; }
 
@@ -46,8 +52,6 @@ private:
     void addMaterial(vrx::ExcBlock& block, const std::optional<Material>& material);
     std::uint64_t blockId(const TDF_Label& label);
     std::vector<TDF_Label> ownShapes(const TDF_Label& label) const;
-    bool isPart(const TDF_Label& label) const;
-    bool isLeftOut(const TDF_Label& component) const;
     TopoDS_Shape shapeOf(const TDF_Label& product) const;
 
     const CadModel& m_model;
