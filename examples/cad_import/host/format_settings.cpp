@@ -132,7 +132,7 @@ void setFormat(vrx::ImportOptions& options, const std::string& file, const std::
         const Setting* const setting = format != nullptr ? find(format->settings, name) : nullptr;
         if (setting == nullptr)
         {
-            throw UsageError("there is no setting " + name + possible);
+            throw UsageError(std::string("there is no setting ").append(name).append(possible));
         }
         set(*ofFormat, *setting, value);
     }

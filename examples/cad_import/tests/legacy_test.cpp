@@ -218,6 +218,21 @@ TEST(Legacy, SendsHiddenPartsAsTheModeSays)
     EXPECT_EQ(leave.names->map().size(), 5U);
 }
 
+TEST(Legacy, DrawsNoAnnotationsOfWhatIsNotSent)
+{
+    const auto drawn = [](const Imported& imported) {
+        std::vector<std::string> names;
+        const auto root = imported.root->visualizationData()->sceneRootNodes().at(0);
+        for (const auto& node : root->childNodes().at(0)->childNodes().at(0)->childNodes())
+        {
+            names.push_back(mp::toNarrow(node->pmi()->displayName()));
+        }
+        return names;
+    };
+    EXPECT_THAT(drawn(importCart(vrx::EHiddenPartsMode::ImportHide)), ElementsAre("ball diameter", "lid diameter"));
+    EXPECT_THAT(drawn(importCart(vrx::EHiddenPartsMode::DoNotImport)), ElementsAre("ball diameter"));
+}
+
 TEST(Legacy, SendsHiddenShapesOfOneBlockAsTheModeSays)
 {
     const auto none = vrx::EProductStructureMode::None;
