@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mp/wide.h"
+
 /// What the settings of an import do in this translator.
 ///
 /// Settings for STEP files:
@@ -15,21 +17,37 @@
 ///
 /// "unknown" leaves it to the translator, which sends all there is, once.
 ///
-/// A command of the older interface also brings the names and materials of components, by their handles. The handle of
-/// a component is the position of its block reference, from 1, among all of the product structure: first those at the
-/// top, then those of each block in the order of the blocks. A material is the one of the component's block, with its
-/// density in g/cm3; the file tells of no thermal conductivity and no specific heat, which are 0. A component without a
-/// material has an entry that says so.
-///
 /// Settings of the older interface, for files of all formats; those for the format count beside them:
 /// - "pmi_mode": "graphical" sends the drawn annotations and the saved views; "semantic" sends neither, but the message
 ///   still tells how much PMI the file holds; "none" does not read the PMI.
-/// - "product_structure_mode": "as_mechanical_components" sends all there is; "as_blocks" sends the same blocks and
-///   references without their free properties, and neither names nor materials by handles; "none" sends, in the same
-///   way, one part for each product at the top, with all its shapes in place.
-/// - "colors_mode": colours always travel as red, green and blue. With "matching_index" those that have a colour index
-///   of drawings (see color_index.h) mean that index; with "nearest_index" each colour is sent as the nearest one that
-///   has an index; with "rgb" they mean no index. The alpha is sent in all of them.
+/// - "product_structure_mode": "as_mechanical_components" sends all there is, and the names and materials of components
+///   by their handles; "as_blocks" sends the same blocks and references without their free properties, names and
+///   materials; "none" sends, as plainly, one part for each product at the top, with all its shapes in place.
+/// - "colors_mode": a colour travels as red, green and blue, in all modes with its alpha. "nearest_index" sends each as
+///   the nearest one that has a colour index of drawings (see color_index.h). With "matching_index", too, a colour that
+///   has an index means the index; with "rgb" it does not.
 /// - "hidden_parts_mode": "import_hide" sends hidden components and shapes hidden; "import_show" sends nothing hidden;
-///   "do_not_import" does not send hidden components, nor the blocks that only these use, but still sends the hidden
-///   shapes within a part.
+///   "do_not_import" does not send hidden components, nor the blocks that only these use. The hidden shapes within a
+///   part it sends, hidden.
+/// - "ins_units_def_source" with "ins_units_scaling": the whole model is scaled to this unit, with the lengths, areas
+///   and volumes among its properties; a file that names no unit is in millimetres then.
+/// - "ins_units_def_source" alone: the unit of a file that names none, whose numbers are sent as they are. All other
+///   files are sent in millimetres.
+/// - "step_rotate_yz": the Y axis of a STEP file becomes the Z axis. What stands at the top of the product, and its
+///   scene as a whole, are turned by 90 degrees around X.
+/// - "alternate_search_paths": under the key "files" a folder. A file that is not where the command says is looked for
+///   there by its name, and so are the files to which a STEP assembly refers when they are not beside it; but not those
+///   to which these refer in their turn.
+/// - "debug_log": the lines that the modelling kernel writes for debugging are sent to the log as well.
+/// - "temporary_dwg", "use_interop_mp", "import_acis_with_draftwell" and "solidworks_rotate_yz" have no effect.
+///
+/// The handle of a component is the position of its block reference, from 1, among all of the product structure: first
+/// those at the top, then those of each block in the order of the blocks. A component's material is that of its block,
+/// with the density in g/cm3, or 0 when the file does not tell; thermal conductivity and specific heat are always 0. A
+/// component without a material has an entry that says so.
+namespace import_conventions
+{
+
+inline const mp::wchar* const kFiles = WIDE("files");
+
+} // namespace import_conventions

@@ -15,8 +15,8 @@ go to standard error.
   --bodies             the exact bodies of each part: their faces, edges and vertices, area, volume and box, measured
                        from what arrived; not with --json
   --properties         the free properties of the product and of each block below their lines
-  --option NAME=VALUE  a setting of the import for files of this format, by its name in a command; can be repeated, a
-                       wrong name or value is answered with a list of what there is
+  --option NAME=VALUE  a setting of the import, by its name in a command; can be repeated, and a wrong name or value is
+                       answered with a list of what there is
   --legacy             the older interface, which has settings of its own and tells the names and materials of components
   --view FILE          a page on which the model can be looked at: one file of HTML that needs no network
   --picture FILE       a picture of that page as PNG; needs Chromium, but no display

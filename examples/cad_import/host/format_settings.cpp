@@ -124,14 +124,15 @@ void setFormat(vrx::ImportOptions& options, const std::string& file, const std::
     }
     std::vector<Setting> all = format != nullptr ? format->settings : std::vector<Setting>();
     all.insert(all.end(), legacy.begin(), legacy.end());
+    const std::string possible =
+        " for files like " + file + ", there are " + listed(all, [](const Setting& known) { return known.name; });
     const auto ofFormat = format != nullptr ? format->newOptions() : nullptr;
     for (const auto& [name, value] : given)
     {
         const Setting* const setting = format != nullptr ? find(format->settings, name) : nullptr;
         if (setting == nullptr)
         {
-            throw UsageError("there is no setting " + name + " for files like " + file + ", there are " +
-                             listed(all, [](const Setting& known) { return known.name; }));
+            throw UsageError(std::string("there is no setting ").append(name).append(possible));
         }
         set(*ofFormat, *setting, value);
     }

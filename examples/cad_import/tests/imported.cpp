@@ -16,7 +16,7 @@ public:
 
     void onProgress(const vrx::ExcProgress&) override {}
     void onMessage(const mp::wstring& text) override { m_imported.messages.push_back(text); }
-    void onLog(const mp::wstring&) override {}
+    void onLog(const mp::wstring& text) override { m_imported.logs.push_back(text); }
     void onStage(vrx::ExcStageFinished::EStage) override {}
     void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
     {

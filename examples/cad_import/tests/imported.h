@@ -24,6 +24,7 @@ struct Imported
     std::shared_ptr<vrx::LegacyMaterialMap> materials;
     std::vector<std::shared_ptr<vrx::IExchangeObject>> objects; // these and all others but the reports on the way
     std::vector<mp::wstring> messages;
+    std::vector<mp::wstring> logs;
 };
 
 /// Has the translator import a file with options of a command, which say by which interface.

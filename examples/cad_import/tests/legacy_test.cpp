@@ -1,5 +1,6 @@
 #include "acis_kernel/acis_kernel.h"
-#include "common/color_index.h"
+#include "common/import_conventions.h"
+#include "common/property_names.h"
 #include "host/product_tree.h"
 #include "imported.h"
 #include "mp/narrow.h"
@@ -8,8 +9,13 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
 #include <map>
+#include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -186,7 +192,7 @@ TEST(Legacy, BringsOneBlockWithAllShapesInPlace)
         }
         ASSERT_NE(node->attributes(), nullptr);
         const vrx::ExcColor& color = *node->attributes()->color();
-        looks[static_cast<int>((low + high) / 2 + 0.5F)] =
+        looks[static_cast<int>(std::lround((low + high) / 2))] =
             std::to_string(color[vrx::ExcColor::ChannelRed]) + (isHidden(*node) ? " hidden" : "");
     }
     EXPECT_THAT(looks, ElementsAre(Pair(10, "255"), Pair(20, "255 hidden"), Pair(40, "255"), Pair(60, "250 hidden"),
@@ -210,6 +216,21 @@ TEST(Legacy, SendsHiddenPartsAsTheModeSays)
     EXPECT_THAT(shownBlocks(leave), ElementsAre("ball"));
     EXPECT_EQ(leave.structure->blocks().size(), 3U);
     EXPECT_EQ(leave.names->map().size(), 5U);
+}
+
+TEST(Legacy, DrawsNoAnnotationsOfWhatIsNotSent)
+{
+    const auto drawn = [](const Imported& imported) {
+        std::vector<std::string> names;
+        const auto root = imported.root->visualizationData()->sceneRootNodes().at(0);
+        for (const auto& node : root->childNodes().at(0)->childNodes().at(0)->childNodes())
+        {
+            names.push_back(mp::toNarrow(node->pmi()->displayName()));
+        }
+        return names;
+    };
+    EXPECT_THAT(drawn(importCart(vrx::EHiddenPartsMode::ImportHide)), ElementsAre("ball diameter", "lid diameter"));
+    EXPECT_THAT(drawn(importCart(vrx::EHiddenPartsMode::DoNotImport)), ElementsAre("ball diameter"));
 }
 
 TEST(Legacy, SendsHiddenShapesOfOneBlockAsTheModeSays)
@@ -267,32 +288,191 @@ TEST(Legacy, SendsColorsAsTheModeSays)
     EXPECT_EQ(colorsOf(importFile(CART, options)), (Colors{{0, 82, 165}, {255, 0, 0}, {255, 255, 127}}));
 }
 
-TEST(ColorIndex, HasTheColorsOfDrawings)
+std::vector<double> numbersOf(const vrx::ExcVector3d& vector)
 {
-    const std::map<int, std::vector<int>> known = {{1, {255, 0, 0}},       {7, {255, 255, 255}},  {8, {128, 128, 128}},
-                                                   {11, {255, 127, 127}},  {22, {165, 41, 0}},    {33, {165, 124, 82}},
-                                                   {54, {127, 127, 0}},    {76, {38, 76, 0}},     {98, {0, 38, 0}},
-                                                   {151, {127, 191, 255}}, {175, {63, 63, 127}},  {197, {57, 38, 76}},
-                                                   {219, {38, 19, 38}},    {240, {255, 0, 63}},   {249, {38, 19, 23}},
-                                                   {250, {51, 51, 51}},    {255, {255, 255, 255}}};
-    for (const auto& [index, rgb] : known)
+    return {vector[0], vector[1], vector[2]};
+}
+
+// By a quarter around X.
+std::vector<double> turned(const vrx::ExcVector3d& vector)
+{
+    return {vector[0], -vector[2], vector[1]};
+}
+
+testing::Matcher<std::vector<double>> near(const std::vector<double>& numbers, double scale = 1)
+{
+    std::vector<testing::Matcher<double>> all;
+    all.reserve(numbers.size());
+    for (const double number : numbers)
     {
-        const vrx::ExcColor color = color_index::color(index);
-        EXPECT_THAT(rgb, ElementsAre(color[vrx::ExcColor::ChannelRed], color[vrx::ExcColor::ChannelGreen],
-                                     color[vrx::ExcColor::ChannelBlue]))
-            << index;
+        all.push_back(testing::DoubleNear(number * scale, 1e-9 + std::abs(number * scale) * 1e-6));
+    }
+    return testing::ElementsAreArray(all);
+}
+
+TEST(Legacy, TurnsTheWholeModelFromYToZ)
+{
+    const auto options = defaults();
+    const Imported plain = importFile(MOVED_NOTE, options);
+    options->setStepRotateYZ(true);
+    const Imported turn = importFile(MOVED_NOTE, options);
+
+    const vrx::ExcTransformation& place = turn.structure->rootBlockReferences().at(0)->transformation();
+    EXPECT_THAT(numbersOf(place.affine()[0]), near({1, 0, 0}));
+    EXPECT_THAT(numbersOf(place.affine()[1]), near({0, 0, -1}));
+    EXPECT_THAT(numbersOf(place.affine()[2]), near({0, 1, 0}));
+
+    // The part and its annotation lie in their own coordinates as before, the product's scene is turned.
+    const auto scene = turn.root->visualizationData();
+    ASSERT_NE(scene->sceneRootNodes().at(0)->transformation(), nullptr);
+    EXPECT_THAT(numbersOf(scene->sceneRootNodes().at(0)->transformation()->affine()[1]), near({0, 0, -1}));
+    EXPECT_EQ(plain.root->visualizationData()->sceneRootNodes().at(0)->transformation(), nullptr);
+    const vrx::ExcVisuView& before = *plain.root->visualizationData()->views().at(0);
+    const vrx::ExcVisuView& view = *scene->views().at(0);
+    EXPECT_THAT(numbersOf(view.origin()), near(turned(before.origin())));
+    EXPECT_THAT(numbersOf(view.directionU()), near(turned(before.directionU())));
+    EXPECT_THAT(numbersOf(view.directionV()), near(turned(before.directionV())));
+    const vrx::ExcCamera& cameraBefore = plain.root->visualizationData()->captures().at(0)->camera();
+    const vrx::ExcCamera& camera = scene->captures().at(0)->camera();
+    EXPECT_THAT(numbersOf(camera.eye()), near(turned(cameraBefore.eye())));
+    EXPECT_THAT(numbersOf(camera.target()), near(turned(cameraBefore.target())));
+    EXPECT_THAT(numbersOf(camera.up()), near(turned(cameraBefore.up())));
+    // The plane y = 2 inches is now z = 2 inches.
+    const auto clipping = [](const vrx::ExcVisualizationData& data) {
+        const auto& numbers = data.captures().at(0)->clippingPlane().coefficients();
+        return std::vector<double>(numbers.begin(), numbers.end());
+    };
+    const double side = clipping(*plain.root->visualizationData()).at(1);
+    EXPECT_THAT(clipping(*plain.root->visualizationData()), near({0, side, 0, side * -50.8}));
+    EXPECT_THAT(clipping(*scene), near({0, 0, side, side * -50.8}));
+}
+
+TEST(Legacy, TurnsNothingBelowTheTop)
+{
+    const auto options = defaults();
+    options->setStepRotateYZ(true);
+    const Imported imported = importFile(CART, options);
+    const auto& components = imported.structure->blocks().at(0)->blockReferences();
+    EXPECT_THAT(numbersOf(components.at(0)->transformation().translation()), near({10, 1, 2}));
+    EXPECT_THAT(numbersOf(components.at(0)->transformation().affine()[1]), near({0, 1, 0}));
+}
+
+// The number of a property; a file has it as text.
+double number(const vrx::ExcMiscData& data, const mp::wstring& name)
+{
+    for (const vrx::ExcMiscProperty& property : data.properties())
+    {
+        if (property.name() == name)
+        {
+            return std::stod(mp::toNarrow(property.value()));
+        }
+    }
+    ADD_FAILURE() << "no property " << mp::toNarrow(name);
+    return 0;
+}
+
+TEST(Legacy, ScalesToTheUnitOfTheDrawing)
+{
+    const auto options = defaults();
+    const Imported plain = importFile(BENCH_VISE, options);
+    options->setInsUnitsDefSource(vrx::EInsUnits::Kilometers);
+    options->setInsUnitsScaling(true);
+    const Imported scaled = importFile(BENCH_VISE, options);
+    EXPECT_EQ(scaled.structure->units(), vrx::ELengthUnitType::Kilometer);
+
+    const auto& before = plain.structure->blocks().at(0)->blockReferences();
+    const auto& after = scaled.structure->blocks().at(0)->blockReferences();
+    for (std::size_t i = 0; i < before.size(); ++i)
+    {
+        EXPECT_THAT(numbersOf(after.at(i)->transformation().translation()),
+                    near(numbersOf(before.at(i)->transformation().translation()), 1e-6));
+        EXPECT_THAT(numbersOf(after.at(i)->transformation().affine()[0]),
+                    near(numbersOf(before.at(i)->transformation().affine()[0])));
+    }
+    const vrx::ExcBlock& base = *plain.structure->blocks().at(1);
+    EXPECT_NEAR(number(scaled.structure->blocks().at(1)->miscData(), WIDE("volume measure")) * 1e18,
+                number(base.miscData(), WIDE("volume measure")), 1);
+    EXPECT_NEAR(number(scaled.structure->blocks().at(1)->miscData(), WIDE("surface area measure")) * 1e12,
+                number(base.miscData(), WIDE("surface area measure")), 1);
+
+    EXPECT_EQ(scaled.scenes.at(base.id())->visualizationData()->units(), vrx::ELengthUnitType::Kilometer);
+    const vrx::ExcVisuMesh& mesh = *bodyNodes(*plain.scenes.at(base.id())).at(0)->mesh();
+    const vrx::ExcVisuMesh& small = *bodyNodes(*scaled.scenes.at(base.id())).at(0)->mesh();
+    ASSERT_EQ(small.faces().size(), mesh.faces().size());
+    EXPECT_FLOAT_EQ(small.faces().at(0)->vertices().at(0), mesh.faces().at(0)->vertices().at(0) * 1e-6F);
+    EXPECT_FLOAT_EQ(small.edges().at(0)->points().at(0), mesh.edges().at(0)->points().at(0) * 1e-6F);
+    EXPECT_EQ(small.faces().at(0)->normals(), mesh.faces().at(0)->normals());
+}
+
+TEST(Legacy, ScalesAnnotationsAndViews)
+{
+    const auto options = defaults();
+    const Imported plain = importFile(MOVED_NOTE, options);
+    options->setInsUnitsDefSource(vrx::EInsUnits::Inches);
+    options->setInsUnitsScaling(true);
+    const Imported inches = importFile(MOVED_NOTE, options);
+    const vrx::ExcVisualizationData& scene = *inches.root->visualizationData();
+    const auto note = scene.sceneRootNodes().at(0)->childNodes().at(0)->childNodes().at(0)->childNodes().at(0);
+    const std::vector<float>& leader = note->pmi()->edges().at(0)->points();
+    EXPECT_THAT(std::vector<double>(leader.begin(), leader.begin() + 3), near({1, 2, 3}));
+    EXPECT_THAT(numbersOf(scene.captures().at(0)->camera().eye()),
+                near(numbersOf(plain.root->visualizationData()->captures().at(0)->camera().eye()), 1 / 25.4));
+    EXPECT_THAT(numbersOf(scene.views().at(0)->origin()),
+                near(numbersOf(plain.root->visualizationData()->views().at(0)->origin()), 1 / 25.4));
+    EXPECT_NEAR(std::abs(scene.captures().at(0)->clippingPlane().coefficient(vrx::ExcClippingPlane::CoefficientD)), 2,
+                1e-9);
+    const std::vector<float>& wire = bodyNodes(*inches.scenes.begin()->second).at(0)->wire()->edges().at(0)->points();
+    EXPECT_THAT(std::vector<double>(wire.end() - 3, wire.end()), near({5, 0, 0}));
+}
+
+TEST(Legacy, TakesTheUnitForAFileThatNamesNone)
+{
+    std::stringstream text;
+    text << std::ifstream(CART).rdbuf();
+    const std::string file = testing::TempDir() + "no_unit.step";
+    const std::regex context("=\\( GEOMETRIC_REPRESENTATION_CONTEXT.*");
+    std::ofstream(file) << std::regex_replace(text.str(), context, "=GEOMETRIC_REPRESENTATION_CONTEXT('','',3);");
+
+    const auto options = defaults();
+    options->setInsUnitsDefSource(vrx::EInsUnits::Feet);
+    const Imported unknown = importFile(file, options);
+    std::filesystem::remove(file);
+    EXPECT_EQ(unknown.structure->units(), vrx::ELengthUnitType::Foot);
+    const Imported known = importFile(CART, options);
+    EXPECT_EQ(known.structure->units(), vrx::ELengthUnitType::Millimeter);
+    for (const Imported* imported : {&unknown, &known})
+    {
+        const auto& components = imported->structure->blocks().at(0)->blockReferences();
+        EXPECT_THAT(numbersOf(components.at(0)->transformation().translation()), near({10, 1, 2}));
     }
 }
 
-TEST(ColorIndex, FindsTheLowestIndex)
+TEST(Legacy, LooksForFilesInTheSearchFolder)
 {
-    EXPECT_EQ(color_index::matching(color_index::color(255)), 7);
-    EXPECT_EQ(color_index::matching(color_index::color(11)), 11);
-    EXPECT_EQ(color_index::matching(vrx::ExcColor(254, 0, 0)), 0);
-    EXPECT_EQ(color_index::matching(vrx::ExcColor()), 0);
-    EXPECT_EQ(color_index::nearest(vrx::ExcColor(254, 0, 0)), 1);
-    EXPECT_EQ(color_index::nearest(vrx::ExcColor(65535, 0, 0)), 1);
-    EXPECT_EQ(color_index::nearest(vrx::ExcColor(130, 131, 129)), 8);
+    const auto folder = std::filesystem::path(TWO_FILES).parent_path();
+    const std::string missing = (folder / "missing" / "cart.step").string();
+    EXPECT_EQ(importFile(missing, defaults()).result.code(), vrx::Result::ECode::Error);
+    const auto options = defaults();
+    options->setAlternateSearchPath(import_conventions::kFiles, mp::toWide(folder.string()));
+    EXPECT_EQ(importFile(missing, options).result.code(), vrx::Result::ECode::Ok);
+
+    // The file of the balls is in the folder "elsewhere" beside that of the cart.
+    const auto ballFaces = [](const Imported& imported) {
+        return number(imported.structure->blocks().at(1)->miscData(), property_names::kFaces);
+    };
+    EXPECT_EQ(ballFaces(importFile(TWO_FILES, options)), 0);
+    options->setAlternateSearchPath(import_conventions::kFiles, mp::toWide((folder / "elsewhere").string()));
+    EXPECT_EQ(ballFaces(importFile(TWO_FILES, options)), 1);
+}
+
+TEST(Legacy, LogsTheKernelsDebugLines)
+{
+    const auto options = defaults();
+    EXPECT_THAT(importFile(CART, options).logs, IsEmpty());
+    options->setPrintDebugLog(true);
+    const Imported imported = importFile(CART, options);
+    EXPECT_TRUE(std::any_of(imported.logs.begin(), imported.logs.end(),
+                            [](const mp::wstring& line) { return line.find(WIDE("STEP File")) != mp::wstring::npos; }));
 }
 
 } // namespace

@@ -25,6 +25,12 @@ grep -qxF '  left ball .. right ball (ball) x2 color 1 [part: 1 solid, 1 face]' 
 grep -qF '  lid (lid) #fa0505' "$scratch/tree" || fail "a colour index that does not match"
 "$host" --quiet --legacy --option colors_mode=rgb "$example/tests/cart.step" | grep -qF ' #ff0000 ' || fail "no colour"
 
+# The bodies are scaled with all the rest.
+"$host" --quiet --legacy --bodies --option ins_units_scaling=true --option ins_units_def_source=centimeters \
+    "$example/tests/cart.step" >"$scratch/tree"
+grep -q '^product cart, units centimeter$' "$scratch/tree" || fail "another unit"
+grep -q '^  ball: .* area 3.14159265359, .* box (-0.5 -0.5 -0.5) to (0.5 0.5 0.5)$' "$scratch/tree" || fail "another ball"
+
 # Settings of the format count beside those of the interface; wrong ones are answered with what there is.
 "$host" --quiet --legacy --properties --option layer_name_mode=saved_visu_rep "$vise" >"$scratch/tree"
 ! grep -qF -- '- layer:' "$scratch/tree" || fail "layers although the command asks for none"

@@ -45,9 +45,7 @@ TEST(Translator, RefusesWhatItCannotDoAndGoesOn)
     for (const mp::wchar* command :
          {WIDE("nonsense"), WIDE("{}"), WIDE("{\"command\":\"shutdown\"}"),
           WIDE("{\"command\":\"export\",\"options\":{\"file\":\"a.step\"}}"), WIDE("{\"command\":\"import\"}"),
-          WIDE(
-              "{\"ferrant_interface\":\"legacy\",\"command\":\"import\",\"options\":{\"file\":\"a.step\"}}"), // no
-                                                                                                              // drawing
+          WIDE("{\"ferrant_interface\":\"legacy\",\"command\":\"import\",\"options\":{\"file\":\"a.step\"}}"),
           WIDE("{\"command\":\"import\",\"options\":{\"file\":\"\"}}")})
     {
         vrx::Result result;

@@ -181,7 +181,8 @@ void Translator::sendBodies(const vrx::ExcProductStructure& structure, const Pro
     double done = 0;
     for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
     {
-        const std::shared_ptr<vrx::ExcBlockGeometry> geometry = bodies.make(*block, builder.shapeOf(*block));
+        const std::shared_ptr<vrx::ExcBlockGeometry> geometry =
+            bodies.make(*block, builder.frame().scaled(builder.shapeOf(*block)));
         geometry->own(false);
         m_channel.send(geometry);
         progress.advance(++done / static_cast<double>(structure.blocks().size()));

@@ -13,7 +13,7 @@ void KernelMessages::send(const TCollection_AsciiString& text, Message_Gravity g
     TCollection_AsciiString line = text;
     line.LeftAdjust();
     line.RightAdjust();
-    if (line.IsEmpty() || gravity < Message_Info)
+    if (line.IsEmpty() || gravity < GetTraceLevel())
     {
         return;
     }

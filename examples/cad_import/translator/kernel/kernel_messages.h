@@ -10,9 +10,11 @@ class HostChannel;
 class KernelMessages : public Message_Printer
 {
 public:
-    explicit KernelMessages(HostChannel& channel)
+    /// With `trace` also what the kernel tells for its own developers.
+    KernelMessages(HostChannel& channel, bool trace)
         : m_channel(channel)
     {
+        SetTraceLevel(trace ? Message_Trace : Message_Info);
     }
 
     const std::string& lastFailure() const { return m_lastFailure; }

@@ -13,7 +13,7 @@
 namespace
 {
 
-// A look where it does not say its own.
+// A look, with what it does not say taken from the one above.
 ShapeLooks::Look within(const ShapeLooks::Look& above, ShapeLooks::Look look)
 {
     look.color = look.color.hasRGB() ? look.color : above.color;

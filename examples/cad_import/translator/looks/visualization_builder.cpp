@@ -2,6 +2,7 @@
 
 #include "looks/block_scene.h"
 #include "looks/palette_colors.h"
+#include "looks/placed_scene.h"
 #include "looks/scene_nodes.h"
 #include "pmi/annotation_scene.h"
 #include "pmi/saved_views.h"
@@ -29,13 +30,13 @@ std::shared_ptr<vrx::ExcRootAssemblyVisualization> VisualizationBuilder::root() 
     const auto data = std::make_shared<vrx::ExcVisualizationData>();
     data->setUnits(m_structure.units());
     addSavedViews(*data, m_model.document);
-    const ProductPlaces places(m_model.document, m_settings.hiddenParts == vrx::EHiddenPartsMode::DoNotImport);
-    if (const auto annotations = annotationScene(m_model.document, places))
+    if (const auto annotations = annotationScene(m_model.document, ProductPlaces(m_model.document, m_blocks)))
     {
         const auto rootNode = scene_nodes::make(vrx::ExcVisuNode::EType::ROOT);
         rootNode->addChildNode(annotations);
         data->addSceneRootNode(rootNode);
     }
+    placeScene(*data, m_blocks.frame());
     if (data->views().empty() && data->sceneRootNodes().empty())
     {
         return nullptr;
@@ -56,6 +57,7 @@ std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vr
     const auto data = std::make_shared<vrx::ExcVisualizationData>();
     data->setUnits(m_structure.units());
     data->addSceneRootNode(scene);
+    scaleScene(*data, m_blocks.frame());
     if (m_settings.paletteColors)
     {
         palette_colors::apply(*data);

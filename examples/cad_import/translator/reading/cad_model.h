@@ -15,6 +15,7 @@ struct CadModel
     Handle(TDocStd_Document) document;
     std::unique_ptr<STEPCAFControl_Reader> step;
     std::unique_ptr<IGESControl_Reader> iges;
+    bool namesUnit = true; // of lengths
     /// For the user, when parts of the file could not be read and the model may be incomplete; otherwise empty.
     std::string warning;
 };

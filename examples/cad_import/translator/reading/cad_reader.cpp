@@ -4,6 +4,7 @@
 #include "reading/cad_file.h"
 #include "reading/iges_reader.h"
 #include "reading/import_settings.h"
+#include "reading/search_folder.h"
 #include "reading/step_reader.h"
 #include "translation_error.h"
 
@@ -37,8 +38,8 @@ bool isIges(const CadFile& file)
 
 CadModel readModel(const ImportSettings& settings, HostChannel& channel, ImportProgress& progress)
 {
-    CadFile file(settings.file);
-    const Handle(KernelMessages) messages = new KernelMessages(channel);
+    CadFile file(fileToRead(settings));
+    const Handle(KernelMessages) messages = new KernelMessages(channel, settings.debugLog);
     const MessageRedirection redirection(messages);
 
     CadModel model;

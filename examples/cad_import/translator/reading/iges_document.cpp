@@ -23,7 +23,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 
 namespace
 {
@@ -79,9 +78,8 @@ int IgesDocument::countOfShapes() const
     return count;
 }
 
-void IgesDocument::build()
+void IgesDocument::build(const std::string& name)
 {
-    const std::string name = std::filesystem::path(m_settings.file).stem().string();
     const std::vector<Item> items = itemsOf(wantedRoots(), name);
     if (items.empty())
     {

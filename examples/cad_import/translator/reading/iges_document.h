@@ -30,7 +30,8 @@ public:
     IgesDocument(IGESControl_Reader& reader, const ImportSettings& settings, const Handle(TDocStd_Document) & document,
                  ImportProgress& progress);
 
-    void build();
+    /// `name` is that of the file's assembly, where it has one.
+    void build(const std::string& name);
 
     /// How many entities were wanted but could not be translated.
     int failures() const { return m_untranslatable.Extent(); }

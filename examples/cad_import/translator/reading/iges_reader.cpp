@@ -11,6 +11,7 @@
 #include <Interface_Check.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 
+#include <filesystem>
 #include <string>
 
 namespace
@@ -96,7 +97,7 @@ void readIges(const CadFile& file, const ImportSettings& settings, ImportProgres
     XCAFDoc_DocumentTool::SetLengthUnit(model.document, 0.001);
     entities->ChangeGlobalSection().SetCascadeUnit(1); // in millimetres
     IgesDocument document(reader, settings, model.document, progress);
-    document.build();
+    document.build(std::filesystem::path(file.path()).stem().string());
     if (document.failures() > 0 && model.warning.empty())
     {
         model.warning = std::to_string(document.failures()) +

@@ -1,5 +1,6 @@
 #include "reading/import_settings.h"
 
+#include "common/import_conventions.h"
 #include "mp/narrow.h"
 
 namespace
@@ -48,7 +49,12 @@ ImportSettings settingsOf(const vrx::LegacyImportOptions& options)
     settings.drawnPmi = options.pmiMode() == vrx::EPmiMode::Graphical;
     settings.structure = options.productStructureMode();
     settings.hiddenParts = options.hiddenPartsMode();
+    settings.searchFolder = mp::toNarrow(options.alternateSearchPath(import_conventions::kFiles));
+    settings.units = options.insUnitsDefSource();
+    settings.scaled = options.insUnitsScaling();
+    settings.turnStep = options.stepRotateYZ();
     settings.paletteColors = options.colorsMode() == vrx::EColorsMode::NearestIndex;
+    settings.debugLog = options.printDebugLog();
     settings.componentMaps = settings.structure == vrx::EProductStructureMode::AsMechanicalComponents;
     return settings;
 }

@@ -4,6 +4,7 @@
 #include "reading/cad_file.h"
 #include "reading/counting_buffer.h"
 #include "reading/import_settings.h"
+#include "reading/search_folder.h"
 #include "reading/taught_entities.h"
 #include "reading/tessellated_annotations.h"
 #include "translation_error.h"
@@ -15,6 +16,7 @@
 #include <StepGeom_Point.hxx>
 #include <StepGeom_Surface.hxx>
 #include <StepShape_TopologicalRepresentationItem.hxx>
+#include <TColStd_SequenceOfAsciiString.hxx>
 #include <XSControl_WorkSession.hxx>
 
 #include <cstdint>
@@ -51,6 +53,15 @@ void read(STEPCAFControl_Reader& reader, CadFile& file, ImportProgress& progress
     {
         throw TranslationError(path + " holds no product.");
     }
+}
+
+bool namesUnit(STEPControl_Reader& reader)
+{
+    TColStd_SequenceOfAsciiString lengths;
+    TColStd_SequenceOfAsciiString angles;
+    TColStd_SequenceOfAsciiString solidAngles;
+    reader.FileUnits(lengths, angles, solidAngles);
+    return !lengths.IsEmpty();
 }
 
 // Damage that may cost geometry. What the kernel does not know of other data, PMI above all, is no damage.
@@ -106,7 +117,9 @@ void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& pro
     }
     read(*model.step, file, progress);
     const Handle(Interface_InterfaceModel) entities = session->Model();
+    model.namesUnit = namesUnit(model.step->ChangeReader());
     model.warning = damage(*entities);
+    findExternalFiles(*entities, file.path(), settings);
     if (settings.pmi)
     {
         gatherTessellatedAnnotations(*entities);

@@ -104,7 +104,8 @@ void addTexts(vrx::ExcMiscData& data, const mp::wchar* name, const Handle(Interf
 
 } // namespace
 
-FileProperties::FileProperties(const CadModel& model)
+FileProperties::FileProperties(const CadModel& model, double scale)
+    : m_scale(scale)
 {
     if (model.iges)
     {
@@ -179,7 +180,7 @@ void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepr
         return;
     }
     // A validation property is a group of figures, each of which has its own name: "volume measure" and so on.
-    const double factor = lengthFactor(values);
+    const double factor = lengthFactor(values) * m_scale;
     for (int i = 1; i <= values->NbItems(); ++i)
     {
         const Handle(StepRepr_RepresentationItem) item = values->ItemsValue(i);

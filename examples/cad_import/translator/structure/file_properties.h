@@ -15,7 +15,8 @@ struct CadModel;
 class FileProperties
 {
 public:
-    explicit FileProperties(const CadModel& model);
+    /// Each length in millimetres is multiplied by the scale.
+    FileProperties(const CadModel& model, double scale);
 
     const vrx::ExcMiscData& head() const { return m_head; }
 
@@ -29,6 +30,7 @@ private:
     void readHead(const CadModel& model, const Handle(StepData_StepModel) & entities);
     void readAttributes(const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes);
 
+    double m_scale;
     vrx::ExcMiscData m_head;
     std::map<const Standard_Transient*, vrx::ExcMiscData> m_attributes;
     std::set<const Standard_Transient*> m_withMaterial;

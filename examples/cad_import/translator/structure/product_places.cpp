@@ -2,25 +2,29 @@
 
 #include "kernel/occt_transformation.h"
 #include "structure/component_labels.h"
+#include "structure/product_structure_builder.h"
 
 #include <XCAFDoc_ShapeTool.hxx>
 
 #include <utility>
 #include <vector>
 
-ProductPlaces::ProductPlaces(const Handle(TDocStd_Document) & document, bool withoutHidden)
+ProductPlaces::ProductPlaces(const Handle(TDocStd_Document) & document, const ProductStructureBuilder& blocks)
 {
     std::vector<std::pair<TDF_Label, TopLoc_Location>> waiting;
     const auto add = [&](const TDF_Label& component, const TopLoc_Location& above) {
         const TDF_Label shape = component_labels::referred(component);
-        if (!m_places.IsBound(shape) && !(withoutHidden && component_labels::isHidden(component)))
+        if (!m_places.IsBound(shape))
         {
             waiting.emplace_back(shape, above * XCAFDoc_ShapeTool::GetLocation(component));
         }
     };
     for (const TDF_Label& root : component_labels::roots(document))
     {
-        add(root, TopLoc_Location());
+        if (!blocks.isLeftOut(root))
+        {
+            add(root, TopLoc_Location());
+        }
     }
     while (!waiting.empty())
     {
@@ -32,7 +36,10 @@ ProductPlaces::ProductPlaces(const Handle(TDocStd_Document) & document, bool wit
         }
         for (const TDF_Label& component : component_labels::of(label))
         {
-            add(component, place);
+            if (blocks.isPart(label) || !blocks.isLeftOut(component))
+            {
+                add(component, place);
+            }
         }
     }
 }

@@ -10,12 +10,14 @@
 
 #include <memory>
 
+class ProductStructureBuilder;
+
 /// Where the XDE document's shapes first stand in the product as a whole.
 class ProductPlaces
 {
 public:
-    /// Without what is hidden, or with it.
-    ProductPlaces(const Handle(TDocStd_Document) & document, bool withoutHidden);
+    /// Of what the blocks of a product structure are made of.
+    ProductPlaces(const Handle(TDocStd_Document) & document, const ProductStructureBuilder& blocks);
 
     /// Of the shape of a label, or of which the label tells a part. Null for a shape that is not moved.
     std::shared_ptr<vrx::ExcTransformation> firstPlaceOf(const TDF_Label& shape) const;

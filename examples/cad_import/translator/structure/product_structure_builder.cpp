@@ -15,12 +15,9 @@
 #include <StepBasic_ProductDefinitionFormation.hxx>
 #include <TDataStd_Name.hxx>
 #include <TopoDS_Compound.hxx>
-#include <XCAFDoc_DocumentTool.hxx>
 
 #include <algorithm>
-#include <cmath>
 #include <filesystem>
-#include <utility>
 
 namespace
 {
@@ -29,6 +26,11 @@ mp::wstring nameOf(const TDF_Label& label)
 {
     Handle(TDataStd_Name) name;
     return label.FindAttribute(TDataStd_Name::GetID(), name) ? occt_text::wide(name->Get()) : mp::wstring();
+}
+
+vrx::ExcTransformation transformation(const TDF_Label& component)
+{
+    return occt_transformation::of(XCAFDoc_ShapeTool::GetLocation(component));
 }
 
 void addPartNumber(vrx::ExcMiscData& data, const Handle(StepBasic_ProductDefinition) & definition)
@@ -64,42 +66,21 @@ void clearProperties(vrx::ExcProductStructure& structure)
     }
 }
 
-vrx::ELengthUnitType lengthUnit(const Handle(TDocStd_Document) & document)
-{
-    static const std::pair<double, vrx::ELengthUnitType> kUnits[] = {
-        {0.001, vrx::ELengthUnitType::Millimeter}, {0.01, vrx::ELengthUnitType::Centimeter},
-        {1, vrx::ELengthUnitType::Meter},          {1000, vrx::ELengthUnitType::Kilometer},
-        {0.0254, vrx::ELengthUnitType::Inch},      {0.3048, vrx::ELengthUnitType::Foot},
-        {1e-6, vrx::ELengthUnitType::Micrometer},
-    };
-    double meters = 0;
-    if (XCAFDoc_DocumentTool::GetLengthUnit(document, meters))
-    {
-        for (const auto& [length, unit] : kUnits)
-        {
-            if (std::abs(meters - length) < length * 1e-9)
-            {
-                return unit;
-            }
-        }
-    }
-    return vrx::ELengthUnitType::Unknown;
-}
-
 } // namespace
 
 ProductStructureBuilder::ProductStructureBuilder(const CadModel& model, const ImportSettings& settings)
     : m_model(model)
     , m_settings(settings)
+    , m_frame(model, settings)
     , m_labels(model)
-    , m_properties(model)
+    , m_properties(model, m_frame.scale())
 {
 }
 
 std::shared_ptr<vrx::ExcProductStructure> ProductStructureBuilder::build()
 {
     m_structure = std::make_shared<vrx::ExcProductStructure>();
-    m_structure->setUnits(lengthUnit(m_model.document));
+    m_structure->setUnits(m_frame.unit());
     m_structure->miscData() = m_properties.head();
 
     for (const TDF_Label& root : component_labels::roots(m_model.document))
@@ -155,6 +136,7 @@ void ProductStructureBuilder::addRoot(const TDF_Label& label)
 {
     const std::shared_ptr<vrx::ExcBlockReference> root = reference(label);
     root->setName(nameOf(component_labels::referred(label)));
+    root->setTransformation(m_frame.placed(transformation(label)));
     m_structure->addRootBlockReference(root);
 }
 
@@ -217,7 +199,7 @@ std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const
     auto reference = std::make_shared<vrx::ExcBlockReference>();
     reference->setGuid(vrx::IExchangeObject::generateUUID());
     reference->setBlockId(blockId(target));
-    reference->setTransformation(occt_transformation::of(XCAFDoc_ShapeTool::GetLocation(component)));
+    reference->setTransformation(m_frame.scaled(transformation(component)));
 
     const vrx::ExcColor own = BlockContent::colorOf(component);
     reference->setColor(own.hasRGB() ? own : content.color());

@@ -3,6 +3,7 @@
 #include "reading/step_labels.h"
 #include "structure/block_content.h"
 #include "structure/file_properties.h"
+#include "structure/model_frame.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <TDF_LabelIndexedMap.hxx>
@@ -29,8 +30,17 @@ public:
     /// The labels of the blocks that were built. The id of a block is the index of its label.
     const TDF_LabelIndexedMap& blocks() const { return m_blocks; }
 
-    /// All that a block shows, in the block's coordinates; null for an assembly, which shows its components.
+    const ModelFrame& frame() const { return m_frame; }
+
+    /// All that a block shows, in the block's coordinates of the document; null for an assembly, which shows its
+    /// components.
     TopoDS_Shape shapeOf(const vrx::ExcBlock& block) const;
+
+    /// True for a product whose components, if any, are no products but its shapes.
+    bool isPart(const TDF_Label& label) const;
+
+    /// True for a product at the top, or a component of a product that is no part, that is not sent.
+    bool isLeftOut(const TDF_Label& component) const;
 
     /// The materials of the blocks that have one, by the id of the block.
     const std::map<std::uint64_t, Material>& materials() const { return m_materials; }
@@ -42,12 +52,11 @@ private:
     void addMaterial(vrx::ExcBlock& block, const std::optional<Material>& material);
     std::uint64_t blockId(const TDF_Label& label);
     std::vector<TDF_Label> ownShapes(const TDF_Label& label) const;
-    bool isPart(const TDF_Label& label) const;
-    bool isLeftOut(const TDF_Label& component) const;
     TopoDS_Shape shapeOf(const TDF_Label& product) const;
 
     const CadModel& m_model;
     const ImportSettings& m_settings;
+    ModelFrame m_frame;
     StepLabels m_labels;
     FileProperties m_properties;
     std::shared_ptr<vrx::ExcProductStructure> m_structure;
