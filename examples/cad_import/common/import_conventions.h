@@ -23,9 +23,10 @@
 /// - "product_structure_mode": "as_mechanical_components" sends all there is, and the names and materials of components
 ///   by their handles; "as_blocks" sends the same blocks and references without their free properties, names and
 ///   materials; "none" sends, as plainly, one part for each product at the top, with all its shapes in place.
-/// - "colors_mode": a colour travels as red, green and blue, in all modes with its alpha. "nearest_index" sends each as
-///   the nearest one that has a colour index of drawings (see color_index.h). With "matching_index", too, a colour that
-///   has an index means the index; with "rgb" it does not.
+/// - "colors_mode": "rgb" sends colours as the file has them. "matching_index" does so too, but a block reference whose
+///   colour has a colour index of drawings also has the property "color index". "nearest_index" sends each colour as
+///   the nearest one that has an index, with its own alpha, and all block references that have a colour have the
+///   property.
 /// - "hidden_parts_mode": "import_hide" sends hidden components and shapes hidden; "import_show" sends nothing hidden;
 ///   "do_not_import" does not send hidden components, nor the blocks that only these use. The hidden shapes within a
 ///   part it sends, hidden.

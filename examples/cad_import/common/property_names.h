@@ -19,6 +19,9 @@ inline const mp::wchar* const kMaterial = WIDE("material");
 inline const mp::wchar* const kDensity = WIDE("density"); // double, g/cm3
 inline const mp::wchar* const kLayer = WIDE("layer");     // one property for each layer; its number in IGES files
 
+// of a block reference, when colours are asked for by their index
+inline const mp::wchar* const kColorIndex = WIDE("color index"); // integer: the colour index of drawings, 1 to 255
+
 // of the product, from the head of the file
 inline const mp::wchar* const kFileLengthUnit = WIDE("length unit of the file");
 

@@ -170,13 +170,6 @@ std::string describe(const vrx::FerrantInfo& info)
     return text;
 }
 
-// Whether the options ask for the colour index of drawings.
-bool hasColorIndices(const vrx::ImportOptions& options)
-{
-    const auto* const legacy = dynamic_cast<const vrx::LegacyImportOptions*>(&options);
-    return legacy != nullptr && legacy->colorsMode() != vrx::EColorsMode::Rgb;
-}
-
 // Prints the tree and what else is asked for on standard output.
 void print(const BodyReport& bodies, const TreeExtras& extras, const vrx::ExcProductStructure& structure,
            const Arguments& arguments)
@@ -242,7 +235,7 @@ int import(const Arguments& arguments)
     std::shared_ptr<vrx::ExcProductStructure> structure;
     ScenePage page;
     BodyReport bodies;
-    TreeExtras extras{arguments.properties, hasColorIndices(*options), {}};
+    TreeExtras extras{arguments.properties, {}};
     {
         Listener listener(arguments);
         const vrx::Result result = session.import(options, listener);

@@ -1,4 +1,3 @@
-#include "common/color_index.h"
 #include "mp/narrow.h"
 #include "product_tree.h"
 #include "tree_output.h"
@@ -129,12 +128,6 @@ private:
         }
         field("persistent_id", reference.persistentId());
         color(reference.color());
-        if (m_extras.colorIndices)
-        {
-            const int index = color_index::matching(reference.color());
-            m_writer.Key("color_index");
-            index != 0 ? m_writer.Int(index) : m_writer.Null();
-        }
         m_writer.Key("hidden");
         m_writer.Bool(reference.isHidden());
         m_writer.Key("suppressed");

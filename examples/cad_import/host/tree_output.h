@@ -8,8 +8,7 @@
 /// What is told beside the tree.
 struct TreeExtras
 {
-    bool properties = false;   // of the text: the free properties below their lines
-    bool colorIndices = false; // the index of a colour that has one
+    bool properties = false; // of the text: the free properties below their lines
     ComponentData components;
 };
 

@@ -1,4 +1,3 @@
-#include "common/color_index.h"
 #include "common/property_names.h"
 #include "printable.h"
 #include "product_tree.h"
@@ -80,13 +79,16 @@ std::string note(const ProductTreeNode& node)
     return "assembly: " + counted(std::to_string(node.block->blockReferences().size()), "component", "components");
 }
 
-std::string colorText(const vrx::ExcColor& color, bool indices)
+std::string colorText(const vrx::ExcBlockReference& reference)
 {
-    const int index = indices ? color_index::matching(color) : 0;
-    if (index != 0)
+    for (const vrx::ExcMiscProperty& property : reference.miscData().properties())
     {
-        return "color " + std::to_string(index);
+        if (property.name() == property_names::kColorIndex)
+        {
+            return "color " + printable(property.value());
+        }
     }
+    const vrx::ExcColor& color = reference.color();
     std::ostringstream stream;
     stream << '#' << std::hex << std::setfill('0');
     for (const auto channel : {vrx::ExcColor::ChannelRed, vrx::ExcColor::ChannelGreen, vrx::ExcColor::ChannelBlue})
@@ -107,7 +109,7 @@ std::string names(const ProductTreeNode& node)
     return node.references.size() == 1 || first == last ? first : first + " .. " + last;
 }
 
-std::string line(const ProductTreeNode& node, bool indices)
+std::string line(const ProductTreeNode& node)
 {
     const vrx::ExcBlockReference& reference = *node.references.front();
     std::string text = names(node);
@@ -121,7 +123,7 @@ std::string line(const ProductTreeNode& node, bool indices)
     }
     if (reference.color().hasRGB())
     {
-        text += ' ' + colorText(reference.color(), indices);
+        text += ' ' + colorText(reference);
     }
     if (reference.isHidden())
     {
@@ -183,7 +185,7 @@ void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, 
     for (const ProductTreeNode& node : tree)
     {
         const std::string indent(2 * node.depth, ' ');
-        stream << indent << line(node, extras.colorIndices) << '\n';
+        stream << indent << line(node) << '\n';
         if (extras.properties && node.block && described.insert(node.block).second)
         {
             printProperties(stream, node.block->miscData(), indent + "    ");

@@ -1,4 +1,4 @@
-#include "common/color_index.h"
+#include "looks/color_index.h"
 
 #include <gmock/gmock.h>
 

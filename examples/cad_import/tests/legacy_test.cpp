@@ -274,18 +274,42 @@ std::set<std::vector<int>> colorsOf(const Imported& imported)
     return colors;
 }
 
+// The indices that references state.
+std::set<std::string> colorIndices(const vrx::ExcProductStructure& structure)
+{
+    std::set<std::string> indices;
+    for (const ProductTreeNode& node : productTree(structure, ESiblings::Separate))
+    {
+        for (const vrx::ExcMiscProperty& property : node.references.front()->miscData().properties())
+        {
+            if (property.name() == property_names::kColorIndex)
+            {
+                indices.insert(mp::toNarrow(property.value()));
+            }
+        }
+    }
+    return indices;
+}
+
 TEST(Legacy, SendsColorsAsTheModeSays)
 {
     using Colors = std::set<std::vector<int>>;
     const auto options = defaults();
-    for (const vrx::EColorsMode mode : {vrx::EColorsMode::Rgb, vrx::EColorsMode::MatchingIndex})
-    {
-        options->setColorsMode(mode);
-        EXPECT_EQ(colorsOf(importFile(CART, options)),
-                  (Colors{{0, 90, 200}, {250, 5, 5}, {255, 0, 0}, {255, 255, 127}}));
-    }
+    const Colors own = {{0, 90, 200}, {250, 5, 5}, {255, 0, 0}, {255, 255, 127}};
+    options->setColorsMode(vrx::EColorsMode::Rgb);
+    const Imported rgb = importFile(CART, options);
+    EXPECT_EQ(colorsOf(rgb), own);
+    EXPECT_THAT(colorIndices(*rgb.structure), IsEmpty());
+
+    options->setColorsMode(vrx::EColorsMode::MatchingIndex);
+    const Imported matching = importFile(CART, options);
+    EXPECT_EQ(colorsOf(matching), own);
+    EXPECT_THAT(colorIndices(*matching.structure), ElementsAre("1", "51"));
+
     options->setColorsMode(vrx::EColorsMode::NearestIndex);
-    EXPECT_EQ(colorsOf(importFile(CART, options)), (Colors{{0, 82, 165}, {255, 0, 0}, {255, 255, 127}}));
+    const Imported nearest = importFile(CART, options);
+    EXPECT_EQ(colorsOf(nearest), (Colors{{0, 82, 165}, {255, 0, 0}, {255, 255, 127}}));
+    EXPECT_THAT(colorIndices(*nearest.structure), ElementsAre("1", "152", "51"));
 }
 
 std::vector<double> numbersOf(const vrx::ExcVector3d& vector)

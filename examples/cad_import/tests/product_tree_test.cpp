@@ -50,7 +50,7 @@ TEST(ProductTree, ShowsReferencesToNoBlock)
     EXPECT_EQ(tree[0].state, State::MissingBlock);
 
     std::ostringstream text;
-    printText(text, structure, {true, false, {}});
+    printText(text, structure, {true, {}});
     EXPECT_THAT(text.str(), testing::HasSubstr("lost [no block with id 7]"));
     printJson(text, structure);
     EXPECT_THAT(text.str(), testing::HasSubstr("\"name\": \"lost\""));

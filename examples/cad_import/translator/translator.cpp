@@ -155,10 +155,7 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     progress.beginStage("Sending the product structure", 60);
     ProductStructureBuilder builder(model, settings);
     const std::shared_ptr<vrx::ExcProductStructure> structure = builder.build();
-    if (settings.paletteColors)
-    {
-        palette_colors::apply(*structure);
-    }
+    palette_colors::apply(*structure, settings.colors);
     m_channel.send(structure);
     if (settings.componentMaps)
     {

@@ -1,7 +1,9 @@
 #include "looks/palette_colors.h"
 
-#include "common/color_index.h"
+#include "common/property_names.h"
+#include "looks/color_index.h"
 #include "looks/scene_nodes.h"
+#include "structure/misc_properties.h"
 
 namespace palette_colors
 {
@@ -22,27 +24,42 @@ vrx::ExcColor nearest(const vrx::ExcColor& color)
 }
 
 template <class References>
-void applyTo(const References& references)
+void applyTo(const References& references, vrx::EColorsMode mode)
 {
     for (const auto& reference : references)
     {
-        reference->setColor(nearest(reference->color()));
+        if (mode == vrx::EColorsMode::NearestIndex)
+        {
+            reference->setColor(nearest(reference->color()));
+        }
+        if (const int index = color_index::matching(reference->color()); index != 0)
+        {
+            add(reference->miscData(), property_names::kColorIndex, index);
+        }
     }
 }
 
 } // namespace
 
-void apply(const vrx::ExcProductStructure& structure)
+void apply(const vrx::ExcProductStructure& structure, vrx::EColorsMode mode)
 {
-    applyTo(structure.rootBlockReferences());
+    if (mode == vrx::EColorsMode::Rgb)
+    {
+        return;
+    }
+    applyTo(structure.rootBlockReferences(), mode);
     for (const auto& block : structure.blocks())
     {
-        applyTo(block->blockReferences());
+        applyTo(block->blockReferences(), mode);
     }
 }
 
-void apply(const vrx::ExcVisualizationData& scene)
+void apply(const vrx::ExcVisualizationData& scene, vrx::EColorsMode mode)
 {
+    if (mode != vrx::EColorsMode::NearestIndex)
+    {
+        return;
+    }
     scene_nodes::visit(scene, [](const vrx::ExcVisuNode& node) {
         if (node.attributes() && node.attributes()->color())
         {

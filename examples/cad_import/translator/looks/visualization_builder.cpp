@@ -58,10 +58,7 @@ std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vr
     data->setUnits(m_structure.units());
     data->addSceneRootNode(scene);
     scaleScene(*data, m_blocks.frame());
-    if (m_settings.paletteColors)
-    {
-        palette_colors::apply(*data);
-    }
+    palette_colors::apply(*data, m_settings.colors);
     auto visualization = std::make_shared<vrx::ExcBlockVisualization>();
     visualization->setBlockId(block.id());
     visualization->setVisualizationData(data);

@@ -53,7 +53,7 @@ ImportSettings settingsOf(const vrx::LegacyImportOptions& options)
     settings.units = options.insUnitsDefSource();
     settings.scaled = options.insUnitsScaling();
     settings.turnStep = options.stepRotateYZ();
-    settings.paletteColors = options.colorsMode() == vrx::EColorsMode::NearestIndex;
+    settings.colors = options.colorsMode();
     settings.debugLog = options.printDebugLog();
     settings.componentMaps = settings.structure == vrx::EProductStructureMode::AsMechanicalComponents;
     return settings;

@@ -24,9 +24,9 @@ struct ImportSettings
     vrx::EHiddenPartsMode hiddenParts = vrx::EHiddenPartsMode::ImportHide;
     vrx::EInsUnits units = vrx::EInsUnits::Unknown; // of a file that names none; when scaled, those to scale to
     bool scaled = false;
-    std::string searchFolder;   // for files that are not where they should be, in UTF-8; may be empty
-    bool turnStep = false;      // the Y axis of a STEP file to Z
-    bool paletteColors = false; // the nearest colours that have a colour index
+    std::string searchFolder; // for files that are not where they should be, in UTF-8; may be empty
+    bool turnStep = false;    // the Y axis of a STEP file to Z
+    vrx::EColorsMode colors = vrx::EColorsMode::Rgb;
     bool debugLog = false;      // the kernel's debug lines in the log
     bool componentMaps = false; // the names and materials of components by their handles
 };

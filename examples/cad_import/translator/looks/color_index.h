@@ -2,9 +2,8 @@
 
 #include "vrx_api/vrx_api_exchange_common.h"
 
-/// The colour index of drawings, 1 to 255, as the DXF reference has it (group code 62).
-///
-/// On the wire a colour states an index by having just its red, green and blue; several indices may have the same.
+/// The colour index of drawings, 1 to 255, as the DXF reference has it (group code 62). Several indices may have the
+/// same colour.
 namespace color_index
 {
 
