@@ -484,9 +484,15 @@ TEST(Legacy, LooksForFilesInTheSearchFolder)
     const auto ballFaces = [](const Imported& imported) {
         return number(imported.structure->blocks().at(1)->miscData(), property_names::kFaces);
     };
-    EXPECT_EQ(ballFaces(importFile(TWO_FILES, options)), 0);
+    const Imported incomplete = importFile(TWO_FILES, options);
+    EXPECT_EQ(ballFaces(incomplete), 0);
+    EXPECT_EQ(incomplete.result.code(), vrx::Result::ECode::Warning);
+    EXPECT_EQ(incomplete.result.message(),
+              WIDE("Files to which the file refers could not be read: ball.step. Their ") WIDE("parts are empty."));
     options->setAlternateSearchPath(import_conventions::kFiles, mp::toWide((folder / "elsewhere").string()));
-    EXPECT_EQ(ballFaces(importFile(TWO_FILES, options)), 1);
+    const Imported complete = importFile(TWO_FILES, options);
+    EXPECT_EQ(ballFaces(complete), 1);
+    EXPECT_EQ(complete.result.code(), vrx::Result::ECode::Ok);
 }
 
 TEST(Legacy, LogsTheKernelsDebugLines)

@@ -11,6 +11,7 @@
 
 #include <Interface_Check.hxx>
 #include <Interface_InterfaceModel.hxx>
+#include <STEPCAFControl_ExternFile.hxx>
 #include <StepGeom_Curve.hxx>
 #include <StepGeom_Placement.hxx>
 #include <StepGeom_Point.hxx>
@@ -90,6 +91,23 @@ std::string damage(const Interface_InterfaceModel& entities)
     return {};
 }
 
+// Parts of an assembly may stand in files of their own.
+std::string missingFiles(const STEPCAFControl_Reader& reader)
+{
+    using Files = NCollection_DataMap<TCollection_AsciiString, Handle(STEPCAFControl_ExternFile)>;
+    std::string missing;
+    for (Files::Iterator file(reader.ExternFiles()); file.More(); file.Next())
+    {
+        if (file.Value()->GetLoadStatus() != IFSelect_RetDone || !file.Value()->GetTransferStatus())
+        {
+            missing += (missing.empty() ? "" : ", ") + std::string(file.Key().ToCString());
+        }
+    }
+    return missing.empty()
+               ? missing
+               : "Files to which the file refers could not be read: " + missing + ". Their parts are empty.";
+}
+
 } // namespace
 
 bool beginsAsStep(const CadFile& file)
@@ -128,4 +146,8 @@ void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& pro
     progress.beginStage("Translating the shapes", 55);
     const Handle(KernelProgress) kernelProgress = new KernelProgress(progress);
     model.step->Transfer(model.document, kernelProgress->Start());
+    if (model.warning.empty())
+    {
+        model.warning = missingFiles(*model.step);
+    }
 }
