@@ -17,19 +17,20 @@
 ///
 /// "unknown" leaves it to the translator, which sends all there is, once.
 ///
-/// Settings of the older interface, for files of all formats; those for the format count beside them:
+/// Settings of the older interface, for files of all formats; those for the format count beside them. A command that
+/// does not name them asks for "graphical", "as_mechanical_components", "matching_index" and "import_show".
 /// - "pmi_mode": "graphical" sends the drawn annotations and the saved views; "semantic" sends neither, but the message
 ///   still tells how much PMI the file holds; "none" does not read the PMI.
 /// - "product_structure_mode": "as_mechanical_components" sends all there is, and the names and materials of components
-///   by their handles; "as_blocks" sends the same blocks and references without their free properties, names and
+///   by their handles; "as_blocks" sends the same blocks and references without the file's properties, names and
 ///   materials; "none" sends, as plainly, one part for each product at the top, with all its shapes in place.
 /// - "colors_mode": "rgb" sends colours as the file has them. "matching_index" does so too, but a block reference whose
 ///   colour has a colour index of drawings also has the property "color index". "nearest_index" sends each colour as
 ///   the nearest one that has an index, with its own alpha, and all block references that have a colour have the
 ///   property.
 /// - "hidden_parts_mode": "import_hide" sends hidden components and shapes hidden; "import_show" sends nothing hidden;
-///   "do_not_import" does not send hidden components, nor the blocks that only these use. The hidden shapes within a
-///   part it sends, hidden.
+///   "do_not_import" does not send hidden components, nor the blocks that only these use. A part that is sent keeps its
+///   hidden shapes, which are marked as hidden.
 /// - "ins_units_def_source" with "ins_units_scaling": the whole model is scaled to this unit, with the lengths, areas
 ///   and volumes among its properties; a file that names no unit is in millimetres then.
 /// - "ins_units_def_source" alone: the unit of a file that names none, whose numbers are sent as they are. All other
@@ -39,7 +40,7 @@
 /// - "alternate_search_paths": under the key "files" a folder. A file that is not where the command says is looked for
 ///   there by its name, and so are the files to which a STEP assembly refers when they are not beside it; but not those
 ///   to which these refer in their turn.
-/// - "debug_log": the lines that the modelling kernel writes for debugging are sent to the log as well.
+/// - "debug_log": what the modelling kernel tells for debugging while it reads a file is sent to the log as well.
 /// - "temporary_dwg", "use_interop_mp", "import_acis_with_draftwell" and "solidworks_rotate_yz" have no effect.
 ///
 /// The handle of a component is the position of its block reference, from 1, among all of the product structure: first

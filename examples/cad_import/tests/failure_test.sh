@@ -58,8 +58,23 @@ expect 0 "The file has errors of syntax" "$host" "$scratch/syntax.step"
 awk 'substr($0, 73, 1) == "P" && /^190,/ { $0 = sprintf("%-64s%s", "190,;", substr($0, 65)) } { print }' \
     "$scratch/vise.igs" >"$scratch/planes.igs"
 expect 0 "geometric entities could not be read. The model may be incomplete." "$host" "$scratch/planes.igs"
-awk 'substr($0, 73, 1) == "P" && /^408,/ && !done++ { sub(/,,0,1,/, ",2.,0,1,"); $0 = substr($0, 1, 64) substr($0, 67) } { print }' \
+awk 'substr($0, 73, 1) == "P" && /^408,/ && ++count == 2 { sub(/,,0,1,/, ",2.,0,1,"); $0 = substr($0, 1, 64) substr($0, 67) } { print }' \
     "$scratch/vise.igs" >"$scratch/scaled.igs"
 expect 0 "1 of the file's entities could not be translated. The model may be incomplete." "$host" "$scratch/scaled.igs"
+# What XDE cannot place, since it is mirrored or no placement at all, is left out and not put anywhere else.
+for matrix in '-1.,0.,0.,0.,0.,1.,0.,0.,0.,0.,1.,28.' '1.1,0.,0.,0.,0.,1.,0.,0.,0.,0.,1.,28.'; do
+    awk -v matrix="124,$matrix;" 'substr($0, 73, 1) == "P" && /^124,1\.,0\.,0\.,0\.,0\.,1\.,0\.,0\.,0\.,0\.,1\.,28\.;/ {
+            $0 = sprintf("%-64s%s", matrix, substr($0, 65)) } { print }' "$scratch/vise.igs" >"$scratch/matrix.igs"
+    expect 0 "1 of the file's entities could not be translated. The model may be incomplete." "$host" "$scratch/matrix.igs"
+done
+# Geometry that the kernel does not know: the surface of a plane as a solid of constructive geometry.
+awk '/^ *190 / { sub(/ 190/, " 150") } /^190,/ { sub(/^190/, "150") } { print }' "$scratch/vise.igs" >"$scratch/block.igs"
+expect 0 "The model may be incomplete." "$host" "$scratch/block.igs"
+# A unit that nobody knows.
+sed 's/^\(.*\),2, G0000002/\1,3, G0000002/; s/^2HMM,\(.*\)G0000003$/2HXX,\1G0000003/' "$scratch/vise.igs" >"$scratch/unit.igs"
+expect 0 "The file names no unit of lengths that is known: its numbers are taken for millimetres." \
+    "$host" "$scratch/unit.igs"
+expect 0 "" "$host" --legacy --option ins_units_def_source=inches "$scratch/unit.igs"
+grep -q 'units inch$' "$scratch/out" || fail "not the unit that the command names for a file without one"
 grep -v 'P *[0-9]*$' "$scratch/vise.igs" >"$scratch/bare.igs"
 expect 1 "Nothing in $scratch/bare.igs could be translated: The file is damaged" "$host" "$scratch/bare.igs"

@@ -488,7 +488,7 @@ TEST(Legacy, LooksForFilesInTheSearchFolder)
     EXPECT_EQ(ballFaces(incomplete), 0);
     EXPECT_EQ(incomplete.result.code(), vrx::Result::ECode::Warning);
     EXPECT_EQ(incomplete.result.message(),
-              WIDE("Files to which the file refers could not be read: ball.step. Their ") WIDE("parts are empty."));
+              WIDE("Files to which the file refers could not be read: ball.step. The ") WIDE("model may be incomplete."));
     options->setAlternateSearchPath(import_conventions::kFiles, mp::toWide((folder / "elsewhere").string()));
     const Imported complete = importFile(TWO_FILES, options);
     EXPECT_EQ(ballFaces(complete), 1);

@@ -44,6 +44,13 @@ vrx::Result error(const std::string& message)
     return result(vrx::Result::ECode::Error, message);
 }
 
+vrx::Result importResult(const CadModel& model)
+{
+    std::string message = model.damage.empty() ? "" : model.damage + " The model may be incomplete.";
+    message += (message.empty() || model.remark.empty() ? "" : " ") + model.remark;
+    return result(message.empty() ? vrx::Result::ECode::Ok : vrx::Result::ECode::Warning, message);
+}
+
 } // namespace
 
 void Translator::run()
@@ -166,8 +173,7 @@ vrx::Result Translator::translate(const ImportSettings& settings)
 
     sendBodies(*structure, builder, progress);
     sendVisualization(VisualizationBuilder(model, settings, *structure, builder), *structure, progress);
-    return model.warning.empty() ? result(vrx::Result::ECode::Ok, "")
-                                 : result(vrx::Result::ECode::Warning, model.warning);
+    return importResult(model);
 }
 
 void Translator::sendBodies(const vrx::ExcProductStructure& structure, const ProductStructureBuilder& builder,

@@ -101,7 +101,7 @@ private:
             {
                 face->setId(id('f', m_faces.FindIndex(explorer.Current()) - 1));
                 face->setMechanicalId(face->id());
-                face->setColor(faceColor(explorer.Current()));
+                face->setColor(colorOf(explorer.Current()));
                 mesh->addFace(face);
             }
         }
@@ -153,14 +153,15 @@ private:
             if (const auto edge = tessellation::edge(TopoDS::Edge(edges(i))))
             {
                 edge->setMechanicalId(id('e', m_edges.FindIndex(edges(i)) - 1));
+                edge->setColor(colorOf(edges(i)));
                 item.addEdge(edge);
             }
         }
     }
 
-    vrx::ExcColor faceColor(const TopoDS_Shape& face) const
+    vrx::ExcColor colorOf(const TopoDS_Shape& shape) const
     {
-        const ShapeLooks::Look* look = m_looks.of(face);
+        const ShapeLooks::Look* look = m_looks.of(shape);
         return look ? look->color : vrx::ExcColor();
     }
 

@@ -23,6 +23,16 @@ vrx::ExcColor nearest(const vrx::ExcColor& color)
     return result;
 }
 
+// To each face or edge.
+template <class Items>
+void applyTo(const Items& items)
+{
+    for (const auto& item : items)
+    {
+        item->setColor(nearest(item->color()));
+    }
+}
+
 template <class References>
 void applyTo(const References& references, vrx::EColorsMode mode)
 {
@@ -67,10 +77,12 @@ void apply(const vrx::ExcVisualizationData& scene, vrx::EColorsMode mode)
         }
         if (node.mesh())
         {
-            for (const auto& face : node.mesh()->faces())
-            {
-                face->setColor(nearest(face->color()));
-            }
+            applyTo(node.mesh()->faces());
+            applyTo(node.mesh()->edges());
+        }
+        if (node.wire())
+        {
+            applyTo(node.wire()->edges());
         }
     });
 }

@@ -16,6 +16,8 @@ struct CadModel
     std::unique_ptr<STEPCAFControl_Reader> step;
     std::unique_ptr<IGESControl_Reader> iges;
     bool namesUnit = true; // of lengths
-    /// For the user, when parts of the file could not be read and the model may be incomplete; otherwise empty.
-    std::string warning;
+    /// For the user: what could not be read, so that the model may be incomplete. Otherwise empty.
+    std::string damage;
+    /// For the user: what else should be known of the model. Otherwise empty.
+    std::string remark;
 };

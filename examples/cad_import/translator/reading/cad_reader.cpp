@@ -58,9 +58,9 @@ CadModel readModel(const ImportSettings& settings, HostChannel& channel, ImportP
     XCAFDoc_DocumentTool::ShapeTool(model.document->Main())->GetFreeShapes(shapes);
     if (shapes.IsEmpty())
     {
-        const std::string& reason = messages->lastFailure().empty() ? model.warning : messages->lastFailure();
+        const std::string& reason = messages->lastFailure().empty() ? model.damage : messages->lastFailure();
         throw TranslationError("Nothing in " + model.path + " could be translated" +
-                               (reason.empty() ? "." : ": " + reason));
+                               (reason.empty() ? ", or all of it is left out by the settings." : ": " + reason));
     }
     return model;
 }

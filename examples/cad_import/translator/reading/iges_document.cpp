@@ -1,6 +1,7 @@
 #include "reading/iges_document.h"
 
 #include "import_progress.h"
+#include "kernel/occt_text.h"
 #include "reading/iges_entity.h"
 #include "reading/import_settings.h"
 
@@ -12,7 +13,6 @@
 #include <Interface_EntityIterator.hxx>
 #include <Interface_Protocol.hxx>
 #include <Quantity_Color.hxx>
-#include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
 #include <TopoDS_Builder.hxx>
 #include <TransferBRep.hxx>
@@ -22,7 +22,6 @@
 #include <XSControl_WorkSession.hxx>
 
 #include <algorithm>
-#include <cmath>
 
 namespace
 {
@@ -32,14 +31,7 @@ using HiddenMode = vrx::ETranslateHiddenEntitiesModeType;
 
 void setName(const TDF_Label& label, const std::string& name)
 {
-    TDataStd_Name::Set(label, TCollection_ExtendedString(name.c_str(), true));
-}
-
-// XDE has no place for what is scaled or mirrored.
-bool isRigid(const TopLoc_Location& place)
-{
-    const gp_Trsf matrix = place.Transformation();
-    return !matrix.IsNegative() && std::abs(matrix.ScaleFactor() - 1) < TopLoc_Location::ScalePrec();
+    TDataStd_Name::Set(label, occt_text::extended(name.c_str()));
 }
 
 bool saysSomething(const Entity& entity)
@@ -78,59 +70,79 @@ int IgesDocument::countOfShapes() const
     return count;
 }
 
-void IgesDocument::build(const std::string& name)
+bool IgesDocument::build(const std::string& name)
 {
-    const std::vector<Item> items = itemsOf(wantedRoots(), name);
+    const std::vector<Entity> roots = wantedRoots();
+    const std::vector<Item> items = itemsOf(roots, name);
     if (items.empty())
     {
-        return;
+        return !roots.empty();
     }
     const bool isOneThing = items.size() == 1 && items[0].place.IsIdentity() && !items[0].isHidden;
-    removeAllBut(isOneThing ? items[0].block : assemblyOf(items, name));
+    if (!isOneThing)
+    {
+        assemblyOf(items, name);
+    }
     m_shapes->UpdateAssemblies();
+    return true;
 }
 
-// Blocks are left over when each of their instances is scaled or mirrored, and so are the blocks in these.
-void IgesDocument::removeAllBut(const TDF_Label& top)
+bool IgesDocument::isKnown(const Entity& entity) const
 {
-    bool isDone = false;
-    while (!isDone)
+    return m_reader.WS()->TransferReader()->Recognize(entity);
+}
+
+// Nothing that the kernel translates, and no other geometry, has the entity for a part of it.
+bool IgesDocument::isRoot(const Entity& entity) const
+{
+    Interface_EntityIterator holders = m_graph.Sharings(entity);
+    for (; holders.More(); holders.Next())
     {
-        isDone = true;
-        TDF_LabelSequence free;
-        m_shapes->GetFreeShapes(free);
-        for (const TDF_Label& label : free)
+        const Entity holder = Entity::DownCast(holders.Value());
+        if (!holder.IsNull() && (isKnown(holder) || !iges_entity::isAssociativity(holder)))
         {
-            isDone = (label == top || !m_shapes->RemoveShape(label)) && isDone;
+            return false;
         }
     }
+    return true;
 }
 
 std::vector<Entity> IgesDocument::wantedRoots() const
 {
-    std::vector<Entity> entities;
-    for (int i = 1; i <= m_reader.NbRootsForTransfer(); ++i)
-    {
-        entities.push_back(Entity::DownCast(m_reader.RootForTransfer(i)));
-    }
-    for (int i = 1; m_settings.nonroots && i <= m_model->NbEntities(); ++i)
+    std::vector<Entity> roots;
+    std::vector<Entity> others;
+    for (int i = 1; i <= m_model->NbEntities(); ++i)
     {
         const Entity entity = m_model->Entity(i);
-        if (iges_entity::isLogicallyDependent(entity) && !entity->IsKind(STANDARD_TYPE(IGESBasic_SubfigureDef)) &&
-            std::find(entities.begin(), entities.end(), entity) == entities.end())
+        const bool isDefinition = entity->IsKind(STANDARD_TYPE(IGESBasic_SubfigureDef));
+        if (isRoot(entity) && (isKnown(entity) || iges_entity::bringsShapes(entity)))
         {
-            entities.push_back(entity);
+            roots.push_back(entity);
+        }
+        else if (m_settings.nonroots && iges_entity::isLogicallyDependent(entity) && !isDefinition)
+        {
+            others.push_back(entity);
         }
     }
-    return entities;
+    roots.insert(roots.end(), others.begin(), others.end());
+    return roots;
 }
 
-bool IgesDocument::isWanted(const Entity& entity) const
+bool IgesDocument::isWanted(const Entity& entity)
 {
-    if (!m_reader.WS()->TransferReader()->Recognize(entity))
+    if (!isShown(entity))
     {
         return false;
     }
+    if (!isKnown(entity) && iges_entity::bringsShapes(entity) && !iges_entity::isAssociativity(entity))
+    {
+        m_untranslatable.Add(entity);
+    }
+    return isKnown(entity);
+}
+
+bool IgesDocument::isShown(const Entity& entity) const
+{
     if (!iges_entity::isHidden(entity) || m_settings.hidden == HiddenMode::All)
     {
         return true;
@@ -191,15 +203,20 @@ IgesDocument::Item IgesDocument::itemOf(const Entity& entity)
     Item item;
     item.entity = entity;
     item.isHidden = iges_entity::isHidden(entity);
-    if (const auto instance = Handle(IGESBasic_SingularSubfigure)::DownCast(entity); !instance.IsNull())
+    const auto instance = Handle(IGESBasic_SingularSubfigure)::DownCast(entity);
+    if (!instance.IsNull() || iges_entity::isContainer(entity))
     {
-        item.block = instance->Subfigure().IsNull() ? TDF_Label() : blockOf(instance->Subfigure());
-        item.place = iges_entity::placeOf(entity, unit);
-    }
-    else if (iges_entity::isContainer(entity))
-    {
-        item.block = blockOf(entity);
-        item.place = iges_entity::placeOf(entity, unit);
+        const Entity container = instance.IsNull() ? entity : Entity(instance->Subfigure());
+        const auto place = iges_entity::placeOf(entity, unit);
+        if (!place)
+        {
+            m_untranslatable.Add(entity);
+        }
+        else if (!container.IsNull())
+        {
+            item.place = *place;
+            item.block = blockOf(container);
+        }
     }
     else if (const TopoDS_Shape shape = shapeOf(entity); !shape.IsNull() && shape.ShapeType() <= TopAbs_SHELL)
     {
@@ -282,11 +299,6 @@ TDF_Label IgesDocument::assemblyOf(const std::vector<Item>& items, const std::st
     setName(assembly, name);
     for (const Item& item : items)
     {
-        if (!isRigid(item.place))
-        {
-            m_untranslatable.Add(item.entity);
-            continue;
-        }
         const TDF_Label component = m_shapes->AddComponent(assembly, item.block, item.place);
         const std::string own = item.entity.IsNull() ? std::string() : iges_entity::nameOf(item.entity);
         Handle(TDataStd_Name) blockName;
@@ -340,7 +352,13 @@ TopoDS_Shape IgesDocument::shapeOf(const Entity& entity)
         m_untranslatable.Add(entity);
         return {};
     }
-    return TransferBRep::ShapeResult(transfer->TransientProcess(), entity);
+    const TopoDS_Shape shape = TransferBRep::ShapeResult(transfer->TransientProcess(), entity);
+    if (!shape.IsNull() && !iges_entity::isRigid(shape.Location().Transformation()))
+    {
+        m_untranslatable.Add(entity);
+        return {};
+    }
+    return shape;
 }
 
 std::string IgesDocument::nameOf(const Entity& entity) const

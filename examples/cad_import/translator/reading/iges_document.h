@@ -30,8 +30,8 @@ public:
     IgesDocument(IGESControl_Reader& reader, const ImportSettings& settings, const Handle(TDocStd_Document) & document,
                  ImportProgress& progress);
 
-    /// `name` is that of the file's assembly, where it has one.
-    void build(const std::string& name);
+    /// `name` is that of the file's assembly, where it has one. False when the file has no geometry.
+    bool build(const std::string& name);
 
     /// How many entities were wanted but could not be translated.
     int failures() const { return m_untranslatable.Extent(); }
@@ -50,9 +50,11 @@ private:
     };
 
     int countOfShapes() const;
-    void removeAllBut(const TDF_Label& top);
+    bool isKnown(const Entity& entity) const;
+    bool isRoot(const Entity& entity) const;
     std::vector<Entity> wantedRoots() const;
-    bool isWanted(const Entity& entity) const;
+    bool isWanted(const Entity& entity);
+    bool isShown(const Entity& entity) const;
     std::vector<Item> itemsOf(const std::vector<Entity>& members, const std::string& name);
     Item itemOf(const Entity& entity);
     TDF_Label blockOf(const Entity& container);

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 namespace iges_entity
 {
@@ -25,6 +26,19 @@ bool isHidden(const Entity& entity)
 bool isLogicallyDependent(const Entity& entity)
 {
     return entity->SubordinateStatus() == 2 || entity->SubordinateStatus() == 3;
+}
+
+bool bringsShapes(const Entity& entity)
+{
+    static const std::set<int> kOthers = {308, 402, 408, 412, 414, 430};
+    const int type = entity->TypeNumber();
+    return (type >= 100 && type < 200 && type != 124) || (type >= 500 && type < 600) || kOthers.count(type) != 0;
+}
+
+bool isAssociativity(const Entity& entity)
+{
+    const int type = entity->TypeNumber();
+    return type == 402 || type == 404 || type == 410;
 }
 
 bool isContainer(const Entity& entity)
@@ -98,13 +112,19 @@ bool isIdentity(const gp_Trsf& place)
 
 } // namespace
 
-TopLoc_Location placeOf(const Entity& entity, double unit)
+bool isRigid(const gp_Trsf& place)
+{
+    return std::abs(place.VectorialPart().Determinant() - 1) < TopLoc_Location::ScalePrec();
+}
+
+std::optional<TopLoc_Location> placeOf(const Entity& entity, double unit)
 {
     gp_Trsf place;
-    if (entity->HasTransf())
+    const double precision = 1e-4;
+    if (entity->HasTransf() &&
+        !IGESData_ToolLocation::ConvertLocation(precision, entity->CompoundLocation(), place, unit))
     {
-        const double precision = 1e-4;
-        IGESData_ToolLocation::ConvertLocation(precision, entity->CompoundLocation(), place, unit);
+        return std::nullopt;
     }
     if (const auto instance = Handle(IGESBasic_SingularSubfigure)::DownCast(entity); !instance.IsNull())
     {
@@ -115,6 +135,10 @@ TopLoc_Location placeOf(const Entity& entity, double unit)
             own.SetScaleFactor(instance->ScaleFactor());
         }
         place.Multiply(own);
+    }
+    if (!isRigid(place))
+    {
+        return std::nullopt;
     }
     return isIdentity(place) ? TopLoc_Location() : TopLoc_Location(place);
 }

@@ -3,9 +3,11 @@
 #include "import_progress.h"
 #include "reading/cad_file.h"
 #include "reading/iges_document.h"
+#include "reading/iges_entity.h"
 #include "reading/import_settings.h"
 #include "translation_error.h"
 
+#include <IGESData_BasicEditor.hxx>
 #include <IGESData_IGESEntity.hxx>
 #include <IGESData_IGESModel.hxx>
 #include <Interface_Check.hxx>
@@ -33,31 +35,43 @@ std::string lastRecord(const CadFile& file)
     return lineEnd == std::string::npos ? text : text.substr(lineEnd + 1);
 }
 
-// Geometry, solids, and the groups and subfigures that hold them.
-bool bringsShapes(int type)
-{
-    return type < 200 || type == 308 || type == 402 || type == 408 || (type >= 500 && type < 600);
-}
-
 // What the kernel does not know of other entities is no damage.
 std::string damage(const IGESData_IGESModel& entities)
 {
     int unreadable = 0;
     for (int i = 1; i <= entities.NbEntities(); ++i)
     {
-        unreadable += bringsShapes(entities.Entity(i)->TypeNumber()) && entities.IsErrorEntity(i) ? 1 : 0;
+        unreadable += iges_entity::bringsShapes(entities.Entity(i)) && entities.IsErrorEntity(i) ? 1 : 0;
     }
     if (unreadable > 0)
     {
-        return "The file is damaged: " + std::to_string(unreadable) +
-               " of its geometric entities could not be read. The model may be incomplete.";
-    }
-    if (entities.GlobalCheck()->HasFailed())
-    {
-        return std::string("The file's global section, which tells the unit of lengths, has errors, the first one: ") +
-               entities.GlobalCheck()->CFail(1);
+        return "The file is damaged: " + std::to_string(unreadable) + " of its geometric entities could not be read.";
     }
     return {};
+}
+
+// The unit of lengths, by the flag of the global section, or by its name where the flag says so.
+bool namesUnit(const IGESData_GlobalSection& section)
+{
+    const int kByName = 3;
+    const int flag = section.UnitFlag();
+    return flag == kByName ? !section.UnitName().IsNull() &&
+                                 IGESData_BasicEditor::UnitNameFlag(section.UnitName()->ToCString()) != 0
+                           : IGESData_BasicEditor::UnitFlagValue(flag) != 0;
+}
+
+void takeMillimetres(IGESData_IGESModel& entities)
+{
+    const int kMillimetres = 2;
+    IGESData_GlobalSection section = entities.GlobalSection();
+    section.SetUnitFlag(kMillimetres);
+    section.SetUnitName(new TCollection_HAsciiString("MM"));
+    entities.SetGlobalSection(section);
+}
+
+TranslationError noGeometry(const CadFile& file)
+{
+    return TranslationError(file.path() + " holds no geometry.");
 }
 
 } // namespace
@@ -86,21 +100,32 @@ void readIges(const CadFile& file, const ImportSettings& settings, ImportProgres
     {
         throw TranslationError(file.path() + " is damaged: it cannot be parsed as an IGES file.");
     }
-    if (reader.NbRootsForTransfer() == 0)
-    {
-        throw TranslationError(file.path() + " holds no geometry.");
-    }
     const Handle(IGESData_IGESModel) entities = reader.IGESModel();
-    model.warning = damage(*entities);
+    if (entities->NbEntities() == 0) // the kernel makes no graph of nothing
+    {
+        throw noGeometry(file);
+    }
+    model.damage = damage(*entities);
+    model.namesUnit = namesUnit(entities->GlobalSection());
+    if (!model.namesUnit)
+    {
+        takeMillimetres(*entities);
+    }
 
     progress.beginStage("Translating the shapes", 55);
     XCAFDoc_DocumentTool::SetLengthUnit(model.document, 0.001);
     entities->ChangeGlobalSection().SetCascadeUnit(1); // in millimetres
     IgesDocument document(reader, settings, model.document, progress);
-    document.build(std::filesystem::path(file.path()).stem().string());
-    if (document.failures() > 0 && model.warning.empty())
+    if (!document.build(std::filesystem::path(file.path()).stem().string()))
     {
-        model.warning = std::to_string(document.failures()) +
-                        " of the file's entities could not be translated. The model may be incomplete.";
+        throw noGeometry(file);
+    }
+    if (document.failures() > 0 && model.damage.empty())
+    {
+        model.damage = std::to_string(document.failures()) + " of the file's entities could not be translated.";
+    }
+    if (!model.namesUnit && settings.units == vrx::EInsUnits::Unknown)
+    {
+        model.remark = "The file names no unit of lengths that is known: its numbers are taken for millimetres.";
     }
 }

@@ -80,13 +80,11 @@ std::string damage(const Interface_InterfaceModel& entities)
     }
     if (unreadable > 0)
     {
-        return "The file is damaged: " + std::to_string(unreadable) +
-               " of its geometric entities could not be read. The model may be incomplete.";
+        return "The file is damaged: " + std::to_string(unreadable) + " of its geometric entities could not be read.";
     }
     if (entities.GlobalCheck()->HasFailed())
     {
-        return std::string("The file has errors of syntax, the first one: ") + entities.GlobalCheck()->CFail(1) +
-               ". The model may be incomplete.";
+        return std::string("The file has errors of syntax, the first one: ") + entities.GlobalCheck()->CFail(1) + ".";
     }
     return {};
 }
@@ -103,9 +101,7 @@ std::string missingFiles(const STEPCAFControl_Reader& reader)
             missing += (missing.empty() ? "" : ", ") + std::string(file.Key().ToCString());
         }
     }
-    return missing.empty()
-               ? missing
-               : "Files to which the file refers could not be read: " + missing + ". Their parts are empty.";
+    return missing.empty() ? missing : "Files to which the file refers could not be read: " + missing + ".";
 }
 
 } // namespace
@@ -136,7 +132,7 @@ void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& pro
     read(*model.step, file, progress);
     const Handle(Interface_InterfaceModel) entities = session->Model();
     model.namesUnit = namesUnit(model.step->ChangeReader());
-    model.warning = damage(*entities);
+    model.damage = damage(*entities);
     findExternalFiles(*entities, file.path(), settings);
     if (settings.pmi)
     {
@@ -146,8 +142,8 @@ void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& pro
     progress.beginStage("Translating the shapes", 55);
     const Handle(KernelProgress) kernelProgress = new KernelProgress(progress);
     model.step->Transfer(model.document, kernelProgress->Start());
-    if (model.warning.empty())
+    if (model.damage.empty())
     {
-        model.warning = missingFiles(*model.step);
+        model.damage = missingFiles(*model.step);
     }
 }

@@ -109,7 +109,7 @@ FileProperties::FileProperties(const CadModel& model, double scale)
 {
     if (model.iges)
     {
-        m_head = igesHead(model.iges->IGESModel()->GlobalSection());
+        m_head = igesHead(*model.iges->IGESModel(), model.namesUnit);
     }
     if (!model.step)
     {

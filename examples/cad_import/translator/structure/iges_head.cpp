@@ -48,8 +48,9 @@ mp::wstring timeText(const Handle(TCollection_HAsciiString) & date)
 
 } // namespace
 
-vrx::ExcMiscData igesHead(const IGESData_GlobalSection& section)
+vrx::ExcMiscData igesHead(const IGESData_IGESModel& entities, bool namesUnit)
 {
+    const IGESData_GlobalSection& section = entities.GlobalSection();
     const auto string = ExcMiscProperty::EType::String;
     vrx::ExcMiscData head;
     addText(head, WIDE("schema"), string, versionText(section.IGESVersion()));
@@ -59,6 +60,13 @@ vrx::ExcMiscData igesHead(const IGESData_GlobalSection& section)
     addText(head, WIDE("organization"), string, occt_text::wide(section.CompanyName()));
     addText(head, WIDE("originating system"), string, occt_text::wide(section.SystemId()));
     addText(head, WIDE("preprocessor version"), string, occt_text::wide(section.InterfaceVersion()));
-    addText(head, property_names::kFileLengthUnit, string, unitText(section));
+    if (namesUnit)
+    {
+        addText(head, property_names::kFileLengthUnit, string, unitText(section));
+    }
+    if (section.Scale() != 1)
+    {
+        add(head, WIDE("model space scale"), section.Scale());
+    }
     return head;
 }
