@@ -487,8 +487,8 @@ TEST(Legacy, LooksForFilesInTheSearchFolder)
     const Imported incomplete = importFile(TWO_FILES, options);
     EXPECT_EQ(ballFaces(incomplete), 0);
     EXPECT_EQ(incomplete.result.code(), vrx::Result::ECode::Warning);
-    EXPECT_EQ(incomplete.result.message(),
-              WIDE("Files to which the file refers could not be read: ball.step. The ") WIDE("model may be incomplete."));
+    EXPECT_EQ(incomplete.result.message(), WIDE("Files to which the file refers could not be read: ball.step. The ")
+                                               WIDE("model may be incomplete."));
     options->setAlternateSearchPath(import_conventions::kFiles, mp::toWide((folder / "elsewhere").string()));
     const Imported complete = importFile(TWO_FILES, options);
     EXPECT_EQ(ballFaces(complete), 1);
