@@ -1,12 +1,13 @@
 #include "format_settings.h"
 
+#include "common/file_extension.h"
+#include "common/import_conventions.h"
 #include "mp/narrow.h"
 #include "usage_error.h"
 #include "vrx_api/json/json_value.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 
 namespace
@@ -18,19 +19,19 @@ std::shared_ptr<vrx::IFormatOptions> newOptions()
     return std::make_shared<Options>();
 }
 
+bool contains(const std::vector<std::string_view>& texts, std::string_view text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
 const FormatSettings* settingsFor(const std::string& file)
 {
-    std::string extension = std::filesystem::path(file).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    const std::string extension = fileExtension(file);
     for (const FormatSettings& format : formatSettings())
     {
-        for (const std::string_view known : format.extensions)
+        if (contains(format.extensions, extension))
         {
-            if (extension.size() == known.size() + 1 && extension.substr(1) == known)
-            {
-                return &format;
-            }
+            return &format;
         }
     }
     return nullptr;
