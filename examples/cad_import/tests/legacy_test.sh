@@ -37,5 +37,5 @@ grep -q '^  ball: .* area 3.14159265359, .* box (-0.5 -0.5 -0.5) to (0.5 0.5 0.5
 expect 2 "visu_pmi_mode, use_interop_mp, pmi_mode, product_structure_mode" "$host" --legacy --option some=1 "$vise"
 expect 2 "pmi_mode takes none, graphical, semantic" "$host" --legacy --option pmi_mode=all "$vise"
 expect 2 "step_rotate_yz takes true, false" "$host" --legacy --option step_rotate_yz=1 "$vise"
-expect 2 "alternate_search_paths takes KEY=PATH" "$host" --legacy --option alternate_search_paths=files "$vise"
+expect 2 "alternate_search_paths takes files=FOLDER" "$host" --legacy --option alternate_search_paths=parts=/ "$vise"
 expect 2 "there is no setting pmi_mode" "$host" --option pmi_mode=none "$vise"
