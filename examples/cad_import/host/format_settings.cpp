@@ -1,12 +1,13 @@
 #include "format_settings.h"
 
+#include "common/file_extension.h"
+#include "common/import_conventions.h"
 #include "mp/narrow.h"
 #include "usage_error.h"
 #include "vrx_api/json/json_value.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 
 namespace
@@ -18,19 +19,19 @@ std::shared_ptr<vrx::IFormatOptions> newOptions()
     return std::make_shared<Options>();
 }
 
+bool contains(const std::vector<std::string_view>& texts, std::string_view text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
 const FormatSettings* settingsFor(const std::string& file)
 {
-    std::string extension = std::filesystem::path(file).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    const std::string extension = fileExtension(file);
     for (const FormatSettings& format : formatSettings())
     {
-        for (const std::string_view known : format.extensions)
+        if (contains(format.extensions, extension))
         {
-            if (extension.size() == known.size() + 1 && extension.substr(1) == known)
-            {
-                return &format;
-            }
+            return &format;
         }
     }
     return nullptr;
@@ -66,12 +67,10 @@ vrx::JsonValue text(std::string_view narrow, vrx::JsonAllocator& allocator)
     return {wide.data(), static_cast<rapidjson::SizeType>(wide.size()), allocator};
 }
 
-// Sets a member of an object; the class that reads the object decides what it takes. It writes back what it took, but
-// for a flag that is false.
+// Sets one member of an object and leaves the others.
 void set(vrx::IJsonObject& options, const Setting& setting, const std::string& value)
 {
-    const bool isFlag = setting.kind == Setting::EKind::Flag;
-    if (isFlag && value != "true" && value != "false")
+    if (!contains(setting.values, value))
     {
         throw wrongValue(setting);
     }
@@ -79,33 +78,27 @@ void set(vrx::IJsonObject& options, const Setting& setting, const std::string& v
     vrx::JsonAllocator& allocator = document.GetAllocator();
     options.writeObject(document, allocator);
     vrx::JsonValue name = text(setting.name, allocator);
-    const vrx::JsonValue given = isFlag ? vrx::JsonValue(value == "true") : text(value, allocator);
+    vrx::JsonValue member =
+        setting.kind == Setting::EKind::Flag ? vrx::JsonValue(value == "true") : text(value, allocator);
     document.RemoveMember(name);
-    document.AddMember(name, vrx::JsonValue(given, allocator), allocator);
+    document.AddMember(name, member, allocator);
     options.readObject(document);
-
-    vrx::JsonDocument written;
-    options.writeObject(written, written.GetAllocator());
-    const auto member = written.FindMember(text(setting.name, written.GetAllocator()));
-    if (member != written.MemberEnd() ? member->value != given : !given.IsFalse())
-    {
-        throw wrongValue(setting);
-    }
 }
 
 void setLegacy(vrx::LegacyImportOptions& options, const Setting& setting, const std::string& value)
 {
-    if (setting.kind != Setting::EKind::Paths)
+    if (setting.kind != Setting::EKind::Folder)
     {
         set(options, setting, value);
         return;
     }
     const std::size_t sign = value.find('=');
-    if (sign == 0 || sign >= value.size() - 1)
+    const mp::wstring key = mp::toWide(value.substr(0, sign));
+    if (key != import_conventions::kFiles || sign >= value.size() - 1)
     {
         throw wrongValue(setting);
     }
-    options.setAlternateSearchPath(mp::toWide(value.substr(0, sign)), mp::toWide(value.substr(sign + 1)));
+    options.setAlternateSearchPath(key, mp::toWide(value.substr(sign + 1)));
 }
 
 // `legacy` holds the other settings that could have been given.
@@ -174,7 +167,7 @@ const std::vector<Setting>& legacySettings()
         {"import_acis_with_draftwell", {"true", "false"}, EKind::Flag},
         {"step_rotate_yz", {"true", "false"}, EKind::Flag},
         {"solidworks_rotate_yz", {"true", "false"}, EKind::Flag},
-        {"alternate_search_paths", {"KEY=PATH"}, EKind::Paths},
+        {"alternate_search_paths", {"files=FOLDER"}, EKind::Folder},
         {"debug_log", {"true", "false"}, EKind::Flag},
     };
     return kSettings;

@@ -18,7 +18,7 @@ struct Setting
     {
         Mode,
         Flag,
-        Paths, // a path for each of several keys
+        Folder, // a folder under a key; `values` tells the form
     };
 
     std::string_view name;

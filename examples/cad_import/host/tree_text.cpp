@@ -1,4 +1,5 @@
 #include "common/property_names.h"
+#include "find_property.h"
 #include "printable.h"
 #include "product_tree.h"
 #include "tree_output.h"
@@ -20,14 +21,8 @@ std::string counted(const std::string& count, const char* singular, const char* 
 
 std::string property(const vrx::ExcMiscData& data, const mp::wchar* name)
 {
-    for (const vrx::ExcMiscProperty& property : data.properties())
-    {
-        if (property.name() == name)
-        {
-            return printable(property.value());
-        }
-    }
-    return {};
+    const vrx::ExcMiscProperty* const found = findProperty(data, name);
+    return found != nullptr ? printable(found->value()) : std::string();
 }
 
 std::string partNote(const vrx::ExcBlock& block)
@@ -81,12 +76,10 @@ std::string note(const ProductTreeNode& node)
 
 std::string colorText(const vrx::ExcBlockReference& reference)
 {
-    for (const vrx::ExcMiscProperty& property : reference.miscData().properties())
+    const std::string index = property(reference.miscData(), property_names::kColorIndex);
+    if (!index.empty())
     {
-        if (property.name() == property_names::kColorIndex)
-        {
-            return "color " + printable(property.value());
-        }
+        return "color " + index;
     }
     const vrx::ExcColor& color = reference.color();
     std::ostringstream stream;

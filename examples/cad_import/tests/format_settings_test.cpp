@@ -177,6 +177,15 @@ TEST(LegacySettings, StandBesideThoseOfTheFormat)
         },
         ThrowsMessage<UsageError>(HasSubstr("hidden_entities_mode, use_interop_mp")));
     EXPECT_THAT([] { importOptions("a.step", {{"pmi_mode", "none"}}); }, Throws<UsageError>());
+    for (const std::string paths : {"files", "files=", "=/a", "parts=/a"})
+    {
+        EXPECT_THAT(
+            [&] {
+                legacyImportOptions("a.igs", {{"alternate_search_paths", paths}});
+            },
+            Throws<UsageError>())
+            << paths;
+    }
 }
 
 } // namespace

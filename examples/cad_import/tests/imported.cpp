@@ -1,7 +1,10 @@
 #include "imported.h"
 
 #include "host/translator_session.h"
+#include "host/tree_output.h"
 #include "mp/narrow.h"
+
+#include <sstream>
 
 namespace
 {
@@ -67,4 +70,13 @@ Imported importFile(const std::string& file, const std::shared_ptr<vrx::IFormatO
     const auto options = vrx::Command::newImportOptions();
     options->setFormatOptions(settings);
     return importFile(file, options);
+}
+
+std::string treeText(const Imported& imported)
+{
+    std::ostringstream stream;
+    printText(stream, *imported.structure);
+    const std::string text = stream.str();
+    const std::size_t begin = text.find('\n') + 1;
+    return text.substr(begin, text.rfind('\n', text.size() - 2) + 1 - begin);
 }

@@ -32,3 +32,6 @@ Imported importFile(const std::string& file, const std::shared_ptr<vrx::ImportOp
 
 /// The same with settings for its format, or with none.
 Imported importFile(const std::string& file, const std::shared_ptr<vrx::IFormatOptions>& settings = nullptr);
+
+/// The product tree as the host prints it, without the first line and the last.
+std::string treeText(const Imported& imported);

@@ -1,5 +1,5 @@
 #include "common/property_names.h"
-#include "host/tree_output.h"
+#include "host/find_property.h"
 #include "iges_sample.h"
 #include "imported.h"
 #include "vrx_api/vrx_api_format_options.h"
@@ -12,7 +12,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
-#include <sstream>
 #include <string>
 
 namespace
@@ -21,23 +20,11 @@ namespace
 using Hidden = vrx::ETranslateHiddenEntitiesModeType;
 using Entities = vrx::EImportEntities;
 
-// The tree without the first line and the last.
-std::string treeOf(const Imported& imported)
-{
-    std::ostringstream stream;
-    printText(stream, *imported.structure);
-    const std::string text = stream.str();
-    const std::size_t begin = text.find('\n') + 1;
-    return text.substr(begin, text.rfind('\n', text.size() - 2) + 1 - begin);
-}
-
 bool hasLayers(const Imported& imported)
 {
     const auto& blocks = imported.structure->blocks();
     return std::any_of(blocks.begin(), blocks.end(), [](const auto& block) {
-        const auto& properties = block->miscData().properties();
-        return std::any_of(properties.begin(), properties.end(),
-                           [](const auto& property) { return property.name() == property_names::kLayer; });
+        return findProperty(block->miscData(), property_names::kLayer) != nullptr;
     });
 }
 
@@ -115,17 +102,17 @@ const char kAll[] = R"(sample (sample) [assembly: 7 components]
 TEST_F(OptionsIges, AllHiddenEntitiesAreMarked)
 {
     const Imported imported = import(Hidden::All, Entities::RootOnly);
-    EXPECT_EQ(treeOf(imported), kAll);
+    EXPECT_EQ(treeText(imported), kAll);
     EXPECT_EQ(imported.result.message(), WIDE(""));
     EXPECT_EQ(imported.scenes.size(), 9U);
-    EXPECT_EQ(treeOf(import(Hidden::Unknown, Entities::Unknown)), kAll);
-    EXPECT_EQ(treeOf(importFile(m_file)), kAll);
+    EXPECT_EQ(treeText(import(Hidden::Unknown, Entities::Unknown)), kAll);
+    EXPECT_EQ(treeText(importFile(m_file)), kAll);
 }
 
 TEST_F(OptionsIges, NoHiddenEntities)
 {
     const Imported imported = import(Hidden::None, Entities::RootOnly);
-    EXPECT_EQ(treeOf(imported), R"(sample (sample) [assembly: 4 components]
+    EXPECT_EQ(treeText(imported), R"(sample (sample) [assembly: 4 components]
   box (box) #ff0000 [part: 1 solid, 6 faces]
   pair (pair) [assembly: 1 component]
     left (left) [part: 1 solid, 6 faces]
@@ -137,7 +124,7 @@ TEST_F(OptionsIges, NoHiddenEntities)
 
 TEST_F(OptionsIges, HiddenEntitiesWithVisibleLinks)
 {
-    EXPECT_EQ(treeOf(import(Hidden::OnlyWithVisibleLinks, Entities::RootOnly)),
+    EXPECT_EQ(treeText(import(Hidden::OnlyWithVisibleLinks, Entities::RootOnly)),
               R"(sample (sample) [assembly: 4 components]
   box (box) #ff0000 [part: 1 solid, 6 faces]
   pair (pair) [assembly: 2 components]
@@ -159,10 +146,10 @@ TEST_F(OptionsIges, MembersOfGroupsByThemselves)
   inside (inside) [part: 1 solid, 6 faces]
   sample (sample) [part: 0 faces]
 )";
-    EXPECT_EQ(treeOf(import(Hidden::None, Entities::RootAndNonroot)), none);
+    EXPECT_EQ(treeText(import(Hidden::None, Entities::RootAndNonroot)), none);
 
     // What only a hidden entity refers to has no visible link.
-    EXPECT_EQ(treeOf(import(Hidden::OnlyWithVisibleLinks, Entities::RootAndNonroot)),
+    EXPECT_EQ(treeText(import(Hidden::OnlyWithVisibleLinks, Entities::RootAndNonroot)),
               R"(sample (sample) [assembly: 7 components]
   box (box) #ff0000 [part: 1 solid, 6 faces]
   pair (pair) [assembly: 2 components]

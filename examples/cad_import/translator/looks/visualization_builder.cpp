@@ -5,10 +5,10 @@
 #include "looks/placed_scene.h"
 #include "looks/scene_nodes.h"
 #include "pmi/annotation_scene.h"
+#include "pmi/product_places.h"
 #include "pmi/saved_views.h"
 #include "reading/cad_model.h"
 #include "reading/import_settings.h"
-#include "structure/product_places.h"
 #include "structure/product_structure_builder.h"
 
 VisualizationBuilder::VisualizationBuilder(const CadModel& model, const ImportSettings& settings,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "mp/wide.h"
-#include "structure/product_places.h"
+#include "pmi/product_places.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
 
 #include <TDF_Label.hxx>

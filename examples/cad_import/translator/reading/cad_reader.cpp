@@ -1,5 +1,6 @@
 #include "reading/cad_reader.h"
 
+#include "common/file_extension.h"
 #include "kernel/kernel_messages.h"
 #include "reading/cad_file.h"
 #include "reading/iges_reader.h"
@@ -13,19 +14,15 @@
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 
-#include <algorithm>
-#include <cctype>
-#include <filesystem>
+#include <string>
 
 namespace
 {
 
 bool isNamedIges(const std::string& path)
 {
-    std::string extension = std::filesystem::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
-    return extension == ".igs" || extension == ".iges";
+    const std::string extension = fileExtension(path);
+    return extension == "igs" || extension == "iges";
 }
 
 // What the file holds counts; its name only tells which format is missed in one that holds neither.

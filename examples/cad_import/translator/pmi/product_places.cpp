@@ -1,4 +1,4 @@
-#include "structure/product_places.h"
+#include "pmi/product_places.h"
 
 #include "kernel/occt_transformation.h"
 #include "structure/component_labels.h"
