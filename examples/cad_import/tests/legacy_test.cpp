@@ -82,9 +82,9 @@ std::vector<std::string> shapes(const Imported& imported)
 // How many bodies they have.
 std::size_t bodyCount(const Imported& imported)
 {
-    ENTITY_LIST bodies;
+    OwnedEntities bodies;
     std::vector<std::uint64_t> ids;
-    EXPECT_TRUE(imported.bodies.begin()->second->getGeometry(bodies, ids));
+    EXPECT_TRUE(imported.bodies.begin()->second->getGeometry(bodies.list(), ids));
     return ids.size();
 }
 
