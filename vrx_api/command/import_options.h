@@ -9,8 +9,8 @@ namespace vrx
 {
 
 /// The file of an import, and the settings for the formats that the translator may meet on the way: at most one object
-/// a format. Made by the factories of `Command`. Reading throws `std::invalid_argument` for a
-/// value that is no object or has no file.
+/// a format. Made by the factories of `Command`. Reading throws `std::invalid_argument` for a value that is no object
+/// or has no file.
 class VRX_API ImportOptions : public FerrantOptions
 {
 public:

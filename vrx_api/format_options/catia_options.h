@@ -2,9 +2,9 @@
 
 #include "vrx_api/format_options/format_options.h"
 #include "vrx_api/format_options/shared_modes.h"
+#include "vrx_api/format_options/shared_settings.h"
 
 #include <cstdint>
-#include <set>
 
 namespace vrx
 {
@@ -89,24 +89,12 @@ private:
 };
 
 /// The settings for an import of CATIA V5 parts and products.
-class VRX_API OptionsCatiaV5 : public FormatOptions
+class VRX_API OptionsCatiaV5 : public FormatOptions, public VisualizationSettings, public PersistentNameSettings
 {
 public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
     EFormatType formatType() const override;
-
-    /// Whether the tessellated scenes are taken that the files hold beside their exact shapes.
-    bool importVisualization() const { return m_importVisualization; }
-    void setImportVisualization(bool wanted) { m_importVisualization = wanted; }
-
-    /// Whether the tessellated scene of the root file of an assembly is taken.
-    bool importRootVisualization() const { return m_importRootVisualization; }
-    void setImportRootVisualization(bool wanted) { m_importRootVisualization = wanted; }
-
-    /// Whether the graphics are taken that the CAD system shows before it has loaded the model itself.
-    bool importPreviewGraphics() const { return m_importPreviewGraphics; }
-    void setImportPreviewGraphics(bool wanted) { m_importPreviewGraphics = wanted; }
 
     EProcessInWorkObjectModeType processInWorkObject() const { return m_processInWorkObject; }
     void setProcessInWorkObject(EProcessInWorkObjectModeType mode) { m_processInWorkObject = mode; }
@@ -135,21 +123,11 @@ public:
     EDocumentDelayLoadingMode documentDelayLoadingMode() const { return m_documentDelayLoadingMode; }
     void setDocumentDelayLoadingMode(EDocumentDelayLoadingMode mode) { m_documentDelayLoadingMode = mode; }
 
-    const std::set<EPersistentNameProcessingModeType>& persistentNameModes() const { return m_persistentNameModes; }
-    void setPersistentNameModes(const std::set<EPersistentNameProcessingModeType>& modes)
-    {
-        m_persistentNameModes = modes;
-    }
-    void addPersistentNameMode(EPersistentNameProcessingModeType mode) { m_persistentNameModes.insert(mode); }
-
 private:
     friend struct Described<OptionsCatiaV5>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 
-    bool m_importVisualization = false;
-    bool m_importRootVisualization = false;
-    bool m_importPreviewGraphics = false;
     EProcessInWorkObjectModeType m_processInWorkObject{};
     ENameProcessingModeType m_nameProcessingMode{};
     EAssemblyUnfoldedViewMode m_assemblyUnfoldedViewMode{};
@@ -159,7 +137,6 @@ private:
     EVisuPMIProcessingMode m_visuPMIProcessingMode{};
     EProcessMfgDataModeType m_processMfgDataMode{};
     EDocumentDelayLoadingMode m_documentDelayLoadingMode{};
-    std::set<EPersistentNameProcessingModeType> m_persistentNameModes;
 };
 
 /// The settings for an import of CATIA V5 drawings.

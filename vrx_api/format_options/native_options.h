@@ -2,9 +2,9 @@
 
 #include "vrx_api/format_options/format_options.h"
 #include "vrx_api/format_options/shared_modes.h"
+#include "vrx_api/format_options/shared_settings.h"
 
 #include <cstdint>
-#include <set>
 
 namespace vrx
 {
@@ -56,7 +56,7 @@ namespace imp
 // configuration that is wanted, a variant of the model that its file holds, is given by its name.
 
 /// The settings for an import of Creo models.
-class VRX_API OptionsCreo : public FormatOptions
+class VRX_API OptionsCreo : public FormatOptions, public PersistentNameSettings
 {
 public:
     void readObject(const JsonValue& value) override;
@@ -105,13 +105,6 @@ public:
         m_translateReferenceGeometryMode = mode;
     }
 
-    const std::set<EPersistentNameProcessingModeType>& persistentNameModes() const { return m_persistentNameModes; }
-    void setPersistentNameModes(const std::set<EPersistentNameProcessingModeType>& modes)
-    {
-        m_persistentNameModes = modes;
-    }
-    void addPersistentNameMode(EPersistentNameProcessingModeType mode) { m_persistentNameModes.insert(mode); }
-
 private:
     friend struct Described<OptionsCreo>;
     template <class Self, class Fields>
@@ -126,11 +119,10 @@ private:
     ETranslateDrivingDimensionsModeType m_translateDrivingDimensionsMode{};
     ETranslateConstructionGeometriesModeType m_translateConstructionGeometriesMode{};
     ETranslateReferenceGeometryMode m_translateReferenceGeometryMode{};
-    std::set<EPersistentNameProcessingModeType> m_persistentNameModes;
 };
 
 /// The settings for an import of NX models.
-class VRX_API OptionsNX : public FormatOptions
+class VRX_API OptionsNX : public FormatOptions, public PersistentNameSettings
 {
 public:
     void readObject(const JsonValue& value) override;
@@ -155,13 +147,6 @@ public:
     EVisuPMIProcessingMode visuPMIProcessingMode() const { return m_visuPMIProcessingMode; }
     void setVisuPMIProcessingMode(EVisuPMIProcessingMode mode) { m_visuPMIProcessingMode = mode; }
 
-    const std::set<EPersistentNameProcessingModeType>& persistentNameModes() const { return m_persistentNameModes; }
-    void setPersistentNameModes(const std::set<EPersistentNameProcessingModeType>& modes)
-    {
-        m_persistentNameModes = modes;
-    }
-    void addPersistentNameMode(EPersistentNameProcessingModeType mode) { m_persistentNameModes.insert(mode); }
-
 private:
     friend struct Described<OptionsNX>;
     template <class Self, class Fields>
@@ -173,11 +158,10 @@ private:
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
     ETranslateSuppressedEntitiesModeType m_suppressedEntitiesMode{};
     EVisuPMIProcessingMode m_visuPMIProcessingMode{};
-    std::set<EPersistentNameProcessingModeType> m_persistentNameModes;
 };
 
 /// The settings for an import of Inventor models.
-class VRX_API OptionsInventor : public FormatOptions
+class VRX_API OptionsInventor : public FormatOptions, public PersistentNameSettings
 {
 public:
     void readObject(const JsonValue& value) override;
@@ -199,13 +183,6 @@ public:
     EActiveStateProcessingModeType activeStateProcessingMode() const { return m_activeStateProcessingMode; }
     void setActiveStateProcessingMode(EActiveStateProcessingModeType mode) { m_activeStateProcessingMode = mode; }
 
-    const std::set<EPersistentNameProcessingModeType>& persistentNameModes() const { return m_persistentNameModes; }
-    void setPersistentNameModes(const std::set<EPersistentNameProcessingModeType>& modes)
-    {
-        m_persistentNameModes = modes;
-    }
-    void addPersistentNameMode(EPersistentNameProcessingModeType mode) { m_persistentNameModes.insert(mode); }
-
 private:
     friend struct Described<OptionsInventor>;
     template <class Self, class Fields>
@@ -216,11 +193,10 @@ private:
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
     ETranslateSuppressedEntitiesModeType m_suppressedEntitiesMode{};
     EActiveStateProcessingModeType m_activeStateProcessingMode{};
-    std::set<EPersistentNameProcessingModeType> m_persistentNameModes;
 };
 
 /// The settings for an import of Solid Edge models.
-class VRX_API OptionsSolidEdge : public FormatOptions
+class VRX_API OptionsSolidEdge : public FormatOptions, public PersistentNameSettings
 {
 public:
     void readObject(const JsonValue& value) override;
@@ -236,13 +212,6 @@ public:
     ETranslateHiddenEntitiesModeType hiddenEntitiesMode() const { return m_hiddenEntitiesMode; }
     void setHiddenEntitiesMode(ETranslateHiddenEntitiesModeType mode) { m_hiddenEntitiesMode = mode; }
 
-    const std::set<EPersistentNameProcessingModeType>& persistentNameModes() const { return m_persistentNameModes; }
-    void setPersistentNameModes(const std::set<EPersistentNameProcessingModeType>& modes)
-    {
-        m_persistentNameModes = modes;
-    }
-    void addPersistentNameMode(EPersistentNameProcessingModeType mode) { m_persistentNameModes.insert(mode); }
-
 private:
     friend struct Described<OptionsSolidEdge>;
     template <class Self, class Fields>
@@ -251,7 +220,6 @@ private:
     wstring m_assemblySearchPaths;
     EAssemblyPathPrefType m_assemblyPathPreference{};
     ETranslateHiddenEntitiesModeType m_hiddenEntitiesMode{};
-    std::set<EPersistentNameProcessingModeType> m_persistentNameModes;
 };
 
 } // namespace imp

@@ -2,9 +2,9 @@
 
 #include "vrx_api/format_options/format_options.h"
 #include "vrx_api/format_options/shared_modes.h"
+#include "vrx_api/format_options/shared_settings.h"
 
 #include <cstdint>
-#include <set>
 
 namespace vrx
 {
@@ -23,24 +23,12 @@ namespace imp
 {
 
 /// The settings for an import of SolidWorks parts and assemblies.
-class VRX_API OptionsSolidWorks : public FormatOptions
+class VRX_API OptionsSolidWorks : public FormatOptions, public VisualizationSettings, public PersistentNameSettings
 {
 public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
     EFormatType formatType() const override;
-
-    /// Whether the tessellated scenes are taken that the files hold beside their exact shapes.
-    bool importVisualization() const { return m_importVisualization; }
-    void setImportVisualization(bool wanted) { m_importVisualization = wanted; }
-
-    /// Whether the tessellated scene of the root file of an assembly is taken.
-    bool importRootVisualization() const { return m_importRootVisualization; }
-    void setImportRootVisualization(bool wanted) { m_importRootVisualization = wanted; }
-
-    /// Whether the graphics are taken that the CAD system shows before it has loaded the model itself.
-    bool importPreviewGraphics() const { return m_importPreviewGraphics; }
-    void setImportPreviewGraphics(bool wanted) { m_importPreviewGraphics = wanted; }
 
     /// Where the files of referenced parts are looked for, in the translator's own syntax.
     const wstring& assemblySearchPaths() const { return m_assemblySearchPaths; }
@@ -65,21 +53,11 @@ public:
     EVisuPMIProcessingMode visuPMIProcessingMode() const { return m_visuPMIProcessingMode; }
     void setVisuPMIProcessingMode(EVisuPMIProcessingMode mode) { m_visuPMIProcessingMode = mode; }
 
-    const std::set<EPersistentNameProcessingModeType>& persistentNameModes() const { return m_persistentNameModes; }
-    void setPersistentNameModes(const std::set<EPersistentNameProcessingModeType>& modes)
-    {
-        m_persistentNameModes = modes;
-    }
-    void addPersistentNameMode(EPersistentNameProcessingModeType mode) { m_persistentNameModes.insert(mode); }
-
 private:
     friend struct Described<OptionsSolidWorks>;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 
-    bool m_importVisualization = false;
-    bool m_importRootVisualization = false;
-    bool m_importPreviewGraphics = false;
     wstring m_assemblySearchPaths;
     EAssemblyPathPrefType m_assemblyPathPreference{};
     wstring m_importConfiguration;
@@ -87,7 +65,6 @@ private:
     ETranslateSuppressedEntitiesModeType m_suppressedEntitiesMode{};
     EImportProductStructureRepresentationMode m_productStructureMode{};
     EVisuPMIProcessingMode m_visuPMIProcessingMode{};
-    std::set<EPersistentNameProcessingModeType> m_persistentNameModes;
 };
 
 /// The settings for an import of SolidWorks drawings: nothing beyond the format itself.

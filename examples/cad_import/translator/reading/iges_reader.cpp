@@ -69,6 +69,19 @@ void takeMillimetres(IGESData_IGESModel& entities)
     entities.SetGlobalSection(section);
 }
 
+// What is not as it should be in the global section.
+std::string remark(const IGESData_IGESModel& entities, bool namesUnit, const ImportSettings& settings)
+{
+    if (!namesUnit)
+    {
+        const bool isTold = settings.units != vrx::EInsUnits::Unknown;
+        return isTold ? "" : "The file names no unit of lengths that is known: its numbers are taken for millimetres.";
+    }
+    const Handle(Interface_Check) check = entities.GlobalCheck();
+    return check->HasFailed() ? std::string("The file's global section has errors, the first one: ") + check->CFail(1)
+                              : "";
+}
+
 TranslationError noGeometry(const CadFile& file)
 {
     return TranslationError(file.path() + " holds no geometry.");
@@ -107,6 +120,7 @@ void readIges(const CadFile& file, const ImportSettings& settings, ImportProgres
     }
     model.damage = damage(*entities);
     model.namesUnit = namesUnit(entities->GlobalSection());
+    model.remark = remark(*entities, model.namesUnit, settings);
     if (!model.namesUnit)
     {
         takeMillimetres(*entities);
@@ -123,9 +137,5 @@ void readIges(const CadFile& file, const ImportSettings& settings, ImportProgres
     if (document.failures() > 0 && model.damage.empty())
     {
         model.damage = std::to_string(document.failures()) + " of the file's entities could not be translated.";
-    }
-    if (!model.namesUnit && settings.units == vrx::EInsUnits::Unknown)
-    {
-        model.remark = "The file names no unit of lengths that is known: its numbers are taken for millimetres.";
     }
 }
