@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reading/step_records.h"
+
 #include <IGESControl_Reader.hxx>
 #include <STEPCAFControl_Reader.hxx>
 #include <TDocStd_Document.hxx>
@@ -15,6 +17,7 @@ struct CadModel
     Handle(TDocStd_Document) document;
     std::unique_ptr<STEPCAFControl_Reader> step;
     std::unique_ptr<IGESControl_Reader> iges;
+    std::unique_ptr<StepRecords> records; // of a STEP file whose PMI is wanted, otherwise null
     bool namesUnit = true; // of lengths
     /// For the user: what could not be read, so that the model may be incomplete. Otherwise empty.
     std::string damage;

@@ -5,8 +5,7 @@
 #include "reading/counting_buffer.h"
 #include "reading/import_settings.h"
 #include "reading/search_folder.h"
-#include "reading/taught_entities.h"
-#include "reading/tessellated_annotations.h"
+#include "reading/step_records.h"
 #include "translation_error.h"
 
 #include <Interface_Check.hxx>
@@ -21,6 +20,8 @@
 #include <XSControl_WorkSession.hxx>
 
 #include <cstdint>
+#include <memory>
+#include <optional>
 
 namespace
 {
@@ -120,23 +121,27 @@ void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& pro
     model.step->SetMatMode(true);
     model.step->SetSHUOMode(true);
     model.step->SetLayerMode(settings.layers);
-    model.step->SetGDTMode(settings.pmi);
-    model.step->SetViewMode(settings.pmi);
+    model.step->SetGDTMode(false); // what the kernel makes of it is not what the file states
+    model.step->SetViewMode(false);
 
     progress.beginStage("Reading the file", 20);
     const Handle(XSControl_WorkSession) session = model.step->Reader().WS();
-    if (settings.pmi)
     {
-        teachEntities(*session);
+        std::optional<StepRecords::Keeper> keeper;
+        if (settings.pmi)
+        {
+            model.records = std::make_unique<StepRecords>();
+            keeper.emplace(*model.records, *session);
+        }
+        read(*model.step, file, progress);
     }
-    read(*model.step, file, progress);
-    const Handle(Interface_InterfaceModel) entities = session->Model();
+    const Handle(StepData_StepModel) entities = model.step->ChangeReader().StepModel();
     model.namesUnit = namesUnit(model.step->ChangeReader());
     model.damage = damage(*entities);
     findExternalFiles(*entities, file.path(), settings);
     if (settings.pmi)
     {
-        gatherTessellatedAnnotations(*entities);
+        model.records->bind(*entities);
     }
 
     progress.beginStage("Translating the shapes", 55);

@@ -36,6 +36,9 @@ public:
     /// components.
     TopoDS_Shape shapeOf(const vrx::ExcBlock& block) const;
 
+    /// The product definition of the file behind a block's label, or null.
+    Handle(StepBasic_ProductDefinition) productOf(const TDF_Label& label) const { return m_labels.productOf(label); }
+
     /// True for a product whose components, if any, are no products but its shapes.
     bool isPart(const TDF_Label& label) const;
 

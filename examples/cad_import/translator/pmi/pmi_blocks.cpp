@@ -1,0 +1,36 @@
+#include "pmi/pmi_blocks.h"
+
+#include "reading/cad_model.h"
+#include "structure/component_labels.h"
+#include "structure/product_structure_builder.h"
+
+PmiBlocks::PmiBlocks(const CadModel& model, const ProductStructureBuilder& blocks)
+{
+    const Handle(StepData_StepModel) entities = model.step->ChangeReader().StepModel();
+    for (int i = 1; i <= blocks.blocks().Extent(); ++i)
+    {
+        const Handle(StepBasic_ProductDefinition) product = blocks.productOf(blocks.blocks()(i));
+        if (!product.IsNull())
+        {
+            m_blocks[entities->IdentLabel(product)] = static_cast<std::uint64_t>(i);
+        }
+    }
+    // The blocks at the top come first.
+    const bool oneRoot = component_labels::roots(model.document).size() == 1;
+    m_top = oneRoot && blocks.blocks().Extent() > 0 ? 1 : 0;
+}
+
+std::uint64_t PmiBlocks::of(const StepRecord& record) const
+{
+    StepRecord product = record;
+    if (!product.is("PRODUCT_DEFINITION_SHAPE") && !product.is("PRODUCT_DEFINITION"))
+    {
+        product = product.as("SHAPE_ASPECT").next(2);
+    }
+    if (product.is("PRODUCT_DEFINITION_SHAPE"))
+    {
+        product = product.next(2);
+    }
+    const auto found = m_blocks.find(product.id());
+    return found != m_blocks.end() ? found->second : 0;
+}
