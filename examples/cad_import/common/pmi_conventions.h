@@ -23,8 +23,9 @@
 ///   precision is the number of decimal places, or 0 when the file does not tell.
 /// - Feature control frames: "all_around" is 1 for all around and 2 for all over. "rate_unit" is the size of the area,
 ///   or the length twice, for which the value holds when it is not 0, and "refine_tolerance" the tolerance of the whole
-///   then. A "shift_value" that is not 0 is the part of an unequally disposed zone that is outside of the material. The
-///   note holds the texts that stand beside the frame, line by line, such as "4X" or "INDIVIDUALLY".
+///   then. "shift_value" is how far the middle of an unequally disposed zone lies outside of the true profile, 0 for any
+///   other zone: the number behind a Ⓤ is half the tolerance more. The note holds the texts that stand beside the frame,
+///   line by line, such as "4X" or "INDIVIDUALLY".
 /// - Notes have a text for each line, with the label alone.
 /// - Linked elements name faces and edges of bodies by the body's id, which holds for all places of the body. What
 ///   belongs to no body is named by its id in the scene.

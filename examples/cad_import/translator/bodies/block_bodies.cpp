@@ -38,6 +38,7 @@ std::shared_ptr<vrx::ExcBlockGeometry> BlockBodies::make(const vrx::ExcBlock& bl
         m_all.list().add(body);
         bodies.add(body);
         made.push_back(body);
+        m_ids[block.id()].push_back(vrx::ExcBlockGeometry::getEntityId(body));
         fillBody(*body, solid);
     }
     auto geometry = std::make_shared<vrx::ExcBlockGeometry>();
@@ -53,6 +54,13 @@ std::shared_ptr<vrx::ExcBlockGeometry> BlockBodies::make(const vrx::ExcBlock& bl
         throw TranslationError("The bodies of " + mp::toNarrow(block.name()) + " could not be put in shared memory.");
     }
     return geometry;
+}
+
+const std::vector<std::uint64_t>& BlockBodies::ids(std::uint64_t block) const
+{
+    static const std::vector<std::uint64_t> kNone;
+    const auto found = m_ids.find(block);
+    return found != m_ids.end() ? found->second : kNone;
 }
 
 std::vector<std::string> figuresOfBodies(const vrx::ExcBlock& block, const TopoDS_Shape& shape)

@@ -6,6 +6,8 @@
 
 #include <TopoDS_Shape.hxx>
 
+#include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,8 +21,12 @@ public:
     /// with the object until `own(false)` is called. Throws TranslationError when they could not be put there.
     std::shared_ptr<vrx::ExcBlockGeometry> make(const vrx::ExcBlock& block, const TopoDS_Shape& shape);
 
+    /// The ids of the bodies that were made of a block, in their order.
+    const std::vector<std::uint64_t>& ids(std::uint64_t block) const;
+
 private:
     OwnedEntities m_all;
+    std::map<std::uint64_t, std::vector<std::uint64_t>> m_ids; // by block
 };
 
 /// A line for each of these bodies, with what is measured of its solid here.

@@ -111,6 +111,12 @@ TopoDS_Shape ProductStructureBuilder::shapeOf(const vrx::ExcBlock& block) const
     return block.isPart() ? shapeOf(m_blocks(static_cast<int>(block.id()))) : TopoDS_Shape();
 }
 
+TopoDS_Shape ProductStructureBuilder::shapeOf(std::uint64_t block) const
+{
+    const std::shared_ptr<vrx::ExcBlock> found = m_structure->getBlockById(block);
+    return found ? shapeOf(*found) : TopoDS_Shape();
+}
+
 // The document's own shape of a product holds the hidden components too.
 TopoDS_Shape ProductStructureBuilder::shapeOf(const TDF_Label& product) const
 {

@@ -35,6 +35,7 @@ public:
     /// All that a block shows, in the block's coordinates of the document; null for an assembly, which shows its
     /// components.
     TopoDS_Shape shapeOf(const vrx::ExcBlock& block) const;
+    TopoDS_Shape shapeOf(std::uint64_t block) const;
 
     /// The product definition of the file behind a block's label, or null.
     Handle(StepBasic_ProductDefinition) productOf(const TDF_Label& label) const { return m_labels.productOf(label); }

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "reading/step_records.h"
+#include "vrx_api/vrx_api_exchange_common.h"
+
+#include <TopAbs_ShapeEnum.hxx>
+#include <TopoDS_Face.hxx>
+#include <TopoDS_Shape.hxx>
+#include <TopoDS_TShape.hxx>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+struct CadModel;
+class BlockBodies;
+class ProductStructureBuilder;
+
+/// Which faces and edges of a block's bodies the shape aspects of a STEP file tell of.
+class ShapeLinks
+{
+public:
+    ShapeLinks(const CadModel& model, const ProductStructureBuilder& blocks, const BlockBodies& bodies);
+
+    /// Each once, in the order of the file. A shape aspect stands for those of its parts too, a datum for those of its
+    /// features.
+    std::vector<std::shared_ptr<vrx::ExcEntity>> of(const std::vector<StepRecord>& aspects, std::uint64_t block);
+
+    /// The same faces, as the kernel has them.
+    std::vector<TopoDS_Face> faces(const std::vector<StepRecord>& aspects) const;
+
+private:
+    struct Place
+    {
+        std::uint64_t bodyId = 0; // 0 outside of bodies
+        vrx::ExcSubentId part;
+    };
+    using Places = std::unordered_map<const TopoDS_TShape*, Place>;
+
+    const Places& placesIn(std::uint64_t block);
+    std::vector<TopoDS_Shape> shapes(const std::vector<StepRecord>& aspects) const;
+
+    const CadModel& m_model;
+    const ProductStructureBuilder& m_blocks;
+    const BlockBodies& m_bodies;
+    std::map<std::uint64_t, Places> m_places; // by block
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "reading/step_records.h"
+#include "vrx_api/vrx_api_exchange_mechanical.h"
+
+#include <memory>
+#include <vector>
+
+/// The dimensions that a STEP file states, each once: sizes, locations and angles, with their values, tolerances and
+/// texts. Links, places and counts are left to the caller.
+namespace step_dimensions
+{
+
+std::vector<StepRecord> all(const StepRecords& records);
+
+/// The shape aspects that a dimension is about: one for a size, the two ends for a location.
+std::vector<StepRecord> aspects(const StepRecord& dimension);
+
+std::shared_ptr<vrx::ExcPMIDimension> make(const StepRecord& dimension);
+
+} // namespace step_dimensions
