@@ -3,7 +3,6 @@
 import {
   AmbientLight,
   Box3,
-  Color,
   DirectionalLight,
   DoubleSide,
   Group,
@@ -18,7 +17,6 @@ import {
   PMREMGenerator,
   Raycaster,
   Scene,
-  SRGBColorSpace,
   Vector2,
   Vector3,
   WebGLRenderer,
@@ -27,18 +25,14 @@ import { OrbitControls } from 'three/addons/controls/OrbitControls.js';
 import { RoomEnvironment } from 'three/addons/environments/RoomEnvironment.js';
 import { LineMaterial } from 'three/addons/lines/LineMaterial.js';
 import { LineSegments2 } from 'three/addons/lines/LineSegments2.js';
-import { LineSegmentsGeometry } from 'three/addons/lines/LineSegmentsGeometry.js';
 
-import { floats } from './model.js';
+import { Annotations, srgb } from './annotations.js';
 
 const kNoColor = [176, 182, 190];
 const kEdgeColor = 0x1c2430;
-const kAnnotationColor = [23, 92, 211];
 const kFieldOfView = 22; // degrees
 const kFitMargin = 1.1;
 export const kIsometric = { direction: new Vector3(-1, 1.25, -0.85), up: new Vector3(0, 0, 1) };
-
-const srgb = (color) => new Color().setRGB(color[0] / 255, color[1] / 255, color[2] / 255, SRGBColorSpace);
 
 export class Stage {
   constructor(canvas, model) {
@@ -53,7 +47,8 @@ export class Stage {
     this.onDraw = () => {};
     this.#addLights();
     this.#addModel();
-    this.#addAnnotations();
+    this.annotations = new Annotations(model, this.#boxOf(this.#allMeshes()));
+    this.scene.add(this.annotations);
     this.camera = new PerspectiveCamera(kFieldOfView);
     this.scene.add(this.camera);
     this.#resize();
@@ -94,12 +89,8 @@ export class Stage {
     return this.materials.get(key);
   }
 
-  #line(color, width) {
-    return new LineMaterial({ color, linewidth: width, clippingPlanes: this.clipping });
-  }
-
   #addModel() {
-    this.edgeMaterial = this.#line(kEdgeColor, 1.15);
+    this.edgeMaterial = new LineMaterial({ color: kEdgeColor, linewidth: 1.15, clippingPlanes: this.clipping });
     this.edges = [];
     this.root = new Group();
     this.scene.add(this.root);
@@ -128,28 +119,8 @@ export class Stage {
     }
   }
 
-  #addAnnotations() {
-    this.annotations = new Group();
-    this.scene.add(this.annotations);
-    for (const annotation of this.model.annotations) {
-      const geometry = new LineSegmentsGeometry().setPositions(floats(annotation.segments));
-      const lines = new LineSegments2(geometry, this.#line(srgb(annotation.color ?? kAnnotationColor), 1.1));
-      lines.raycast = () => {};
-      lines.userData.annotation = annotation;
-      this.annotations.add(lines);
-    }
-  }
-
   setEdges(shown) {
     for (const edges of this.edges) edges.visible = shown;
-    this.draw();
-  }
-
-  // Shows those annotations whose id is in the list, or all for null.
-  setAnnotations(ids) {
-    for (const lines of this.annotations.children) {
-      lines.visible = !ids || ids.includes(lines.userData.annotation.id);
-    }
     this.draw();
   }
 
@@ -165,6 +136,10 @@ export class Stage {
     this.draw();
   }
 
+  #allMeshes() {
+    return [...this.model.nodes()].map((node) => node.mesh).filter(Boolean);
+  }
+
   visibleMeshes() {
     const meshes = [];
     this.root.traverseVisible((object) => object.userData.node && meshes.push(object));
@@ -174,8 +149,7 @@ export class Stage {
   #corners(objects) {
     const corners = [];
     for (const object of objects) {
-      if (!object.geometry.boundingBox) object.geometry.computeBoundingBox();
-      const { min, max } = object.geometry.boundingBox;
+      const { min, max } = object.box ?? object.geometry.boundingBox;
       if (min.x > max.x) continue;
       for (let i = 0; i < 8; i++) {
         const corner = new Vector3(i & 1 ? max.x : min.x, i & 2 ? max.y : min.y, i & 4 ? max.z : min.z);
@@ -185,9 +159,25 @@ export class Stage {
     return corners;
   }
 
+  #boxOf(objects) {
+    return new Box3().setFromPoints(this.#corners(objects));
+  }
+
   #shown() {
-    const lines = this.annotations.visible ? this.annotations.children.filter((object) => object.visible) : [];
-    return [...this.visibleMeshes(), ...lines];
+    return [...this.visibleMeshes(), ...this.annotations.drawn()];
+  }
+
+  #worthFitting() {
+    return this.#shown().filter((object) => object.isNear ?? true);
+  }
+
+  // Whether the middle of any of the objects lies in the picture.
+  sees(objects) {
+    this.camera.updateMatrixWorld();
+    return objects.some((object) => {
+      const { x, y } = this.#boxOf([object]).getCenter(new Vector3()).project(this.camera);
+      return Math.abs(x) < 1 && Math.abs(y) < 1;
+    });
   }
 
   // Looks along a direction, so that the objects, by default all that is shown, fill the picture. They do so again in a
@@ -197,7 +187,7 @@ export class Stage {
     const forward = direction.clone().normalize();
     const right = new Vector3().crossVectors(forward, up).normalize();
     const upward = new Vector3().crossVectors(right, forward);
-    const corners = this.#corners(objects ?? this.#shown());
+    const corners = this.#corners(objects ?? this.#worthFitting());
     if (!corners.length) corners.push(new Vector3(-1, -1, -1), new Vector3(1, 1, 1));
 
     const box = new Box3();
@@ -223,6 +213,12 @@ export class Stage {
     const eye = target.clone().addScaledVector(forward, -distance);
     this.setCamera({ eye, target, up, height: perspective ? 0 : height });
     this.fitted = how;
+  }
+
+  // Fills the picture with the objects, by default all that is shown, and looks in the direction of now.
+  fit(objects) {
+    const direction = this.controls.target.clone().sub(this.camera.position);
+    this.look({ direction, up: this.camera.up.clone(), objects, perspective: Boolean(this.camera.isPerspectiveCamera) });
   }
 
   // Places the camera: orthographic when a height of the picture in model units is given.
@@ -256,8 +252,7 @@ export class Stage {
 
   // The near and far planes hug the model, which keeps the depth buffer fine enough for its edges.
   #placePlanes() {
-    const box = new Box3();
-    for (const corner of this.#corners(this.#shown())) box.expandByPoint(corner);
+    const box = this.#boxOf(this.#shown());
     if (box.isEmpty()) box.set(new Vector3(-1, -1, -1), new Vector3(1, 1, 1));
     const radius = box.getSize(new Vector3()).length() / 2 + 1e-6;
     const forward = this.camera.getWorldDirection(new Vector3());
@@ -285,7 +280,8 @@ export class Stage {
     }
   }
 
-  // What lies under a point of the canvas, in pixels from its top left: the tree node and its face.
+  // What lies under a point of the canvas, in pixels from its top left: a drawn annotation's element, or the tree node
+  // and its face.
   pick(x, y) {
     const canvas = this.renderer.domElement;
     const pointer = new Vector2((x / canvas.clientWidth) * 2 - 1, 1 - (y / canvas.clientHeight) * 2);
@@ -293,6 +289,8 @@ export class Stage {
     ray.setFromCamera(pointer, this.camera);
     const hits = ray.intersectObjects(this.visibleMeshes(), false);
     const hit = hits.find(({ point }) => this.clipping.every((plane) => plane.distanceToPoint(point) >= 0));
+    const drawn = this.annotations.pick(ray);
+    if (drawn && !(hit?.distance < drawn.distance)) return { element: drawn.object.parent.element };
     if (!hit) return null;
     const node = hit.object.userData.node;
     return { node, face: node.block.shape.faceOfTriangle(hit.faceIndex) };
@@ -307,6 +305,7 @@ export class Stage {
     this.wanted = undefined;
     this.#placePlanes();
     this.#placeSun();
+    this.annotations.face(this.camera);
     this.renderer.render(this.scene, this.camera);
     this.onDraw();
   }

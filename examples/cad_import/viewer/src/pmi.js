@@ -1,0 +1,84 @@
+// What the file says of the model's faces and edges: dimensions, tolerances, datums, datum targets and notes.
+
+export const kKinds = {
+  dimensions: 'Dimension',
+  tolerances: 'Tolerance',
+  datums: 'Datum',
+  datum_targets: 'Datum target',
+  notes: 'Note',
+};
+
+// Whether a link means a face or an edge. A link to a body means all faces of it.
+export function names(link, part) {
+  if (link.kind === 'body') return Boolean(part.mesh) && part.mechanicalId.startsWith(`${link.body}/`);
+  return part.mechanicalId === link.mechanical_id;
+}
+
+// The letters of the datums that an element is, belongs to or refers to. "A-B" is a datum of two.
+function datumsOf(element) {
+  if (element.kind === 'Datum') return [element.label];
+  if (element.kind === 'Datum target') return element.label.match(/^\p{L}+/u) ?? [];
+  return (element.datums ?? []).flatMap(({ label }) => label.split('-'));
+}
+
+export class Pmi {
+  constructor(data) {
+    this.elements = Object.entries(kKinds).flatMap(([list, kind]) =>
+      (data[list] ?? []).map((element) => ({ ...element, kind, block: String(element.block_id) }))
+    );
+    for (const element of this.elements) element.letters = datumsOf(element);
+    this.byId = new Map(this.elements.map((element) => [element.id, element]));
+    this.viewNames = [...new Set([...(data.views ?? []).map((view) => view.name), ...this.elements.flatMap((element) => element.views)])];
+    this.ofOneBlock = new Set(this.elements.map((element) => element.block)).size === 1;
+  }
+
+  speakingOf(block, face) {
+    return this.elements.filter((element) => element.block === block && element.links.some((link) => names(link, face)));
+  }
+
+  // The datums of an element, or for a datum what belongs or refers to it.
+  related(element) {
+    const near = this.elements.filter((other) => other !== element && other.block === element.block);
+    const isDatum = element.kind === 'Datum';
+    const share = (other) => other.letters.some((letter) => element.letters.includes(letter));
+    return near.filter((other) => (isDatum || other.kind === 'Datum') && share(other));
+  }
+
+  // The elements as a list with headings: [{ title, elements }]. An element can stand below several of them.
+  grouped(by, blockName) {
+    const groups = { view: () => this.#byView(), datum: () => this.#byDatum(blockName), kind: () => this.#byKind() }[by]();
+    return groups.filter(({ elements }) => elements.length);
+  }
+
+  #byView() {
+    const inView = (name) => this.elements.filter((element) => element.views.includes(name));
+    return [
+      ...this.viewNames.map((name) => ({ title: name, view: name, elements: inView(name) })),
+      { title: 'In no saved view', elements: this.elements.filter((element) => !element.views.length) },
+    ];
+  }
+
+  #byDatum(blockName) {
+    const groups = new Map();
+    for (const element of this.elements) {
+      for (const letter of new Set(element.letters)) {
+        const title = `Datum ${letter}` + (this.ofOneBlock ? '' : ` · ${blockName(element.block)}`);
+        if (!groups.has(title)) groups.set(title, { title, elements: [] });
+        groups.get(title).elements.push(element);
+      }
+    }
+    const order = { Datum: 0, 'Datum target': 1 };
+    for (const { elements } of groups.values()) elements.sort((a, b) => (order[a.kind] ?? 2) - (order[b.kind] ?? 2));
+    return [
+      ...[...groups.values()].sort((a, b) => a.title.localeCompare(b.title)),
+      { title: 'Without a datum', elements: this.elements.filter((element) => !element.letters.length) },
+    ];
+  }
+
+  #byKind() {
+    return Object.values(kKinds).map((kind) => ({
+      title: `${kind}s`,
+      elements: this.elements.filter((element) => element.kind === kind),
+    }));
+  }
+}
