@@ -25,7 +25,7 @@ function ink([red, green, blue], look) {
     if (look === 'behind') Object.assign(how, { transparent: true, opacity: kBehind, depthWrite: false });
     if (look === 'lit') Object.assign(how, { transparent: true, depthTest: false });
     inks.set(key, {
-      stroke: new LineMaterial({ ...how, linewidth: look === 'lit' ? 2 : 1.1 }),
+      stroke: new LineMaterial({ ...how, linewidth: look === 'lit' ? 1.7 : 1.1 }),
       filling: new MeshBasicMaterial({ ...how, side: DoubleSide }),
     });
   }

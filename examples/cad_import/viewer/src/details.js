@@ -1,5 +1,6 @@
 // The panel that tells what is selected: a place in the product tree, a face of it, or an element of the PMI.
 
+import { drawing } from './notation.js';
 import { line } from './pmi_panel.js';
 
 const hex = (color) => '#' + color.slice(0, 3).map((channel) => channel.toString(16).padStart(2, '0')).join('');
@@ -23,14 +24,15 @@ export class Details {
     this.panel.hidden = !node && !element;
     this.panel.replaceChildren();
     this.panel.scrollTop = 0;
-    if (node) this.#place(node);
     if (face) this.#face(node, face);
+    if (node) this.#place(node);
     if (element) this.#element(element);
   }
 
   #place(node) {
     const { block, reference } = node;
-    this.#head(node.name, block?.isPart ? 'Part' : 'Assembly', swatch(block?.shape?.mainColor ?? node.color ?? block?.shape?.color));
+    const color = block?.shape?.mainColor ?? node.color ?? block?.shape?.color;
+    this.#head(block?.isPart ? 'Part' : 'Assembly', swatch(color), this.#label('', node.name));
     const where = [];
     for (let above = node.parent; above; above = above.parent) where.unshift(above.name);
     this.#rows([
@@ -45,7 +47,8 @@ export class Details {
 
   #face(node, face) {
     const mesh = face.mesh;
-    this.#head(`Face ${face.id}`, 'Face', swatch(face.color ?? node.color ?? node.block.shape.color));
+    const color = face.color ?? node.color ?? node.block.shape.color;
+    this.#head('Face', swatch(color), this.#label('', `Face ${face.id}`));
     this.#rows([
       ['Mechanical id', face.mechanicalId],
       ['Body', [mesh.name !== node.name && mesh.name, mesh.id].filter(Boolean).join(' · ')],
@@ -56,13 +59,12 @@ export class Details {
 
   #element(element) {
     const { pmi, blocks } = this.model;
-    const shape = blocks.get(element.block)?.shape;
-    const linked = shape?.linked(element) ?? [];
+    const linked = [...blocks.values()].flatMap(({ id, shape }) => shape?.linked(id, element) ?? []);
     const faces = linked.filter((part) => part.mesh);
-    this.#head(element.text, element.kind);
+    this.#head(element.kind, this.#label('drawing', ...drawing(element)));
     this.#rows([
       ['Type', words(element.type)],
-      ['Of', !pmi.ofOneBlock && blocks.get(element.block)?.name],
+      ['Part', !pmi.ofOneBlock && blocks.get(element.block)?.name],
       ['Unit', words(element.unit)],
       ['Saved views', element.views.join(', ')],
       ['Faces', faces.map((face) => face.id).join(', ')],
@@ -71,15 +73,18 @@ export class Details {
     this.#lines(element.kind === 'Datum' ? 'Used by' : 'Datums', pmi.related(element));
   }
 
-  #head(text, kind, chip) {
-    const head = document.createElement('h2');
+  #label(className, ...content) {
     const label = document.createElement('span');
+    label.className = className;
+    label.append(...content);
+    return label;
+  }
+
+  #head(kind, ...content) {
+    const head = document.createElement('h2');
     const tag = document.createElement('small');
-    label.textContent = text;
     tag.textContent = kind;
-    if (chip) head.append(chip);
-    else label.className = 'drawing';
-    head.append(label, tag);
+    head.append(...content, tag);
     this.panel.append(head);
   }
 

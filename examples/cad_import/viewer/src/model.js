@@ -3,7 +3,7 @@
 import { Box3, BufferAttribute, BufferGeometry, Vector3 } from 'three';
 import { LineSegmentsGeometry } from 'three/addons/lines/LineSegmentsGeometry.js';
 
-import { Pmi, names } from './pmi.js';
+import { Pmi, speaksOf } from './pmi.js';
 
 function bytes(base64) {
   const text = atob(base64 ?? '');
@@ -94,9 +94,9 @@ class Shape {
     return new LineSegmentsGeometry().setPositions(this.segments.subarray(edge.begin, edge.end));
   }
 
-  // The faces and edges to which an annotation is linked.
-  linked(element) {
-    return this.parts.filter((part) => element.links.some((link) => names(link, part)));
+  // The faces and edges of which an element of the PMI speaks, when this is the shape of that block.
+  linked(block, element) {
+    return this.parts.filter((part) => speaksOf(element, block, part));
   }
 }
 
@@ -132,7 +132,8 @@ export class Model {
     this.units = scene.units;
     this.views = scene.views ?? [];
     this.openView = scene.openView;
-    this.pmi = scene.pmi ? new Pmi(scene.pmi) : null;
+    const pmi = new Pmi(scene.pmi ?? {});
+    this.pmi = pmi.elements.length ? pmi : null;
     this.annotations = scene.annotations ?? [];
     this.blocks = new Map(scene.blocks.map((block) => [block.id, block]));
     for (const block of scene.blocks) block.shape = block.shape && new Shape(block.shape);
@@ -141,10 +142,5 @@ export class Model {
 
   *nodes() {
     for (const root of this.roots) yield* root.all();
-  }
-
-  // All places of the block of which an annotation speaks.
-  placesOf(element) {
-    return [...this.nodes()].filter((node) => node.reference.blockId === element.block);
   }
 }

@@ -8,11 +8,15 @@ export const kKinds = {
   notes: 'Note',
 };
 
-// Whether a link means a face or an edge. A link to a body means all faces of it.
-export function names(link, part) {
+function names(link, part) {
+  // A link to a body means all faces of it.
   if (link.kind === 'body') return Boolean(part.mesh) && part.mechanicalId.startsWith(`${link.body}/`);
   return part.mechanicalId === link.mechanical_id;
 }
+
+// Whether an element speaks of a face or an edge of a block.
+export const speaksOf = (element, block, part) =>
+  element.links.some((link) => String(link.block_id ?? element.block_id) === block && names(link, part));
 
 // The letters of the datums that an element is, belongs to or refers to. "A-B" is a datum of two.
 function datumsOf(element) {
@@ -33,15 +37,15 @@ export class Pmi {
   }
 
   speakingOf(block, face) {
-    return this.elements.filter((element) => element.block === block && element.links.some((link) => names(link, face)));
+    return this.elements.filter((element) => speaksOf(element, block, face));
   }
 
-  // The datums of an element, or for a datum what belongs or refers to it.
+  // The datums of an element; of a datum, what belongs or refers to it.
   related(element) {
     const near = this.elements.filter((other) => other !== element && other.block === element.block);
     const isDatum = element.kind === 'Datum';
     const share = (other) => other.letters.some((letter) => element.letters.includes(letter));
-    return near.filter((other) => (isDatum || other.kind === 'Datum') && share(other));
+    return near.filter((other) => (other.kind === 'Datum') !== isDatum && share(other));
   }
 
   // The elements as a list with headings: [{ title, elements }]. An element can stand below several of them.

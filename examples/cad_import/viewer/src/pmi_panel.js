@@ -1,20 +1,17 @@
 // The list of the PMI beside the picture: in groups that open and close, with a search and a mark on what is selected.
 
+import { drawing } from './notation.js';
 import { button } from './views.js';
 
 const kGroupings = { view: 'By view', datum: 'By datum', kind: 'By kind' };
 
 // An element as a drawing writes it.
 export function line(element, onSelect) {
-  const result = button(element.text, () => onSelect(element), `${element.kind}: ${element.text}`);
+  const result = button('', () => onSelect(element), `${element.kind}: ${element.text}`);
   result.className = 'line drawing';
+  result.ariaLabel = element.text;
   result.dataset.id = element.id;
-  if (element.text === element.label) {
-    const symbol = document.createElement('span');
-    symbol.className = element.kind === 'Datum' ? 'datum' : 'target';
-    symbol.textContent = element.text;
-    result.replaceChildren(symbol);
-  }
+  result.append(...drawing(element));
   return result;
 }
 
@@ -37,7 +34,7 @@ export class PmiPanel {
 
   group(by) {
     for (const chooser of this.grouping.children) chooser.ariaPressed = chooser.dataset.by === by;
-    const groups = this.model.pmi.grouped(by, (block) => this.model.blocks.get(block)?.name ?? 'the product');
+    const groups = this.model.pmi.grouped(by, (block) => this.model.blocks.get(block)?.name ?? 'product');
     this.list.replaceChildren(...groups.map((group) => this.#group(group)));
     this.by = by;
     this.#followView();

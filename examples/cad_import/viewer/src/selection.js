@@ -48,8 +48,8 @@ export class Selection {
   setElement(element) {
     const { model, annotations } = this.stage;
     this.#begin({ node: null, face: null, element });
-    for (const place of model.placesOf(element)) {
-      for (const part of place.block?.shape?.linked(element) ?? []) this.#light(place, part);
+    for (const place of model.nodes()) {
+      for (const part of place.block?.shape?.linked(place.block.id, element) ?? []) this.#light(place, part);
     }
     annotations.light(annotations.of(element));
     this.#end();
