@@ -1,19 +1,18 @@
 // The annotations as the file draws them: strokes and filled letters, in colours without light.
 
-import { Box3, BufferAttribute, BufferGeometry, Color, DoubleSide, Group, Mesh, MeshBasicMaterial, SRGBColorSpace, Vector3 } from 'three';
+import { Box3, BufferAttribute, BufferGeometry, DoubleSide, Group, Mesh, MeshBasicMaterial, Vector3 } from 'three';
 import { LineMaterial } from 'three/addons/lines/LineMaterial.js';
 import { LineSegments2 } from 'three/addons/lines/LineSegments2.js';
 import { LineSegmentsGeometry } from 'three/addons/lines/LineSegmentsGeometry.js';
 
 import { floats, indices } from './model.js';
+import { srgb } from './parts.js';
 
 const kColor = [23, 92, 211];
 const kLit = [224, 92, 0];
 const kBehind = 0.25; // how opaque what is seen from behind is
 const kFarOff = 1.5; // diagonals of the model
-const kReach = 8; // pixels beside a stroke that still hit it
-
-export const srgb = (color) => new Color().setRGB(color[0] / 255, color[1] / 255, color[2] / 255, SRGBColorSpace);
+const kReach = 8; // pixels across a stroke that still hit it
 
 const inks = new Map();
 
@@ -44,7 +43,9 @@ class Annotation extends Group {
     this.look = 'plain';
     const { stroke, filling } = ink(data.color ?? kColor, this.look);
     const segments = floats(data.segments);
-    if (segments.length) this.#add('stroke', new LineSegments2(new LineSegmentsGeometry().setPositions(segments), stroke));
+    if (segments.length) {
+      this.#add('stroke', new LineSegments2(new LineSegmentsGeometry().setPositions(segments), stroke));
+    }
     const triangles = indices(data.triangles);
     if (triangles.length) {
       const geometry = new BufferGeometry();
@@ -64,7 +65,8 @@ class Annotation extends Group {
 
   isBehind(camera) {
     if (!this.normal) return false;
-    const away = camera.isPerspectiveCamera ? this.middle.clone().sub(camera.position) : camera.getWorldDirection(new Vector3());
+    const away = camera.getWorldDirection(new Vector3());
+    if (camera.isPerspectiveCamera) away.subVectors(this.middle, camera.position);
     return away.dot(this.normal) > 0;
   }
 
@@ -83,13 +85,12 @@ export class Annotations extends Group {
   // `modelBox` holds all parts. What lies far from it, as by a wrong unit, is drawn but not looked for.
   constructor(model, modelBox) {
     super();
-    this.near = modelBox.clone();
-    if (!modelBox.isEmpty()) this.near.expandByScalar(kFarOff * modelBox.getSize(new Vector3()).length());
+    const near = modelBox.clone().expandByScalar(kFarOff * modelBox.getSize(new Vector3()).length());
     for (const data of model.annotations) {
       const element = model.pmi?.byId.get(data.mechanicalId);
       const annotation = new Annotation(data, element && this.#normal(model, element));
       annotation.element = element;
-      annotation.isNear = modelBox.isEmpty() || this.near.containsBox(annotation.box);
+      annotation.isNear = modelBox.isEmpty() || near.containsBox(annotation.box);
       this.add(annotation);
     }
   }
@@ -97,16 +98,17 @@ export class Annotations extends Group {
   // The plane is told in the coordinates of the block, which is drawn where it first stands.
   #normal(model, { plane, block }) {
     if (!plane) return null;
-    const place = block === '0' ? null : [...model.nodes()].find((node) => node.reference.blockId === block);
-    const axis = (numbers) => (place ? new Vector3(...numbers).transformDirection(place.object.matrixWorld) : new Vector3(...numbers));
-    const normal = axis(plane.u).cross(axis(plane.v));
+    const [u, v] = [new Vector3(...plane.u), new Vector3(...plane.v)];
+    const place = [...model.nodes()].find((node) => node.reference.blockId === block);
+    if (place) for (const axis of [u, v]) axis.transformDirection(place.object.matrixWorld);
+    const normal = u.cross(v);
     return normal.lengthSq() > 1e-12 ? normal.normalize() : null;
   }
 
   // The drawn form of an element. The second line of a composite frame is drawn with the first.
   of(element) {
-    const drawn = this.children.filter((annotation) => annotation.element === element);
-    return drawn.length ? drawn : this.children.filter(({ element: other }) => other && other.id === element.composite_of);
+    const bearer = element.composite_of ?? element.id;
+    return this.children.filter((annotation) => annotation.element?.id === bearer);
   }
 
   // Shows those annotations whose id is in the list, or all for null.

@@ -59,7 +59,7 @@ export class Details {
 
   #element(element) {
     const { pmi, blocks } = this.model;
-    const linked = [...blocks.values()].flatMap(({ id, shape }) => shape?.linked(id, element) ?? []);
+    const linked = this.model.linked(element).map(({ part }) => part);
     const faces = linked.filter((part) => part.mesh);
     this.#head(element.kind, this.#label('drawing', ...drawing(element)));
     this.#rows([

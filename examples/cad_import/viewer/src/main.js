@@ -28,10 +28,9 @@ const tree = new TreeView(element('tree'), model, {
   onLook: (node) => fit(node),
 });
 const openView = buildSavedViews(element('views'), stage, model.views, (view) => pmiPanel?.showView(view));
-const pmiPanel = model.pmi && new PmiPanel({ list: element('pmi-list'), filter: element('pmi-filter'), grouping: element('grouping') }, model, {
-  onSelect: (said) => selection.setElement(said),
-  onView: openView,
-});
+const pmiElements = { list: element('pmi-list'), filter: element('pmi-filter'), grouping: element('grouping') };
+const pmiActions = { onSelect: (said) => selection.setElement(said), onView: openView };
+const pmiPanel = model.pmi && new PmiPanel(pmiElements, model, pmiActions);
 selection.onChange = () => {
   const { node, face } = selection;
   tree.select(node);

@@ -80,23 +80,19 @@ class Shape {
   // The triangles of one face, on the vertices of the whole shape.
   faceGeometry(face) {
     const geometry = new BufferGeometry();
-    geometry.setAttribute('position', this.geometry.getAttribute('position'));
+    const positions = this.geometry.getAttribute('position');
+    geometry.setAttribute('position', positions);
     geometry.setAttribute('normal', this.geometry.getAttribute('normal'));
     const index = this.geometry.index.array.subarray(face.begin, face.end);
     geometry.setIndex(new BufferAttribute(index, 1));
     geometry.boundingBox = new Box3();
     const point = new Vector3();
-    for (const vertex of index) geometry.boundingBox.expandByPoint(point.fromBufferAttribute(geometry.getAttribute('position'), vertex));
+    for (const vertex of index) geometry.boundingBox.expandByPoint(point.fromBufferAttribute(positions, vertex));
     return geometry;
   }
 
   edgeGeometry(edge) {
     return new LineSegmentsGeometry().setPositions(this.segments.subarray(edge.begin, edge.end));
-  }
-
-  // The faces and edges of which an element of the PMI speaks, when this is the shape of that block.
-  linked(block, element) {
-    return this.parts.filter((part) => speaksOf(element, block, part));
   }
 }
 
@@ -142,5 +138,11 @@ export class Model {
 
   *nodes() {
     for (const root of this.roots) yield* root.all();
+  }
+
+  // The faces and edges of which an element of the PMI speaks: [{ block, part }].
+  linked(element) {
+    const partsOf = ({ id, shape }) => (shape?.parts ?? []).filter((part) => speaksOf(element, id, part));
+    return [...this.blocks.values()].flatMap((block) => partsOf(block).map((part) => ({ block, part })));
   }
 }

@@ -32,7 +32,8 @@ export class Pmi {
     );
     for (const element of this.elements) element.letters = datumsOf(element);
     this.byId = new Map(this.elements.map((element) => [element.id, element]));
-    this.viewNames = [...new Set([...(data.views ?? []).map((view) => view.name), ...this.elements.flatMap((element) => element.views)])];
+    const viewNames = (data.views ?? []).map((view) => view.name);
+    this.viewNames = [...new Set([...viewNames, ...this.elements.flatMap((element) => element.views)])];
     this.ofOneBlock = new Set(this.elements.map((element) => element.block)).size === 1;
   }
 
@@ -50,7 +51,7 @@ export class Pmi {
 
   // The elements as a list with headings: [{ title, elements }]. An element can stand below several of them.
   grouped(by, blockName) {
-    const groups = { view: () => this.#byView(), datum: () => this.#byDatum(blockName), kind: () => this.#byKind() }[by]();
+    const groups = by === 'view' ? this.#byView() : by === 'datum' ? this.#byDatum(blockName) : this.#byKind();
     return groups.filter(({ elements }) => elements.length);
   }
 

@@ -22,7 +22,13 @@ const overlay = (color, opacity, how) =>
 const partMaterial = overlay(0x2f7df6, 0.3);
 const faceMaterial = overlay(kLit, 0.78);
 const throughMaterial = overlay(kLit, 0.16, { depthTest: false }); // a lit face shines through what hides it
-const edgeMaterial = new LineMaterial({ color: kLit, linewidth: 3, transparent: true, depthTest: false, toneMapped: false });
+const edgeMaterial = new LineMaterial({
+  color: kLit,
+  linewidth: 3,
+  transparent: true,
+  depthTest: false,
+  toneMapped: false,
+});
 
 export class Selection {
   constructor(stage, details) {
@@ -38,7 +44,9 @@ export class Selection {
   set(node, face = null) {
     this.#begin({ node, face: node && face, element: null });
     if (node) {
-      for (const place of node.all()) if (place.mesh) this.#cover(place, new Mesh(place.mesh.geometry, partMaterial), 1);
+      for (const place of node.all()) {
+        if (place.mesh) this.#cover(place, new Mesh(place.mesh.geometry, partMaterial), 1);
+      }
     }
     if (this.face) this.#light(node, this.face);
     this.#end();
@@ -48,8 +56,8 @@ export class Selection {
   setElement(element) {
     const { model, annotations } = this.stage;
     this.#begin({ node: null, face: null, element });
-    for (const place of model.nodes()) {
-      for (const part of place.block?.shape?.linked(place.block.id, element) ?? []) this.#light(place, part);
+    for (const { block, part } of model.linked(element)) {
+      for (const place of model.nodes()) if (place.block === block) this.#light(place, part);
     }
     annotations.light(annotations.of(element));
     this.#end();
@@ -93,11 +101,10 @@ export class Selection {
     }
   }
 
-  // Turns to what is lit only when nothing of the annotation is in the picture.
+  // Turns to what is lit only when nothing of it is in the picture.
   #comeIntoView() {
     const drawn = this.stage.annotations.drawn().filter(({ lit }) => lit);
     const places = [...new Set(this.overlays.map(({ userData }) => userData.place.mesh))];
-    const seen = this.stage.sees(drawn.length ? drawn : this.overlays);
-    if (!seen && places.length) this.stage.fit(places);
+    if (places.length && !this.stage.sees([...drawn, ...this.overlays])) this.stage.fit(places);
   }
 }

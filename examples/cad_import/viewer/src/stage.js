@@ -4,11 +4,6 @@ import {
   AmbientLight,
   Box3,
   DirectionalLight,
-  DoubleSide,
-  Group,
-  Matrix4,
-  Mesh,
-  MeshStandardMaterial,
   NeutralToneMapping,
   Object3D,
   OrthographicCamera,
@@ -23,13 +18,10 @@ import {
 } from 'three';
 import { OrbitControls } from 'three/addons/controls/OrbitControls.js';
 import { RoomEnvironment } from 'three/addons/environments/RoomEnvironment.js';
-import { LineMaterial } from 'three/addons/lines/LineMaterial.js';
-import { LineSegments2 } from 'three/addons/lines/LineSegments2.js';
 
-import { Annotations, srgb } from './annotations.js';
+import { Annotations } from './annotations.js';
+import { Parts } from './parts.js';
 
-const kNoColor = [176, 182, 190];
-const kEdgeColor = 0x1c2430;
 const kFieldOfView = 22; // degrees
 const kFitMargin = 1.1;
 export const kIsometric = { direction: new Vector3(-1, 1.25, -0.85), up: new Vector3(0, 0, 1) };
@@ -42,13 +34,12 @@ export class Stage {
     this.renderer.setPixelRatio(window.devicePixelRatio);
     this.renderer.toneMapping = NeutralToneMapping;
     this.scene = new Scene();
-    this.materials = new Map();
     this.clipping = [];
     this.onDraw = () => {};
     this.#addLights();
-    this.#addModel();
-    this.annotations = new Annotations(model, this.#boxOf(this.#allMeshes()));
-    this.scene.add(this.annotations);
+    this.parts = new Parts(model, this.clipping);
+    this.annotations = new Annotations(model, this.#boxOf(this.parts.meshes));
+    this.scene.add(this.parts, this.annotations);
     this.camera = new PerspectiveCamera(kFieldOfView);
     this.scene.add(this.camera);
     this.#resize();
@@ -67,60 +58,8 @@ export class Stage {
     this.scene.add(this.sun, this.sun.target);
   }
 
-  #surface(color) {
-    const [red, green, blue, alpha = 255] = color ?? kNoColor;
-    const key = [red, green, blue, alpha].join();
-    if (!this.materials.has(key)) {
-      const material = new MeshStandardMaterial({
-        color: srgb([red, green, blue]),
-        roughness: 0.52,
-        metalness: 0.08,
-        side: DoubleSide,
-        polygonOffset: true, // lets the edges stand in front of the faces that they bound
-        polygonOffsetFactor: 1,
-        polygonOffsetUnits: 1,
-        transparent: alpha < 255,
-        opacity: alpha / 255,
-        depthWrite: alpha === 255,
-        clippingPlanes: this.clipping,
-      });
-      this.materials.set(key, material);
-    }
-    return this.materials.get(key);
-  }
-
-  #addModel() {
-    this.edgeMaterial = new LineMaterial({ color: kEdgeColor, linewidth: 1.15, clippingPlanes: this.clipping });
-    this.edges = [];
-    this.root = new Group();
-    this.scene.add(this.root);
-    for (const node of this.model.nodes()) {
-      const group = (node.object = new Group());
-      (node.parent?.object ?? this.root).add(group);
-      if (node.reference.matrix) group.applyMatrix4(new Matrix4().fromArray(node.reference.matrix));
-      group.visible = node.visible;
-      if (node.block?.shape) this.#addShape(node, node.block.shape);
-    }
-    this.root.updateMatrixWorld(true);
-  }
-
-  #addShape(node, shape) {
-    const color = node.color ?? shape.color;
-    const materials = shape.colors.map((own) => this.#surface(own ?? color));
-    const mesh = new Mesh(shape.geometry, materials);
-    mesh.userData.node = node;
-    node.mesh = mesh;
-    node.object.add(mesh);
-    if (shape.edges) {
-      const edges = new LineSegments2(shape.edges, this.edgeMaterial);
-      edges.raycast = () => {};
-      this.edges.push(edges);
-      node.object.add(edges);
-    }
-  }
-
   setEdges(shown) {
-    for (const edges of this.edges) edges.visible = shown;
+    for (const edges of this.parts.edges) edges.visible = shown;
     this.draw();
   }
 
@@ -132,18 +71,8 @@ export class Stage {
       this.clipping.push(new Plane(new Vector3(a, b, c), d));
     }
     this.renderer.localClippingEnabled = this.clipping.length > 0;
-    for (const material of this.materials.values()) material.needsUpdate = true;
+    for (const material of this.parts.materials.values()) material.needsUpdate = true;
     this.draw();
-  }
-
-  #allMeshes() {
-    return [...this.model.nodes()].map((node) => node.mesh).filter(Boolean);
-  }
-
-  visibleMeshes() {
-    const meshes = [];
-    this.root.traverseVisible((object) => object.userData.node && meshes.push(object));
-    return meshes;
   }
 
   #corners(objects) {
@@ -164,7 +93,7 @@ export class Stage {
   }
 
   #shown() {
-    return [...this.visibleMeshes(), ...this.annotations.drawn()];
+    return [...this.parts.visibleMeshes(), ...this.annotations.drawn()];
   }
 
   #worthFitting() {
@@ -218,7 +147,8 @@ export class Stage {
   // Fills the picture with the objects, by default all that is shown, and looks in the direction of now.
   fit(objects) {
     const direction = this.controls.target.clone().sub(this.camera.position);
-    this.look({ direction, up: this.camera.up.clone(), objects, perspective: Boolean(this.camera.isPerspectiveCamera) });
+    const perspective = Boolean(this.camera.isPerspectiveCamera);
+    this.look({ direction, up: this.camera.up.clone(), objects, perspective });
   }
 
   // Places the camera: orthographic when a height of the picture in model units is given.
@@ -287,7 +217,7 @@ export class Stage {
     const pointer = new Vector2((x / canvas.clientWidth) * 2 - 1, 1 - (y / canvas.clientHeight) * 2);
     const ray = new Raycaster();
     ray.setFromCamera(pointer, this.camera);
-    const hits = ray.intersectObjects(this.visibleMeshes(), false);
+    const hits = ray.intersectObjects(this.parts.visibleMeshes(), false);
     const hit = hits.find(({ point }) => this.clipping.every((plane) => plane.distanceToPoint(point) >= 0));
     const drawn = this.annotations.pick(ray);
     if (drawn && !(hit?.distance < drawn.distance)) return { element: drawn.object.parent.element };
