@@ -91,6 +91,22 @@ TEST(Scene, PlacesAndColoursByTheNodesAbove)
     EXPECT_STREQ(shape["positions"].GetString(), "AACAPwAAAAAAAAAAAACAPwAAgD8AAAAAAAAAAAAAAAAAAAAA");
 }
 
+TEST(Scene, FillsALetterWhereItsAnnotationIsPlaced)
+{
+    const auto note = meshNode({{scene_conventions::kTriangle, {0, 1, 2}}});
+    note->setTransformation(std::make_shared<vrx::ExcTransformation>());
+    note->transformation()->translation().set(1, 0, 0);
+    note->mesh()->faces().front()->setColor({std::uint16_t{1}, std::uint16_t{2}, std::uint16_t{3}});
+    note->setPMI(std::make_shared<vrx::ExcVisuPMI>());
+
+    const rapidjson::Document annotations = parsed(scene_json::annotations(sceneOf(note)));
+    ASSERT_EQ(annotations.Size(), 1U);
+    EXPECT_STREQ(annotations[0]["triangles"].GetString(), "AAAAAAEAAAACAAAA"); // 0, 1, 2
+    // (1, 0, 0), (2, 0, 0), (1, 1, 0)
+    EXPECT_STREQ(annotations[0]["positions"].GetString(), "AACAPwAAAAAAAAAAAAAAQAAAAAAAAAAAAACAPwAAgD8AAAAA");
+    EXPECT_EQ(annotations[0]["color"][1].GetInt(), 2);
+}
+
 TEST(Scene, ShowsACaptureInsteadOfItsView)
 {
     vrx::ExcVisualizationData scene;
