@@ -7,6 +7,8 @@
 #include "mp/narrow.h"
 #include "pmi/annotation_type.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -27,6 +29,12 @@ bool isDrawn(const DrawnAnnotation& annotation, const ProductPlaces& places)
     return !isEmpty && (!annotation.product || places.find(annotation.product) != nullptr);
 }
 
+gp_XYZ normalOf(const Drawing& drawing, const std::array<std::size_t, 3>& triangle)
+{
+    const gp_XYZ& first = drawing.vertices[triangle[0]].XYZ();
+    return (drawing.vertices[triangle[1]].XYZ() - first) ^ (drawing.vertices[triangle[2]].XYZ() - first);
+}
+
 // Filled areas are flat: one normal is that of all.
 gp_XYZ normalOf(const DrawnAnnotation& annotation)
 {
@@ -34,11 +42,10 @@ gp_XYZ normalOf(const DrawnAnnotation& annotation)
     {
         return annotation.plane->Direction().XYZ();
     }
-    const std::vector<gp_Pnt>& vertices = annotation.drawing.vertices;
     gp_XYZ sum;
-    for (const auto& [a, b, c] : annotation.drawing.triangles)
+    for (const auto& triangle : annotation.drawing.triangles)
     {
-        sum += (vertices[b].XYZ() - vertices[a].XYZ()) ^ (vertices[c].XYZ() - vertices[a].XYZ());
+        sum += normalOf(annotation.drawing, triangle);
     }
     const double length = sum.Modulus();
     return length > 0 ? sum / length : sum;
@@ -66,6 +73,10 @@ std::shared_ptr<vrx::ExcVisuMesh> meshOf(const DrawnAnnotation& annotation)
     for (const auto& corners : annotation.drawing.triangles)
     {
         std::vector<std::int32_t> indices(corners.begin(), corners.end());
+        if (normalOf(annotation.drawing, corners).Dot(normal) < 0)
+        {
+            std::swap(indices[1], indices[2]);
+        }
         triangles.push_back({scene_conventions::kTriangle, std::move(indices)});
     }
     const auto face = std::make_shared<vrx::ExcVisuFace>();

@@ -1,20 +1,18 @@
 #include "pmi/drawing.h"
 
+#include <BRepBuilderAPI_MakeFace.hxx>
 #include <BRepBuilderAPI_MakePolygon.hxx>
 #include <BRepMesh_IncrementalMesh.hxx>
-#include <BRep_Builder.hxx>
 #include <BRep_Tool.hxx>
-#include <Geom_Plane.hxx>
+#include <ElSLib.hxx>
 #include <Poly_Triangulation.hxx>
-#include <Precision.hxx>
-#include <ShapeFix_Face.hxx>
 #include <Standard_Failure.hxx>
-#include <TopExp_Explorer.hxx>
 #include <TopLoc_Location.hxx>
-#include <TopoDS.hxx>
 #include <TopoDS_Face.hxx>
+#include <TopoDS_Wire.hxx>
 #include <gp.hxx>
 #include <gp_Pln.hxx>
+#include <gp_XY.hxx>
 
 #include <algorithm>
 #include <optional>
@@ -44,17 +42,92 @@ bool canBound(const std::vector<gp_Pnt>& line, const gp_Pln& plane)
                        [&plane](const gp_Pnt& point) { return plane.Distance(point) <= kGap; });
 }
 
-TopoDS_Wire wireOf(const std::vector<gp_Pnt>& line, const gp_Pln& plane)
+// A closed line in the coordinates of its plane, without its last point, which is the first one.
+class Loop
 {
-    BRepBuilderAPI_MakePolygon polygon;
-    for (std::size_t i = 0; i + 1 < line.size(); ++i)
+public:
+    Loop(const std::vector<gp_Pnt>& line, const gp_Pln& plane)
     {
-        const gp_Vec off(plane.Axis().Direction().XYZ() *
-                         (plane.Location().XYZ() - line[i].XYZ()).Dot(plane.Axis().Direction().XYZ()));
-        polygon.Add(line[i].Translated(off));
+        for (std::size_t i = 0; i + 1 < line.size(); ++i)
+        {
+            double u = 0;
+            double v = 0;
+            ElSLib::Parameters(plane, line[i], u, v);
+            m_points.emplace_back(u, v);
+        }
     }
-    polygon.Close();
-    return polygon.Wire();
+
+    bool holds(const Loop& other) const { return &other != this && holds(other.m_points.front()); }
+
+    // Counter-clockwise around an area, clockwise around a hole.
+    TopoDS_Wire wire(const gp_Pln& plane, bool isHole) const
+    {
+        BRepBuilderAPI_MakePolygon polygon;
+        for (const gp_XY& point : m_points)
+        {
+            polygon.Add(ElSLib::Value(point.X(), point.Y(), plane));
+        }
+        polygon.Close();
+        TopoDS_Wire wire = polygon.Wire();
+        wire.Orientation((area() > 0) == isHole ? TopAbs_REVERSED : TopAbs_FORWARD);
+        return wire;
+    }
+
+private:
+    bool holds(const gp_XY& point) const
+    {
+        bool inside = false;
+        for (std::size_t i = 0; i < m_points.size(); ++i)
+        {
+            const gp_XY& from = m_points[i];
+            const gp_XY& to = m_points[(i + 1) % m_points.size()];
+            const bool crosses = (from.Y() > point.Y()) != (to.Y() > point.Y());
+            if (crosses && (to - from).Crossed(point - from) * (to.Y() - from.Y()) > 0)
+            {
+                inside = !inside;
+            }
+        }
+        return inside;
+    }
+
+    double area() const
+    {
+        double area = 0;
+        for (std::size_t i = 0; i < m_points.size(); ++i)
+        {
+            area += m_points[i].Crossed(m_points[(i + 1) % m_points.size()]) / 2;
+        }
+        return area;
+    }
+
+    std::vector<gp_XY> m_points;
+};
+
+// The faces between loops: those within an even number of others go around an area, the others around holes.
+std::vector<TopoDS_Face> facesOf(const std::vector<Loop>& loops, const gp_Pln& plane)
+{
+    const auto depth = [&loops](const Loop& loop) {
+        return std::count_if(loops.begin(), loops.end(), [&loop](const Loop& other) { return other.holds(loop); });
+    };
+    std::vector<TopoDS_Face> faces;
+    for (const Loop& outer : loops)
+    {
+        const auto level = depth(outer);
+        if (level % 2 != 0)
+        {
+            continue;
+        }
+        BRepBuilderAPI_MakeFace face(plane, outer.wire(plane, false));
+        for (const Loop& inner : loops)
+        {
+            if (outer.holds(inner) && depth(inner) == level + 1)
+            {
+                face.Add(inner.wire(plane, true));
+            }
+        }
+        faces.push_back(face.Face());
+    }
+    return faces;
 }
 
 void addTriangles(const TopoDS_Face& face, Drawing& drawing)
@@ -95,20 +168,15 @@ bool fill(const std::vector<std::vector<gp_Pnt>>& boundaries, Drawing& drawing)
     const std::size_t before = drawing.triangles.size();
     try
     {
-        TopoDS_Face face;
-        const BRep_Builder builder;
-        builder.MakeFace(face, new Geom_Plane(*plane), Precision::Confusion());
+        std::vector<Loop> loops;
         for (const std::vector<gp_Pnt>& line : boundaries)
         {
-            builder.Add(face, wireOf(line, *plane));
+            loops.emplace_back(line, *plane);
         }
-        ShapeFix_Face fix(face); // tells holes from areas
-        fix.Perform();
-        const TopoDS_Shape areas = fix.Result();
-        BRepMesh_IncrementalMesh(areas, kDeflection);
-        for (TopExp_Explorer explorer(areas, TopAbs_FACE); explorer.More(); explorer.Next())
+        for (const TopoDS_Face& face : facesOf(loops, *plane))
         {
-            addTriangles(TopoDS::Face(explorer.Current()), drawing);
+            BRepMesh_IncrementalMesh(face, kDeflection);
+            addTriangles(face, drawing);
         }
     }
     catch (const Standard_Failure&)
