@@ -2,6 +2,7 @@
 
 #include "pmi/annotation_type.h"
 #include "pmi/item_drawer.h"
+#include "pmi/item_parameters.h"
 #include "pmi/pmi_blocks.h"
 #include "reading/cad_model.h"
 #include "reading/step_axes.h"
@@ -11,9 +12,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <map>
 #include <set>
-#include <string_view>
 #include <utility>
 
 namespace
@@ -177,7 +178,7 @@ private:
         }
         DrawnAnnotation annotation;
         annotation.record = record;
-        annotation.name = record.is("REPRESENTATION_ITEM") ? record.as("REPRESENTATION_ITEM").text(0) : record.text(0);
+        annotation.name = record.as("REPRESENTATION_ITEM").text(0);
         const std::vector<StepRecord> parts = annotationParts(record);
         const UnitFactors units = unitsOf(parts);
         annotation.plane = planeOf(parts, units);
@@ -190,11 +191,10 @@ private:
             {
                 continue;
             }
-            drawer.add(itemParameter(part, "STYLED_ITEM", 1).reference);
-            for (const StepParameter& assignment : itemParameter(part, "STYLED_ITEM", 0).list)
+            drawer.add(item_parameters::parameter(part, "STYLED_ITEM", 1).reference);
+            for (const StepRecord& assignment : item_parameters::records(part, "STYLED_ITEM", 0))
             {
-                annotation.color =
-                    annotation.color.hasRGB() ? annotation.color : colorOfStyles(m_records.find(assignment.reference));
+                annotation.color = annotation.color.hasRGB() ? annotation.color : colorOfStyles(assignment);
             }
         }
         m_all.push_back(std::move(annotation));
@@ -236,7 +236,7 @@ private:
         {
             for (const StepRecord& plane : part.users("ANNOTATION_PLANE"))
             {
-                const int id = itemParameter(plane, "STYLED_ITEM", 1).reference;
+                const int id = item_parameters::parameter(plane, "STYLED_ITEM", 1).reference;
                 const auto surface = m_records.entity<StepGeom_Plane>(id);
                 const auto axes =
                     stepAxes(surface.IsNull() ? m_records.entity<StepGeom_Axis2Placement3d>(id) : surface->Position(),
@@ -290,11 +290,8 @@ std::vector<StepRecord> annotationParts(const StepRecord& record)
     std::vector<StepRecord> parts = {record};
     if (isAny(record, kCallouts))
     {
-        const bool several = record.is("REPRESENTATION_ITEM");
-        for (const StepRecord& part : several ? record.as("DRAUGHTING_CALLOUT").nexts(0) : record.nexts(1))
-        {
-            parts.push_back(part);
-        }
+        const std::vector<StepRecord> contents = item_parameters::records(record, "DRAUGHTING_CALLOUT", 0);
+        parts.insert(parts.end(), contents.begin(), contents.end());
     }
     return parts;
 }

@@ -22,7 +22,8 @@ struct DrawnAnnotation
     mp::wstring name;
     /// What it presents: dimensions, tolerances, datums and shape aspects; first what the file links as presented.
     std::vector<StepRecord> about;
-    /// The plane that it is read in, from the side to which the axis points, if the file tells.
+    /// The plane of the file in which it is, if the file tells: it is read from the side to which the axis points. The
+    /// drawing is parallel to it, but many writers leave the origin elsewhere.
     std::optional<gp_Ax3> plane;
     Drawing drawing;
     vrx::ExcColor color; // if the file tells

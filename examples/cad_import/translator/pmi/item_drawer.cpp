@@ -1,6 +1,7 @@
 #include "pmi/item_drawer.h"
 
 #include "looks/tessellation.h"
+#include "pmi/item_parameters.h"
 #include "reading/step_axes.h"
 
 #include <GeomAdaptor_Curve.hxx>
@@ -25,9 +26,9 @@
 #include <TColgp_HArray1OfXYZ.hxx>
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace
 {
@@ -193,12 +194,6 @@ private:
     gp_Trsf m_place;
 };
 
-const StepParameter& itemParameter(const StepRecord& item, std::string_view type, std::size_t position,
-                                   std::size_t inherited)
-{
-    return item.is("REPRESENTATION_ITEM") ? item.as(type)[position] : item[position + inherited];
-}
-
 ItemDrawer::ItemDrawer(const StepRecords& records, const UnitFactors& units, Drawing& drawing)
     : m_records(records)
     , m_units(units)
@@ -231,24 +226,24 @@ void ItemDrawer::add(int id, const gp_Trsf& above)
     }
     if (item.is("TESSELLATED_GEOMETRIC_SET"))
     {
-        addAll(itemParameter(item, "TESSELLATED_GEOMETRIC_SET", 0), place);
+        addAll(item_parameters::parameter(item, "TESSELLATED_GEOMETRIC_SET", 0), place);
     }
     else if (item.is("GEOMETRIC_CURVE_SET") || item.is("GEOMETRIC_SET"))
     {
-        addAll(itemParameter(item, "GEOMETRIC_SET", 0), place);
+        addAll(item_parameters::parameter(item, "GEOMETRIC_SET", 0), place);
     }
     else if (item.is("TESSELLATED_CURVE_SET"))
     {
-        const Points points(*this, itemParameter(item, "TESSELLATED_CURVE_SET", 0).reference, place);
-        for (const StepParameter& indices : itemParameter(item, "TESSELLATED_CURVE_SET", 1).list)
+        const Points points(*this, item_parameters::parameter(item, "TESSELLATED_CURVE_SET", 0).reference, place);
+        for (const StepParameter& indices : item_parameters::parameter(item, "TESSELLATED_CURVE_SET", 1).list)
         {
             addLine(indices.numbers, points);
         }
     }
     else if (item.is("TESSELLATED_EDGE") || item.is("TESSELLATED_CONNECTING_EDGE"))
     {
-        addLine(itemParameter(item, "TESSELLATED_EDGE", 2).numbers,
-                {*this, itemParameter(item, "TESSELLATED_EDGE", 0).reference, place});
+        addLine(item_parameters::parameter(item, "TESSELLATED_EDGE", 2).numbers,
+                {*this, item_parameters::parameter(item, "TESSELLATED_EDGE", 0).reference, place});
     }
     else if (item.is("COMPLEX_TRIANGULATED_SURFACE_SET") || item.is("TRIANGULATED_SURFACE_SET"))
     {
@@ -256,7 +251,7 @@ void ItemDrawer::add(int id, const gp_Trsf& above)
     }
     else if (item.is("ANNOTATION_FILL_AREA"))
     {
-        addFilled(itemParameter(item, "ANNOTATION_FILL_AREA", 0), place);
+        addFilled(item_parameters::parameter(item, "ANNOTATION_FILL_AREA", 0), place);
     }
     else if (item.is("MAPPED_ITEM") || item.is("ANNOTATION_SYMBOL"))
     {
@@ -275,9 +270,10 @@ void ItemDrawer::addAll(const StepParameter& ids, const gp_Trsf& place)
 
 void ItemDrawer::addMapped(const StepRecord& item, const gp_Trsf& place)
 {
-    const StepRecord map = m_records.find(itemParameter(item, "MAPPED_ITEM", 0).reference);
+    const std::vector<StepRecord> maps = item_parameters::records(item, "MAPPED_ITEM", 0);
+    const StepRecord map = maps.empty() ? StepRecord() : maps.front();
     const auto origin = axesOf(map[0].reference);
-    const auto target = axesOf(itemParameter(item, "MAPPED_ITEM", 1).reference);
+    const auto target = axesOf(item_parameters::parameter(item, "MAPPED_ITEM", 1).reference);
     if (origin && target)
     {
         addAll(map.next(1).as("REPRESENTATION")[1], place * toSpace(*target) * toSpace(*origin).Inverted());
@@ -306,8 +302,8 @@ void ItemDrawer::addTriangles(const StepRecord& set, const gp_Trsf& place)
 {
     const bool complex = set.is("COMPLEX_TRIANGULATED_SURFACE_SET");
     const char* const type = complex ? "COMPLEX_TRIANGULATED_SURFACE_SET" : "TRIANGULATED_SURFACE_SET";
-    const std::vector<double>& indices = itemParameter(set, type, 0, 4).numbers;
-    const Points points(*this, itemParameter(set, "TESSELLATED_SURFACE_SET", 0).reference, place);
+    const std::vector<double>& indices = item_parameters::parameter(set, type, 0, 4).numbers;
+    const Points points(*this, item_parameters::parameter(set, "TESSELLATED_SURFACE_SET", 0).reference, place);
     std::map<double, std::size_t> vertices; // by the number of the point
     const auto find = [&](double index) -> std::optional<std::size_t> {
         const bool known = index >= 1 && index <= static_cast<double>(indices.size());
@@ -333,11 +329,11 @@ void ItemDrawer::addTriangles(const StepRecord& set, const gp_Trsf& place)
             m_drawing.triangles.push_back({*first, *second, *third});
         }
     };
-    for (const StepParameter& numbers : itemParameter(set, type, 1, 4).list)
+    for (const StepParameter& numbers : item_parameters::parameter(set, type, 1, 4).list)
     {
         strip(numbers.numbers, take);
     }
-    for (const StepParameter& numbers : itemParameter(set, type, 2, 4).list)
+    for (const StepParameter& numbers : item_parameters::parameter(set, type, 2, 4).list)
     {
         fan(numbers.numbers, take);
     }

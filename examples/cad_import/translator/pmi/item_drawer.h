@@ -9,14 +9,7 @@
 #include <gp_Trsf.hxx>
 
 #include <optional>
-#include <string_view>
 #include <vector>
-
-/// A parameter of an item of a representation by its position in what the item's own type adds. A record of one type
-/// has the inherited ones before, that is the name unless another number of them is given; a record of several types
-/// has a part for each.
-const StepParameter& itemParameter(const StepRecord& item, std::string_view type, std::size_t position,
-                                   std::size_t inherited = 1);
 
 /// Draws items of a STEP file's representations, in millimetres: tessellated ones, curves and filled areas, and sets of
 /// them. What is damaged or of another kind is left out.

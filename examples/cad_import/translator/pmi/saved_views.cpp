@@ -2,6 +2,7 @@
 
 #include "mp/narrow.h"
 #include "pmi/annotation_scene.h"
+#include "pmi/item_parameters.h"
 #include "pmi/pmi_blocks.h"
 #include "reading/cad_model.h"
 #include "reading/step_axes.h"
@@ -13,11 +14,13 @@
 #include <TDF_LabelSequence.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
+#include <gp_Pnt.hxx>
 
 #include <algorithm>
 #include <cmath>
 #include <map>
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -111,20 +114,19 @@ private:
         for (const StepRecord& item : model.as("REPRESENTATION").nexts(1))
         {
             addAnnotation(view, item);
-            const bool several = item.is("REPRESENTATION_ITEM");
             if (item.is("ANNOTATION_PLANE"))
             {
-                for (const StepRecord& element : several ? item.as("ANNOTATION_PLANE").nexts(0) : item.nexts(3))
+                for (const StepRecord& element : item_parameters::records(item, "ANNOTATION_PLANE", 0, 3))
                 {
                     addAnnotation(view, element);
                 }
             }
             else if (item.is("MAPPED_ITEM") && depth < kDeepest)
             {
-                const StepRecord mapped = (several ? item.as("MAPPED_ITEM").next(0) : item.next(1)).next(1);
-                if (mapped.is("DRAUGHTING_MODEL"))
+                for (const StepRecord& map : item_parameters::records(item, "MAPPED_ITEM", 0))
                 {
-                    addAnnotations(view, mapped, depth + 1);
+                    const StepRecord mapped = map.next(1);
+                    addAnnotations(view, mapped.is("DRAUGHTING_MODEL") ? mapped : StepRecord(), depth + 1);
                 }
             }
         }

@@ -7,8 +7,6 @@
 #include "vrx_api/vrx_api_exchange_visualization.h"
 
 #include <gp_Ax3.hxx>
-#include <gp_Dir.hxx>
-#include <gp_Pnt.hxx>
 
 #include <cstdint>
 #include <optional>
