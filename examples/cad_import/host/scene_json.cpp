@@ -108,6 +108,48 @@ void appendSegments(std::vector<float>& segments, const Edges& edges, const Plac
     }
 }
 
+bool isTriangle(const vrx::ExcVisuFace::Polygon& polygon, std::size_t vertices)
+{
+    return polygon.type == scene_conventions::kTriangle && polygon.indices.size() == 3 &&
+           std::all_of(polygon.indices.begin(), polygon.indices.end(), [vertices](std::int32_t index) {
+               return index >= 0 && static_cast<std::size_t>(index) < vertices;
+           });
+}
+
+// The triangles of faces, on the points of them all.
+struct Triangles
+{
+    // Returns how many triangles the face has.
+    unsigned append(const vrx::ExcVisuFace& face, const Placement& placement)
+    {
+        const auto before = static_cast<std::uint32_t>(positions.size() / 3);
+        const std::size_t count = face.vertices().size() / 3;
+        placement.appendPoints(positions, face.vertices());
+        unsigned triangles = 0;
+        for (const vrx::ExcVisuFace::Polygon& polygon : face.polygons())
+        {
+            if (isTriangle(polygon, count))
+            {
+                for (const std::int32_t index : polygon.indices)
+                {
+                    indices.push_back(before + static_cast<std::uint32_t>(index));
+                }
+                ++triangles;
+            }
+        }
+        return triangles;
+    }
+
+    void write(PageJson& json) const
+    {
+        json.field("positions", base64Of(positions));
+        json.field("triangles", base64Of(indices));
+    }
+
+    std::vector<float> positions;
+    std::vector<std::uint32_t> indices;
+};
+
 class ShapeWriter
 {
 public:
@@ -128,14 +170,15 @@ public:
         PageJson json;
         json.StartObject();
         json.color(color);
-        json.field("positions", base64Of(m_positions));
+        m_triangles.write(json);
         json.field("normals", base64Of(m_normals));
-        json.field("triangles", base64Of(m_triangles));
         json.field("segments", base64Of(m_segments));
         json.Key("meshes");
         array(json, m_meshes);
         json.Key("faces");
         array(json, m_faces);
+        json.Key("edges");
+        array(json, m_edges);
         json.EndObject();
         return json.text();
     }
@@ -157,7 +200,10 @@ private:
         {
             addFace(*face, item.placement);
         }
-        appendSegments(m_segments, mesh.edges(), item.placement);
+        for (const std::shared_ptr<vrx::ExcVisuEdge>& edge : mesh.edges())
+        {
+            addEdge(edge, item.placement);
+        }
         PageJson json;
         json.StartObject();
         json.field("id", mesh.id());
@@ -170,23 +216,9 @@ private:
 
     void addFace(const vrx::ExcVisuFace& face, const Placement& placement)
     {
-        const auto before = static_cast<std::uint32_t>(m_positions.size() / 3);
-        const std::size_t count = face.vertices().size() / 3;
-        placement.appendPoints(m_positions, face.vertices());
+        const unsigned triangles = m_triangles.append(face, placement);
         placement.appendDirections(m_normals, face.normals());
-        m_normals.resize(m_positions.size());
-        unsigned triangles = 0;
-        for (const vrx::ExcVisuFace::Polygon& polygon : face.polygons())
-        {
-            if (isTriangle(polygon, count))
-            {
-                for (const std::int32_t index : polygon.indices)
-                {
-                    m_triangles.push_back(before + static_cast<std::uint32_t>(index));
-                }
-                ++triangles;
-            }
-        }
+        m_normals.resize(m_triangles.positions.size());
         PageJson json;
         json.StartObject();
         json.field("id", face.id());
@@ -200,20 +232,27 @@ private:
         m_faces.push_back(json.text());
     }
 
-    static bool isTriangle(const vrx::ExcVisuFace::Polygon& polygon, std::size_t vertices)
+    void addEdge(const std::shared_ptr<vrx::ExcVisuEdge>& edge, const Placement& placement)
     {
-        return polygon.type == scene_conventions::kTriangle && polygon.indices.size() == 3 &&
-               std::all_of(polygon.indices.begin(), polygon.indices.end(), [vertices](std::int32_t index) {
-                   return index >= 0 && static_cast<std::size_t>(index) < vertices;
-               });
+        const std::size_t before = m_segments.size();
+        appendSegments(m_segments, {edge}, placement);
+        PageJson json;
+        json.StartObject();
+        json.field("mechanicalId", edge->mechanicalId());
+        json.Key("begin"); // among the numbers of all segments
+        json.Uint64(before);
+        json.Key("end");
+        json.Uint64(m_segments.size());
+        json.EndObject();
+        m_edges.push_back(json.text());
     }
 
-    std::vector<float> m_positions;
+    Triangles m_triangles;
     std::vector<float> m_normals;
-    std::vector<std::uint32_t> m_triangles;
     std::vector<float> m_segments;
     std::vector<std::string> m_meshes;
     std::vector<std::string> m_faces;
+    std::vector<std::string> m_edges;
 };
 
 void annotation(PageJson& json, const Item& item)
@@ -221,7 +260,17 @@ void annotation(PageJson& json, const Item& item)
     const vrx::ExcVisuPMI& pmi = *item.node->pmi();
     std::vector<float> segments;
     appendSegments(segments, pmi.edges(), item.placement);
-    if (segments.empty())
+    Triangles fillings;
+    vrx::ExcColor color;
+    if (item.node->mesh())
+    {
+        for (const std::shared_ptr<vrx::ExcVisuFace>& face : item.node->mesh()->faces())
+        {
+            fillings.append(*face, item.placement);
+            color = face->color();
+        }
+    }
+    if (segments.empty() && fillings.indices.empty())
     {
         return;
     }
@@ -229,8 +278,9 @@ void annotation(PageJson& json, const Item& item)
     json.field("id", pmi.id());
     json.field("mechanicalId", pmi.mechanicalId());
     json.field("name", pmi.displayName());
-    json.color(pmi.edges().front()->color());
+    json.color(pmi.edges().empty() ? color : pmi.edges().front()->color());
     json.field("segments", base64Of(segments));
+    fillings.write(json);
     json.EndObject();
 }
 

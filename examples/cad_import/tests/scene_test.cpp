@@ -10,6 +10,8 @@
 #include <rapidjson/document.h>
 
 #include <array>
+#include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -91,6 +93,22 @@ TEST(Scene, PlacesAndColoursByTheNodesAbove)
     EXPECT_STREQ(shape["positions"].GetString(), "AACAPwAAAAAAAAAAAACAPwAAgD8AAAAAAAAAAAAAAAAAAAAA");
 }
 
+TEST(Scene, FillsALetterWhereItsAnnotationIsPlaced)
+{
+    const auto note = meshNode({{scene_conventions::kTriangle, {0, 1, 2}}});
+    note->setTransformation(std::make_shared<vrx::ExcTransformation>());
+    note->transformation()->translation().set(1, 0, 0);
+    note->mesh()->faces().front()->setColor({std::uint16_t{1}, std::uint16_t{2}, std::uint16_t{3}});
+    note->setPMI(std::make_shared<vrx::ExcVisuPMI>());
+
+    const rapidjson::Document annotations = parsed(scene_json::annotations(sceneOf(note)));
+    ASSERT_EQ(annotations.Size(), 1U);
+    EXPECT_STREQ(annotations[0]["triangles"].GetString(), "AAAAAAEAAAACAAAA"); // 0, 1, 2
+    // (1, 0, 0), (2, 0, 0), (1, 1, 0)
+    EXPECT_STREQ(annotations[0]["positions"].GetString(), "AACAPwAAAAAAAAAAAAAAQAAAAAAAAAAAAACAPwAAgD8AAAAA");
+    EXPECT_EQ(annotations[0]["color"][1].GetInt(), 2);
+}
+
 TEST(Scene, ShowsACaptureInsteadOfItsView)
 {
     vrx::ExcVisualizationData scene;
@@ -167,34 +185,92 @@ TEST(Scene, EachPartOfTheAssemblyHasFacesThatTheModelCanPointAt)
     }
 }
 
+std::vector<double> numbersOf(const vrx::ExcVector3d& vector)
+{
+    return {vector[0], vector[1], vector[2]};
+}
+
+// The annotations of the note's file, all of them notes.
+std::vector<std::shared_ptr<vrx::ExcVisuNode>> notes(const vrx::ExcVisualizationData& scene)
+{
+    return scene.sceneRootNodes().at(0)->childNodes().at(0)->childNodes().at(0)->childNodes();
+}
+
+auto inches(const std::vector<float>& numbers)
+{
+    std::vector<testing::Matcher<float>> near;
+    near.reserve(numbers.size());
+    for (const float number : numbers)
+    {
+        near.push_back(testing::FloatNear(number * 25.4F, 1e-4F));
+    }
+    return testing::ElementsAreArray(near);
+}
+
 TEST(Scene, DrawsANoteOfSeveralSetsWhereItIsMovedTo)
 {
     const Imported imported = importFile(MOVED_NOTE);
     ASSERT_EQ(imported.result.code(), vrx::Result::ECode::Ok);
     ASSERT_NE(imported.root, nullptr);
     const vrx::ExcVisualizationData& scene = *imported.root->visualizationData();
-    const auto node = scene.sceneRootNodes().at(0)->childNodes().at(0)->childNodes().at(0)->childNodes().at(0);
-    EXPECT_EQ(node->type(), vrx::ExcVisuNode::EType::NOTE);
-    ASSERT_NE(node->pmi(), nullptr);
-    EXPECT_EQ(node->pmi()->displayName(), WIDE("note"));
-    EXPECT_THAT(scene.views().at(0)->annotationIds(), testing::ElementsAre(node->pmi()->id()));
+    ASSERT_EQ(notes(scene).size(), 3U);
+    const vrx::ExcVisuNode& node = *notes(scene)[0];
+    EXPECT_EQ(node.type(), vrx::ExcVisuNode::EType::NOTE);
+    ASSERT_NE(node.pmi(), nullptr);
+    EXPECT_EQ(node.pmi()->displayName(), WIDE("note"));
+    EXPECT_EQ(node.pmi()->id(), WIDE("a30"));
     std::vector<std::vector<float>> lines;
-    for (const auto& edge : node->pmi()->edges())
+    for (const auto& edge : node.pmi()->edges())
     {
         lines.push_back(edge->points());
+        EXPECT_TRUE(edge->color().hasRGB());
     }
-    const auto inches = [](const std::vector<float>& numbers) {
-        std::vector<testing::Matcher<float>> near;
-        near.reserve(numbers.size());
-        for (const float number : numbers)
+    // The leader and the letter, and the full stop as two triangles.
+    EXPECT_THAT(lines, testing::ElementsAre(inches({1, 2, 3, 2, 2, 3, 2, 2, 4}), inches({1, 2, 4, 1, 2, 5})));
+    ASSERT_NE(node.mesh(), nullptr);
+    const vrx::ExcVisuFace& face = *node.mesh()->faces().at(0);
+    EXPECT_THAT(face.vertices(), inches({4, 2, 3, 5, 2, 3, 4, 2, 4, 5, 2, 4}));
+    ASSERT_EQ(face.polygons().size(), 2U);
+    EXPECT_THAT(face.polygons()[0].indices, testing::ElementsAre(0, 2, 1));
+    EXPECT_THAT(face.polygons()[1].indices, testing::ElementsAre(2, 3, 1));
+    EXPECT_THAT(std::vector<float>(face.normals().begin(), face.normals().begin() + 3), testing::ElementsAre(0, 1, 0));
+
+    // The file's side of the view is y < 0, that of the note is y > 0.
+    EXPECT_THAT(scene.views().at(0)->annotationIds(), testing::ElementsAre(WIDE("a30")));
+    EXPECT_THAT(numbersOf(scene.views().at(0)->directionU()), testing::ElementsAre(-1, 0, 0));
+    EXPECT_THAT(numbersOf(scene.views().at(0)->directionV()), testing::ElementsAre(0, 0, 1));
+}
+
+TEST(Scene, DrawsCurvesAndFillsAreasButForTheirHoles)
+{
+    const Imported imported = importFile(MOVED_NOTE);
+    const auto all = notes(*imported.root->visualizationData());
+    ASSERT_EQ(all.size(), 3U);
+    for (const auto& node : all)
+    {
+        if (node->pmi()->id() == WIDE("a70"))
         {
-            near.push_back(testing::FloatNear(number * 25.4F, 1e-4F));
+            const vrx::ExcVisuFace& face = *node->mesh()->faces().at(0);
+            EXPECT_EQ(face.color()[vrx::ExcColor::ChannelRed], 255);
+            double area = 0;
+            for (const vrx::ExcVisuFace::Polygon& triangle : face.polygons())
+            {
+                area += std::abs(triangleNormalDotVertexNormal(face, triangle)) / 2;
+            }
+            EXPECT_NEAR(area, (16 - 4) * 25.4 * 25.4, 1e-2);
         }
-        return testing::ElementsAreArray(near);
-    };
-    // The leader, the letter, and the outline of the full stop.
-    EXPECT_THAT(lines, testing::ElementsAre(inches({1, 2, 3, 2, 2, 3, 2, 2, 4}), inches({1, 2, 4, 1, 2, 5}),
-                                            inches({4, 2, 3, 5, 2, 3, 5, 2, 4, 4, 2, 4, 4, 2, 3})));
+        if (node->pmi()->id() == WIDE("a74"))
+        {
+            const std::vector<float> points = node->pmi()->edges().at(0)->points();
+            EXPECT_GT(points.size(), 60U);
+            for (std::size_t i = 0; i < points.size(); i += 3)
+            {
+                const float middle = 2 * 25.4F;
+                EXPECT_NEAR(std::hypot(points[i] - middle, points[i + 1] - middle), 3 * 25.4F, 1e-3);
+                EXPECT_FLOAT_EQ(points[i + 2], 25.4F);
+            }
+        }
+    }
 }
 
 } // namespace

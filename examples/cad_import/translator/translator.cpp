@@ -8,6 +8,7 @@
 #include "looks/palette_colors.h"
 #include "looks/visualization_builder.h"
 #include "mp/narrow.h"
+#include "pmi/drawn_pmi.h"
 #include "pmi/pmi_summary.h"
 #include "reading/cad_reader.h"
 #include "reading/import_settings.h"
@@ -172,7 +173,8 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
 
     sendBodies(*structure, builder, progress);
-    sendVisualization(VisualizationBuilder(model, settings, *structure, builder), *structure, progress);
+    const std::unique_ptr<DrawnPmi> drawn = drawnPmi(model, builder);
+    sendVisualization(VisualizationBuilder(settings, *structure, builder), drawn.get(), *structure, progress);
     return importResult(model);
 }
 
@@ -192,11 +194,11 @@ void Translator::sendBodies(const vrx::ExcProductStructure& structure, const Pro
     }
 }
 
-void Translator::sendVisualization(const VisualizationBuilder& builder, const vrx::ExcProductStructure& structure,
-                                   ImportProgress& progress)
+void Translator::sendVisualization(const VisualizationBuilder& builder, const DrawnPmi* drawn,
+                                   const vrx::ExcProductStructure& structure, ImportProgress& progress)
 {
     progress.beginStage("Drawing the parts", 100);
-    if (const std::shared_ptr<vrx::ExcRootAssemblyVisualization> root = builder.root())
+    if (const auto root = drawn != nullptr ? builder.root(*drawn, {}) : nullptr)
     {
         m_channel.send(root);
         m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::RootVisualization));

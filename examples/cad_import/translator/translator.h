@@ -9,6 +9,7 @@ class HostChannel;
 class ImportProgress;
 class ProductStructureBuilder;
 class VisualizationBuilder;
+struct DrawnPmi;
 struct ImportSettings;
 
 /// Answers commands until the host closes the pipe.
@@ -29,8 +30,8 @@ private:
     vrx::Result translate(const ImportSettings& settings);
     void sendBodies(const vrx::ExcProductStructure& structure, const ProductStructureBuilder& builder,
                     ImportProgress& progress);
-    void sendVisualization(const VisualizationBuilder& builder, const vrx::ExcProductStructure& structure,
-                           ImportProgress& progress);
+    void sendVisualization(const VisualizationBuilder& builder, const DrawnPmi* drawn,
+                           const vrx::ExcProductStructure& structure, ImportProgress& progress);
 
     HostChannel& m_channel;
     bool m_kernelIsIntact = true;

@@ -35,6 +35,7 @@ namespace
 
 const double kDeflectionShare = 0.001; // of the shape's diagonal
 const double kAngle = 0.3;             // radians between neighbouring facets
+const double kLineDeflection = 0.05;   // millimetres, of lines without faces
 
 void append(std::vector<float>& numbers, const gp_XYZ& vector)
 {
@@ -160,12 +161,7 @@ std::vector<gp_Pnt> pointsOf(const TopoDS_Edge& edge)
     double last = 0;
     if (!BRep_Tool::Degenerated(edge) && !BRep_Tool::Curve(edge, first, last).IsNull())
     {
-        const BRepAdaptor_Curve curve(edge);
-        const GCPnts_TangentialDeflection line(curve, kAngle, 0.05);
-        for (int i = 1; i <= line.NbPoints(); ++i)
-        {
-            points.push_back(line.Value(i));
-        }
+        points = tessellation::points(BRepAdaptor_Curve(edge));
     }
     return points;
 }
@@ -233,38 +229,26 @@ std::shared_ptr<vrx::ExcVisuEdge> edge(const TopoDS_Edge& edge)
     return numbers.size() < 6 ? nullptr : polyline(std::move(numbers));
 }
 
-std::vector<std::shared_ptr<vrx::ExcVisuEdge>> polylines(const TopoDS_Shape& shape)
+std::vector<gp_Pnt> points(const Adaptor3d_Curve& curve)
 {
-    std::vector<std::shared_ptr<vrx::ExcVisuEdge>> lines;
-    std::vector<float> open;
-    gp_Pnt end;
-    const auto close = [&] {
-        if (open.size() >= 6)
-        {
-            lines.push_back(polyline(std::move(open)));
-        }
-        open.clear();
-    };
-    for (TopExp_Explorer explorer(shape, TopAbs_EDGE); explorer.More(); explorer.Next())
+    std::vector<gp_Pnt> points;
+    const GCPnts_TangentialDeflection line(curve, kAngle, kLineDeflection);
+    for (int i = 1; i <= line.NbPoints(); ++i)
     {
-        const std::vector<gp_Pnt> points = pointsOf(TopoDS::Edge(explorer.Current()));
-        if (points.empty())
-        {
-            continue;
-        }
-        const bool follows = !open.empty() && points.front().IsEqual(end, Precision::Confusion());
-        if (!follows)
-        {
-            close();
-        }
-        for (std::size_t i = follows ? 1 : 0; i < points.size(); ++i)
-        {
-            append(open, points[i].XYZ());
-        }
-        end = points.back();
+        points.push_back(line.Value(i));
     }
-    close();
-    return lines;
+    return points;
+}
+
+std::shared_ptr<vrx::ExcVisuEdge> polyline(const std::vector<gp_Pnt>& points)
+{
+    std::vector<float> numbers;
+    numbers.reserve(points.size() * 3);
+    for (const gp_Pnt& point : points)
+    {
+        append(numbers, point.XYZ());
+    }
+    return polyline(std::move(numbers));
 }
 
 } // namespace tessellation

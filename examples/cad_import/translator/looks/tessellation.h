@@ -2,8 +2,10 @@
 
 #include "vrx_api/vrx_api_exchange_visualization.h"
 
+#include <Adaptor3d_Curve.hxx>
 #include <TopoDS_Edge.hxx>
 #include <TopoDS_Face.hxx>
+#include <gp_Pnt.hxx>
 
 #include <memory>
 #include <vector>
@@ -22,8 +24,10 @@ std::shared_ptr<vrx::ExcVisuFace> face(const TopoDS_Face& face);
 /// closes a face upon itself.
 std::shared_ptr<vrx::ExcVisuEdge> edge(const TopoDS_Edge& edge);
 
-/// The edges of a shape that has no faces, such as a drawn text, as few polylines: edges that follow each other are
-/// one.
-std::vector<std::shared_ptr<vrx::ExcVisuEdge>> polylines(const TopoDS_Shape& shape);
+/// Points along a curve, near enough to each other for a drawing.
+std::vector<gp_Pnt> points(const Adaptor3d_Curve& curve);
+
+/// A line through points.
+std::shared_ptr<vrx::ExcVisuEdge> polyline(const std::vector<gp_Pnt>& points);
 
 } // namespace tessellation

@@ -5,23 +5,20 @@
 #include "looks/placed_scene.h"
 #include "looks/scene_nodes.h"
 #include "pmi/annotation_scene.h"
-#include "pmi/product_places.h"
-#include "pmi/saved_views.h"
-#include "reading/cad_model.h"
+#include "pmi/drawn_pmi.h"
 #include "reading/import_settings.h"
 #include "structure/product_structure_builder.h"
 
-VisualizationBuilder::VisualizationBuilder(const CadModel& model, const ImportSettings& settings,
-                                           const vrx::ExcProductStructure& structure,
+VisualizationBuilder::VisualizationBuilder(const ImportSettings& settings, const vrx::ExcProductStructure& structure,
                                            const ProductStructureBuilder& blocks)
-    : m_model(model)
-    , m_settings(settings)
+    : m_settings(settings)
     , m_structure(structure)
     , m_blocks(blocks)
 {
 }
 
-std::shared_ptr<vrx::ExcRootAssemblyVisualization> VisualizationBuilder::root() const
+std::shared_ptr<vrx::ExcRootAssemblyVisualization>
+VisualizationBuilder::root(const DrawnPmi& drawn, const std::map<int, mp::wstring>& mechanicalIds) const
 {
     if (!m_settings.drawnPmi)
     {
@@ -29,8 +26,8 @@ std::shared_ptr<vrx::ExcRootAssemblyVisualization> VisualizationBuilder::root() 
     }
     const auto data = std::make_shared<vrx::ExcVisualizationData>();
     data->setUnits(m_structure.units());
-    addSavedViews(*data, m_model.document);
-    if (const auto annotations = annotationScene(m_model.document, ProductPlaces(m_model.document, m_blocks)))
+    addSavedViews(*data, drawn.views, drawn.places);
+    if (const auto annotations = annotationScene(drawn.annotations, drawn.places, mechanicalIds))
     {
         const auto rootNode = scene_nodes::make(vrx::ExcVisuNode::EType::ROOT);
         rootNode->addChildNode(annotations);

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "mp/wide.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
 
+#include <map>
 #include <memory>
 
 class ProductStructureBuilder;
-struct CadModel;
+struct DrawnPmi;
 struct ImportSettings;
 
 /// Makes the scenes of a model: one for the root with what belongs to the product as a whole, one for each part.
@@ -14,17 +16,18 @@ class VisualizationBuilder
 {
 public:
     /// The structure is the one that `blocks` has built.
-    VisualizationBuilder(const CadModel& model, const ImportSettings& settings,
-                         const vrx::ExcProductStructure& structure, const ProductStructureBuilder& blocks);
+    VisualizationBuilder(const ImportSettings& settings, const vrx::ExcProductStructure& structure,
+                         const ProductStructureBuilder& blocks);
 
-    /// Saved views and drawn annotations, as far as they were read and are wanted. Null when there is neither.
-    std::shared_ptr<vrx::ExcRootAssemblyVisualization> root() const;
+    /// Saved views and drawn annotations with their mechanical ids, by the ids of their records. Null when there is
+    /// neither, or when they are not wanted.
+    std::shared_ptr<vrx::ExcRootAssemblyVisualization> root(const DrawnPmi& drawn,
+                                                            const std::map<int, mp::wstring>& mechanicalIds) const;
 
     /// Null for a block that has nothing to show: an assembly, or a part without a shape.
     std::shared_ptr<vrx::ExcBlockVisualization> block(const vrx::ExcBlock& block) const;
 
 private:
-    const CadModel& m_model;
     const ImportSettings& m_settings;
     const vrx::ExcProductStructure& m_structure;
     const ProductStructureBuilder& m_blocks;

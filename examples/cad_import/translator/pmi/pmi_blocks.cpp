@@ -23,7 +23,8 @@ PmiBlocks::PmiBlocks(const CadModel& model, const ProductStructureBuilder& block
 std::uint64_t PmiBlocks::of(const StepRecord& record) const
 {
     StepRecord product = record;
-    if (!product.is("PRODUCT_DEFINITION_SHAPE") && !product.is("PRODUCT_DEFINITION"))
+    if (!product.is("PRODUCT_DEFINITION_SHAPE") && !product.is("PRODUCT_DEFINITION") &&
+        !product.is("PRODUCT_DEFINITION_WITH_ASSOCIATED_DOCUMENTS"))
     {
         product = product.as("SHAPE_ASPECT").next(2);
     }

@@ -1,65 +1,51 @@
 #include "pmi/product_places.h"
 
-#include "kernel/occt_transformation.h"
+#include "reading/cad_model.h"
 #include "structure/component_labels.h"
 #include "structure/product_structure_builder.h"
 
+#include <TDF_LabelMap.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 
 #include <utility>
 #include <vector>
 
-ProductPlaces::ProductPlaces(const Handle(TDocStd_Document) & document, const ProductStructureBuilder& blocks)
+ProductPlaces::ProductPlaces(const CadModel& model, const ProductStructureBuilder& blocks)
 {
-    std::vector<std::pair<TDF_Label, TopLoc_Location>> waiting;
-    const auto add = [&](const TDF_Label& component, const TopLoc_Location& above) {
-        const TDF_Label shape = component_labels::referred(component);
-        if (!m_places.IsBound(shape))
+    const Handle(StepData_StepModel) entities = model.step->ChangeReader().StepModel();
+    TDF_LabelMap known;
+    std::vector<Place> waiting;
+    // The last one to wait goes first.
+    const auto add = [&](const std::vector<TDF_Label>& components, const TopLoc_Location& above, bool whole) {
+        for (auto component = components.rbegin(); component != components.rend(); ++component)
         {
-            waiting.emplace_back(shape, above * XCAFDoc_ShapeTool::GetLocation(component));
+            if (whole || !blocks.isLeftOut(*component))
+            {
+                waiting.push_back(
+                    {component_labels::referred(*component), above * XCAFDoc_ShapeTool::GetLocation(*component)});
+            }
         }
     };
-    for (const TDF_Label& root : component_labels::roots(document))
-    {
-        if (!blocks.isLeftOut(root))
-        {
-            add(root, TopLoc_Location());
-        }
-    }
+    add(component_labels::roots(model.document), TopLoc_Location(), false);
     while (!waiting.empty())
     {
-        const auto [label, place] = waiting.back();
+        const Place place = waiting.back();
         waiting.pop_back();
-        if (!m_places.Bind(label, place))
+        if (!known.Add(place.shape))
         {
             continue; // it stands elsewhere already, and all below it too
         }
-        for (const TDF_Label& component : component_labels::of(label))
+        const Handle(StepBasic_ProductDefinition) product = blocks.productOf(place.shape);
+        if (!product.IsNull())
         {
-            if (blocks.isPart(label) || !blocks.isLeftOut(component))
-            {
-                add(component, place);
-            }
+            m_places.emplace(entities->IdentLabel(product), place);
         }
+        add(component_labels::of(place.shape), place.location, blocks.isPart(place.shape));
     }
 }
 
-const TopLoc_Location* ProductPlaces::find(const TDF_Label& shape) const
+const ProductPlaces::Place* ProductPlaces::find(const StepRecord& product) const
 {
-    for (TDF_Label label = shape; !label.IsNull() && !label.IsRoot(); label = label.Father())
-    {
-        if (const TopLoc_Location* const place = m_places.Seek(label))
-        {
-            return place;
-        }
-    }
-    return nullptr;
-}
-
-std::shared_ptr<vrx::ExcTransformation> ProductPlaces::firstPlaceOf(const TDF_Label& shape) const
-{
-    const TopLoc_Location* const place = find(shape);
-    return place == nullptr || place->IsIdentity()
-               ? nullptr
-               : std::make_shared<vrx::ExcTransformation>(occt_transformation::of(*place));
+    const auto found = m_places.find(product.id());
+    return found != m_places.end() ? &found->second : nullptr;
 }

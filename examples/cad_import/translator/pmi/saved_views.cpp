@@ -1,179 +1,313 @@
 #include "pmi/saved_views.h"
 
-#include "kernel/occt_text.h"
 #include "mp/narrow.h"
 #include "pmi/annotation_scene.h"
+#include "pmi/item_parameters.h"
+#include "pmi/pmi_blocks.h"
+#include "reading/cad_model.h"
+#include "reading/step_axes.h"
+#include "reading/step_measures.h"
 
 #include <BRepBndLib.hxx>
 #include <Bnd_Box.hxx>
+#include <StepGeom_Plane.hxx>
 #include <TDF_LabelSequence.hxx>
-#include <XCAFDoc_ClippingPlaneTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
-#include <XCAFDoc_View.hxx>
-#include <XCAFDoc_ViewTool.hxx>
-#include <XCAFView_Object.hxx>
-#include <gp_Pln.hxx>
+#include <gp_Pnt.hxx>
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace
 {
+
+const char* const kCameras[] = {"CAMERA_MODEL_D3", "CAMERA_MODEL_D3_MULTI_CLIPPING", "CAMERA_MODEL_D3_WITH_HLHSR"};
+const int kDeepest = 8; // sections made of sections, models that show models
 
 vrx::ExcVector3d vector(const gp_XYZ& coordinates)
 {
     return {coordinates.X(), coordinates.Y(), coordinates.Z()};
 }
 
-// The middle of the model, and a length beyond which there is nothing of it.
+// The middle of what a view shows, and a length beyond which there is nothing of it.
 struct Extent
 {
-    gp_XYZ middle;
+    gp_Pnt middle;
     double size = 1;
 };
 
-Extent extentOf(const Handle(TDocStd_Document) & document)
-{
-    Bnd_Box box;
-    TDF_LabelSequence roots;
-    XCAFDoc_DocumentTool::ShapeTool(document->Main())->GetFreeShapes(roots);
-    for (const TDF_Label& root : roots)
-    {
-        BRepBndLib::Add(XCAFDoc_ShapeTool::GetShape(root), box);
-    }
-    Extent extent;
-    if (!box.IsVoid())
-    {
-        extent.middle = (box.CornerMin().XYZ() + box.CornerMax().XYZ()) / 2;
-        extent.size = std::max(std::sqrt(box.SquareExtent()), 1e-6);
-    }
-    return extent;
-}
-
-// Of a saved view all writers agree on the two axes, but neither on the side from which it is seen nor on the
-// coordinates in which its eye and its window are given. So it is seen from the side from which its annotations are
-// read, and its camera looks at the middle of the model without saying how much of it is in the picture.
-class SavedView
+class Views
 {
 public:
-    SavedView(const TDF_Label& label, const Handle(XCAFView_Object) & view, int number, const Extent& extent)
-        : m_label(label)
-        , m_view(view)
-        , m_number(number)
-        , m_extent(extent)
-        , m_back(view->ViewDirection())
+    Views(const CadModel& model, const PmiBlocks& blocks, const ProductPlaces& places,
+          const std::vector<DrawnAnnotation>& annotations)
+        : m_model(model)
+        , m_records(*model.records)
+        , m_blocks(blocks)
+        , m_places(places)
     {
-        TDF_LabelSequence annotations;
-        XCAFDoc_DocumentTool::ViewTool(label)->GetRefGDTLabel(label, annotations);
-        double facing = 0;
-        for (const TDF_Label& annotation : annotations)
+        for (const DrawnAnnotation& annotation : annotations)
         {
-            m_annotationIds.push_back(annotationId(annotation));
-            if (const auto plane = annotationPlane(annotation))
+            for (const StepRecord& part : annotationParts(annotation.record))
             {
-                facing += plane->Direction().Dot(m_back);
+                m_annotations.emplace(part.id(), &annotation);
             }
         }
-        if (facing < 0)
+    }
+
+    std::vector<SavedView> all()
+    {
+        for (const char* const type : kCameras)
         {
-            m_back.Reverse();
+            for (const StepRecord& camera : m_records.all(type))
+            {
+                add(camera);
+            }
         }
-    }
-
-    std::shared_ptr<vrx::ExcVisuView> plane() const
-    {
-        auto view = std::make_shared<vrx::ExcVisuView>();
-        describe(*view, "view");
-        view->setOrigin(vector(m_extent.middle));
-        view->setDirectionU(vector(up() ^ m_back.XYZ()));
-        view->setDirectionV(vector(up()));
-        return view;
-    }
-
-    std::shared_ptr<vrx::ExcVisuCapture> capture() const
-    {
-        auto capture = std::make_shared<vrx::ExcVisuCapture>();
-        describe(*capture, "capture");
-        capture->setCamera(camera());
-        capture->setClippingPlane(clippingPlane());
-        return capture;
+        return std::move(m_views);
     }
 
 private:
-    template <class View>
-    void describe(View& view, const char* kind) const
+    void add(const StepRecord& camera)
     {
-        const mp::wstring name = occt_text::wide(m_view->Name());
-        view.setDisplayName(name.empty() ? mp::toWide("View " + std::to_string(m_number)) : name);
-        view.setId(mp::toWide(kind + std::to_string(m_number)));
-        view.setAnnotationIds(m_annotationIds);
-    }
-
-    gp_XYZ up() const { return m_view->UpDirection().XYZ(); }
-
-    vrx::ExcCamera camera() const
-    {
-        vrx::ExcCamera camera;
-        camera.setType(m_view->Type() == XCAFView_ProjectionType_Central ? vrx::ExcCamera::EType::Perspective
-                                                                         : vrx::ExcCamera::EType::Orthographic);
-        camera.setEye(vector(m_extent.middle + m_back.XYZ() * m_extent.size));
-        camera.setTarget(vector(m_extent.middle));
-        camera.setUp(vector(up()));
-        return camera;
-    }
-
-    // The first plane of a section, turned so that what stands before it is away: the coefficients are positive for the
-    // points that stay.
-    vrx::ExcClippingPlane clippingPlane() const
-    {
-        TDF_LabelSequence labels;
-        XCAFDoc_DocumentTool::ViewTool(m_label)->GetRefClippingPlaneLabel(m_label, labels);
-        gp_Pln plane;
-        Handle(TCollection_HAsciiString) name;
-        bool capping = false;
-        vrx::ExcClippingPlane result;
-        if (labels.IsEmpty() ||
-            !XCAFDoc_DocumentTool::ClippingPlaneTool(m_label)->GetClippingPlane(labels.First(), plane, name, capping))
+        const std::vector<StepRecord> named = camera.users("MODEL_GEOMETRIC_VIEW");
+        const std::vector<StepRecord> models = camera.users("DRAUGHTING_MODEL");
+        const StepRecord model = !named.empty() && named.front().next(3).is("DRAUGHTING_MODEL") ? named.front().next(3)
+                                 : models.empty()                                               ? StepRecord()
+                                                                                                : models.front();
+        if (!model)
         {
-            return result;
+            return; // the camera is of a drawing
         }
-        double numbers[4] = {};
-        plane.Coefficients(numbers[0], numbers[1], numbers[2], numbers[3]);
-        const double sign = plane.Axis().Direction().Dot(m_back) > 0 ? -1 : 1;
-        result.setHasCoefficients(true);
-        result.setCoefficient(vrx::ExcClippingPlane::CoefficientA, sign * numbers[0])
-            .setCoefficient(vrx::ExcClippingPlane::CoefficientB, sign * numbers[1])
-            .setCoefficient(vrx::ExcClippingPlane::CoefficientC, sign * numbers[2])
-            .setCoefficient(vrx::ExcClippingPlane::CoefficientD, sign * numbers[3]);
-        return result;
+        const double length = unitFactors(m_records, model).length;
+        const auto axes = stepAxes(m_records.entity<StepGeom_Axis2Placement3d>(camera[1].reference), length);
+        if (!axes)
+        {
+            return;
+        }
+        SavedView view;
+        view.axes = *axes;
+        view.isPerspective = camera.next(2)[0].word == "CENTRAL";
+        view.section = sectionOf(camera[3], length, 0);
+        for (const mp::wstring& name :
+             {named.empty() ? mp::wstring() : named.front().text(0), camera.text(0), model.as("REPRESENTATION").text(0),
+              mp::toWide("View " + std::to_string(m_views.size() + 1))})
+        {
+            view.name = view.name.empty() ? name : view.name;
+        }
+        addAnnotations(view, model, 0);
+        tellProduct(view);
+        turnToReader(view);
+        const Extent extent = extentOf(view.product);
+        view.axes.SetLocation(extent.middle);
+        view.distance = extent.size;
+        m_views.push_back(view);
     }
 
-    TDF_Label m_label;
-    Handle(XCAFView_Object) m_view;
-    int m_number;
-    Extent m_extent;
-    gp_Dir m_back; // to the viewer
-    std::vector<mp::wstring> m_annotationIds;
+    // Those that a model holds by itself, in planes, or in models that are mapped into it.
+    void addAnnotations(SavedView& view, const StepRecord& model, int depth) const
+    {
+        for (const StepRecord& item : model.as("REPRESENTATION").nexts(1))
+        {
+            addAnnotation(view, item);
+            if (item.is("ANNOTATION_PLANE"))
+            {
+                for (const StepRecord& element : item_parameters::records(item, "ANNOTATION_PLANE", 0, 3))
+                {
+                    addAnnotation(view, element);
+                }
+            }
+            else if (item.is("MAPPED_ITEM") && depth < kDeepest)
+            {
+                for (const StepRecord& map : item_parameters::records(item, "MAPPED_ITEM", 0))
+                {
+                    const StepRecord mapped = map.next(1);
+                    addAnnotations(view, mapped.is("DRAUGHTING_MODEL") ? mapped : StepRecord(), depth + 1);
+                }
+            }
+        }
+    }
+
+    void addAnnotation(SavedView& view, const StepRecord& item) const
+    {
+        const auto found = m_annotations.find(item.id());
+        if (found == m_annotations.end())
+        {
+            return;
+        }
+        const int id = found->second->record.id();
+        if (std::find(view.annotations.begin(), view.annotations.end(), id) == view.annotations.end())
+        {
+            view.annotations.push_back(id);
+        }
+    }
+
+    // The product of all annotations, which are in its coordinates.
+    void tellProduct(SavedView& view) const
+    {
+        const auto productOf = [this](int id) { return m_annotations.at(id)->product; };
+        const bool one = !view.annotations.empty() &&
+                         std::all_of(view.annotations.begin(), view.annotations.end(),
+                                     [&](int id) { return productOf(id) == productOf(view.annotations.front()); });
+        view.product = one ? productOf(view.annotations.front()) : StepRecord();
+        view.block = one ? m_annotations.at(view.annotations.front())->block : m_blocks.top();
+    }
+
+    // Keeps what is up.
+    void turnToReader(SavedView& view) const
+    {
+        double facing = 0;
+        for (const int id : view.annotations)
+        {
+            const auto& plane = m_annotations.at(id)->plane;
+            facing += plane ? plane->Direction().Dot(view.axes.Direction()) : 0;
+        }
+        if (facing < 0)
+        {
+            view.axes.ZReverse();
+            view.axes.XReverse();
+        }
+    }
+
+    // The first plane of a section, which may be one of several that cut together.
+    std::optional<gp_Ax3> sectionOf(const StepParameter& planes, double length, int depth) const
+    {
+        for (const StepParameter& element : planes.list)
+        {
+            const StepRecord combination = m_records.find(element.reference);
+            const auto plane = m_records.entity<StepGeom_Plane>(element.reference);
+            std::optional<gp_Ax3> axes = !plane.IsNull() ? stepAxes(plane->Position(), length)
+                                         : combination && depth < kDeepest
+                                             ? sectionOf(combination[1], length, depth + 1)
+                                             : std::nullopt;
+            if (axes)
+            {
+                return axes;
+            }
+        }
+        return std::nullopt;
+    }
+
+    const Extent& extentOf(const StepRecord& product)
+    {
+        const auto [found, isNew] = m_extents.emplace(product.id(), Extent());
+        if (!isNew)
+        {
+            return found->second;
+        }
+        Bnd_Box box;
+        if (const ProductPlaces::Place* const place = m_places.find(product))
+        {
+            BRepBndLib::Add(XCAFDoc_ShapeTool::GetShape(place->shape), box);
+        }
+        else
+        {
+            TDF_LabelSequence roots;
+            XCAFDoc_DocumentTool::ShapeTool(m_model.document->Main())->GetFreeShapes(roots);
+            for (const TDF_Label& root : roots)
+            {
+                BRepBndLib::Add(XCAFDoc_ShapeTool::GetShape(root), box);
+            }
+        }
+        if (!box.IsVoid())
+        {
+            found->second.middle = (box.CornerMin().XYZ() + box.CornerMax().XYZ()) / 2;
+            found->second.size = std::max(std::sqrt(box.SquareExtent()), 1e-6);
+        }
+        return found->second;
+    }
+
+    const CadModel& m_model;
+    const StepRecords& m_records;
+    const PmiBlocks& m_blocks;
+    const ProductPlaces& m_places;
+    std::map<int, const DrawnAnnotation*> m_annotations; // by the ids of their records and of what these consist of
+    std::map<int, Extent> m_extents;                     // by the id of the product definition
+    std::vector<SavedView> m_views;
 };
+
+// What the two forms of a view in the scene have in common.
+template <class View>
+void describe(View& form, const SavedView& view, const char* kind, std::size_t number)
+{
+    std::vector<mp::wstring> ids;
+    for (const int annotation : view.annotations)
+    {
+        ids.push_back(annotationId(annotation));
+    }
+    form.setDisplayName(view.name);
+    form.setId(mp::toWide(kind + std::to_string(number)));
+    form.setAnnotationIds(ids);
+}
 
 } // namespace
 
-void addSavedViews(vrx::ExcVisualizationData& scene, const Handle(TDocStd_Document) & document)
+std::vector<SavedView> savedViews(const CadModel& model, const PmiBlocks& blocks, const ProductPlaces& places,
+                                  const std::vector<DrawnAnnotation>& annotations)
 {
-    TDF_LabelSequence labels;
-    XCAFDoc_DocumentTool::ViewTool(document->Main())->GetViewLabels(labels);
-    const Extent extent = labels.IsEmpty() ? Extent() : extentOf(document);
-    for (int i = 1; i <= labels.Length(); ++i)
+    return model.records ? Views(model, blocks, places, annotations).all() : std::vector<SavedView>();
+}
+
+vrx::ExcCamera cameraOf(const SavedView& view)
+{
+    const gp_XYZ target = view.axes.Location().XYZ();
+    vrx::ExcCamera camera;
+    camera.setType(view.isPerspective ? vrx::ExcCamera::EType::Perspective : vrx::ExcCamera::EType::Orthographic);
+    camera.setEye(vector(target + view.axes.Direction().XYZ() * view.distance));
+    camera.setTarget(vector(target));
+    camera.setUp(vector(view.axes.YDirection().XYZ()));
+    return camera;
+}
+
+vrx::ExcClippingPlane clippingPlaneOf(const SavedView& view)
+{
+    vrx::ExcClippingPlane plane;
+    if (view.section)
     {
-        Handle(XCAFDoc_View) attribute;
-        if (labels.Value(i).FindAttribute(XCAFDoc_View::GetID(), attribute))
+        const bool facesReader = view.section->Direction().Dot(view.axes.Direction()) > 0;
+        const gp_XYZ normal = view.section->Direction().XYZ() * (facesReader ? -1 : 1);
+        plane.setHasCoefficients(true);
+        plane.setCoefficient(vrx::ExcClippingPlane::CoefficientA, normal.X())
+            .setCoefficient(vrx::ExcClippingPlane::CoefficientB, normal.Y())
+            .setCoefficient(vrx::ExcClippingPlane::CoefficientC, normal.Z())
+            .setCoefficient(vrx::ExcClippingPlane::CoefficientD, -normal.Dot(view.section->Location().XYZ()));
+    }
+    return plane;
+}
+
+void addSavedViews(vrx::ExcVisualizationData& scene, const std::vector<SavedView>& views, const ProductPlaces& places)
+{
+    for (std::size_t i = 0; i < views.size(); ++i)
+    {
+        SavedView view = views[i];
+        const ProductPlaces::Place* const place = places.find(view.product);
+        if (view.product && place == nullptr)
         {
-            const SavedView view(labels.Value(i), attribute->GetObject(), i, extent);
-            scene.addView(view.plane());
-            scene.addCapture(view.capture());
+            continue;
         }
+        if (place != nullptr)
+        {
+            view.axes.Transform(place->location);
+        }
+        if (place != nullptr && view.section)
+        {
+            view.section->Transform(place->location);
+        }
+        const auto plane = std::make_shared<vrx::ExcVisuView>();
+        describe(*plane, view, "view", i + 1);
+        plane->setOrigin(vector(view.axes.Location().XYZ()));
+        plane->setDirectionU(vector(view.axes.XDirection().XYZ()));
+        plane->setDirectionV(vector(view.axes.YDirection().XYZ()));
+        scene.addView(plane);
+
+        const auto capture = std::make_shared<vrx::ExcVisuCapture>();
+        describe(*capture, view, "capture", i + 1);
+        capture->setCamera(cameraOf(view));
+        capture->setClippingPlane(clippingPlaneOf(view));
+        scene.addCapture(capture);
     }
 }

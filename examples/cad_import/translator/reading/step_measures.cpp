@@ -29,15 +29,28 @@ Handle(StepRepr_GlobalUnitAssignedContext) units(const Handle(StepRepr_Represent
 
 } // namespace
 
+UnitFactors unitFactors(const Handle(StepRepr_RepresentationContext) & context)
+{
+    const Handle(StepRepr_GlobalUnitAssignedContext) assigned = units(context);
+    STEPConstruct_UnitContext factors;
+    UnitFactors result;
+    if (!assigned.IsNull() && factors.ComputeFactors(assigned) == 0)
+    {
+        result.length = factors.LengthDone() ? factors.LengthFactor() : 1;
+        result.angle = factors.PlaneAngleDone() ? factors.PlaneAngleFactor() : 1;
+    }
+    return result;
+}
+
+UnitFactors unitFactors(const StepRecords& records, const StepRecord& representation)
+{
+    return unitFactors(
+        records.entity<StepRepr_RepresentationContext>(representation.as("REPRESENTATION")[2].reference));
+}
+
 double lengthFactor(const Handle(StepRepr_Representation) & representation)
 {
-    const Handle(StepRepr_GlobalUnitAssignedContext) context = units(representation->ContextOfItems());
-    STEPConstruct_UnitContext factors;
-    if (context.IsNull() || factors.ComputeFactors(context) != 0 || !factors.LengthDone())
-    {
-        return 1;
-    }
-    return factors.LengthFactor();
+    return unitFactors(representation->ContextOfItems()).length;
 }
 
 double inMillimetres(const Handle(StepBasic_MeasureWithUnit) & measure, double lengthFactor)

@@ -317,11 +317,11 @@ StepRecords::Keeper::~Keeper()
 
 void StepRecords::add(const StepData_StepReaderData& data, int number)
 {
-    if (isGeometry(data, number))
+    const int id = data.RecordIdent(number);
+    if (id == 0 || isGeometry(data, number)) // those of the header have no id
     {
         return;
     }
-    const int id = data.RecordIdent(number);
     StepRecord::Data& record = m_records[id];
     record = {id, {}};
     for (int part = number; part > 0; part = data.NextForComplex(part))

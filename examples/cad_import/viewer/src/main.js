@@ -1,6 +1,8 @@
 // The page: puts the scene that the host wrote into the picture and the panels around it.
 
+import { Details } from './details.js';
 import { Model } from './model.js';
+import { PmiPanel } from './pmi_panel.js';
 import { Selection } from './selection.js';
 import { Stage } from './stage.js';
 import { TreeView } from './tree.js';
@@ -12,13 +14,12 @@ const element = (id) => document.getElementById(id);
 const model = new Model(JSON.parse(element('scene').textContent));
 const canvas = element('canvas');
 const stage = new Stage(canvas, model);
-const selection = new Selection(stage, element('details'));
+const details = new Details(element('details'), model, (said) => selection.setElement(said));
+const selection = new Selection(stage, details);
 
 function fit(node = selection.node) {
   const meshes = node ? [...node.all()].map((part) => part.mesh).filter(Boolean) : [];
-  const direction = stage.controls.target.clone().sub(stage.camera.position);
-  const perspective = Boolean(stage.camera.isPerspectiveCamera);
-  stage.look({ direction, up: stage.camera.up.clone(), objects: meshes.length ? meshes : undefined, perspective });
+  stage.fit(meshes.length ? meshes : undefined);
 }
 
 const tree = new TreeView(element('tree'), model, {
@@ -26,7 +27,26 @@ const tree = new TreeView(element('tree'), model, {
   onShow: () => stage.draw(),
   onLook: (node) => fit(node),
 });
-selection.onChange = () => tree.select(selection.node);
+const openView = buildSavedViews(element('views'), stage, model.views, (view) => pmiPanel?.showView(view));
+const pmiElements = { list: element('pmi-list'), filter: element('pmi-filter'), grouping: element('grouping') };
+const pmiActions = { onSelect: (said) => selection.setElement(said), onView: openView };
+const pmiPanel = model.pmi && new PmiPanel(pmiElements, model, pmiActions);
+selection.onChange = () => {
+  const { node, face } = selection;
+  tree.select(node);
+  pmiPanel?.mark(selection.element, face ? model.pmi.speakingOf(node.reference.blockId, face) : []);
+};
+
+function showTab(id) {
+  for (const tab of element('tabs').children) {
+    const panel = tab.getAttribute('aria-controls');
+    tab.ariaSelected = panel === id;
+    element(panel).hidden = panel !== id;
+  }
+}
+for (const tab of element('tabs').children) tab.onclick = () => showTab(tab.getAttribute('aria-controls'));
+element('tabs').hidden = !model.pmi;
+showTab(model.pmi && [...model.nodes()].length === 1 ? 'pmi' : 'parts'); // a tree of one part tells nothing
 
 function describe() {
   const nodes = [...model.nodes()];
@@ -44,14 +64,15 @@ element('summary').textContent = describe();
 element('filter').hidden = [...model.nodes()].length < 8;
 element('filter').oninput = (event) => tree.filter(event.target.value);
 buildToolbar(element('toolbar'), stage, () => fit());
-buildSavedViews(element('views'), stage, model.views);
+openView(model.openView);
 
 let pressed = null;
 canvas.addEventListener('pointerdown', (event) => (pressed = event));
 canvas.addEventListener('pointerup', (event) => {
   if (!pressed || Math.hypot(event.clientX - pressed.clientX, event.clientY - pressed.clientY) > kClickSlack) return;
   const hit = stage.pick(event.offsetX, event.offsetY);
-  selection.set(hit?.node ?? null, hit?.face);
+  if (hit?.element) selection.setElement(hit.element);
+  else selection.set(hit?.node ?? null, hit?.face);
 });
 window.addEventListener('keydown', (event) => {
   if (event.target instanceof HTMLInputElement && event.target.type === 'search') return;

@@ -1,7 +1,9 @@
 // The scene as the host wrote it, made ready to be drawn: the product tree, and one set of buffers for each block.
 
-import { BufferAttribute, BufferGeometry } from 'three';
+import { Box3, BufferAttribute, BufferGeometry, Vector3 } from 'three';
 import { LineSegmentsGeometry } from 'three/addons/lines/LineSegmentsGeometry.js';
+
+import { Pmi, speaksOf } from './pmi.js';
 
 function bytes(base64) {
   const text = atob(base64 ?? '');
@@ -11,12 +13,13 @@ function bytes(base64) {
 }
 
 export const floats = (base64) => new Float32Array(bytes(base64));
+export const indices = (base64) => new Uint32Array(bytes(base64));
 
 const colorKey = (color) => (color ? color.join(',') : '');
 
 // Triangles are sorted by the faces' colours, so that faces of one colour are drawn at once.
 function buildFaces(shape) {
-  const source = new Uint32Array(bytes(shape.triangles));
+  const source = indices(shape.triangles);
   let first = 0;
   const faces = shape.faces.map((face) => {
     const mesh = shape.meshes[face.mesh];
@@ -54,8 +57,9 @@ class Shape {
     this.color = data.color;
     const largest = this.geometry.groups.reduce((a, b) => (b.count > a.count ? b : a), { count: 0 });
     this.mainColor = this.colors[largest.materialIndex] ?? null; // null: the part's or the reference's
-    const segments = floats(data.segments);
-    this.edges = segments.length ? new LineSegmentsGeometry().setPositions(segments) : null;
+    this.segments = floats(data.segments);
+    this.parts = [...this.faces, ...(data.edges ?? [])]; // what a mechanical id can name
+    this.edges = this.segments.length ? new LineSegmentsGeometry().setPositions(this.segments) : null;
     if (this.edges) this.edges.computeBoundingBox();
     this.geometry.computeBoundingBox();
     this.geometry.computeBoundingSphere();
@@ -76,10 +80,19 @@ class Shape {
   // The triangles of one face, on the vertices of the whole shape.
   faceGeometry(face) {
     const geometry = new BufferGeometry();
-    geometry.setAttribute('position', this.geometry.getAttribute('position'));
+    const positions = this.geometry.getAttribute('position');
+    geometry.setAttribute('position', positions);
     geometry.setAttribute('normal', this.geometry.getAttribute('normal'));
-    geometry.setIndex(new BufferAttribute(this.geometry.index.array.subarray(face.begin, face.end), 1));
+    const index = this.geometry.index.array.subarray(face.begin, face.end);
+    geometry.setIndex(new BufferAttribute(index, 1));
+    geometry.boundingBox = new Box3();
+    const point = new Vector3();
+    for (const vertex of index) geometry.boundingBox.expandByPoint(point.fromBufferAttribute(positions, vertex));
     return geometry;
+  }
+
+  edgeGeometry(edge) {
+    return new LineSegmentsGeometry().setPositions(this.segments.subarray(edge.begin, edge.end));
   }
 }
 
@@ -114,6 +127,9 @@ export class Model {
     this.title = scene.title;
     this.units = scene.units;
     this.views = scene.views ?? [];
+    this.openView = scene.openView;
+    const pmi = new Pmi(scene.pmi ?? {});
+    this.pmi = pmi.elements.length ? pmi : null;
     this.annotations = scene.annotations ?? [];
     this.blocks = new Map(scene.blocks.map((block) => [block.id, block]));
     for (const block of scene.blocks) block.shape = block.shape && new Shape(block.shape);
@@ -122,5 +138,11 @@ export class Model {
 
   *nodes() {
     for (const root of this.roots) yield* root.all();
+  }
+
+  // The faces and edges of which an element of the PMI speaks: [{ block, part }].
+  linked(element) {
+    const partsOf = ({ id, shape }) => (shape?.parts ?? []).filter((part) => speaksOf(element, id, part));
+    return [...this.blocks.values()].flatMap((block) => partsOf(block).map((part) => ({ block, part })));
   }
 }

@@ -1,8 +1,12 @@
-// What is selected: a place in the product tree, and maybe a face of it. Shows it in colour and tells its names.
+// What is selected: a place in the product tree and maybe a face of it, or an element of the PMI. Shows it in colour.
 
 import { Mesh, MeshBasicMaterial } from 'three';
+import { LineMaterial } from 'three/addons/lines/LineMaterial.js';
+import { LineSegments2 } from 'three/addons/lines/LineSegments2.js';
 
-const overlay = (color, opacity) =>
+const kLit = 0xff8a1f;
+
+const overlay = (color, opacity, how) =>
   new MeshBasicMaterial({
     color,
     opacity,
@@ -13,102 +17,94 @@ const overlay = (color, opacity) =>
     polygonOffset: true,
     polygonOffsetFactor: 1,
     polygonOffsetUnits: 1,
+    ...how,
   });
 const partMaterial = overlay(0x2f7df6, 0.3);
-const faceMaterial = overlay(0xff8a1f, 0.78);
-
-const hex = (color) => '#' + color.slice(0, 3).map((channel) => channel.toString(16).padStart(2, '0')).join('');
-
-export const swatch = (color) => {
-  const chip = document.createElement('i');
-  chip.className = 'swatch';
-  if (color) chip.style.background = hex(color);
-  return chip;
-};
+const faceMaterial = overlay(kLit, 0.78);
+const throughMaterial = overlay(kLit, 0.16, { depthTest: false }); // a lit face shines through what hides it
+const edgeMaterial = new LineMaterial({
+  color: kLit,
+  linewidth: 3,
+  transparent: true,
+  depthTest: false,
+  toneMapped: false,
+});
 
 export class Selection {
-  constructor(stage, panel) {
+  constructor(stage, details) {
     this.stage = stage;
-    this.panel = panel;
+    this.details = details;
     this.overlays = [];
     this.node = null;
     this.face = null;
+    this.element = null;
     this.onChange = () => {};
   }
 
   set(node, face = null) {
-    this.node = node;
-    this.face = node && face;
-    for (const mesh of this.overlays) {
-      mesh.removeFromParent();
-      if (mesh.material === faceMaterial) mesh.geometry.dispose();
+    this.#begin({ node, face: node && face, element: null });
+    if (node) {
+      for (const place of node.all()) {
+        if (place.mesh) this.#cover(place, new Mesh(place.mesh.geometry, partMaterial), 1);
+      }
+    }
+    if (this.face) this.#light(node, this.face);
+    this.#end();
+  }
+
+  // Lights what an element of the PMI is linked to, in all places, and its drawn form.
+  setElement(element) {
+    const { model, annotations } = this.stage;
+    this.#begin({ node: null, face: null, element });
+    for (const { block, part } of model.linked(element)) {
+      for (const place of model.nodes()) if (place.block === block) this.#light(place, part);
+    }
+    annotations.light(annotations.of(element));
+    this.#end();
+    this.#comeIntoView();
+  }
+
+  #begin(selected) {
+    Object.assign(this, selected);
+    for (const object of this.overlays) {
+      object.removeFromParent();
+      if (object.material !== partMaterial) object.geometry.dispose();
     }
     this.overlays = [];
-    if (node) {
-      for (const part of node.all()) if (part.mesh) this.#cover(part, part.mesh.geometry, partMaterial);
-    }
-    if (this.face) this.#cover(node, node.block.shape.faceGeometry(face), faceMaterial);
-    this.#tell();
+    this.stage.annotations.light([]);
+  }
+
+  #end() {
+    this.details.show(this);
     this.onChange();
     this.stage.draw();
   }
 
-  #cover(part, geometry, material) {
-    const mesh = new Mesh(geometry, material);
-    mesh.renderOrder = material === faceMaterial ? 2 : 1;
-    mesh.raycast = () => {};
-    part.object.add(mesh);
-    this.overlays.push(mesh);
+  #cover(place, object, order, part) {
+    object.renderOrder = order;
+    object.raycast = () => {};
+    object.userData.part = part;
+    object.userData.place = place;
+    place.object.add(object);
+    object.updateWorldMatrix(true, false);
+    this.overlays.push(object);
   }
 
-  #tell() {
-    const { node, face } = this;
-    this.panel.hidden = !node;
-    this.panel.replaceChildren();
-    if (!node) return;
-    const { block, reference } = node;
-    this.#head(node.name, block?.isPart ? 'Part' : 'Assembly', block?.shape?.mainColor ?? node.color ?? block?.shape?.color);
-    const where = [];
-    for (let above = node.parent; above; above = above.parent) where.unshift(above.name);
-    this.#rows([
-      ['Block', block?.name !== node.name && block?.name],
-      ['Block id', reference.blockId],
-      ['Persistent id', reference.persistentId],
-      ['Reference', reference.guid],
-      ['In', where.join(' › ')],
-      ...(block?.properties ?? []).map(({ name, value }) => [name, value]),
-    ]);
-    if (face) {
-      const mesh = face.mesh;
-      this.#head(`Face ${face.id}`, 'Face', face.color ?? node.color ?? block.shape.color);
-      this.#rows([
-        ['Mechanical id', face.mechanicalId],
-        ['Body', [mesh.name !== node.name && mesh.name, mesh.id].filter(Boolean).join(' · ')],
-        ['Triangles', face.triangles.toLocaleString('en')],
-      ]);
+  #light(place, part) {
+    const { shape } = place.block;
+    if (part.mesh) {
+      const geometry = shape.faceGeometry(part);
+      this.#cover(place, new Mesh(geometry, faceMaterial), 2, part);
+      if (this.element) this.#cover(place, new Mesh(geometry, throughMaterial), 2, part);
+    } else {
+      this.#cover(place, new LineSegments2(shape.edgeGeometry(part), edgeMaterial), 2, part);
     }
   }
 
-  #head(text, kind, color) {
-    const head = document.createElement('h2');
-    const label = document.createElement('span');
-    const tag = document.createElement('small');
-    label.textContent = text;
-    tag.textContent = kind;
-    head.append(swatch(color), label, tag);
-    this.panel.append(head);
-  }
-
-  #rows(rows) {
-    const list = document.createElement('dl');
-    for (const [key, value] of rows) {
-      if (!value) continue;
-      const term = document.createElement('dt');
-      const detail = document.createElement('dd');
-      term.textContent = key;
-      detail.textContent = value;
-      list.append(term, detail);
-    }
-    this.panel.append(list);
+  // Turns to what is lit only when nothing of it is in the picture.
+  #comeIntoView() {
+    const drawn = this.stage.annotations.drawn().filter(({ lit }) => lit);
+    const places = [...new Set(this.overlays.map(({ userData }) => userData.place.mesh))];
+    if (places.length && !this.stage.sees([...drawn, ...this.overlays])) this.stage.fit(places);
   }
 }

@@ -3,13 +3,7 @@
 import {
   AmbientLight,
   Box3,
-  Color,
   DirectionalLight,
-  DoubleSide,
-  Group,
-  Matrix4,
-  Mesh,
-  MeshStandardMaterial,
   NeutralToneMapping,
   Object3D,
   OrthographicCamera,
@@ -18,27 +12,19 @@ import {
   PMREMGenerator,
   Raycaster,
   Scene,
-  SRGBColorSpace,
   Vector2,
   Vector3,
   WebGLRenderer,
 } from 'three';
 import { OrbitControls } from 'three/addons/controls/OrbitControls.js';
 import { RoomEnvironment } from 'three/addons/environments/RoomEnvironment.js';
-import { LineMaterial } from 'three/addons/lines/LineMaterial.js';
-import { LineSegments2 } from 'three/addons/lines/LineSegments2.js';
-import { LineSegmentsGeometry } from 'three/addons/lines/LineSegmentsGeometry.js';
 
-import { floats } from './model.js';
+import { Annotations } from './annotations.js';
+import { Parts } from './parts.js';
 
-const kNoColor = [176, 182, 190];
-const kEdgeColor = 0x1c2430;
-const kAnnotationColor = [23, 92, 211];
 const kFieldOfView = 22; // degrees
 const kFitMargin = 1.1;
 export const kIsometric = { direction: new Vector3(-1, 1.25, -0.85), up: new Vector3(0, 0, 1) };
-
-const srgb = (color) => new Color().setRGB(color[0] / 255, color[1] / 255, color[2] / 255, SRGBColorSpace);
 
 export class Stage {
   constructor(canvas, model) {
@@ -48,12 +34,12 @@ export class Stage {
     this.renderer.setPixelRatio(window.devicePixelRatio);
     this.renderer.toneMapping = NeutralToneMapping;
     this.scene = new Scene();
-    this.materials = new Map();
     this.clipping = [];
     this.onDraw = () => {};
     this.#addLights();
-    this.#addModel();
-    this.#addAnnotations();
+    this.parts = new Parts(model, this.clipping);
+    this.annotations = new Annotations(model, this.#boxOf(this.parts.meshes));
+    this.scene.add(this.parts, this.annotations);
     this.camera = new PerspectiveCamera(kFieldOfView);
     this.scene.add(this.camera);
     this.#resize();
@@ -72,84 +58,8 @@ export class Stage {
     this.scene.add(this.sun, this.sun.target);
   }
 
-  #surface(color) {
-    const [red, green, blue, alpha = 255] = color ?? kNoColor;
-    const key = [red, green, blue, alpha].join();
-    if (!this.materials.has(key)) {
-      const material = new MeshStandardMaterial({
-        color: srgb([red, green, blue]),
-        roughness: 0.52,
-        metalness: 0.08,
-        side: DoubleSide,
-        polygonOffset: true, // lets the edges stand in front of the faces that they bound
-        polygonOffsetFactor: 1,
-        polygonOffsetUnits: 1,
-        transparent: alpha < 255,
-        opacity: alpha / 255,
-        depthWrite: alpha === 255,
-        clippingPlanes: this.clipping,
-      });
-      this.materials.set(key, material);
-    }
-    return this.materials.get(key);
-  }
-
-  #line(color, width) {
-    return new LineMaterial({ color, linewidth: width, clippingPlanes: this.clipping });
-  }
-
-  #addModel() {
-    this.edgeMaterial = this.#line(kEdgeColor, 1.15);
-    this.edges = [];
-    this.root = new Group();
-    this.scene.add(this.root);
-    for (const node of this.model.nodes()) {
-      const group = (node.object = new Group());
-      (node.parent?.object ?? this.root).add(group);
-      if (node.reference.matrix) group.applyMatrix4(new Matrix4().fromArray(node.reference.matrix));
-      group.visible = node.visible;
-      if (node.block?.shape) this.#addShape(node, node.block.shape);
-    }
-    this.root.updateMatrixWorld(true);
-  }
-
-  #addShape(node, shape) {
-    const color = node.color ?? shape.color;
-    const materials = shape.colors.map((own) => this.#surface(own ?? color));
-    const mesh = new Mesh(shape.geometry, materials);
-    mesh.userData.node = node;
-    node.mesh = mesh;
-    node.object.add(mesh);
-    if (shape.edges) {
-      const edges = new LineSegments2(shape.edges, this.edgeMaterial);
-      edges.raycast = () => {};
-      this.edges.push(edges);
-      node.object.add(edges);
-    }
-  }
-
-  #addAnnotations() {
-    this.annotations = new Group();
-    this.scene.add(this.annotations);
-    for (const annotation of this.model.annotations) {
-      const geometry = new LineSegmentsGeometry().setPositions(floats(annotation.segments));
-      const lines = new LineSegments2(geometry, this.#line(srgb(annotation.color ?? kAnnotationColor), 1.1));
-      lines.raycast = () => {};
-      lines.userData.annotation = annotation;
-      this.annotations.add(lines);
-    }
-  }
-
   setEdges(shown) {
-    for (const edges of this.edges) edges.visible = shown;
-    this.draw();
-  }
-
-  // Shows those annotations whose id is in the list, or all for null.
-  setAnnotations(ids) {
-    for (const lines of this.annotations.children) {
-      lines.visible = !ids || ids.includes(lines.userData.annotation.id);
-    }
+    for (const edges of this.parts.edges) edges.visible = shown;
     this.draw();
   }
 
@@ -161,21 +71,14 @@ export class Stage {
       this.clipping.push(new Plane(new Vector3(a, b, c), d));
     }
     this.renderer.localClippingEnabled = this.clipping.length > 0;
-    for (const material of this.materials.values()) material.needsUpdate = true;
+    for (const material of this.parts.materials.values()) material.needsUpdate = true;
     this.draw();
-  }
-
-  visibleMeshes() {
-    const meshes = [];
-    this.root.traverseVisible((object) => object.userData.node && meshes.push(object));
-    return meshes;
   }
 
   #corners(objects) {
     const corners = [];
     for (const object of objects) {
-      if (!object.geometry.boundingBox) object.geometry.computeBoundingBox();
-      const { min, max } = object.geometry.boundingBox;
+      const { min, max } = object.box ?? object.geometry.boundingBox;
       if (min.x > max.x) continue;
       for (let i = 0; i < 8; i++) {
         const corner = new Vector3(i & 1 ? max.x : min.x, i & 2 ? max.y : min.y, i & 4 ? max.z : min.z);
@@ -185,9 +88,25 @@ export class Stage {
     return corners;
   }
 
+  #boxOf(objects) {
+    return new Box3().setFromPoints(this.#corners(objects));
+  }
+
   #shown() {
-    const lines = this.annotations.visible ? this.annotations.children.filter((object) => object.visible) : [];
-    return [...this.visibleMeshes(), ...lines];
+    return [...this.parts.visibleMeshes(), ...this.annotations.drawn()];
+  }
+
+  #worthFitting() {
+    return this.#shown().filter((object) => object.isNear ?? true);
+  }
+
+  // Whether the middle of any of the objects lies in the picture.
+  sees(objects) {
+    this.camera.updateMatrixWorld();
+    return objects.some((object) => {
+      const { x, y } = this.#boxOf([object]).getCenter(new Vector3()).project(this.camera);
+      return Math.abs(x) < 1 && Math.abs(y) < 1;
+    });
   }
 
   // Looks along a direction, so that the objects, by default all that is shown, fill the picture. They do so again in a
@@ -197,7 +116,7 @@ export class Stage {
     const forward = direction.clone().normalize();
     const right = new Vector3().crossVectors(forward, up).normalize();
     const upward = new Vector3().crossVectors(right, forward);
-    const corners = this.#corners(objects ?? this.#shown());
+    const corners = this.#corners(objects ?? this.#worthFitting());
     if (!corners.length) corners.push(new Vector3(-1, -1, -1), new Vector3(1, 1, 1));
 
     const box = new Box3();
@@ -223,6 +142,13 @@ export class Stage {
     const eye = target.clone().addScaledVector(forward, -distance);
     this.setCamera({ eye, target, up, height: perspective ? 0 : height });
     this.fitted = how;
+  }
+
+  // Fills the picture with the objects, by default all that is shown, and looks in the direction of now.
+  fit(objects) {
+    const direction = this.controls.target.clone().sub(this.camera.position);
+    const perspective = Boolean(this.camera.isPerspectiveCamera);
+    this.look({ direction, up: this.camera.up.clone(), objects, perspective });
   }
 
   // Places the camera: orthographic when a height of the picture in model units is given.
@@ -256,8 +182,7 @@ export class Stage {
 
   // The near and far planes hug the model, which keeps the depth buffer fine enough for its edges.
   #placePlanes() {
-    const box = new Box3();
-    for (const corner of this.#corners(this.#shown())) box.expandByPoint(corner);
+    const box = this.#boxOf(this.#shown());
     if (box.isEmpty()) box.set(new Vector3(-1, -1, -1), new Vector3(1, 1, 1));
     const radius = box.getSize(new Vector3()).length() / 2 + 1e-6;
     const forward = this.camera.getWorldDirection(new Vector3());
@@ -285,14 +210,17 @@ export class Stage {
     }
   }
 
-  // What lies under a point of the canvas, in pixels from its top left: the tree node and its face.
+  // What lies under a point of the canvas, in pixels from its top left: a drawn annotation's element, or the tree node
+  // and its face.
   pick(x, y) {
     const canvas = this.renderer.domElement;
     const pointer = new Vector2((x / canvas.clientWidth) * 2 - 1, 1 - (y / canvas.clientHeight) * 2);
     const ray = new Raycaster();
     ray.setFromCamera(pointer, this.camera);
-    const hits = ray.intersectObjects(this.visibleMeshes(), false);
+    const hits = ray.intersectObjects(this.parts.visibleMeshes(), false);
     const hit = hits.find(({ point }) => this.clipping.every((plane) => plane.distanceToPoint(point) >= 0));
+    const drawn = this.annotations.pick(ray);
+    if (drawn && !(hit?.distance < drawn.distance)) return { element: drawn.object.parent.element };
     if (!hit) return null;
     const node = hit.object.userData.node;
     return { node, face: node.block.shape.faceOfTriangle(hit.faceIndex) };
@@ -307,6 +235,7 @@ export class Stage {
     this.wanted = undefined;
     this.#placePlanes();
     this.#placeSun();
+    this.annotations.face(this.camera);
     this.renderer.render(this.scene, this.camera);
     this.onDraw();
   }

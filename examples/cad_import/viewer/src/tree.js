@@ -1,6 +1,6 @@
 // The product tree beside the picture: show and hide with the boxes, select with a click, open on demand.
 
-import { swatch } from './selection.js';
+import { swatch } from './details.js';
 
 const kOpenAtFirst = 40; // a larger tree shows its top level only
 

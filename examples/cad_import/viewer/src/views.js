@@ -11,7 +11,7 @@ const kStandard = {
   Right: { direction: new Vector3(-1, 0, 0), up: new Vector3(0, 0, 1) },
 };
 
-function button(text, action, title = '') {
+export function button(text, action, title = '') {
   const result = document.createElement('button');
   result.textContent = text;
   result.title = title;
@@ -56,7 +56,7 @@ const vector = ([x, y, z]) => new Vector3(x, y, z);
 function show(stage, view, annotationIds) {
   const { camera } = view;
   stage.setClipping(view.clipping ?? null);
-  stage.setAnnotations(annotationIds);
+  stage.annotations.show(annotationIds);
   const eye = vector(camera.eye);
   const target = vector(camera.target);
   const up = vector(camera.up);
@@ -68,28 +68,31 @@ function show(stage, view, annotationIds) {
   }
 }
 
-export function buildSavedViews(bar, stage, views) {
-  if (!views.length) return;
-  bar.hidden = false;
+// Returns a function that opens the view of a name. `onOpen` is called with each view that is opened, null for all.
+export function buildSavedViews(bar, stage, views, onOpen) {
+  bar.hidden = !views.length;
+  if (bar.hidden) return () => {};
   const label = document.createElement('span');
   label.textContent = 'Saved views';
   bar.append(label);
   // Where no view names its annotations, all of them belong to each.
   const linked = views.some((view) => view.annotationIds.length);
-  const choose = (chosen, action) => {
-    for (const other of bar.querySelectorAll('button')) other.ariaPressed = other === chosen;
-    action();
+  const add = (text, view, open) => {
+    const choose = (chosen) => {
+      for (const other of bar.querySelectorAll('button')) other.ariaPressed = other === chosen;
+      open();
+      onOpen(view);
+    };
+    bar.append(button(text, choose));
   };
   for (const view of views) {
-    bar.append(button(view.name || view.id, (self) => choose(self, () => show(stage, view, linked ? view.annotationIds : null))));
+    add(view.name || view.id, view, () => show(stage, view, linked ? view.annotationIds : null));
   }
-  const all = button('All', (self) =>
-    choose(self, () => {
-      stage.setClipping(null);
-      stage.setAnnotations(null);
-      stage.look(kIsometric);
-    })
-  );
-  all.ariaPressed = true;
-  bar.append(all);
+  add('All', null, () => {
+    stage.setClipping(null);
+    stage.annotations.show(null);
+    stage.look(kIsometric);
+  });
+  const buttons = [...bar.querySelectorAll('button')];
+  return (name) => buttons[Math.max(views.findIndex((view) => view.name === name), 0)].click();
 }
