@@ -4,6 +4,7 @@
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
 #include <vector>
@@ -22,7 +23,7 @@ private:
     struct Line
     {
         std::uint64_t block;
-        int number; // within its block
+        std::size_t number; // within its block
         std::uint64_t id;
         BodyFigures figures;
     };
