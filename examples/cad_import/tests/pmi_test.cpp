@@ -1,3 +1,4 @@
+#include "acis_kernel/acis_kernel.h"
 #include "common/framing.h"
 #include "common/pmi_conventions.h"
 #include "host/pmi/pmi_json.h"
@@ -310,6 +311,63 @@ TEST(PmiNotation, OfFeatureControlFrames)
         row.make(gdt);
         EXPECT_EQ(mp::toNarrow(pmi_notation::lines(gdt, pmi).at(0)), row.text);
     }
+}
+
+BODY* bodyOfFaces(int count)
+{
+    auto* const body = new BODY;
+    auto* const lump = new LUMP;
+    auto* const shell = new SHELL;
+    body->addPart(lump);
+    lump->addPart(shell);
+    for (int i = 0; i < count; ++i)
+    {
+        shell->addPart(new FACE);
+    }
+    return body;
+}
+
+TEST(Pmi, IsLinkedToTheBodiesThatCame)
+{
+    OwnedEntities bodies;
+    bodies.list().add(bodyOfFaces(1));
+    bodies.list().add(bodyOfFaces(3));
+    const auto id = [&bodies](int body) { return vrx::ExcBlockGeometry::getEntityId(bodies.list()[body]); };
+    vrx::ExcBlockGeometry geometry;
+    geometry.setBlockId(5);
+    geometry.own(true);
+    ASSERT_TRUE(geometry.setGeometry(bodies.list(), false));
+
+    const auto note = onFace<vrx::ExcPMINote>(id(1), 2);
+    note->addLinkedElements(onFace<vrx::ExcPMINote>(id(0), 0)->linkedElements());
+    note->addLinkedElements(onFace<vrx::ExcPMINote>(id(1), 0)->linkedElements());
+    note->addLinkedElements(onFace<vrx::ExcPMINote>(id(0), 1)->linkedElements()); // there is none
+    const auto whole = std::make_shared<vrx::ExcEntity>();
+    whole->setFsp(std::make_shared<vrx::ExcFullSubentPath>(id(0), vrx::ExcSubentId(EType::Body, 0)));
+    note->addLinkedElement(whole);
+    const auto edge = std::make_shared<vrx::ExcEntity>();
+    edge->setId(WIDE("e7"));
+    note->addLinkedElement(edge);
+    vrx::ExcBlockMechanicalData data;
+    data.setPMIData(std::make_shared<vrx::ExcPMIData>());
+    data.pmiData()->addAnnotationSet(std::make_shared<vrx::ExcPMIAnnotationSet>());
+    data.pmiData()->annotationSets()[0]->setBlockId(5);
+    data.pmiData()->annotationSets()[0]->addView(std::make_shared<vrx::ExcPMIAnnotationView>());
+    data.pmiData()->annotationSets()[0]->views()[0]->addNote(note);
+    ReceivedPmi pmi;
+    pmi.add(data);
+    pmi.add(geometry);
+
+    std::vector<mp::wstring> ids;
+    for (const PmiLink& link : pmi.links(*note))
+    {
+        ids.push_back(link.mechanicalId);
+    }
+    EXPECT_THAT(ids,
+                testing::ElementsAre(WIDE("1/f2"), WIDE("0/f0"), WIDE("1/f0"), WIDE("0/f1"), WIDE("b0"), WIDE("e7")));
+    std::ostringstream table;
+    printPmi(table, pmi, {});
+    EXPECT_THAT(table.str(), testing::HasSubstr("body 2 faces 2, 0; body 1 face 0; 0/f1; body 1; e7"));
 }
 
 TEST(Pmi, IsTold)
