@@ -267,7 +267,11 @@ TEST(PmiNotation, OfFeatureControlFrames)
     using EToleranceType = ExcPMIGDT::EToleranceType;
     const ReceivedPmi pmi = received();
     const FrameRow rows[] = {
-        {"⏥ 0.1", [](auto& g) { g.setToleranceType(EToleranceType::FormFlatness); }},
+        {"2 SURFACES INDIVIDUALLY ⏥ 0.1",
+         [](auto& g) {
+             g.setToleranceType(EToleranceType::FormFlatness);
+             g.setNote(WIDE("2 SURFACES\nINDIVIDUALLY"));
+         }},
         {"⏥ 0.4 / 0.1/25×25",
          [](auto& g) {
              g.setToleranceType(EToleranceType::FormFlatness);

@@ -99,10 +99,15 @@ wstring symbol(const Symbol<Number> (&symbols)[Count], Number number)
     return found != symbols + Count ? found->text : wstring();
 }
 
-// Appends a word to a line; an empty one leaves no gap.
-void append(wstring& line, const wstring& word)
+// Appends a text to a line; an empty one leaves no gap, and one of several lines becomes one.
+void append(wstring& line, const wstring& text)
 {
-    line += line.empty() || word.empty() ? word : WIDE(" ") + word;
+    if (!line.empty() && !text.empty())
+    {
+        line += WIDE(" ");
+    }
+    line += text;
+    std::replace(line.begin(), line.end(), WIDE('\n'), WIDE(' '));
 }
 
 // With this number of decimal places; with as many as there are when it is 0, and none that only arithmetic has made.
@@ -126,8 +131,11 @@ wstring numberText(double value, double places = 0)
 wstring deviationText(double deviation, double places)
 {
     const wstring text = numberText(deviation, places);
-    const bool isNothing = text.find_first_not_of(WIDE("0.")) == wstring::npos;
-    return isNothing ? WIDE("0") : deviation > 0 ? WIDE("+") + text : text;
+    if (text.find_first_not_of(WIDE("0.")) == wstring::npos)
+    {
+        return WIDE("0");
+    }
+    return deviation > 0 ? WIDE("+") + text : text;
 }
 
 wstring deviations(const vrx::ExcPMIDimension& dimension, const wstring& unit)
@@ -175,6 +183,29 @@ wstring rateText(const vrx::ExcPMIGDT& gdt, const ControlFrameLine& line)
     const wstring length = WIDE("/") + numberText(line.rateUnit[0]);
     const bool isLength = gdt.toleranceType() == EToleranceType::FormStraightness || line.rateUnit[1] == 0;
     return isLength ? length : length + WIDE("×") + numberText(line.rateUnit[1]);
+}
+
+// The tolerance of the whole, where the value is that of each piece.
+wstring wholeTolerance(const vrx::ExcPMIGDT& gdt)
+{
+    const double tolerance = gdt.refineTolerance();
+    return tolerance == 0 ? wstring()
+                          : symbol(kZoneSigns, gdt.toleranceValueType()) + numberText(tolerance) + WIDE(" /");
+}
+
+// A circled letter with its length; 0 is none.
+wstring circled(const mp::wchar* letter, double length)
+{
+    return length == 0 ? wstring() : letter + numberText(length);
+}
+
+wstring allAroundText(const vrx::ExcPMIGDT& gdt)
+{
+    if (gdt.allAround() == 0)
+    {
+        return {};
+    }
+    return gdt.allAround() == pmi_conventions::kAllOver ? WIDE("all over") : WIDE("all around");
 }
 
 // A compartment of a frame, such as "A", "B Ⓜ" or the common datum "A-B": several modifiers of one datum follow each
@@ -228,7 +259,8 @@ mp::wstring text(const vrx::ExcPMIDimension& dimension)
     append(value, shownValue(dimension, unit));
     append(value, dimension.suffix());
 
-    wstring line = dimension.before();
+    wstring line;
+    append(line, dimension.before());
     append(line, dimension.upper());
     append(line, framed(dimension.mainType(), value));
     append(line, fit(dimension));
@@ -248,36 +280,24 @@ std::vector<mp::wstring> lines(const vrx::ExcPMIGDT& gdt, const ReceivedPmi& pmi
     for (const ControlFrameLine& frame : controlFrameLines(gdt))
     {
         const bool isFirst = lines.empty();
-        wstring line = isFirst ? gdt.note() : wstring();
+        wstring line;
+        append(line, isFirst ? gdt.note() : wstring());
         append(line, symbol(kToleranceSymbols, gdt.toleranceType()));
-        const wstring sign = symbol(kZoneSigns, frame.zone);
-        if (isFirst && gdt.refineTolerance() != 0)
-        {
-            append(line, sign + numberText(gdt.refineTolerance()) + WIDE(" /"));
-        }
-        append(line, sign + numberText(frame.value) + rateText(gdt, frame));
+        append(line, isFirst ? wholeTolerance(gdt) : wstring());
+        append(line, symbol(kZoneSigns, frame.zone) + numberText(frame.value) + rateText(gdt, frame));
         for (const EModifier modifier : frame.modifiers)
         {
             append(line, symbol(kModifierSigns, modifier));
         }
-        if (isFirst && gdt.projectionToleranceZoneLength() != 0)
-        {
-            append(line, WIDE("Ⓟ ") + numberText(gdt.projectionToleranceZoneLength()));
-        }
-        if (isFirst && gdt.shiftValue() != 0)
-        {
-            append(line, WIDE("Ⓤ ") + numberText(gdt.shiftValue()));
-        }
+        append(line, isFirst ? circled(WIDE("Ⓟ "), gdt.projectionToleranceZoneLength()) : wstring());
+        append(line, isFirst ? circled(WIDE("Ⓤ "), gdt.shiftValue()) : wstring());
         for (const vrx::ExcPMIGDT::DatumRef& datums : frame.datums)
         {
             append(line, compartment(datums, pmi, [](wstring& text, EModifier modifier) {
                        append(text, symbol(kModifierSigns, modifier));
                    }));
         }
-        if (isFirst && gdt.allAround() != 0)
-        {
-            append(line, gdt.allAround() == pmi_conventions::kAllOver ? WIDE("all over") : WIDE("all around"));
-        }
+        append(line, isFirst ? allAroundText(gdt) : wstring());
         lines.push_back(line);
     }
     return lines;

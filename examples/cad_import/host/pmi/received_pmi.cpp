@@ -3,7 +3,6 @@
 #include "mp/narrow.h"
 #include "restored_bodies.h"
 
-#include <algorithm>
 #include <string>
 
 namespace
@@ -74,6 +73,7 @@ void ReceivedPmi::add(const std::shared_ptr<vrx::ExcPMIData>& data)
 void ReceivedPmi::add(const vrx::ExcBlockGeometry& geometry)
 {
     const RestoredBodies bodies(geometry);
+    m_bodyCounts[geometry.blockId()] = bodies.count();
     for (std::size_t i = 0; i < bodies.count(); ++i)
     {
         m_bodies[bodies.id(i)] = {geometry.blockId(),
@@ -86,8 +86,8 @@ void ReceivedPmi::add(const vrx::ExcBlockGeometry& geometry)
 
 std::size_t ReceivedPmi::bodyCount(std::uint64_t block) const
 {
-    return static_cast<std::size_t>(std::count_if(m_bodies.begin(), m_bodies.end(),
-                                                  [block](const auto& body) { return body.second.block == block; }));
+    const auto found = m_bodyCounts.find(block);
+    return found != m_bodyCounts.end() ? found->second : 0;
 }
 
 std::vector<PmiLink> ReceivedPmi::links(const vrx::ExcPMIAnnotation& annotation) const

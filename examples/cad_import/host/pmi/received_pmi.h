@@ -55,7 +55,8 @@ private:
     PmiLink link(const vrx::ExcEntity& entity) const;
 
     std::vector<std::shared_ptr<vrx::ExcPMIAnnotationSet>> m_sets;
-    std::map<std::uint64_t, Body> m_bodies; // by their ids
+    std::map<std::uint64_t, Body> m_bodies;            // by their ids
+    std::map<std::uint64_t, std::size_t> m_bodyCounts; // by block
     std::map<mp::wstring, std::vector<mp::wstring>> m_shownIn;
     std::map<mp::wstring, mp::wstring> m_labels;
 };
