@@ -22,9 +22,9 @@ public:
 private:
     struct Line
     {
-        std::uint64_t block;
-        std::size_t number; // within its block
-        std::uint64_t id;
+        std::uint64_t block = 0;
+        std::size_t number = 0; // within its block
+        std::uint64_t id = 0;
         BodyFigures figures;
     };
 

@@ -150,11 +150,12 @@ wstring deviations(const vrx::ExcPMIDimension& dimension, const wstring& unit)
            deviationText(dimension.numericalToleranceLower(), places) + unit;
 }
 
+// Limits stand in place of the value as one text.
 wstring shownValue(const vrx::ExcPMIDimension& dimension, const wstring& unit)
 {
     if (dimension.hasFakeAlphanumericalValue())
     {
-        return dimension.fakeAlphanumericalValue();
+        return dimension.fakeAlphanumericalValue() + unit;
     }
     const double value = dimension.hasFakeNumericalValue() ? dimension.fakeNumericalValue() : dimension.value();
     return numberText(value, dimension.valuePrecision()) + unit;

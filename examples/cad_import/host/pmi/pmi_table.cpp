@@ -175,8 +175,8 @@ private:
         return joined(pmi_notation::lines(gdt, m_pmi), " / ") + unitText(m_fileUnit);
     }
     std::string text(const vrx::ExcPMIDatum& datum) const { return printable(pmi_notation::text(datum, m_pmi)); }
-    std::string text(const vrx::ExcPMIDatumTarget& target) const { return printable(pmi_notation::text(target)); }
-    std::string text(const vrx::ExcPMINote& note) const { return printable(pmi_notation::text(note)); }
+    static std::string text(const vrx::ExcPMIDatumTarget& target) { return printable(pmi_notation::text(target)); }
+    static std::string text(const vrx::ExcPMINote& note) { return printable(pmi_notation::text(note)); }
 
     // The unit stands in the heading when there is only one.
     std::string unitText(const mp::wstring& unit) const

@@ -46,8 +46,8 @@ public:
 private:
     struct Body
     {
-        std::uint64_t block;
-        std::size_t position;
+        std::uint64_t block = 0;
+        std::size_t position = 0;
         std::map<vrx::ExcSubentId::EType, std::uint64_t> counts; // of its parts
     };
 
