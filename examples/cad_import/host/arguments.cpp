@@ -11,15 +11,18 @@ const char* const kUsage = R"(usage: cad_host [options] <file>
 Has a translator import a CAD file, STEP or IGES, and prints the product tree on standard output. Progress and messages
 go to standard error.
 
-  --json               the tree as JSON
+  --json               the tree and the PMI as JSON
   --bodies             the exact bodies of each part: their faces, edges and vertices, area, volume and box, measured
                        from what arrived; not with --json
+  --pmi-table          the dimensions, tolerances, datums and notes of each part, with the numbers of their faces and
+                       edges and the saved views that show them; not with --json, which has them anyway
   --properties         the free properties of the product and of each block below their lines
   --option NAME=VALUE  a setting of the import, by its name in a command; can be repeated, and a wrong name or value is
                        answered with a list of what there is
   --legacy             the older interface, which has settings of its own and tells the names and materials of components
   --view FILE          a page on which the model can be looked at: one file of HTML that needs no network
   --picture FILE       a picture of that page as PNG; needs Chromium, but no display
+  --view-name NAME     the saved view with which the page and the picture open
   --translator PATH    the translator to start; default: cad_translator beside this program
   --quiet              neither progress nor messages
   --verbose            the translator's log as well
@@ -32,7 +35,7 @@ exit codes:
   3  the translator does not read files of this format
   4  the translator could not be started, died, or broke the protocol
   5  interrupted
-  6  the tree, the page or the picture could not be made or written
+  6  the tree, the page or the picture could not be made or written, or there is no saved view of the given name
 )";
 
 namespace
@@ -55,13 +58,9 @@ struct Flag
 };
 
 const Flag kFlags[] = {
-    {"--bodies", &Arguments::bodies},
-    {"--help", &Arguments::help},
-    {"--json", &Arguments::json},
-    {"--legacy", &Arguments::legacy},
-    {"--properties", &Arguments::properties},
-    {"--quiet", &Arguments::quiet},
-    {"--verbose", &Arguments::verbose},
+    {"--bodies", &Arguments::bodies}, {"--help", &Arguments::help},          {"--json", &Arguments::json},
+    {"--legacy", &Arguments::legacy}, {"--pmi-table", &Arguments::pmiTable}, {"--properties", &Arguments::properties},
+    {"--quiet", &Arguments::quiet},   {"--verbose", &Arguments::verbose},
 };
 
 struct Option
@@ -75,6 +74,7 @@ const Option kOptions[] = {
     {"--picture", [](Arguments& arguments, const std::string& value) { arguments.picture = value; }},
     {"--translator", [](Arguments& arguments, const std::string& value) { arguments.translator = value; }},
     {"--view", [](Arguments& arguments, const std::string& value) { arguments.view = value; }},
+    {"--view-name", [](Arguments& arguments, const std::string& value) { arguments.viewName = value; }},
 };
 
 template <class Named, std::size_t Count>
@@ -135,9 +135,13 @@ Arguments parseArguments(int argc, char** argv)
             throw UsageError("more than one file");
         }
     }
-    if (arguments.bodies && arguments.json)
+    if (arguments.json && (arguments.bodies || arguments.pmiTable))
     {
-        throw UsageError("--bodies goes with the tree as text");
+        throw UsageError(std::string(arguments.bodies ? "--bodies" : "--pmi-table") + " goes with the tree as text");
+    }
+    if (!arguments.viewName.empty() && !arguments.makesPage())
+    {
+        throw UsageError("--view-name goes with --view or --picture");
     }
     if (arguments.file.empty() && !arguments.help)
     {

@@ -11,14 +11,19 @@ struct Arguments
     std::string translator; // empty: the one beside this program
     std::string view;       // the page to write, or empty
     std::string picture;    // the picture to make, or empty
+    std::string viewName;   // the saved view with which the page opens, or empty
     bool bodies = false;
     bool help = false;
     bool json = false;
     bool legacy = false;
+    bool pmiTable = false;
     bool properties = false;
     bool quiet = false;
     bool verbose = false;
     std::vector<GivenSetting> settings;
+
+    bool makesPage() const { return !view.empty() || !picture.empty(); }
+    bool tellsPmi() const { return pmiTable || json || makesPage(); }
 };
 
 extern const char* const kUsage;

@@ -1,7 +1,7 @@
 #include "body_report.h"
 
-#include "acis_kernel/acis_kernel.h"
 #include "printable.h"
+#include "restored_bodies.h"
 #include "translator_session.h"
 
 #include <BinTools.hxx>
@@ -111,15 +111,10 @@ BodyFigures measured(ENTITY& body)
 
 void BodyReport::add(const vrx::ExcBlockGeometry& geometry)
 {
-    OwnedEntities bodies;
-    std::vector<std::uint64_t> ids;
-    if (!geometry.getGeometry(bodies.list(), ids) || ids.size() != static_cast<std::size_t>(bodies.list().count()))
+    const RestoredBodies bodies(geometry);
+    for (std::size_t i = 0; i < bodies.count(); ++i)
     {
-        throw TranslatorFailure("The bodies of block " + std::to_string(geometry.blockId()) + " can not be restored.");
-    }
-    for (int i = 0; i < bodies.list().count(); ++i)
-    {
-        m_lines.push_back({geometry.blockId(), i + 1, ids[static_cast<std::size_t>(i)], measured(*bodies.list()[i])});
+        m_lines.push_back({geometry.blockId(), i + 1, bodies.id(i), measured(bodies.body(i))});
     }
 }
 

@@ -4,6 +4,7 @@
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
 #include <vector>
@@ -21,9 +22,9 @@ public:
 private:
     struct Line
     {
-        std::uint64_t block;
-        int number; // within its block
-        std::uint64_t id;
+        std::uint64_t block = 0;
+        std::size_t number = 0; // within its block
+        std::uint64_t id = 0;
         BodyFigures figures;
     };
 

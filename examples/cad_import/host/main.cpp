@@ -1,18 +1,15 @@
 // A host for CAD files: has the translator import a file, prints its product tree and shows the model.
 
 #include "arguments.h"
-#include "body_report.h"
-#include "component_data.h"
+#include "common/pmi_conventions.h"
+#include "import_collector.h"
 #include "mp/narrow.h"
 #include "page_picture.h"
+#include "pmi/pmi_json.h"
+#include "pmi/pmi_table.h"
 #include "printable.h"
-#include "progress_bar.h"
-#include "scene_page.h"
-#include "translator_session.h"
 #include "tree_output.h"
 #include "usage_error.h"
-#include "vrx_api/vrx_api_exchange_structure.h"
-#include "vrx_api/vrx_api_exchange_visualization.h"
 #include "write_text.h"
 
 #include <algorithm>
@@ -22,7 +19,6 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <utility>
 
 namespace
 {
@@ -36,104 +32,6 @@ enum EExitCode
     kTranslatorFailed = 4,
     kInterrupted = 5,
     kNotWritten = 6,
-};
-
-class Listener : public ImportListener
-{
-public:
-    explicit Listener(const Arguments& arguments)
-        : m_arguments(arguments)
-        , m_bar(arguments.quiet ? ProgressBar::EMode::Silent : ProgressBar::modeOfStandardError())
-    {
-    }
-
-    ~Listener() override { m_bar.clear(); }
-
-    void onProgress(const vrx::ExcProgress& progress) override
-    {
-        m_bar.show(printable(progress.stage()), progress.progress(), progress.progressMax());
-    }
-
-    void onMessage(const mp::wstring& text) override
-    {
-        if (!m_arguments.quiet)
-        {
-            print(printable(text));
-        }
-    }
-
-    void onLog(const mp::wstring& text) override
-    {
-        if (m_arguments.verbose)
-        {
-            print("log: " + printable(text));
-        }
-    }
-
-    void onStage(vrx::ExcStageFinished::EStage stage) override
-    {
-        if (stage == vrx::ExcStageFinished::EStage::ProductStructure && m_arguments.verbose)
-        {
-            print("the product structure is complete");
-        }
-    }
-
-    void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
-    {
-        if (auto structure = std::dynamic_pointer_cast<vrx::ExcProductStructure>(object))
-        {
-            m_structure = std::move(structure);
-        }
-        else if (const auto block = std::dynamic_pointer_cast<vrx::ExcBlockVisualization>(object))
-        {
-            m_page.add(*block);
-        }
-        else if (const auto root = std::dynamic_pointer_cast<vrx::ExcRootAssemblyVisualization>(object))
-        {
-            m_page.add(*root);
-        }
-        else if (const auto bodies = std::dynamic_pointer_cast<vrx::ExcBlockGeometry>(object))
-        {
-            m_bodies.add(*bodies);
-        }
-        else if (auto names = std::dynamic_pointer_cast<vrx::LegacyComponentInstanceNames>(object))
-        {
-            m_components.names = std::move(names);
-        }
-        else if (auto materials = std::dynamic_pointer_cast<vrx::LegacyMaterialMap>(object))
-        {
-            m_components.materials = std::move(materials);
-        }
-    }
-
-    bool wants(const vrx::IExchangeObject& object) override
-    {
-        if (object.objectName() == vrx::ExcBlockGeometry::objName())
-        {
-            return m_arguments.bodies;
-        }
-        const bool structure = object.objectName() == vrx::ExcProductStructure::objName();
-        return structure || !m_arguments.view.empty() || !m_arguments.picture.empty();
-    }
-
-    void print(const std::string& text)
-    {
-        m_bar.clear();
-        std::cerr << text << '\n';
-    }
-
-    const std::shared_ptr<vrx::ExcProductStructure>& structure() const { return m_structure; }
-    ScenePage takePage() { return std::move(m_page); }
-    const BodyReport& bodies() const { return m_bodies; }
-    const ComponentData& components() const { return m_components; }
-
-private:
-    const Arguments& m_arguments;
-    ProgressBar m_bar;
-    std::shared_ptr<vrx::ExcProductStructure> m_structure;
-    ScenePage m_page;
-    BodyReport m_bodies;
-    ComponentData m_components;
 };
 
 std::string defaultTranslator()
@@ -171,9 +69,10 @@ std::string describe(const vrx::FerrantInfo& info)
 }
 
 // Prints the tree and what else is asked for on standard output.
-void print(const BodyReport& bodies, const TreeExtras& extras, const vrx::ExcProductStructure& structure,
-           const Arguments& arguments)
+void print(const ReceivedModel& model, const Arguments& arguments)
 {
+    const vrx::ExcProductStructure& structure = *model.structure;
+    const TreeExtras extras{arguments.properties, model.components, model.pmi};
     if (arguments.json)
     {
         printJson(std::cout, structure, extras);
@@ -184,7 +83,11 @@ void print(const BodyReport& bodies, const TreeExtras& extras, const vrx::ExcPro
     }
     if (arguments.bodies)
     {
-        bodies.print(std::cout, structure);
+        model.bodies.print(std::cout, structure);
+    }
+    if (arguments.pmiTable)
+    {
+        printPmi(std::cout, model.pmi, structure);
     }
     if (!std::cout.flush())
     {
@@ -193,13 +96,14 @@ void print(const BodyReport& bodies, const TreeExtras& extras, const vrx::ExcPro
 }
 
 // Writes the page and the picture that are asked for.
-void show(const ScenePage& page, const vrx::ExcProductStructure& structure, const Arguments& arguments)
+void show(const ReceivedModel& model, const Arguments& arguments)
 {
-    if (arguments.view.empty() && arguments.picture.empty())
+    if (!arguments.makesPage())
     {
         return;
     }
-    const std::string html = page.html(structure);
+    const std::string html =
+        model.page.html(*model.structure, pmiJson(model.pmi, *model.structure), arguments.viewName);
     if (!arguments.view.empty())
     {
         writeText(arguments.view, html);
@@ -232,38 +136,31 @@ int import(const Arguments& arguments)
         return kForeignFormat;
     }
 
-    std::shared_ptr<vrx::ExcProductStructure> structure;
-    ScenePage page;
-    BodyReport bodies;
-    TreeExtras extras{arguments.properties, {}};
+    ReceivedModel model;
     {
-        Listener listener(arguments);
-        const vrx::Result result = session.import(options, listener);
+        ImportCollector collector(arguments, model);
+        const vrx::Result result = session.import(options, collector);
         if (ChildProcess::wasInterrupted())
         {
             throw TranslatorFailure("The import was interrupted.");
         }
         if (!result.message().empty())
         {
-            listener.print("cad_host: " + printable(result.message()));
+            collector.print("cad_host: " + printable(result.message()));
         }
         if (result.code() != vrx::Result::ECode::Ok && result.code() != vrx::Result::ECode::Warning)
         {
             return kNotImported;
         }
-        structure = listener.structure();
-        page = listener.takePage();
-        bodies = listener.bodies();
-        extras.components = listener.components();
     }
-    if (!structure)
+    if (!model.structure)
     {
         throw TranslatorFailure("The translator sent no product structure.");
     }
     try
     {
-        print(bodies, extras, *structure, arguments);
-        show(page, *structure, arguments);
+        print(model, arguments);
+        show(model, arguments);
     }
     catch (const std::exception& failure)
     {
@@ -289,6 +186,7 @@ int main(int argc, char** argv)
             std::cout << kUsage;
             return kImported;
         }
+        pmi_conventions::receiveMechanicalData();
         return import(arguments);
     }
     catch (const UsageError& failure)

@@ -37,10 +37,27 @@ public:
     /// A number that is not finite, which JSON has not, as null.
     void number(double value) { std::isfinite(value) ? Double(value) : Null(); }
 
-    template <class Numbers>
-    void numbers(const char* key, const Numbers& values)
+    void number(const char* key, double value)
     {
         Key(key);
+        number(value);
+    }
+
+    void flag(const char* key, bool value)
+    {
+        Key(key);
+        Bool(value);
+    }
+
+    void null(const char* key)
+    {
+        Key(key);
+        Null();
+    }
+
+    template <class Numbers>
+    void numbers(const Numbers& values)
+    {
         StartArray();
         for (const double value : values)
         {
@@ -49,9 +66,31 @@ public:
         EndArray();
     }
 
-    void vector(const char* key, const vrx::ExcVector3d& vector)
+    template <class Numbers>
+    void numbers(const char* key, const Numbers& values)
     {
-        numbers(key, std::vector<double>{vector[0], vector[1], vector[2]});
+        Key(key);
+        numbers(values);
+    }
+
+    template <class Texts>
+    void texts(const char* key, const Texts& values)
+    {
+        Key(key);
+        StartArray();
+        for (const auto& text : values)
+        {
+            value(text);
+        }
+        EndArray();
+    }
+
+    void vector(const vrx::ExcVector3d& vector) { numbers(std::vector<double>{vector[0], vector[1], vector[2]}); }
+
+    void vector(const char* key, const vrx::ExcVector3d& value)
+    {
+        Key(key);
+        vector(value);
     }
 
     /// Red, green, blue, alpha; null for no colour.

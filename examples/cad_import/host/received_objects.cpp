@@ -29,15 +29,15 @@ void ReceivedObjects::keep(const std::function<bool(const vrx::IExchangeObject&)
     std::deque<Entry> kept;
     while (!m_waiting.empty())
     {
-        if (test(*m_waiting.front().object))
+        if (test(*m_waiting.back().object))
         {
-            kept.push_back(m_waiting.front());
+            kept.push_front(m_waiting.back());
         }
         else
         {
-            shared_buffers::remove(m_waiting.front().buffer);
+            shared_buffers::remove(m_waiting.back().buffer);
         }
-        m_waiting.pop_front();
+        m_waiting.pop_back();
     }
     m_waiting.swap(kept);
 }

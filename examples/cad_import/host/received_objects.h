@@ -25,7 +25,7 @@ public:
     /// The object that came first, loaded, which is then no longer here. There must be one.
     std::shared_ptr<vrx::IExchangeObject> loadFirst();
 
-    /// Removes from the system all those for which the test says no.
+    /// Removes from the system all those for which the test says no. Asks from the last to the first.
     void keep(const std::function<bool(const vrx::IExchangeObject&)>& test);
 
 private:

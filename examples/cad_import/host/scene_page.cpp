@@ -2,6 +2,7 @@
 
 #include "page_json.h"
 #include "placement.h"
+#include "printable.h"
 #include "scene_json.h"
 #include "viewer_page.h"
 
@@ -59,6 +60,15 @@ void properties(PageJson& json, const vrx::ExcMiscData& data)
     json.EndArray();
 }
 
+template <class View>
+void addNames(std::set<std::string>& names, const std::vector<std::shared_ptr<View>>& views)
+{
+    for (const std::shared_ptr<View>& view : views)
+    {
+        names.insert(mp::toNarrow(view->displayName()));
+    }
+}
+
 // Within a script element of HTML no "<" may stand.
 std::string withoutTags(const std::string& json)
 {
@@ -88,12 +98,19 @@ void ScenePage::add(const vrx::ExcRootAssemblyVisualization& root)
     {
         m_annotations = scene_json::annotations(*root.visualizationData());
         m_views = scene_json::views(*root.visualizationData());
+        addNames(m_viewNames, root.visualizationData()->captures());
+        addNames(m_viewNames, root.visualizationData()->views());
         m_units.insert(root.visualizationData()->units());
     }
 }
 
-std::string ScenePage::html(const vrx::ExcProductStructure& structure) const
+std::string ScenePage::html(const vrx::ExcProductStructure& structure, const std::string& pmi,
+                            const std::string& openView) const
 {
+    if (!openView.empty())
+    {
+        checkView(openView);
+    }
     for (const vrx::ELengthUnitType units : m_units)
     {
         if (units != structure.units())
@@ -108,10 +125,25 @@ std::string ScenePage::html(const vrx::ExcProductStructure& structure) const
         page += piece;
     }
     static const std::string kPlace = "{{scene}}";
-    return page.replace(page.find(kPlace), kPlace.size(), withoutTags(scene(structure)));
+    return page.replace(page.find(kPlace), kPlace.size(), withoutTags(scene(structure, pmi, openView)));
 }
 
-std::string ScenePage::scene(const vrx::ExcProductStructure& structure) const
+void ScenePage::checkView(const std::string& name) const
+{
+    if (m_viewNames.count(name) != 0)
+    {
+        return;
+    }
+    std::string message = "there is no saved view " + name + (m_viewNames.empty() ? ", and no other" : "; there are:");
+    for (const std::string& other : m_viewNames)
+    {
+        message += "\n  " + printable(mp::toWide(other));
+    }
+    throw std::runtime_error(message);
+}
+
+std::string ScenePage::scene(const vrx::ExcProductStructure& structure, const std::string& pmi,
+                             const std::string& openView) const
 {
     PageJson json;
     json.StartObject();
@@ -142,6 +174,12 @@ std::string ScenePage::scene(const vrx::ExcProductStructure& structure) const
     json.raw(m_annotations);
     json.Key("views");
     json.raw(m_views);
+    json.Key("pmi");
+    json.raw(pmi);
+    if (!openView.empty())
+    {
+        json.field("openView", openView);
+    }
     json.EndObject();
     return json.text();
 }

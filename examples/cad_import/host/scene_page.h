@@ -16,14 +16,19 @@ public:
     void add(const vrx::ExcBlockVisualization& block);
     void add(const vrx::ExcRootAssemblyVisualization& root);
 
-    /// The page in UTF-8. Throws std::runtime_error when a scene has other units than the structure.
-    std::string html(const vrx::ExcProductStructure& structure) const;
+    /// The page in UTF-8, with the PMI as `pmiJson` gives it. It opens with a saved view when one is named. Throws
+    /// std::runtime_error when a scene has other units than the structure, and for a view that is not there.
+    std::string html(const vrx::ExcProductStructure& structure, const std::string& pmi,
+                     const std::string& openView = {}) const;
 
 private:
-    std::string scene(const vrx::ExcProductStructure& structure) const;
+    std::string scene(const vrx::ExcProductStructure& structure, const std::string& pmi,
+                      const std::string& openView) const;
+    void checkView(const std::string& name) const;
 
     std::map<std::uint64_t, std::string> m_shapes; // by the block's id
     std::set<vrx::ELengthUnitType> m_units;        // of all scenes
     std::string m_annotations = "[]";
     std::string m_views = "[]";
+    std::set<std::string> m_viewNames;
 };

@@ -33,7 +33,8 @@ public:
     virtual void onStage(vrx::ExcStageFinished::EStage stage) = 0;
     virtual void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) = 0;
 
-    /// Whether an object in shared memory is worth loading; the others are dropped.
+    /// Whether an object in shared memory is worth loading; the others are dropped. Asked once all have come, from the
+    /// last to the first: what is said of a block comes after the bodies, which may only be worth it then.
     virtual bool wants(const vrx::IExchangeObject&) { return true; }
 };
 

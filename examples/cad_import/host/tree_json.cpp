@@ -1,4 +1,5 @@
 #include "mp/narrow.h"
+#include "pmi/pmi_json.h"
 #include "product_tree.h"
 #include "tree_output.h"
 #include "vrx_api/json/json_value.h"
@@ -34,6 +35,7 @@ public:
         properties(m_structure.miscData());
         blocks();
         tree();
+        pmi();
         componentNames();
         componentMaterials();
         m_writer.EndObject();
@@ -136,6 +138,13 @@ private:
         properties(reference.miscData());
         m_writer.Key("children");
         m_writer.StartArray();
+    }
+
+    void pmi()
+    {
+        const std::string json = pmiJson(m_extras.pmi, m_structure);
+        m_writer.Key("pmi");
+        m_writer.RawValue(json.c_str(), json.size(), rapidjson::kObjectType);
     }
 
     void componentNames()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "component_data.h"
+#include "pmi/received_pmi.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <iosfwd>
@@ -10,6 +11,7 @@ struct TreeExtras
 {
     bool properties = false; // of the text: the free properties below their lines
     ComponentData components;
+    ReceivedPmi pmi = {}; // of the JSON
 };
 
 /// The product tree as indented text: a line for each group of equal instances, with instance names, block name, count,
@@ -17,5 +19,6 @@ struct TreeExtras
 void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, const TreeExtras& extras = {});
 
 /// The same tree as JSON in UTF-8: "product", "units", "properties", "blocks" (each once, by id) and "tree", where each
-/// instance has a node with its "children"; then "component_names" and "component_materials", if they arrived.
+/// instance has a node with its "children"; then "pmi", and "component_names" and "component_materials", if they
+/// arrived.
 void printJson(std::ostream& stream, const vrx::ExcProductStructure& structure, const TreeExtras& extras = {});

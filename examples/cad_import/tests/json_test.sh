@@ -21,3 +21,12 @@ for tree in tree iges_tree; do
             && near(screw.affine, [0, 0, 1, 0, 1, 0, -1, 0, 0]) && near(screw.translation, [5, -28, 0]);
         process.exit(right ? 0 : 1);' "$scratch/$tree.json" || fail "an instance is not where it should be in $tree"
 done
+
+# The PMI is in the JSON, for programs, or in the table.
+expect 2 "--pmi-table goes with the tree as text" "$host" --pmi-table --json "$vise"
+node -e '
+    const pmi = JSON.parse(require("fs").readFileSync(process.argv[1])).pmi;
+    const lists = ["dimensions", "tolerances", "datums", "datum_targets", "notes", "views"];
+    process.exit(lists.every((list) => Array.isArray(pmi[list])) ? 0 : 1);' "$scratch/tree.json" || fail "no PMI in the JSON"
+expect 2 "--view-name goes with" "$host" --view-name top "$vise"
+expect 6 "there is no saved view top, and no other" "$host" --view-name top --view "$scratch/page.html" "$vise"

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "arguments.h"
+#include "body_report.h"
+#include "component_data.h"
+#include "pmi/received_pmi.h"
+#include "progress_bar.h"
+#include "scene_page.h"
+#include "translator_session.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
+
+#include <memory>
+#include <string>
+
+/// What an import brought.
+struct ReceivedModel
+{
+    std::shared_ptr<vrx::ExcProductStructure> structure; // null when there came none
+    ScenePage page;
+    BodyReport bodies;
+    ReceivedPmi pmi;
+    ComponentData components;
+};
+
+/// Takes over what an import brings, as far as the arguments ask for it, and shows on standard error how it goes.
+class ImportCollector : public ImportListener
+{
+public:
+    ImportCollector(const Arguments& arguments, ReceivedModel& model);
+
+    /// Clears the progress bar.
+    ~ImportCollector() override;
+
+    void onProgress(const vrx::ExcProgress& progress) override;
+    void onMessage(const mp::wstring& text) override;
+    void onLog(const mp::wstring& text) override;
+    void onStage(vrx::ExcStageFinished::EStage stage) override;
+    void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override;
+
+    /// Bodies are worth restoring where they are asked for, or where mechanical data, which came after them and were
+    /// asked about before, may name their faces.
+    bool wants(const vrx::IExchangeObject& object) override;
+
+    void print(const std::string& text);
+
+private:
+    void take(const vrx::ExcBlockGeometry& bodies);
+
+    const Arguments& m_arguments;
+    ReceivedModel& m_model;
+    ProgressBar m_bar;
+    bool m_linksBodies = false; // PMI is to be told, and there is some
+};
