@@ -23,6 +23,7 @@ const kSymbols = {
 };
 const kSvg = 'http://www.w3.org/2000/svg';
 const kSpecial = new RegExp(`([${Object.keys(kSymbols).join('')}Ⓐ-Ⓩ])`, 'u');
+const kFrame = /^(.*?)([⏤⏥○⌭⌒⌓∠⟂∥⌖◎⌯↗⌰]) (.*?)( all around| all over)?$/u;
 
 function span(className, ...content) {
   const result = document.createElement('span');
@@ -51,22 +52,22 @@ function written(text) {
   });
 }
 
-// A compartment each for the symbol, the value and the datums.
-function frame({ text, note, datums }) {
-  const before = note && text.startsWith(`${note} `) ? `${note} ` : '';
-  const [inner, after] = text.slice(before.length).split(/(?= all (?:around|over)$)/);
-  const [sign, ...words] = inner.split(' ');
+// A compartment each for the symbol, the value and the datums; what stands beside the frame stays outside.
+function frame({ text, datums }) {
+  const found = text.match(kFrame);
+  if (!found) return written(text);
+  const [, before, sign, inner, after = ''] = found;
   const compartments = [[sign], []];
   const labels = datums.map(({ label }) => label);
-  for (const word of words) {
+  for (const word of inner.split(' ')) {
     if (word === labels[0]) {
       labels.shift();
       compartments.push([]);
     }
     compartments.at(-1).push(word);
   }
-  const cells = compartments.filter((cell) => cell.length).map((cell) => span('', ...written(cell.join(' '))));
-  return [before, span('frame', ...cells), after ?? ''];
+  const cells = compartments.map((cell) => span('', ...written(cell.join(' '))));
+  return [...written(before), span('frame', ...cells), after];
 }
 
 // The text of an element, as nodes.
