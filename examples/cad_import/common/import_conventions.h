@@ -19,8 +19,8 @@
 ///
 /// Settings of the older interface, for files of all formats; those for the format count beside them. A command that
 /// does not name them asks for "graphical", "as_mechanical_components", "matching_index" and "import_show".
-/// - "pmi_mode": "graphical" sends the drawn annotations and the saved views; "semantic" sends neither, but the message
-///   still tells how much PMI the file holds; "none" does not read the PMI.
+/// - "pmi_mode": "graphical" sends the drawn annotations and the saved views; "semantic" sends the annotations as data;
+///   "none" does not read the PMI. On the current interface both are sent.
 /// - "product_structure_mode": "as_mechanical_components" sends all there is, and the names and materials of components
 ///   by their handles; "as_blocks" sends the same blocks and references without the file's properties, names and
 ///   materials; "none" sends, as plainly, one part for each product at the top, with all its shapes in place.

@@ -11,8 +11,8 @@
 ///
 /// Each block with PMI has one set of annotations, the product as a whole at most one, with block id 0. A view is a
 /// plane of the file with all annotations that are drawn in it; its origin and the zones of datum targets are points of
-/// the block in the unit of the product structure, and positions are in that unit too. The last view has neither
-/// direction when there are annotations that are drawn nowhere.
+/// the block in the unit of the product structure, and positions are in that unit too, each the lower left
+/// corner of what is drawn. A view without directions holds the annotations that are drawn nowhere.
 ///
 /// - Values are those that the file states. A dimension has its unit. Tolerances of feature control frames are lengths
 ///   in the unit of the file, which is a property of the product, `property_names::kFileLengthUnit`.
@@ -23,9 +23,9 @@
 ///   precision is the number of decimal places, or 0 when the file does not tell.
 /// - Feature control frames: "all_around" is 1 for all around and 2 for all over. "rate_unit" is the size of the area,
 ///   or the length twice, for which the value holds when it is not 0, and "refine_tolerance" the tolerance of the whole
-///   then. "shift_value" is how far the middle of an unequally disposed zone lies outside of the true profile, 0 for any
-///   other zone: the number behind a Ⓤ is half the tolerance more. The note holds the texts that stand beside the frame,
-///   line by line, such as "4X" or "INDIVIDUALLY".
+///   then. "shift_value" is how far the middle of an unequally disposed zone lies outside of the true profile, 0 for
+///   any other zone: the number behind a Ⓤ is half the tolerance more. The note holds the texts that stand beside the
+///   frame, line by line, such as "4X" or "INDIVIDUALLY".
 /// - Notes have a text for each line, with the label alone.
 /// - Linked elements name faces and edges of bodies by the body's id, which holds for all places of the body. What
 ///   belongs to no body is named by its id in the scene.

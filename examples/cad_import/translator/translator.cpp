@@ -9,6 +9,7 @@
 #include "looks/visualization_builder.h"
 #include "mp/narrow.h"
 #include "pmi/drawn_pmi.h"
+#include "pmi/mechanical_pmi.h"
 #include "pmi/pmi_summary.h"
 #include "reading/cad_reader.h"
 #include "reading/import_settings.h"
@@ -172,17 +173,21 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     }
     m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
 
-    sendBodies(*structure, builder, progress);
+    BlockBodies bodies;
+    sendBodies(bodies, *structure, builder, progress);
     const std::unique_ptr<DrawnPmi> drawn = drawnPmi(model, builder);
-    sendVisualization(VisualizationBuilder(settings, *structure, builder), drawn.get(), *structure, progress);
+    const MechanicalPmi mechanical =
+        drawn && settings.semanticPmi ? mechanicalPmi(model, builder, bodies, *drawn) : MechanicalPmi();
+    sendMechanical(mechanical);
+    const VisualizationBuilder scenes(settings, *structure, builder);
+    sendVisualization(scenes, drawn ? scenes.root(*drawn, mechanical.ids) : nullptr, *structure, progress);
     return importResult(model);
 }
 
-void Translator::sendBodies(const vrx::ExcProductStructure& structure, const ProductStructureBuilder& builder,
-                            ImportProgress& progress)
+void Translator::sendBodies(BlockBodies& bodies, const vrx::ExcProductStructure& structure,
+                            const ProductStructureBuilder& builder, ImportProgress& progress)
 {
     progress.beginStage("Sending the bodies", 65);
-    BlockBodies bodies;
     double done = 0;
     for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
     {
@@ -194,11 +199,26 @@ void Translator::sendBodies(const vrx::ExcProductStructure& structure, const Pro
     }
 }
 
-void Translator::sendVisualization(const VisualizationBuilder& builder, const DrawnPmi* drawn,
+void Translator::sendMechanical(const MechanicalPmi& pmi)
+{
+    if (pmi.root)
+    {
+        m_channel.send(pmi.root);
+        m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::RootMechanical));
+    }
+    for (const std::shared_ptr<vrx::ExcBlockMechanicalData>& block : pmi.blocks)
+    {
+        m_channel.send(block);
+    }
+    m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::Mechanical));
+}
+
+void Translator::sendVisualization(const VisualizationBuilder& builder,
+                                   const std::shared_ptr<vrx::ExcRootAssemblyVisualization>& root,
                                    const vrx::ExcProductStructure& structure, ImportProgress& progress)
 {
     progress.beginStage("Drawing the parts", 100);
-    if (const auto root = drawn != nullptr ? builder.root(*drawn, {}) : nullptr)
+    if (root)
     {
         m_channel.send(root);
         m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::RootVisualization));

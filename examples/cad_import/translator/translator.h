@@ -2,15 +2,17 @@
 
 #include "vrx_api/vrx_api_command.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
+#include "vrx_api/vrx_api_exchange_visualization.h"
 
 #include <memory>
 
+class BlockBodies;
 class HostChannel;
 class ImportProgress;
 class ProductStructureBuilder;
 class VisualizationBuilder;
-struct DrawnPmi;
 struct ImportSettings;
+struct MechanicalPmi;
 
 /// Answers commands until the host closes the pipe.
 class Translator
@@ -28,9 +30,11 @@ private:
     void sendInfo();
     vrx::Result import(const vrx::Command& command);
     vrx::Result translate(const ImportSettings& settings);
-    void sendBodies(const vrx::ExcProductStructure& structure, const ProductStructureBuilder& builder,
-                    ImportProgress& progress);
-    void sendVisualization(const VisualizationBuilder& builder, const DrawnPmi* drawn,
+    void sendBodies(BlockBodies& bodies, const vrx::ExcProductStructure& structure,
+                    const ProductStructureBuilder& builder, ImportProgress& progress);
+    void sendMechanical(const MechanicalPmi& pmi);
+    void sendVisualization(const VisualizationBuilder& builder,
+                           const std::shared_ptr<vrx::ExcRootAssemblyVisualization>& root,
                            const vrx::ExcProductStructure& structure, ImportProgress& progress);
 
     HostChannel& m_channel;

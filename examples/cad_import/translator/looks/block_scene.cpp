@@ -26,6 +26,44 @@ mp::wstring id(char kind, int position)
     return mp::toWide(kind + std::to_string(position));
 }
 
+// The numbers that the faces and edges have in one body, which is known to the mechanical data.
+class BodyIds
+{
+public:
+    // The body's number in the block, from 1; 0 for what is no body.
+    BodyIds(const TopoDS_Shape& shape, int body)
+        : m_body(body)
+    {
+        if (body > 0)
+        {
+            TopExp::MapShapes(shape, TopAbs_FACE, m_faces);
+            TopExp::MapShapes(shape, TopAbs_EDGE, m_edges);
+        }
+    }
+
+    mp::wstring ofFace(const TopoDS_Shape& face, const mp::wstring& sceneId) const
+    {
+        return of('f', m_faces, face, sceneId);
+    }
+    mp::wstring ofEdge(const TopoDS_Shape& edge, const mp::wstring& sceneId) const
+    {
+        return of('e', m_edges, edge, sceneId);
+    }
+
+private:
+    mp::wstring of(char kind, const TopTools_IndexedMapOfShape& parts, const TopoDS_Shape& part,
+                   const mp::wstring& sceneId) const
+    {
+        return m_body > 0
+                   ? mp::toWide(std::to_string(m_body - 1) + '/' + kind + std::to_string(parts.FindIndex(part) - 1))
+                   : sceneId;
+    }
+
+    int m_body;
+    TopTools_IndexedMapOfShape m_faces;
+    TopTools_IndexedMapOfShape m_edges;
+};
+
 class BlockScene
 {
 public:
@@ -38,6 +76,7 @@ public:
     {
         TopExp::MapShapes(m_shape, TopAbs_FACE, m_faces);
         TopExp::MapShapes(m_shape, TopAbs_EDGE, m_edges);
+        TopExp::MapShapes(m_shape, TopAbs_SOLID, m_solids);
     }
 
     std::shared_ptr<Node> build()
@@ -95,17 +134,18 @@ private:
     {
         const auto mesh = std::make_shared<vrx::ExcVisuMesh>();
         identify(*mesh, look);
+        const BodyIds ids(body, m_solids.FindIndex(body));
         for (TopExp_Explorer explorer(body, TopAbs_FACE); explorer.More(); explorer.Next())
         {
             if (const auto face = tessellation::face(TopoDS::Face(explorer.Current())))
             {
                 face->setId(id('f', m_faces.FindIndex(explorer.Current()) - 1));
-                face->setMechanicalId(face->id());
+                face->setMechanicalId(ids.ofFace(explorer.Current(), face->id()));
                 face->setColor(colorOf(explorer.Current()));
                 mesh->addFace(face);
             }
         }
-        addEdges(*mesh, body, TopAbs_SHAPE);
+        addEdges(*mesh, body, TopAbs_SHAPE, ids);
         if (!m_meshes)
         {
             m_meshes = scene_nodes::addTo(*m_geometry, Node::EType::MESHES);
@@ -120,7 +160,7 @@ private:
     {
         const auto wire = std::make_shared<vrx::ExcVisuWire>();
         identify(*wire, look);
-        addEdges(*wire, edges, TopAbs_FACE);
+        addEdges(*wire, edges, TopAbs_FACE, BodyIds(edges, 0));
         if (!m_wires)
         {
             m_wires = scene_nodes::addTo(*m_geometry, Node::EType::WIRES);
@@ -141,7 +181,7 @@ private:
     }
 
     template <class Item>
-    void addEdges(Item& item, const TopoDS_Shape& shape, TopAbs_ShapeEnum notWithin)
+    void addEdges(Item& item, const TopoDS_Shape& shape, TopAbs_ShapeEnum notWithin, const BodyIds& ids)
     {
         TopTools_IndexedMapOfShape edges; // each of them once, though two faces share it
         for (TopExp_Explorer explorer(shape, TopAbs_EDGE, notWithin); explorer.More(); explorer.Next())
@@ -152,7 +192,7 @@ private:
         {
             if (const auto edge = tessellation::edge(TopoDS::Edge(edges(i))))
             {
-                edge->setMechanicalId(id('e', m_edges.FindIndex(edges(i)) - 1));
+                edge->setMechanicalId(ids.ofEdge(edges(i), id('e', m_edges.FindIndex(edges(i)) - 1)));
                 edge->setColor(colorOf(edges(i)));
                 item.addEdge(edge);
             }
@@ -185,6 +225,7 @@ private:
     const ShapeLooks::Look* m_look; // the part's own, which stands on the root and gives way to that of a reference
     TopTools_IndexedMapOfShape m_faces;
     TopTools_IndexedMapOfShape m_edges;
+    TopTools_IndexedMapOfShape m_solids;
     std::shared_ptr<Node> m_root;
     std::shared_ptr<Node> m_geometry;
     std::shared_ptr<Node> m_meshes;

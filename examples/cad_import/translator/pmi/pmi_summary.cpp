@@ -1,31 +1,32 @@
 #include "pmi/pmi_summary.h"
 
 #include "host_channel.h"
+#include "pmi/step_datums.h"
+#include "pmi/step_dimensions.h"
+#include "pmi/step_tolerances.h"
 #include "reading/cad_model.h"
 
-#include <TDF_LabelSequence.hxx>
-#include <XCAFDoc_DimTolTool.hxx>
-#include <XCAFDoc_DocumentTool.hxx>
-#include <XCAFDoc_ViewTool.hxx>
-
+#include <algorithm>
 #include <string>
 
 void sendPmiSummary(const CadModel& model, HostChannel& channel)
 {
-    const Handle(XCAFDoc_DimTolTool) tolerancing = XCAFDoc_DocumentTool::DimTolTool(model.document->Main());
-    TDF_LabelSequence dimensions;
-    TDF_LabelSequence tolerances;
-    TDF_LabelSequence datums;
-    TDF_LabelSequence views;
-    tolerancing->GetDimensionLabels(dimensions);
-    tolerancing->GetGeomToleranceLabels(tolerances);
-    tolerancing->GetDatumLabels(datums);
-    XCAFDoc_DocumentTool::ViewTool(model.document->Main())->GetViewLabels(views);
-    if (dimensions.IsEmpty() && tolerances.IsEmpty() && datums.IsEmpty() && views.IsEmpty())
+    if (!model.records)
     {
         return;
     }
-    channel.message("The file holds PMI: dimensions " + std::to_string(dimensions.Length()) + ", tolerances " +
-                    std::to_string(tolerances.Length()) + ", datum uses " + std::to_string(datums.Length()) +
-                    ", saved views " + std::to_string(views.Length()) + ".");
+    const auto frames = step_tolerances::all(*model.records);
+    const auto composite = std::count_if(frames.begin(), frames.end(),
+                                         [](const step_tolerances::Frame& frame) { return bool(frame.lower); });
+    const std::size_t dimensions = step_dimensions::all(*model.records).size();
+    const std::size_t tolerances = frames.size() + static_cast<std::size_t>(composite);
+    const std::size_t datums = step_datums::datums(*model.records).size();
+    const std::size_t targets = step_datums::targets(*model.records).size();
+    const std::size_t annotations = model.records->all("DRAUGHTING_CALLOUT").size();
+    if (dimensions + tolerances + datums + targets + annotations > 0)
+    {
+        channel.message("The file holds PMI: dimensions " + std::to_string(dimensions) + ", tolerances " +
+                        std::to_string(tolerances) + ", datums " + std::to_string(datums) + ", datum targets " +
+                        std::to_string(targets) + ", drawn annotations " + std::to_string(annotations) + ".");
+    }
 }

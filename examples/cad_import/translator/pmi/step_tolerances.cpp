@@ -2,11 +2,13 @@
 
 #include "common/pmi_conventions.h"
 #include "mp/narrow.h"
+#include "pmi/step_datums.h"
 #include "pmi/step_dimensions.h"
 #include "pmi/step_quantity.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <map>
 #include <set>
 #include <string>
@@ -71,6 +73,13 @@ mp::wstring wordsOf(std::string name)
 void addLine(mp::wstring& text, const mp::wstring& line)
 {
     text += (text.empty() ? WIDE("") : WIDE("\n")) + line;
+}
+
+std::string numberText(double number)
+{
+    char text[32] = {};
+    std::snprintf(text, sizeof text, "%.10g", number);
+    return text;
 }
 
 struct Modifiers
@@ -174,12 +183,19 @@ private:
 
     void addDatum(Tolerance::DatumRef& reference, const StepRecord& datum, const Modifiers& modifiers)
     {
+        const mp::wstring label = step_datums::labelOf(datum);
+        reference.setLabel(reference.label() + (reference.label().empty() ? WIDE("") : WIDE("-")) + label);
         Tolerance::ModifiedDatum modified;
         modified.setDatumId(m_datumId(datum));
-        modified.setModifier(modifiers.known.empty() ? EModifier::NoModifier : modifiers.known.front());
-        const mp::wstring label = datum.is("SHAPE_ASPECT") ? datum.as("DATUM").text(0) : datum.text(4);
-        reference.setLabel(reference.label() + (reference.label().empty() ? WIDE("") : WIDE("-")) + label);
-        reference.addModifiedDatum(modified);
+        if (modifiers.known.empty())
+        {
+            reference.addModifiedDatum(modified);
+        }
+        for (const EModifier modifier : modifiers.known) // once for each
+        {
+            modified.setModifier(modifier);
+            reference.addModifiedDatum(modified);
+        }
         addLine(modifiers);
     }
 
@@ -224,8 +240,8 @@ Line lineOf(const StepRecord& tolerance)
         const StepRecord area = tolerance.as("GEOMETRIC_TOLERANCE_WITH_DEFINED_AREA_UNIT");
         line.rateUnit = {length, area.next(1) ? quantityOf(area.next(1)).value : length};
     }
-    const Modifiers modifiers = modifiersOf(tolerance.as("GEOMETRIC_TOLERANCE_WITH_MODIFIERS"),
-                                            tolerance.is("GEOMETRIC_TOLERANCE") ? 0 : 5);
+    const Modifiers modifiers =
+        modifiersOf(tolerance.as("GEOMETRIC_TOLERANCE_WITH_MODIFIERS"), tolerance.is("GEOMETRIC_TOLERANCE") ? 0 : 5);
     for (std::size_t i = 0; i < modifiers.known.size() && i < line.modifiers.size(); ++i)
     {
         line.modifiers[i] = modifiers.known[i];
@@ -233,9 +249,8 @@ Line lineOf(const StepRecord& tolerance)
     line.note = modifiers.others;
     if (tolerance.is("GEOMETRIC_TOLERANCE_WITH_MAXIMUM_TOLERANCE"))
     {
-        const double most =
-            quantityOf(tolerance.as("GEOMETRIC_TOLERANCE_WITH_MAXIMUM_TOLERANCE").next(0)).value;
-        addLine(line.note, mp::toWide(std::to_string(most) + " MAX"));
+        const double most = quantityOf(tolerance.as("GEOMETRIC_TOLERANCE_WITH_MAXIMUM_TOLERANCE").next(0)).value;
+        addLine(line.note, mp::toWide(numberText(most) + " MAX"));
     }
     return line;
 }
@@ -320,7 +335,7 @@ std::shared_ptr<vrx::ExcPMIGDT> make(const Frame& frame, const DatumId& datumId)
         }
     }
     const StepRecord target = frame.upper.as("GEOMETRIC_TOLERANCE").next(3);
-    tolerance->setAllAround(target.is("ALL_AROUND_SHAPE_ASPECT")     ? pmi_conventions::kAllAround
+    tolerance->setAllAround(target.is("ALL_AROUND_SHAPE_ASPECT")    ? pmi_conventions::kAllAround
                             : target.is("PRODUCT_DEFINITION_SHAPE") ? pmi_conventions::kAllOver
                                                                     : 0);
     FrameReader datums(*tolerance, datumId);

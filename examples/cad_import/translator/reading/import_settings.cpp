@@ -47,6 +47,7 @@ ImportSettings settingsOf(const vrx::LegacyImportOptions& options)
     ImportSettings settings = settingsOf(static_cast<const vrx::ImportOptions&>(options));
     settings.pmi = settings.pmi && options.pmiMode() != vrx::EPmiMode::None;
     settings.drawnPmi = options.pmiMode() == vrx::EPmiMode::Graphical;
+    settings.semanticPmi = options.pmiMode() == vrx::EPmiMode::Semantic;
     settings.structure = options.productStructureMode();
     settings.hiddenParts = options.hiddenPartsMode();
     settings.searchFolder = mp::toNarrow(options.alternateSearchPath(import_conventions::kFiles));

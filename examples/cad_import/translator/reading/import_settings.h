@@ -13,7 +13,8 @@ struct ImportSettings
     // of STEP files
     bool layers = true;
     bool pmi = true;
-    bool drawnPmi = true; // where there is PMI: its drawn annotations and saved views
+    bool drawnPmi = true;    // where there is PMI: its drawn annotations and saved views
+    bool semanticPmi = true; // and its data
 
     // of IGES files
     vrx::ETranslateHiddenEntitiesModeType hidden = vrx::ETranslateHiddenEntitiesModeType::All; // never Unknown

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "mp/wide.h"
+#include "reading/step_records.h"
+
+#include <vector>
+
+/// What a STEP file says in words of a drawn annotation.
+struct AnnotationText
+{
+    mp::wstring count;              // that stands before a dimension, such as "4X"
+    std::vector<mp::wstring> lines; // of text alone
+};
+
+/// By the validation property "equivalent unicode string" of a drawn annotation, or by a semantic text that it
+/// presents.
+AnnotationText annotationText(const StepRecord& annotation, const std::vector<StepRecord>& about);
