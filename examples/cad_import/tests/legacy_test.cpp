@@ -133,8 +133,8 @@ TEST(Legacy, BringsPmiAsTheModeSays)
     ASSERT_NE(graphical.root, nullptr);
     EXPECT_EQ(graphical.root->visualizationData()->views().size(), 1U);
     EXPECT_EQ(graphical.root->visualizationData()->sceneRootNodes().size(), 1U);
-    EXPECT_THAT(graphical.messages, ElementsAre(mp::toWide("The file holds PMI: dimensions 1, tolerances 0, datum "
-                                                           "uses 0, saved views 1.")));
+    EXPECT_THAT(graphical.messages, ElementsAre(mp::toWide("The file holds PMI: dimensions 1, tolerances 0, datums "
+                                                           "0, datum targets 0, drawn annotations 1.")));
 
     options->setPmiMode(vrx::EPmiMode::Semantic);
     const Imported semantic = importFile(MOVED_NOTE, options);

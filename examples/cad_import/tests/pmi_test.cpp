@@ -284,7 +284,7 @@ TEST(PmiNotation, OfFeatureControlFrames)
              g.setToleranceValueType(ExcPMIGDT::EToleranceValueType::Diameter);
              g.setRateUnit(25, 25);
          }},
-        {"⌓ 0.1 Ⓤ 0.2 A-B all over",
+        {"⌓ 0.1 Ⓤ 0.25 A-B all over",
          [](auto& g) {
              g.setToleranceType(EToleranceType::FormProfileAnySurface);
              g.setShiftValue(0.2);

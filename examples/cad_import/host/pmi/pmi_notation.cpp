@@ -291,7 +291,9 @@ std::vector<mp::wstring> lines(const vrx::ExcPMIGDT& gdt, const ReceivedPmi& pmi
             append(line, symbol(kModifierSigns, modifier));
         }
         append(line, isFirst ? circled(WIDE("Ⓟ "), gdt.projectionToleranceZoneLength()) : wstring());
-        append(line, isFirst ? circled(WIDE("Ⓤ "), gdt.shiftValue()) : wstring());
+        append(line, isFirst && gdt.shiftValue() != 0
+                         ? WIDE("Ⓤ ") + numberText(gdt.shiftValue() + gdt.toleranceValue() / 2)
+                         : wstring());
         for (const vrx::ExcPMIGDT::DatumRef& datums : frame.datums)
         {
             append(line, compartment(datums, pmi, [](wstring& text, EModifier modifier) {

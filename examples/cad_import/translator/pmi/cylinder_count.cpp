@@ -1,7 +1,13 @@
 #include "pmi/cylinder_count.h"
 
 #include <BRepAdaptor_Surface.hxx>
+#include <TopExp.hxx>
+#include <TopExp_Explorer.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
 #include <gp_Lin.hxx>
+
+#include <algorithm>
+#include <set>
 
 namespace
 {
@@ -31,23 +37,34 @@ bool areOfOne(const BRepAdaptor_Surface& left, const BRepAdaptor_Surface& right)
     }
 }
 
+bool shareAnEdge(const TopoDS_Face& left, const TopoDS_Face& right)
+{
+    TopTools_IndexedMapOfShape edges;
+    TopExp::MapShapes(left, TopAbs_EDGE, edges);
+    for (TopExp_Explorer explorer(right, TopAbs_EDGE); explorer.More(); explorer.Next())
+    {
+        if (edges.Contains(explorer.Current()))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 std::size_t cylinderCount(const std::vector<TopoDS_Face>& faces)
 {
-    std::vector<BRepAdaptor_Surface> found;
-    for (const TopoDS_Face& face : faces)
+    std::vector<std::size_t> groups; // of each face
+    for (std::size_t i = 0; i < faces.size(); ++i)
     {
-        const BRepAdaptor_Surface surface(face, false);
-        bool isNew = true;
-        for (const BRepAdaptor_Surface& other : found)
+        groups.push_back(i);
+        for (std::size_t j = 0; j < i; ++j)
         {
-            isNew = isNew && !areOfOne(surface, other);
-        }
-        if (isNew)
-        {
-            found.push_back(surface);
+            const bool isOne = areOfOne(BRepAdaptor_Surface(faces[i], false), BRepAdaptor_Surface(faces[j], false)) &&
+                               shareAnEdge(faces[i], faces[j]);
+            std::replace(groups.begin(), groups.end(), isOne ? groups[j] : i, groups[i]);
         }
     }
-    return found.size();
+    return std::set<std::size_t>(groups.begin(), groups.end()).size();
 }

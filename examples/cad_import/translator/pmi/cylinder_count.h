@@ -5,5 +5,6 @@
 #include <cstddef>
 #include <vector>
 
-/// How many cylinders, cones, spheres or tori the faces are on: pieces of one surface count once.
+/// How many holes, pins or balls the faces make: pieces of one surface that meet at an edge count once. Two holes in
+/// line are two.
 std::size_t cylinderCount(const std::vector<TopoDS_Face>& faces);

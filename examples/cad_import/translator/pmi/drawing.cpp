@@ -169,13 +169,14 @@ bool fill(const std::vector<std::vector<gp_Pnt>>& boundaries, Drawing& drawing)
     try
     {
         std::vector<Loop> loops;
+        loops.reserve(boundaries.size());
         for (const std::vector<gp_Pnt>& line : boundaries)
         {
             loops.emplace_back(line, *plane);
         }
         for (const TopoDS_Face& face : facesOf(loops, *plane))
         {
-            BRepMesh_IncrementalMesh(face, kDeflection);
+            const BRepMesh_IncrementalMesh mesher(face, kDeflection); // works when it is made
             addTriangles(face, drawing);
         }
     }

@@ -259,8 +259,8 @@ private:
             setPosition(annotation, *drawing);
         }
         annotation.setLinkedElements(m_links.of(aspects, block));
-        const mp::wstring id = mp::toWide(std::to_string(set.blockId()) + '/' + std::to_string(number) + '/') +
-                               listName + mp::toWide(std::to_string((view.*list)().size()));
+        mp::wstring id = mp::toWide(std::to_string(set.blockId()) + '/' + std::to_string(number) + '/') + listName +
+                         mp::toWide(std::to_string((view.*list)().size()));
         annotation.setId(id);
         add(view);
         return id;

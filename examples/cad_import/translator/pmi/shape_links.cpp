@@ -47,8 +47,8 @@ void gather(const StepRecord& aspect, std::vector<StepRecord>& all, std::set<int
         return;
     }
     all.push_back(aspect);
-    for (const char* type : {"SHAPE_ASPECT_RELATIONSHIP", "SHAPE_ASPECT_DERIVING_RELATIONSHIP",
-                             "FEATURE_FOR_DATUM_TARGET_RELATIONSHIP"})
+    for (const char* type :
+         {"SHAPE_ASPECT_RELATIONSHIP", "SHAPE_ASPECT_DERIVING_RELATIONSHIP", "FEATURE_FOR_DATUM_TARGET_RELATIONSHIP"})
     {
         for (const StepRecord& relationship : aspect.users(type))
         {
@@ -85,7 +85,7 @@ std::vector<int> itemsOf(const StepRecord& aspect)
 
 std::shared_ptr<vrx::ExcEntity> entity(std::uint64_t bodyId, const vrx::ExcSubentId& part)
 {
-    const auto entity = std::make_shared<vrx::ExcEntity>();
+    auto entity = std::make_shared<vrx::ExcEntity>();
     entity->setType(vrx::ExcEntity::EType::Fsp);
     entity->setFsp(std::make_shared<vrx::ExcFullSubentPath>(bodyId, part));
     return entity;
@@ -93,7 +93,7 @@ std::shared_ptr<vrx::ExcEntity> entity(std::uint64_t bodyId, const vrx::ExcSuben
 
 std::shared_ptr<vrx::ExcEntity> sceneEntity(const vrx::ExcSubentId& part)
 {
-    const auto entity = std::make_shared<vrx::ExcEntity>();
+    auto entity = std::make_shared<vrx::ExcEntity>();
     entity->setType(vrx::ExcEntity::EType::Visu);
     entity->setId(mp::toWide(static_cast<char>(part.type()) + std::to_string(part.index())));
     return entity;
@@ -108,8 +108,7 @@ ShapeLinks::ShapeLinks(const CadModel& model, const ProductStructureBuilder& blo
 {
 }
 
-std::vector<std::shared_ptr<vrx::ExcEntity>> ShapeLinks::of(const std::vector<StepRecord>& aspects,
-                                                            std::uint64_t block)
+std::vector<std::shared_ptr<vrx::ExcEntity>> ShapeLinks::of(const std::vector<StepRecord>& aspects, std::uint64_t block)
 {
     std::vector<std::shared_ptr<vrx::ExcEntity>> links;
     std::set<const TopoDS_TShape*> known;
@@ -148,7 +147,8 @@ std::vector<TopoDS_Shape> ShapeLinks::shapes(const std::vector<StepRecord>& aspe
     {
         gather(aspect, all, known);
     }
-    const Handle(Transfer_TransientProcess) transfer = m_model.step->Reader().WS()->TransferReader()->TransientProcess();
+    const Handle(Transfer_TransientProcess) transfer =
+        m_model.step->Reader().WS()->TransferReader()->TransientProcess();
     std::vector<TopoDS_Shape> shapes;
     for (const StepRecord& aspect : all)
     {

@@ -166,7 +166,7 @@ mp::wstring labelOf(const StepRecord& datum)
 std::shared_ptr<vrx::ExcPMIDatumTarget> makeTarget(const StepRecord& record, const StepRecords& records,
                                                    const ModelFrame& frame)
 {
-    const auto target = std::make_shared<Target>();
+    auto target = std::make_shared<Target>();
     const bool isComplex = record.is("SHAPE_ASPECT");
     const mp::wstring number = isComplex ? record.as("DATUM_TARGET").text(0) : record.text(4);
     const StepRecord datum = datumOf(record);

@@ -19,7 +19,7 @@ std::vector<StepRecord> features(const StepRecord& datum);
 
 mp::wstring labelOf(const StepRecord& datum);
 
-std::shared_ptr<vrx::ExcPMIDatumTarget> makeTarget(const StepRecord& target, const StepRecords& records,
+std::shared_ptr<vrx::ExcPMIDatumTarget> makeTarget(const StepRecord& record, const StepRecords& records,
                                                    const ModelFrame& frame);
 
 } // namespace step_datums

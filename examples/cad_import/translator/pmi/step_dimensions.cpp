@@ -27,8 +27,8 @@ bool isLocation(const StepRecord& dimension)
 
 struct Kind
 {
-    const char* name; // in the file; for those that begin so
-    Dimension::ESubType type;
+    const char* name = nullptr; // in the file; for those that begin so
+    Dimension::ESubType type = Dimension::ESubType::NoDim;
     const mp::wchar* prefix = WIDE("");
 };
 
@@ -48,8 +48,8 @@ const Kind kKinds[] = {
 void setKind(Dimension& dimension, const StepRecord& record)
 {
     const bool location = isLocation(record);
-    const mp::wstring name = location ? record.as("SHAPE_ASPECT_RELATIONSHIP").text(0)
-                                      : record.as("DIMENSIONAL_SIZE").text(1);
+    const mp::wstring name =
+        location ? record.as("SHAPE_ASPECT_RELATIONSHIP").text(0) : record.as("DIMENSIONAL_SIZE").text(1);
     dimension.setName(name);
     if (record.is("ANGULAR_LOCATION") || record.is("ANGULAR_SIZE"))
     {
@@ -98,7 +98,8 @@ const Note kNotes[] = {
 void applyNote(Dimension& dimension, const mp::wstring& text)
 {
     const std::string name = mp::toNarrow(text);
-    const auto* const note = std::find_if(std::begin(kNotes), std::end(kNotes), [&](const Note& one) { return name == one.name; });
+    const auto* const note =
+        std::find_if(std::begin(kNotes), std::end(kNotes), [&](const Note& one) { return name == one.name; });
     if (note != std::end(kNotes))
     {
         note->apply(dimension);
@@ -204,6 +205,7 @@ std::vector<StepRecord> all(const StepRecords& records)
     std::for_each(std::begin(kLocations), std::end(kLocations), add);
     std::for_each(std::begin(kSizes), std::end(kSizes), add);
     std::vector<StepRecord> dimensions;
+    dimensions.reserve(found.size());
     for (const auto& [id, dimension] : found)
     {
         dimensions.push_back(dimension);
@@ -223,7 +225,7 @@ std::vector<StepRecord> aspects(const StepRecord& dimension)
 
 std::shared_ptr<vrx::ExcPMIDimension> make(const StepRecord& record)
 {
-    const auto dimension = std::make_shared<Dimension>();
+    auto dimension = std::make_shared<Dimension>();
     setKind(*dimension, record);
     for (const StepRecord& characteristic : record.users("DIMENSIONAL_CHARACTERISTIC_REPRESENTATION"))
     {

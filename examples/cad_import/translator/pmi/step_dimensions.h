@@ -16,6 +16,6 @@ std::vector<StepRecord> all(const StepRecords& records);
 /// The shape aspects that a dimension is about: one for a size, the two ends for a location.
 std::vector<StepRecord> aspects(const StepRecord& dimension);
 
-std::shared_ptr<vrx::ExcPMIDimension> make(const StepRecord& dimension);
+std::shared_ptr<vrx::ExcPMIDimension> make(const StepRecord& record);
 
 } // namespace step_dimensions

@@ -287,6 +287,7 @@ std::vector<Frame> all(const StepRecords& records)
         }
     }
     std::vector<Frame> result;
+    result.reserve(frames.size());
     for (const auto& [id, frame] : frames)
     {
         result.push_back(frame);
@@ -307,7 +308,7 @@ std::vector<StepRecord> aspects(const StepRecord& tolerance)
 
 std::shared_ptr<vrx::ExcPMIGDT> make(const Frame& frame, const DatumId& datumId)
 {
-    const auto tolerance = std::make_shared<Tolerance>();
+    auto tolerance = std::make_shared<Tolerance>();
     tolerance->setName(frame.upper.as("GEOMETRIC_TOLERANCE").text(0));
     for (const auto& [name, type] : kTypes)
     {

@@ -18,7 +18,7 @@ struct CadModel
     std::unique_ptr<STEPCAFControl_Reader> step;
     std::unique_ptr<IGESControl_Reader> iges;
     std::unique_ptr<StepRecords> records; // of a STEP file whose PMI is wanted, otherwise null
-    bool namesUnit = true; // of lengths
+    bool namesUnit = true;                // of lengths
     /// For the user: what could not be read, so that the model may be incomplete. Otherwise empty.
     std::string damage;
     /// For the user: what else should be known of the model. Otherwise empty.

@@ -10,11 +10,17 @@ import { srgb } from './parts.js';
 
 const kColor = [23, 92, 211];
 const kLit = [224, 92, 0];
+const kTooLight = 170; // on the ground of the page; of 255
 const kBehind = 0.25; // how opaque what is seen from behind is
 const kFarOff = 1.5; // diagonals of the model
 const kReach = 8; // pixels across a stroke that still hit it
 
 const inks = new Map();
+
+// Files made for a dark ground say white.
+function legible([red, green, blue] = kColor) {
+  return 0.3 * red + 0.59 * green + 0.11 * blue > kTooLight ? kColor : [red, green, blue];
+}
 
 // The two materials of a colour in one of the looks 'plain', 'behind' and 'lit'.
 function ink([red, green, blue], look) {
@@ -41,7 +47,7 @@ class Annotation extends Group {
     this.shown = true;
     this.lit = false;
     this.look = 'plain';
-    const { stroke, filling } = ink(data.color ?? kColor, this.look);
+    const { stroke, filling } = ink(legible(data.color ?? undefined), this.look);
     const segments = floats(data.segments);
     if (segments.length) {
       this.#add('stroke', new LineSegments2(new LineSegmentsGeometry().setPositions(segments), stroke));
@@ -73,7 +79,7 @@ class Annotation extends Group {
   setLook(look) {
     if (look === this.look) return;
     this.look = look;
-    const materials = ink(look === 'lit' ? kLit : (this.data.color ?? kColor), look);
+    const materials = ink(look === 'lit' ? kLit : legible(this.data.color ?? undefined), look);
     for (const object of this.children) {
       object.material = materials[object.userData.ink];
       object.renderOrder = look === 'lit' ? 3 : 0;

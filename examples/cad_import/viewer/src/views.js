@@ -94,5 +94,10 @@ export function buildSavedViews(bar, stage, views, onOpen) {
     stage.look(kIsometric);
   });
   const buttons = [...bar.querySelectorAll('button')];
-  return (name) => buttons[Math.max(views.findIndex((view) => view.name === name), 0)].click();
+  // Without a name, the first one that shows an annotation.
+  return (name) => {
+    const named = views.findIndex((view) => view.name === name);
+    const first = views.findIndex((view) => view.annotationIds.length);
+    buttons[Math.max(named >= 0 ? named : first, 0)].click();
+  };
 }

@@ -1,0 +1,61 @@
+#include "acis_kernel/acis_kernel.h"
+#include "common/pmi_conventions.h"
+#include "host/pmi/received_pmi.h"
+#include "host/restored_bodies.h"
+#include "imported.h"
+
+#include <BRepAdaptor_Surface.hxx>
+#include <BinTools.hxx>
+#include <TopExp.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS.hxx>
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+TEST(PmiOfFile, NamesTheFacesOfTheBodiesThatWereSent)
+{
+    pmi_conventions::receiveMechanicalData();
+    const Imported imported = importFile(PIN);
+    ReceivedPmi pmi;
+    for (const std::shared_ptr<vrx::IExchangeObject>& object : imported.objects)
+    {
+        if (const auto data = std::dynamic_pointer_cast<vrx::ExcBlockMechanicalData>(object))
+        {
+            pmi.add(*data);
+        }
+    }
+    ASSERT_EQ(pmi.sets().size(), 1U);
+    const RestoredBodies bodies(*imported.bodies.at(pmi.sets()[0]->blockId()));
+    pmi.add(*imported.bodies.at(pmi.sets()[0]->blockId()));
+
+    const auto& drawn = *pmi.sets()[0]->views().back();
+    ASSERT_EQ(drawn.dimensions().size(), 1U);
+    const vrx::ExcPMIDimension& diameter = *drawn.dimensions().front();
+    const std::vector<PmiLink> links = pmi.links(diameter);
+    ASSERT_EQ(links.size(), 1U);
+    const auto& payload = dynamic_cast<const BODY&>(bodies.body(links[0].body)).payload();
+    std::istringstream stream(std::string(payload.begin(), payload.end()), std::ios::binary);
+    TopoDS_Shape shape;
+    BinTools::Read(shape, stream);
+    TopTools_IndexedMapOfShape faces;
+    TopExp::MapShapes(shape, TopAbs_FACE, faces);
+    const BRepAdaptor_Surface face(TopoDS::Face(faces(static_cast<int>(links[0].index) + 1)));
+    ASSERT_EQ(face.GetType(), GeomAbs_Cylinder);
+    EXPECT_DOUBLE_EQ(2 * face.Cylinder().Radius(), diameter.value());
+
+    // It is drawn in the plane of the file, whose origin is 30 above the bottom.
+    EXPECT_THAT((std::vector<double>{drawn.origin()[0], drawn.origin()[1], drawn.origin()[2]}),
+                testing::ElementsAre(0, -15, 30));
+    EXPECT_THAT((std::vector<double>{drawn.vectorV()[0], drawn.vectorV()[1], drawn.vectorV()[2]}),
+                testing::ElementsAre(0, 0, 1));
+    EXPECT_THAT((std::vector<double>{diameter.position()[0], diameter.position()[1]}), testing::ElementsAre(-12, 5));
+}
+
+} // namespace

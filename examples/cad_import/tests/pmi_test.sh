@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# The PMI of a file, as the host tells it. STEP_FILES may name the public test cases, which are held against what their
+# texts state and their drawings say.
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+"$host" --quiet --pmi-table "$example/tests/pin.step" | sed -n '/^PMI/,$p' >"$scratch/table"
+diff -u "$example/tests/pin.pmi.txt" "$scratch/table" || fail "the PMI is told otherwise"
+
+for file in ${STEP_FILES:-}; do
+    "$host" --quiet --json "$file" >"$scratch/pmi.json"
+    node "$example/tests/stated_pmi.js" "$(basename "$file")" "$scratch/pmi.json" || fail "$file states other PMI"
+done
