@@ -126,6 +126,13 @@ TEST(Legacy, NamesComponentsAndTheirMaterials)
     EXPECT_TRUE(materials.at(OdDbHandle(2)).hasMaterial);
 }
 
+template <class Object>
+std::ptrdiff_t countOf(const Imported& imported)
+{
+    return std::count_if(imported.objects.begin(), imported.objects.end(),
+                         [](const auto& object) { return std::dynamic_pointer_cast<Object>(object) != nullptr; });
+}
+
 TEST(Legacy, BringsPmiAsTheModeSays)
 {
     const auto options = vrx::Command::newLegacyImportOptions();
@@ -133,12 +140,14 @@ TEST(Legacy, BringsPmiAsTheModeSays)
     ASSERT_NE(graphical.root, nullptr);
     EXPECT_EQ(graphical.root->visualizationData()->views().size(), 1U);
     EXPECT_EQ(graphical.root->visualizationData()->sceneRootNodes().size(), 1U);
-    EXPECT_THAT(graphical.messages, ElementsAre(mp::toWide("The file holds PMI: dimensions 1, tolerances 0, datums "
+    EXPECT_THAT(graphical.messages, ElementsAre(mp::toWide("The file holds PMI: dimensions 0, tolerances 0, datums "
                                                            "0, datum targets 0, drawn annotations 1.")));
 
     options->setPmiMode(vrx::EPmiMode::Semantic);
     const Imported semantic = importFile(MOVED_NOTE, options);
     EXPECT_EQ(semantic.root, nullptr);
+    EXPECT_EQ(countOf<vrx::ExcBlockMechanicalData>(semantic), 1);
+    EXPECT_EQ(countOf<vrx::ExcBlockMechanicalData>(graphical), 0);
     EXPECT_EQ(semantic.messages, graphical.messages);
 
     options->setPmiMode(vrx::EPmiMode::None);
