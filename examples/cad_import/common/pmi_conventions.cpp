@@ -50,6 +50,27 @@ void readBases(const std::vector<std::shared_ptr<Annotation>>& annotations, cons
     }
 }
 
+// The units of feature control frames, which are their names in memory.
+void writeUnits(const vrx::ExcPMIAnnotationView& view, vrx::JsonValue& value, vrx::JsonAllocator& allocator)
+{
+    for (std::size_t i = 0; i < view.gdts().size(); ++i)
+    {
+        const mp::wstring& unit = view.gdts()[i]->name();
+        vrx::JsonValue text(unit.c_str(), static_cast<rapidjson::SizeType>(unit.size()), allocator);
+        value[WIDE("GDTs")][static_cast<rapidjson::SizeType>(i)].AddMember(WIDE("unit"), text, allocator);
+    }
+}
+
+void readUnits(const std::vector<std::shared_ptr<vrx::ExcPMIGDT>>& gdts, const vrx::JsonValue& view)
+{
+    const vrx::JsonValue* const array = arrayOf(view, WIDE("GDTs"), gdts.size());
+    for (std::size_t i = 0; array != nullptr && i < gdts.size(); ++i)
+    {
+        const vrx::JsonValue* const unit = member((*array)[static_cast<rapidjson::SizeType>(i)], WIDE("unit"));
+        gdts[i]->setName(unit != nullptr && unit->IsString() ? mp::wstring(unit->GetString()) : mp::wstring());
+    }
+}
+
 void readLinks(const vrx::ExcPMIAnnotationSet& set, const vrx::JsonValue& value)
 {
     const vrx::JsonValue* const views = arrayOf(value, WIDE("annotation_views"), set.views().size());
@@ -58,6 +79,7 @@ void readLinks(const vrx::ExcPMIAnnotationSet& set, const vrx::JsonValue& value)
         const vrx::JsonValue& view = (*views)[static_cast<rapidjson::SizeType>(i)];
         readBases(set.views()[i]->datums(), view, WIDE("datum"));
         readBases(set.views()[i]->gdts(), view, WIDE("GDTs"));
+        readUnits(set.views()[i]->gdts(), view);
     }
 }
 
@@ -92,11 +114,17 @@ void nameByPlaces(const vrx::ExcPMIAnnotationSet& set)
 void SentAnnotationSet::writeObject(vrx::JsonValue& value, vrx::JsonAllocator& allocator) const
 {
     ExcPMIAnnotationSet::writeObject(value, allocator);
-    if (const vrx::JsonValue* const views = member(value, WIDE("views")))
+    if (views().empty())
     {
-        vrx::JsonValue copy(*views, allocator);
-        value.AddMember(WIDE("annotation_views"), copy, allocator);
+        return;
     }
+    vrx::JsonValue& written = value[WIDE("views")];
+    for (std::size_t i = 0; i < views().size(); ++i)
+    {
+        writeUnits(*views()[i], written[static_cast<rapidjson::SizeType>(i)], allocator);
+    }
+    vrx::JsonValue copy(written, allocator);
+    value.AddMember(WIDE("annotation_views"), copy, allocator);
 }
 
 void ReceivedBlockMechanicalData::readObject(const vrx::JsonValue& value)

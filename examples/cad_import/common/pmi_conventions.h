@@ -14,8 +14,9 @@
 /// the block in the unit of the product structure, and positions are in that unit too, each the lower left
 /// corner of what is drawn. A view without directions holds the annotations that are drawn nowhere.
 ///
-/// - Values are those that the file states. A dimension has its unit. Tolerances of feature control frames are lengths
-///   in the unit of the file, which is a property of the product, `property_names::kFileLengthUnit`.
+/// - Values are those that the file states, with its unit. That of a feature control frame is its name, such as "mm" or
+///   "inch" as for dimensions, which crosses by a key "unit" of these programs' own. A dimension without a unit states
+///   no value.
 /// - Dimensions: "before" is what stands before the value, such as "4X"; a prefix other than empty replaces the symbol
 ///   of the sub type, as "S⌀" does. Fits are the alphanumerical tolerances, the upper one for a hole, the lower one for
 ///   a shaft. A dimension that states two limits and no value has their middle as its value, and the limits as its
@@ -43,7 +44,7 @@ inline const double kAllOver = 2;
 void nameByPlaces(const vrx::ExcPMIAnnotationSet& set);
 
 /// The views of a set are written as "views" and read as "annotation_views". This set writes them under both keys, so
-/// that a reader has them.
+/// that a reader has them, and the units of its feature control frames.
 class SentAnnotationSet : public vrx::ExcPMIAnnotationSet
 {
 public:
@@ -51,7 +52,7 @@ public:
 };
 
 /// Datums and feature control frames do not take back where they stand and what they are about. Data of this class, and
-/// of the one below, read that too, and name all annotations by their places.
+/// of the one below, read that too, with the units of the frames, and name all annotations by their places.
 class ReceivedBlockMechanicalData : public vrx::ExcBlockMechanicalData
 {
 public:

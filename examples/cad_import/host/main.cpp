@@ -102,8 +102,7 @@ void show(const ReceivedModel& model, const Arguments& arguments)
     {
         return;
     }
-    const std::string html =
-        model.page.html(*model.structure, pmiJson(model.pmi, *model.structure), arguments.viewName);
+    const std::string html = model.page.html(*model.structure, pmiJson(model.pmi), arguments.viewName);
     if (!arguments.view.empty())
     {
         writeText(arguments.view, html);

@@ -142,7 +142,7 @@ private:
 
     void pmi()
     {
-        const std::string json = pmiJson(m_extras.pmi, m_structure);
+        const std::string json = pmiJson(m_extras.pmi);
         m_writer.Key("pmi");
         m_writer.RawValue(json.c_str(), json.size(), rapidjson::kObjectType);
     }

@@ -33,7 +33,7 @@ const kStated = {
             orientation_angularity: 1,
             form_flatness: 1,
         },
-        [],
+        ['4X ⌀ 0.625 ±0.005', '(0.750)', '⌀ 2.00 ±0.01', '⌖ ⌀0.05 Ⓜ A B Ⓜ C Ⓜ', '⏥ 0.005/0.25×0.25', '∠ 0.04 A'],
     ],
     nist_ctc_05: [
         [6, 6, 10, 4, 2, 2],
@@ -45,7 +45,7 @@ const kStated = {
             form_circularity: 1,
             form_straightness: 1,
         },
-        [],
+        ['[1.250]', '5.000 ±0.008 ⟨ST⟩', '↗ 0.035 A-B', '⌰ 0.002 A', '◎ ⌀0.03 A', '⏤ 0.005', '○ 0.002'],
     ],
     nist_ftc_08: [
         [10, 10, 33, 11, 0, 13],
@@ -86,4 +86,6 @@ assert.deepEqual(byType, types);
 
 const told = Object.values(pmi).flatMap((list) => list.map(({ text }) => text));
 for (const text of texts) assert.ok(told.includes(text), `no "${text}"`);
+const inch = /_(ctc_03|ctc_05|ftc_08)/.test(name);
+for (const { text, unit } of tolerances) assert.equal(unit, inch ? 'inch' : 'mm', text);
 for (const { text, links } of [...dimensions, ...tolerances]) assert.ok(links.length > 0, `nothing is linked to ${text}`);

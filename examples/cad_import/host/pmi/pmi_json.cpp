@@ -3,7 +3,6 @@
 #include "common/pmi_conventions.h"
 #include "page_json.h"
 #include "pmi/control_frame.h"
-#include "pmi/length_unit.h"
 #include "pmi/pmi_notation.h"
 #include "pmi/wire_name.h"
 
@@ -63,9 +62,8 @@ std::vector<EModifier> modifiersOf(const vrx::ExcPMIGDT::DatumRef& reference)
 class PmiWriter
 {
 public:
-    PmiWriter(const ReceivedPmi& pmi, const vrx::ExcProductStructure& structure)
+    explicit PmiWriter(const ReceivedPmi& pmi)
         : m_pmi(pmi)
-        , m_tolerancesUnit(fileLengthUnit(structure))
     {
     }
 
@@ -141,7 +139,7 @@ private:
             }
             m_json.field("type", wireName(gdt, WIDE("tolerance_type")));
             m_json.number("value", lines[i].value);
-            m_json.field("unit", m_tolerancesUnit);
+            m_json.field("unit", gdt.name());
             m_json.field("zone", zoneName(lines[i].zone));
             m_json.numbers("rate_unit", lines[i].rateUnit);
             m_json.texts("modifiers", modifierNames(lines[i].modifiers));
@@ -353,13 +351,12 @@ private:
     }
 
     const ReceivedPmi& m_pmi;
-    mp::wstring m_tolerancesUnit;
     PageJson m_json;
 };
 
 } // namespace
 
-std::string pmiJson(const ReceivedPmi& pmi, const vrx::ExcProductStructure& structure)
+std::string pmiJson(const ReceivedPmi& pmi)
 {
-    return PmiWriter(pmi, structure).text();
+    return PmiWriter(pmi).text();
 }

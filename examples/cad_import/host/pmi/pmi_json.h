@@ -1,10 +1,9 @@
 #pragma once
 
 #include "pmi/received_pmi.h"
-#include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <string>
 
 /// The PMI as a JSON object in UTF-8: the arrays "dimensions", "tolerances", "datums", "datum_targets", "notes" and
 /// "views". The second line of a composite frame is a tolerance of its own behind the first one.
-std::string pmiJson(const ReceivedPmi& pmi, const vrx::ExcProductStructure& structure);
+std::string pmiJson(const ReceivedPmi& pmi);

@@ -157,6 +157,10 @@ wstring shownValue(const vrx::ExcPMIDimension& dimension, const wstring& unit)
     {
         return dimension.fakeAlphanumericalValue() + unit;
     }
+    if (dimension.unit() == vrx::ExcPMIDimension::EDimUnit::None && dimension.value() == 0)
+    {
+        return WIDE("–"); // none is stated
+    }
     const double value = dimension.hasFakeNumericalValue() ? dimension.fakeNumericalValue() : dimension.value();
     return numberText(value, dimension.valuePrecision()) + unit;
 }

@@ -1,6 +1,5 @@
 #include "pmi/pmi_table.h"
 
-#include "pmi/length_unit.h"
 #include "pmi/pmi_notation.h"
 #include "pmi/wire_name.h"
 #include "printable.h"
@@ -87,7 +86,6 @@ public:
     PmiTable(const ReceivedPmi& pmi, const vrx::ExcProductStructure& structure)
         : m_pmi(pmi)
         , m_structure(structure)
-        , m_fileUnit(fileLengthUnit(structure))
         , m_units(lengthUnits())
     {
     }
@@ -124,9 +122,9 @@ private:
                 {
                     units.insert(unit(*dimension));
                 }
-                if (!view->gdts().empty())
+                for (const std::shared_ptr<vrx::ExcPMIGDT>& gdt : view->gdts())
                 {
-                    units.insert(m_fileUnit);
+                    units.insert(gdt->name());
                 }
             }
         }
@@ -172,7 +170,7 @@ private:
     }
     std::string text(const vrx::ExcPMIGDT& gdt) const
     {
-        return joined(pmi_notation::lines(gdt, m_pmi), " / ") + unitText(m_fileUnit);
+        return joined(pmi_notation::lines(gdt, m_pmi), " / ") + unitText(gdt.name());
     }
     std::string text(const vrx::ExcPMIDatum& datum) const { return printable(pmi_notation::text(datum, m_pmi)); }
     static std::string text(const vrx::ExcPMIDatumTarget& target) { return printable(pmi_notation::text(target)); }
@@ -246,7 +244,6 @@ private:
 
     const ReceivedPmi& m_pmi;
     const vrx::ExcProductStructure& m_structure;
-    const mp::wstring m_fileUnit;
     const std::set<mp::wstring> m_units; // of all lengths
 };
 

@@ -68,6 +68,27 @@ void addQualifier(StepQuantity& quantity, const StepRecord& qualifier)
 
 } // namespace
 
+mp::wstring lengthUnitName(EDimUnit unit)
+{
+    switch (unit)
+    {
+    case EDimUnit::Mm:
+        return WIDE("mm");
+    case EDimUnit::Cm:
+        return WIDE("cm");
+    case EDimUnit::Meter:
+        return WIDE("meter");
+    case EDimUnit::Km:
+        return WIDE("km");
+    case EDimUnit::Inch:
+        return WIDE("inch");
+    case EDimUnit::Foot:
+        return WIDE("foot");
+    default:
+        return {};
+    }
+}
+
 StepQuantity quantityOf(const StepRecord& measure)
 {
     StepQuantity quantity;

@@ -15,5 +15,8 @@ struct StepQuantity
     std::vector<mp::wstring> qualifiers; // such as "maximum"
 };
 
+/// As dimensions have it on the wire; empty for what is no unit of lengths.
+mp::wstring lengthUnitName(vrx::ExcPMIDimension::EDimUnit unit);
+
 /// Of a measure with a unit, which may be a representation item as well; a quantity without a unit for anything else.
 StepQuantity quantityOf(const StepRecord& measure);

@@ -309,7 +309,8 @@ std::vector<StepRecord> aspects(const StepRecord& tolerance)
 std::shared_ptr<vrx::ExcPMIGDT> make(const Frame& frame, const DatumId& datumId)
 {
     auto tolerance = std::make_shared<Tolerance>();
-    tolerance->setName(frame.upper.as("GEOMETRIC_TOLERANCE").text(0));
+    const StepRecord magnitude = frame.upper.as("GEOMETRIC_TOLERANCE").next(2);
+    tolerance->setName(lengthUnitName(quantityOf(magnitude).unit));
     for (const auto& [name, type] : kTypes)
     {
         if (frame.upper.is(name))
