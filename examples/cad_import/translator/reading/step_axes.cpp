@@ -4,6 +4,8 @@
 #include <StepGeom_Direction.hxx>
 #include <gp.hxx>
 
+#include <cmath>
+
 namespace
 {
 
@@ -15,7 +17,8 @@ gp_Dir directionOf(const Handle(StepGeom_Direction) & direction, const gp_Dir& o
     }
     const gp_XYZ ratios(direction->DirectionRatiosValue(1), direction->DirectionRatiosValue(2),
                         direction->DirectionRatiosValue(3));
-    return ratios.Modulus() > gp::Resolution() ? gp_Dir(ratios) : otherwise;
+    const double length = ratios.Modulus();
+    return std::isfinite(length) && length > gp::Resolution() ? gp_Dir(ratios) : otherwise;
 }
 
 } // namespace
