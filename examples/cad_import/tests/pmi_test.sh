@@ -6,6 +6,10 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 "$host" --quiet --pmi-table "$example/tests/pin.step" | sed -n '/^PMI/,$p' >"$scratch/table"
 diff -u "$example/tests/pin.pmi.txt" "$scratch/table" || fail "the PMI is told otherwise"
 
+# A dimension between two parts belongs to the product, whose page finds them by their blocks.
+"$host" --quiet --pmi-table "$example/tests/cart.step" >"$scratch/cart"
+grep -A2 "the product" "$scratch/cart" | grep -q "20  block 2 face 0; block 3 face 0" || fail "no dimension of the product"
+
 for file in ${STEP_FILES:-}; do
     "$host" --quiet --json "$file" >"$scratch/pmi.json"
     node "$example/tests/stated_pmi.js" "$(basename "$file")" "$scratch/pmi.json" || fail "$file states other PMI"

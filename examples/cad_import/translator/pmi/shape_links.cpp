@@ -180,10 +180,23 @@ const ShapeLinks::Places& ShapeLinks::placesIn(std::uint64_t block)
         return known->second;
     }
     Places& places = m_places[block];
+    addPlaces(block, places);
+    if (places.empty()) // an assembly, whose annotations tell of its components
+    {
+        for (int i = 1; i <= m_blocks.blocks().Extent(); ++i)
+        {
+            addPlaces(static_cast<std::uint64_t>(i), places);
+        }
+    }
+    return places;
+}
+
+void ShapeLinks::addPlaces(std::uint64_t block, Places& places) const
+{
     const TopoDS_Shape shape = m_blocks.shapeOf(block);
     if (shape.IsNull())
     {
-        return places;
+        return;
     }
     const auto addParts = [&places](const TopoDS_Shape& whole, std::uint64_t bodyId) {
         for (const auto& [kind, type] : kParts)
@@ -204,5 +217,4 @@ const ShapeLinks::Places& ShapeLinks::placesIn(std::uint64_t block)
         addParts(solids(static_cast<int>(i) + 1), ids[i]);
     }
     addParts(shape, 0);
-    return places;
 }

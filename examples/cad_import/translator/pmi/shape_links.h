@@ -40,6 +40,7 @@ private:
     using Places = std::unordered_map<const TopoDS_TShape*, Place>;
 
     const Places& placesIn(std::uint64_t block);
+    void addPlaces(std::uint64_t block, Places& places) const;
     std::vector<TopoDS_Shape> shapes(const std::vector<StepRecord>& aspects) const;
 
     const CadModel& m_model;
