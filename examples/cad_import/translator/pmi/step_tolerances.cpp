@@ -39,7 +39,7 @@ const std::pair<const char*, EType> kTypes[] = {
     {"TOTAL_RUNOUT_TOLERANCE", EType::RunOutTotal},
 };
 
-// A modifier of a tolerance or a datum reference: one that the model has, or words for the note.
+// A modifier of a tolerance or a datum reference that the model has; the others become words in the note.
 struct Modifier
 {
     const char* name; // in the file
@@ -240,8 +240,9 @@ Line lineOf(const StepRecord& tolerance)
         const StepRecord area = tolerance.as("GEOMETRIC_TOLERANCE_WITH_DEFINED_AREA_UNIT");
         line.rateUnit = {length, area.next(1) ? quantityOf(area.next(1)).value : length};
     }
+    const StepRecord modified = tolerance.as("GEOMETRIC_TOLERANCE_WITH_MODIFIERS");
     const Modifiers modifiers =
-        modifiersOf(tolerance.as("GEOMETRIC_TOLERANCE_WITH_MODIFIERS"), tolerance.is("GEOMETRIC_TOLERANCE") ? 0 : 5);
+        tolerance.is("GEOMETRIC_TOLERANCE_WITH_MODIFIERS") ? modifiersOf(modified, 0) : Modifiers();
     for (std::size_t i = 0; i < modifiers.known.size() && i < line.modifiers.size(); ++i)
     {
         line.modifiers[i] = modifiers.known[i];
