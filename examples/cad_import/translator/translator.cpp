@@ -7,6 +7,8 @@
 #include "import_progress.h"
 #include "looks/palette_colors.h"
 #include "looks/visualization_builder.h"
+#include "mechanical/mechanical_data.h"
+#include "mechanical/shape_links.h"
 #include "mp/narrow.h"
 #include "pmi/drawn_pmi.h"
 #include "pmi/mechanical_pmi.h"
@@ -175,12 +177,17 @@ vrx::Result Translator::translate(const ImportSettings& settings)
 
     BlockBodies bodies;
     sendBodies(bodies, *structure, builder, progress);
-    const std::unique_ptr<DrawnPmi> drawn = drawnPmi(model, builder);
-    const MechanicalPmi mechanical =
-        drawn && settings.semanticPmi ? mechanicalPmi(model, builder, bodies, *drawn) : MechanicalPmi();
+    ShapeLinks links(model, builder, bodies);
+    MechanicalData mechanical;
+    const std::unique_ptr<DrawnPmi> drawn = settings.pmi ? drawnPmi(model, builder) : nullptr;
+    std::map<int, mp::wstring> drawnIds;
+    if (drawn && settings.semanticPmi)
+    {
+        drawnIds = addPmi(mechanical, model, builder, links, *drawn);
+    }
     sendMechanical(mechanical);
     const VisualizationBuilder scenes(settings, *structure, builder);
-    sendVisualization(scenes, drawn ? scenes.root(*drawn, mechanical.ids) : nullptr, *structure, progress);
+    sendVisualization(scenes, drawn ? scenes.root(*drawn, drawnIds) : nullptr, *structure, progress);
     return importResult(model);
 }
 
@@ -199,14 +206,14 @@ void Translator::sendBodies(BlockBodies& bodies, const vrx::ExcProductStructure&
     }
 }
 
-void Translator::sendMechanical(const MechanicalPmi& pmi)
+void Translator::sendMechanical(const MechanicalData& data)
 {
-    if (pmi.root)
+    if (data.root())
     {
-        m_channel.send(pmi.root);
+        m_channel.send(data.root());
         m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::RootMechanical));
     }
-    for (const std::shared_ptr<vrx::ExcBlockMechanicalData>& block : pmi.blocks)
+    for (const auto& [id, block] : data.blocks())
     {
         m_channel.send(block);
     }

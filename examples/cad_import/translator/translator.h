@@ -9,10 +9,10 @@
 class BlockBodies;
 class HostChannel;
 class ImportProgress;
+class MechanicalData;
 class ProductStructureBuilder;
 class VisualizationBuilder;
 struct ImportSettings;
-struct MechanicalPmi;
 
 /// Answers commands until the host closes the pipe.
 class Translator
@@ -32,7 +32,7 @@ private:
     vrx::Result translate(const ImportSettings& settings);
     void sendBodies(BlockBodies& bodies, const vrx::ExcProductStructure& structure,
                     const ProductStructureBuilder& builder, ImportProgress& progress);
-    void sendMechanical(const MechanicalPmi& pmi);
+    void sendMechanical(const MechanicalData& data);
     void sendVisualization(const VisualizationBuilder& builder,
                            const std::shared_ptr<vrx::ExcRootAssemblyVisualization>& root,
                            const vrx::ExcProductStructure& structure, ImportProgress& progress);

@@ -3,9 +3,9 @@
 #include "pmi/annotation_type.h"
 #include "pmi/item_drawer.h"
 #include "pmi/item_parameters.h"
-#include "pmi/pmi_blocks.h"
 #include "reading/cad_model.h"
 #include "reading/step_axes.h"
+#include "structure/product_blocks.h"
 
 #include <StepGeom_Plane.hxx>
 #include <StepRepr_RepresentationContext.hxx>
@@ -140,7 +140,7 @@ vrx::ExcColor colorOfStyles(const StepRecord& assignment)
 class Annotations
 {
 public:
-    Annotations(const CadModel& model, const PmiBlocks& blocks)
+    Annotations(const CadModel& model, const ProductBlocks& blocks)
         : m_records(*model.records)
         , m_blocks(blocks)
     {
@@ -273,14 +273,14 @@ private:
     }
 
     const StepRecords& m_records;
-    const PmiBlocks& m_blocks;
+    const ProductBlocks& m_blocks;
     std::set<int> m_known;
     std::vector<DrawnAnnotation> m_all;
 };
 
 } // namespace
 
-std::vector<DrawnAnnotation> drawnAnnotations(const CadModel& model, const PmiBlocks& blocks)
+std::vector<DrawnAnnotation> drawnAnnotations(const CadModel& model, const ProductBlocks& blocks)
 {
     return model.records ? Annotations(model, blocks).all() : std::vector<DrawnAnnotation>();
 }

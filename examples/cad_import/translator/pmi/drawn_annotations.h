@@ -12,7 +12,7 @@
 #include <vector>
 
 struct CadModel;
-class PmiBlocks;
+class ProductBlocks;
 
 /// An annotation as a STEP file draws it, in millimetres and in the coordinates of the product that it tells of.
 struct DrawnAnnotation
@@ -34,7 +34,7 @@ struct DrawnAnnotation
 };
 
 /// All annotations of a STEP file whose PMI was kept, also those of which nothing is drawn.
-std::vector<DrawnAnnotation> drawnAnnotations(const CadModel& model, const PmiBlocks& blocks);
+std::vector<DrawnAnnotation> drawnAnnotations(const CadModel& model, const ProductBlocks& blocks);
 
 /// The callouts and occurrences that an annotation's record consists of, with the record itself.
 std::vector<StepRecord> annotationParts(const StepRecord& record);

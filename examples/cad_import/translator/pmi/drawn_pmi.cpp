@@ -1,7 +1,7 @@
 #include "pmi/drawn_pmi.h"
 
-#include "pmi/pmi_blocks.h"
 #include "reading/cad_model.h"
+#include "structure/product_blocks.h"
 
 #include <utility>
 
@@ -11,9 +11,9 @@ std::unique_ptr<DrawnPmi> drawnPmi(const CadModel& model, const ProductStructure
     {
         return nullptr;
     }
-    const PmiBlocks pmiBlocks(model, blocks);
+    const ProductBlocks productBlocks(model, blocks);
     ProductPlaces places(model, blocks);
-    std::vector<DrawnAnnotation> annotations = drawnAnnotations(model, pmiBlocks);
-    std::vector<SavedView> views = savedViews(model, pmiBlocks, places, annotations);
+    std::vector<DrawnAnnotation> annotations = drawnAnnotations(model, productBlocks);
+    std::vector<SavedView> views = savedViews(model, productBlocks, places, annotations);
     return std::make_unique<DrawnPmi>(DrawnPmi{std::move(places), std::move(annotations), std::move(views)});
 }

@@ -18,5 +18,5 @@ struct DrawnPmi
     std::vector<SavedView> views;
 };
 
-/// Null for a model whose PMI was not kept.
+/// Null for a model without records.
 std::unique_ptr<DrawnPmi> drawnPmi(const CadModel& model, const ProductStructureBuilder& blocks);

@@ -1,15 +1,17 @@
 #include "pmi/mechanical_pmi.h"
 
 #include "common/pmi_conventions.h"
+#include "mechanical/mechanical_data.h"
+#include "mechanical/shape_links.h"
 #include "mp/narrow.h"
 #include "pmi/annotation_text.h"
 #include "pmi/cylinder_count.h"
-#include "pmi/pmi_blocks.h"
-#include "pmi/shape_links.h"
+#include "pmi/drawn_pmi.h"
 #include "pmi/step_datums.h"
 #include "pmi/step_dimensions.h"
 #include "pmi/step_tolerances.h"
 #include "reading/cad_model.h"
+#include "structure/product_blocks.h"
 #include "structure/product_structure_builder.h"
 
 #include <algorithm>
@@ -38,12 +40,11 @@ bool areSame(const vrx::ExcVector3d& left, const vrx::ExcVector3d& right, double
 class Builder
 {
 public:
-    Builder(const CadModel& model, const ProductStructureBuilder& blocks, const BlockBodies& bodies,
-            const DrawnPmi& drawn)
+    Builder(const CadModel& model, const ProductStructureBuilder& blocks, ShapeLinks& links, const DrawnPmi& drawn)
         : m_records(*model.records)
         , m_blocks(blocks)
-        , m_pmiBlocks(model, blocks)
-        , m_links(model, blocks, bodies)
+        , m_products(model, blocks)
+        , m_links(links)
         , m_drawn(drawn)
     {
         for (const DrawnAnnotation& annotation : drawn.annotations)
@@ -55,7 +56,7 @@ public:
         }
     }
 
-    MechanicalPmi build()
+    std::map<int, mp::wstring> build(MechanicalData& data)
     {
         addTargets();
         addDatums();
@@ -69,8 +70,8 @@ public:
         {
             addCapture(view);
         }
-        sendSets();
-        return std::move(m_result);
+        putSets(data);
+        return std::move(m_drawnIds);
     }
 
 private:
@@ -151,7 +152,7 @@ private:
             const auto known = m_ids.find(record.id());
             if (known != m_ids.end())
             {
-                m_result.ids[drawing.record.id()] = known->second;
+                m_drawnIds[drawing.record.id()] = known->second;
                 return;
             }
         }
@@ -172,8 +173,8 @@ private:
         {
             aspects.push_back(record.is("PROPERTY_DEFINITION") ? record.next(2) : record);
         }
-        m_result.ids[drawing.record.id()] = addTo(*note, drawing.block, &drawing, aspects, WIDE("notes/"), &View::notes,
-                                                  [&](View& view) { view.addNote(note); });
+        m_drawnIds[drawing.record.id()] = addTo(*note, drawing.block, &drawing, aspects, WIDE("notes/"), &View::notes,
+                                                [&](View& view) { view.addNote(note); });
     }
 
     void addCapture(const SavedView& view)
@@ -194,8 +195,8 @@ private:
         }
         for (const int record : view.annotations)
         {
-            const auto id = m_result.ids.find(record);
-            if (id != m_result.ids.end())
+            const auto id = m_drawnIds.find(record);
+            if (id != m_drawnIds.end())
             {
                 capture->addAnnotationId(id->second);
             }
@@ -234,9 +235,9 @@ private:
                const std::vector<StepRecord>& aspects, const mp::wchar* listName, List list, const Add& add)
     {
         const DrawnAnnotation* const drawing = drawingOf(records);
-        std::uint64_t block = aspects.empty() ? 0 : m_pmiBlocks.of(aspects.front());
+        std::uint64_t block = aspects.empty() ? 0 : m_products.of(aspects.front());
         block = block == 0 && drawing != nullptr ? drawing->block : block;
-        block = block == 0 ? m_pmiBlocks.top() : block;
+        block = block == 0 ? m_products.top() : block;
         const mp::wstring id = addTo(annotation, block, drawing, aspects, listName, list, add);
         for (const StepRecord& record : records)
         {
@@ -269,7 +270,7 @@ private:
     // What belongs to the assembly at the top belongs to the product as a whole.
     Set& setOf(std::uint64_t block)
     {
-        const bool isWhole = block == 0 || (block == m_pmiBlocks.top() && m_blocks.shapeOf(block).IsNull());
+        const bool isWhole = block == 0 || (block == m_products.top() && m_blocks.shapeOf(block).IsNull());
         std::shared_ptr<Set>& set = m_sets[isWhole ? 0 : block];
         if (!set)
         {
@@ -337,39 +338,31 @@ private:
         }
     }
 
-    void sendSets()
+    void putSets(MechanicalData& data)
     {
         for (const auto& [block, set] : m_sets)
         {
             const auto pmi = std::make_shared<vrx::ExcPMIData>();
             pmi->addAnnotationSet(set);
-            if (block == 0)
-            {
-                m_result.root = std::make_shared<vrx::ExcRootMechanicalData>();
-                m_result.root->setPMIData(pmi);
-                continue;
-            }
-            m_result.blocks.push_back(std::make_shared<vrx::ExcBlockMechanicalData>());
-            m_result.blocks.back()->setBlockId(block);
-            m_result.blocks.back()->setPMIData(pmi);
+            data.setPmi(block, pmi);
         }
     }
 
     const StepRecords& m_records;
     const ProductStructureBuilder& m_blocks;
-    PmiBlocks m_pmiBlocks;
-    ShapeLinks m_links;
+    ProductBlocks m_products;
+    ShapeLinks& m_links;
     const DrawnPmi& m_drawn;
     std::map<int, const DrawnAnnotation*> m_drawings; // the first of what they present, by its id
     std::map<int, mp::wstring> m_ids;                 // of annotations, by the records that state them
     std::map<std::uint64_t, std::shared_ptr<Set>> m_sets;
-    MechanicalPmi m_result;
+    std::map<int, mp::wstring> m_drawnIds; // of what annotations present, by their records
 };
 
 } // namespace
 
-MechanicalPmi mechanicalPmi(const CadModel& model, const ProductStructureBuilder& blocks, const BlockBodies& bodies,
-                            const DrawnPmi& drawn)
+std::map<int, mp::wstring> addPmi(MechanicalData& data, const CadModel& model, const ProductStructureBuilder& blocks,
+                                  ShapeLinks& links, const DrawnPmi& drawn)
 {
-    return Builder(model, blocks, bodies, drawn).build();
+    return Builder(model, blocks, links, drawn).build(data);
 }

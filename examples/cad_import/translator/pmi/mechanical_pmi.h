@@ -1,25 +1,16 @@
 #pragma once
 
 #include "mp/wide.h"
-#include "pmi/drawn_pmi.h"
-#include "vrx_api/vrx_api_exchange_mechanical.h"
 
 #include <map>
-#include <memory>
-#include <vector>
 
-class BlockBodies;
+class MechanicalData;
 class ProductStructureBuilder;
+class ShapeLinks;
 struct CadModel;
+struct DrawnPmi;
 
-/// The PMI of a model as data.
-struct MechanicalPmi
-{
-    std::shared_ptr<vrx::ExcRootMechanicalData> root; // null when nothing belongs to the product as a whole
-    std::vector<std::shared_ptr<vrx::ExcBlockMechanicalData>> blocks;
-    std::map<int, mp::wstring> ids; // of what annotations present, by their records
-};
-
-/// Of a model whose PMI was kept.
-MechanicalPmi mechanicalPmi(const CadModel& model, const ProductStructureBuilder& blocks, const BlockBodies& bodies,
-                            const DrawnPmi& drawn);
+/// Adds the PMI of a model as data to the mechanical data of its blocks. Gives the ids of what its annotations present,
+/// by their records.
+std::map<int, mp::wstring> addPmi(MechanicalData& data, const CadModel& model, const ProductStructureBuilder& blocks,
+                                  ShapeLinks& links, const DrawnPmi& drawn);

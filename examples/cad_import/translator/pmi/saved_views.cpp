@@ -3,10 +3,10 @@
 #include "mp/narrow.h"
 #include "pmi/annotation_scene.h"
 #include "pmi/item_parameters.h"
-#include "pmi/pmi_blocks.h"
 #include "reading/cad_model.h"
 #include "reading/step_axes.h"
 #include "reading/step_measures.h"
+#include "structure/product_blocks.h"
 
 #include <BRepBndLib.hxx>
 #include <Bnd_Box.hxx>
@@ -43,7 +43,7 @@ struct Extent
 class Views
 {
 public:
-    Views(const CadModel& model, const PmiBlocks& blocks, const ProductPlaces& places,
+    Views(const CadModel& model, const ProductBlocks& blocks, const ProductPlaces& places,
           const std::vector<DrawnAnnotation>& annotations)
         : m_model(model)
         , m_records(*model.records)
@@ -223,7 +223,7 @@ private:
 
     const CadModel& m_model;
     const StepRecords& m_records;
-    const PmiBlocks& m_blocks;
+    const ProductBlocks& m_blocks;
     const ProductPlaces& m_places;
     std::map<int, const DrawnAnnotation*> m_annotations; // by the ids of their records and of what these consist of
     std::map<int, Extent> m_extents;                     // by the id of the product definition
@@ -246,7 +246,7 @@ void describe(View& form, const SavedView& view, const char* kind, std::size_t n
 
 } // namespace
 
-std::vector<SavedView> savedViews(const CadModel& model, const PmiBlocks& blocks, const ProductPlaces& places,
+std::vector<SavedView> savedViews(const CadModel& model, const ProductBlocks& blocks, const ProductPlaces& places,
                                   const std::vector<DrawnAnnotation>& annotations)
 {
     return model.records ? Views(model, blocks, places, annotations).all() : std::vector<SavedView>();

@@ -12,7 +12,7 @@
 #include <optional>
 #include <vector>
 
-class PmiBlocks;
+class ProductBlocks;
 struct CadModel;
 
 /// A view that is saved in a STEP file, in millimetres and in the coordinates of the product that it shows.
@@ -35,7 +35,7 @@ struct SavedView
 };
 
 /// The saved views of a STEP file whose PMI was kept, with those of its annotations that they show.
-std::vector<SavedView> savedViews(const CadModel& model, const PmiBlocks& blocks, const ProductPlaces& places,
+std::vector<SavedView> savedViews(const CadModel& model, const ProductBlocks& blocks, const ProductPlaces& places,
                                   const std::vector<DrawnAnnotation>& annotations);
 
 vrx::ExcCamera cameraOf(const SavedView& view);

@@ -17,7 +17,7 @@ struct CadModel
     Handle(TDocStd_Document) document;
     std::unique_ptr<STEPCAFControl_Reader> step;
     std::unique_ptr<IGESControl_Reader> iges;
-    std::unique_ptr<StepRecords> records; // of a STEP file whose PMI is wanted, otherwise null
+    std::unique_ptr<StepRecords> records; // of a STEP file, otherwise null
     bool namesUnit = true;                // of lengths
     /// For the user: what could not be read, so that the model may be incomplete. Otherwise empty.
     std::string damage;

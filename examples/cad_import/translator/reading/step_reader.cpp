@@ -21,7 +21,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 
 namespace
 {
@@ -127,22 +126,15 @@ void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& pro
     progress.beginStage("Reading the file", 20);
     const Handle(XSControl_WorkSession) session = model.step->Reader().WS();
     {
-        std::optional<StepRecords::Keeper> keeper;
-        if (settings.pmi)
-        {
-            model.records = std::make_unique<StepRecords>();
-            keeper.emplace(*model.records, *session);
-        }
+        model.records = std::make_unique<StepRecords>();
+        const StepRecords::Keeper keeper(*model.records, *session);
         read(*model.step, file, progress);
     }
     const Handle(StepData_StepModel) entities = model.step->ChangeReader().StepModel();
     model.namesUnit = namesUnit(model.step->ChangeReader());
     model.damage = damage(*entities);
     findExternalFiles(*entities, file.path(), settings);
-    if (settings.pmi)
-    {
-        model.records->bind(*entities);
-    }
+    model.records->bind(*entities);
 
     progress.beginStage("Translating the shapes", 55);
     const Handle(KernelProgress) kernelProgress = new KernelProgress(progress);

@@ -1,4 +1,4 @@
-#include "pmi/shape_links.h"
+#include "mechanical/shape_links.h"
 
 #include "bodies/block_bodies.h"
 #include "mp/narrow.h"
@@ -83,7 +83,7 @@ std::vector<int> itemsOf(const StepRecord& aspect)
     return items;
 }
 
-std::shared_ptr<vrx::ExcEntity> entity(std::uint64_t bodyId, const vrx::ExcSubentId& part)
+std::shared_ptr<vrx::ExcEntity> bodyEntity(std::uint64_t bodyId, const vrx::ExcSubentId& part)
 {
     auto entity = std::make_shared<vrx::ExcEntity>();
     entity->setType(vrx::ExcEntity::EType::Fsp);
@@ -112,17 +112,27 @@ std::vector<std::shared_ptr<vrx::ExcEntity>> ShapeLinks::of(const std::vector<St
 {
     std::vector<std::shared_ptr<vrx::ExcEntity>> links;
     std::set<const TopoDS_TShape*> known;
-    const Places& places = placesIn(block);
     for (const TopoDS_Shape& shape : shapes(aspects))
     {
-        const auto found = places.find(shape.TShape().get());
-        if (found != places.end() && known.insert(found->first).second)
+        const std::shared_ptr<vrx::ExcEntity> link = entity(shape, block);
+        if (link && known.insert(shape.TShape().get()).second)
         {
-            const Place& place = found->second;
-            links.push_back(place.bodyId != 0 ? entity(place.bodyId, place.part) : sceneEntity(place.part));
+            links.push_back(link);
         }
     }
     return links;
+}
+
+std::shared_ptr<vrx::ExcEntity> ShapeLinks::entity(const TopoDS_Shape& shape, std::uint64_t block)
+{
+    const Places& places = placesIn(block);
+    const auto found = places.find(shape.TShape().get());
+    if (found == places.end())
+    {
+        return nullptr;
+    }
+    const Place& place = found->second;
+    return place.bodyId != 0 ? bodyEntity(place.bodyId, place.part) : sceneEntity(place.part);
 }
 
 std::vector<TopoDS_Face> ShapeLinks::faces(const std::vector<StepRecord>& aspects) const
@@ -147,15 +157,12 @@ std::vector<TopoDS_Shape> ShapeLinks::shapes(const std::vector<StepRecord>& aspe
     {
         gather(aspect, all, known);
     }
-    const Handle(Transfer_TransientProcess) transfer =
-        m_model.step->Reader().WS()->TransferReader()->TransientProcess();
     std::vector<TopoDS_Shape> shapes;
     for (const StepRecord& aspect : all)
     {
         for (const int item : itemsOf(aspect))
         {
-            const auto entity = m_model.records->entity<StepRepr_RepresentationItem>(item);
-            const TopoDS_Shape shape = entity.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(transfer, entity);
+            const TopoDS_Shape shape = shapeOf(item);
             if (!shape.IsNull() && shape.ShapeType() >= TopAbs_FACE)
             {
                 shapes.push_back(shape);
@@ -170,6 +177,14 @@ std::vector<TopoDS_Shape> ShapeLinks::shapes(const std::vector<StepRecord>& aspe
         }
     }
     return shapes;
+}
+
+TopoDS_Shape ShapeLinks::shapeOf(int item) const
+{
+    const auto entity = m_model.records->entity<StepRepr_RepresentationItem>(item);
+    const Handle(Transfer_TransientProcess) transfer =
+        m_model.step->Reader().WS()->TransferReader()->TransientProcess();
+    return entity.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(transfer, entity);
 }
 
 const ShapeLinks::Places& ShapeLinks::placesIn(std::uint64_t block)
@@ -214,7 +229,9 @@ void ShapeLinks::addPlaces(std::uint64_t block, Places& places) const
     const std::vector<std::uint64_t>& ids = m_bodies.ids(block);
     for (std::size_t i = 0; i < ids.size(); ++i)
     {
-        addParts(solids(static_cast<int>(i) + 1), ids[i]);
+        const TopoDS_Shape& solid = solids(static_cast<int>(i) + 1);
+        places.insert({solid.TShape().get(), {ids[i], {EType::Body, 0}}});
+        addParts(solid, ids[i]);
     }
     addParts(shape, 0);
 }

@@ -8,11 +8,11 @@
 struct CadModel;
 class ProductStructureBuilder;
 
-/// Which block of the product structure the file's PMI belongs to.
-class PmiBlocks
+/// Which block of the product structure a STEP file's records tell of.
+class ProductBlocks
 {
 public:
-    PmiBlocks(const CadModel& model, const ProductStructureBuilder& blocks);
+    ProductBlocks(const CadModel& model, const ProductStructureBuilder& blocks);
 
     /// The block of the product that a shape aspect, a product definition shape or a product definition tells of; 0
     /// when there is none, or when it was not sent.

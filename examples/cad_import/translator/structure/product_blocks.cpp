@@ -1,10 +1,10 @@
-#include "pmi/pmi_blocks.h"
+#include "structure/product_blocks.h"
 
 #include "reading/cad_model.h"
 #include "structure/component_labels.h"
 #include "structure/product_structure_builder.h"
 
-PmiBlocks::PmiBlocks(const CadModel& model, const ProductStructureBuilder& blocks)
+ProductBlocks::ProductBlocks(const CadModel& model, const ProductStructureBuilder& blocks)
 {
     const Handle(StepData_StepModel) entities = model.step->ChangeReader().StepModel();
     for (int i = 1; i <= blocks.blocks().Extent(); ++i)
@@ -20,7 +20,7 @@ PmiBlocks::PmiBlocks(const CadModel& model, const ProductStructureBuilder& block
     m_top = oneRoot && blocks.blocks().Extent() > 0 ? 1 : 0;
 }
 
-std::uint64_t PmiBlocks::of(const StepRecord& record) const
+std::uint64_t ProductBlocks::of(const StepRecord& record) const
 {
     StepRecord product = record;
     if (!product.is("PRODUCT_DEFINITION_SHAPE") && !product.is("PRODUCT_DEFINITION") &&

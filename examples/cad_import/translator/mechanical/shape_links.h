@@ -18,18 +18,26 @@ struct CadModel;
 class BlockBodies;
 class ProductStructureBuilder;
 
-/// Which faces and edges of a block's bodies the shape aspects of a STEP file tell of.
+/// Names the bodies of blocks, and their faces, edges and vertices, as entities: those that the records of a STEP file
+/// tell of, and any others.
 class ShapeLinks
 {
 public:
     ShapeLinks(const CadModel& model, const ProductStructureBuilder& blocks, const BlockBodies& bodies);
 
-    /// Each once, in the order of the file. A shape aspect stands for those of its parts too, a datum for those of its
-    /// features.
+    /// The faces, edges and vertices of which shape aspects tell, each once, in the order of the file. A shape aspect
+    /// stands for those of its parts too, a datum for those of its features.
     std::vector<std::shared_ptr<vrx::ExcEntity>> of(const std::vector<StepRecord>& aspects, std::uint64_t block);
 
     /// The same faces, as the kernel has them.
     std::vector<TopoDS_Face> faces(const std::vector<StepRecord>& aspects) const;
+
+    /// A solid, face, edge or vertex of a block, wherever it is placed and however it is turned; null when the block
+    /// has none such. Faces, edges and vertices outside of solids have their id in the scene.
+    std::shared_ptr<vrx::ExcEntity> entity(const TopoDS_Shape& shape, std::uint64_t block);
+
+    /// What the kernel has made of a geometric item of a STEP file, by the id of its record; null for nothing.
+    TopoDS_Shape shapeOf(int item) const;
 
 private:
     struct Place
