@@ -7,6 +7,7 @@
 #include "import_progress.h"
 #include "looks/palette_colors.h"
 #include "looks/visualization_builder.h"
+#include "mechanical/materials.h"
 #include "mechanical/mechanical_data.h"
 #include "mechanical/shape_links.h"
 #include "mp/narrow.h"
@@ -168,10 +169,11 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     const std::shared_ptr<vrx::ExcProductStructure> structure = builder.build();
     palette_colors::apply(*structure, settings.colors);
     m_channel.send(structure);
+    const std::vector<StatedMaterial> materials = statedMaterials(model, builder);
     if (settings.componentMaps)
     {
         m_channel.send(componentNames(*structure));
-        m_channel.send(componentMaterials(*structure, builder.materials()));
+        m_channel.send(componentMaterials(*structure, materials));
     }
     m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
 
@@ -179,6 +181,7 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     sendBodies(bodies, *structure, builder, progress);
     ShapeLinks links(model, builder, bodies);
     MechanicalData mechanical;
+    addMaterials(mechanical, materials, links);
     const std::unique_ptr<DrawnPmi> drawn = settings.pmi ? drawnPmi(model, builder) : nullptr;
     std::map<int, mp::wstring> drawnIds;
     if (drawn && settings.semanticPmi)

@@ -2,6 +2,7 @@
 
 #include "bodies/block_bodies.h"
 #include "mp/narrow.h"
+#include "reading/aspect_items.h"
 #include "reading/cad_model.h"
 #include "structure/product_structure_builder.h"
 
@@ -55,32 +56,6 @@ void gather(const StepRecord& aspect, std::vector<StepRecord>& all, std::set<int
             gather(behind(aspect, relationship, type), all, known);
         }
     }
-}
-
-void gatherReferences(const StepParameter& parameter, std::vector<int>& all)
-{
-    if (parameter.reference != 0)
-    {
-        all.push_back(parameter.reference);
-    }
-    for (const StepParameter& element : parameter.list)
-    {
-        gatherReferences(element, all);
-    }
-}
-
-// The geometry that an aspect itself names.
-std::vector<int> itemsOf(const StepRecord& aspect)
-{
-    std::vector<int> items;
-    for (const char* type : {"GEOMETRIC_ITEM_SPECIFIC_USAGE", "ITEM_IDENTIFIED_REPRESENTATION_USAGE"})
-    {
-        for (const StepRecord& usage : aspect.users(type))
-        {
-            gatherReferences(usage[4], items);
-        }
-    }
-    return items;
 }
 
 std::shared_ptr<vrx::ExcEntity> bodyEntity(std::uint64_t bodyId, const vrx::ExcSubentId& part)
@@ -160,7 +135,7 @@ std::vector<TopoDS_Shape> ShapeLinks::shapes(const std::vector<StepRecord>& aspe
     std::vector<TopoDS_Shape> shapes;
     for (const StepRecord& aspect : all)
     {
-        for (const int item : itemsOf(aspect))
+        for (const int item : aspect_items::of(aspect))
         {
             const TopoDS_Shape shape = shapeOf(item);
             if (!shape.IsNull() && shape.ShapeType() >= TopAbs_FACE)

@@ -7,15 +7,12 @@
 #include <Quantity_ColorRGBA.hxx>
 #include <TColStd_HSequenceOfExtendedString.hxx>
 #include <TDF_LabelSequence.hxx>
-#include <TDataStd_TreeNode.hxx>
 #include <TopExp.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
-#include <XCAFDoc.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_LayerTool.hxx>
-#include <XCAFDoc_MaterialTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 
 #include <algorithm>
@@ -105,29 +102,6 @@ void BlockContent::addCounts(vrx::ExcMiscData& data) const
     add(data, property_names::kSolids, solids.Extent());
     add(data, property_names::kShells, shells.Extent());
     add(data, property_names::kFaces, faces.Extent());
-}
-
-std::optional<Material> BlockContent::material() const
-{
-    for (const TDF_Label& label : m_labels)
-    {
-        Handle(TDataStd_TreeNode) node;
-        if (!label.FindAttribute(XCAFDoc::MaterialRefGUID(), node) || !node->HasFather())
-        {
-            continue;
-        }
-        Handle(TCollection_HAsciiString) name;
-        Handle(TCollection_HAsciiString) description;
-        Handle(TCollection_HAsciiString) densityName;
-        Handle(TCollection_HAsciiString) densityType;
-        double density = 0;
-        const Handle(XCAFDoc_MaterialTool) materials = XCAFDoc_DocumentTool::MaterialTool(label);
-        if (materials->GetMaterial(node->Father()->Label(), name, description, density, densityName, densityType))
-        {
-            return Material{occt_text::wide(name), density};
-        }
-    }
-    return std::nullopt;
 }
 
 void BlockContent::addLayers(vrx::ExcMiscData& data) const

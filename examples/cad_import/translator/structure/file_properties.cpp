@@ -33,9 +33,8 @@ namespace
 using vrx::ExcMiscProperty;
 
 const char kValidation[] = "geometric validation property";
-const char kMaterial[] = "material property";
 
-// The others are written for a receiver to check its own work with, or come in the XDE document.
+// The others are written for a receiver to check its own work with, or are no free properties.
 bool isAttribute(const std::string& name)
 {
     static const std::set<std::string> kOthers = {"",
@@ -43,7 +42,7 @@ bool isAttribute(const std::string& name)
                                                   "pmi validation property",
                                                   "assembly validation property",
                                                   "tessellated validation property",
-                                                  kMaterial};
+                                                  "material property"};
     return kOthers.count(name) == 0;
 }
 
@@ -171,10 +170,6 @@ void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepr
     }
     const Handle(Standard_Transient) entity = owner(definition->Definition());
     const std::string name = definition->Name()->ToCString();
-    if (!entity.IsNull() && name == kMaterial)
-    {
-        m_withMaterial.insert(entity.get());
-    }
     if (entity.IsNull() || !isAttribute(name))
     {
         return;
@@ -191,11 +186,6 @@ void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepr
         addItem(m_attributes[entity.get()], occt_text::wide(name == kValidation ? item->Name() : definition->Name()),
                 item, factor);
     }
-}
-
-bool FileProperties::hasMaterial(const Handle(Standard_Transient) & product) const
-{
-    return m_withMaterial.count(product.get()) > 0;
 }
 
 void FileProperties::addTo(vrx::ExcMiscData& data, const Handle(Standard_Transient) & entity) const

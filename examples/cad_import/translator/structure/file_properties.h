@@ -6,7 +6,6 @@
 #include <StepRepr_PropertyDefinitionRepresentation.hxx>
 
 #include <map>
-#include <set>
 
 struct CadModel;
 
@@ -23,9 +22,6 @@ public:
     /// Appends the attributes of a product definition or of a usage.
     void addTo(vrx::ExcMiscData& data, const Handle(Standard_Transient) & entity) const;
 
-    /// True if the file gives a material to the product definition. The XDE document takes other attributes for one.
-    bool hasMaterial(const Handle(Standard_Transient) & product) const;
-
 private:
     void readHead(const CadModel& model, const Handle(StepData_StepModel) & entities);
     void readAttributes(const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes);
@@ -33,5 +29,4 @@ private:
     double m_scale;
     vrx::ExcMiscData m_head;
     std::map<const Standard_Transient*, vrx::ExcMiscData> m_attributes;
-    std::set<const Standard_Transient*> m_withMaterial;
 };

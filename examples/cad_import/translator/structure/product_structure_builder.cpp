@@ -176,25 +176,7 @@ std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const TDF_Label& l
             }
         }
     }
-    if (m_properties.hasMaterial(product))
-    {
-        addMaterial(*block, content.material());
-    }
     return block;
-}
-
-void ProductStructureBuilder::addMaterial(vrx::ExcBlock& block, const std::optional<Material>& material)
-{
-    if (!material)
-    {
-        return;
-    }
-    m_materials[block.id()] = *material;
-    add(block.miscData(), property_names::kMaterial, vrx::ExcMiscProperty::EType::String, material->name);
-    if (material->density > 0)
-    {
-        add(block.miscData(), property_names::kDensity, material->density);
-    }
 }
 
 std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const TDF_Label& component)

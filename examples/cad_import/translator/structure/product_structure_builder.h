@@ -11,9 +11,7 @@
 #include <XCAFDoc_ShapeTool.hxx>
 
 #include <cstdint>
-#include <map>
 #include <memory>
-#include <optional>
 #include <vector>
 
 struct CadModel;
@@ -46,14 +44,10 @@ public:
     /// True for a product at the top, or a component of a product that is no part, that is not sent.
     bool isLeftOut(const TDF_Label& component) const;
 
-    /// The materials of the blocks that have one, by the id of the block.
-    const std::map<std::uint64_t, Material>& materials() const { return m_materials; }
-
 private:
     void addRoot(const TDF_Label& label);
     std::shared_ptr<vrx::ExcBlock> block(const TDF_Label& label, std::uint64_t id);
     std::shared_ptr<vrx::ExcBlockReference> reference(const TDF_Label& component);
-    void addMaterial(vrx::ExcBlock& block, const std::optional<Material>& material);
     std::uint64_t blockId(const TDF_Label& label);
     std::vector<TDF_Label> ownShapes(const TDF_Label& label) const;
     TopoDS_Shape shapeOf(const TDF_Label& product) const;
@@ -65,5 +59,4 @@ private:
     FileProperties m_properties;
     std::shared_ptr<vrx::ExcProductStructure> m_structure;
     TDF_LabelIndexedMap m_blocks;
-    std::map<std::uint64_t, Material> m_materials;
 };
