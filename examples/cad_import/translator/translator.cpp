@@ -7,6 +7,7 @@
 #include "import_progress.h"
 #include "looks/palette_colors.h"
 #include "looks/visualization_builder.h"
+#include "mechanical/layers.h"
 #include "mechanical/materials.h"
 #include "mechanical/mechanical_data.h"
 #include "mechanical/shape_links.h"
@@ -188,8 +189,12 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     {
         drawnIds = addPmi(mechanical, model, builder, links, *drawn);
     }
+    if (settings.layers)
+    {
+        addLayers(mechanical, model, builder, links, drawn.get(), drawnIds);
+    }
     sendMechanical(mechanical);
-    const VisualizationBuilder scenes(settings, *structure, builder);
+    const VisualizationBuilder scenes(settings, *structure, builder, hiddenOnLayers(model, links));
     sendVisualization(scenes, drawn ? scenes.root(*drawn, drawnIds) : nullptr, *structure, progress);
     return importResult(model);
 }

@@ -10,11 +10,19 @@
 #include "structure/product_structure_builder.h"
 
 VisualizationBuilder::VisualizationBuilder(const ImportSettings& settings, const vrx::ExcProductStructure& structure,
-                                           const ProductStructureBuilder& blocks)
+                                           const ProductStructureBuilder& blocks,
+                                           const std::vector<ShapeLinks::Link>& hidden)
     : m_settings(settings)
     , m_structure(structure)
     , m_blocks(blocks)
 {
+    if (settings.hiddenParts != vrx::EHiddenPartsMode::ImportShow)
+    {
+        for (const ShapeLinks::Link& link : hidden)
+        {
+            m_hidden.insert(link.shape);
+        }
+    }
 }
 
 std::shared_ptr<vrx::ExcRootAssemblyVisualization>
@@ -46,7 +54,7 @@ VisualizationBuilder::root(const DrawnPmi& drawn, const std::map<int, mp::wstrin
 std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vrx::ExcBlock& block) const
 {
     const auto scene = blockScene(m_blocks.blocks()(static_cast<int>(block.id())), m_blocks.shapeOf(block),
-                                  m_settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow);
+                                  m_settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow, m_hidden);
     if (!scene)
     {
         return nullptr;

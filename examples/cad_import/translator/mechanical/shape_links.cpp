@@ -1,6 +1,7 @@
 #include "mechanical/shape_links.h"
 
 #include "bodies/block_bodies.h"
+#include "kernel/loose_shells.h"
 #include "mp/narrow.h"
 #include "reading/aspect_items.h"
 #include "reading/cad_model.h"
@@ -11,6 +12,7 @@
 #include <TopExp_Explorer.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
 #include <TopoDS.hxx>
+#include <TopoDS_Iterator.hxx>
 #include <TransferBRep.hxx>
 #include <Transfer_TransientProcess.hxx>
 #include <XSControl_TransferReader.hxx>
@@ -110,6 +112,49 @@ std::shared_ptr<vrx::ExcEntity> ShapeLinks::entity(const TopoDS_Shape& shape, st
     return place.bodyId != 0 ? bodyEntity(place.bodyId, place.part) : sceneEntity(place.part);
 }
 
+std::vector<ShapeLinks::Link> ShapeLinks::everywhere(const TopoDS_Shape& shape)
+{
+    findHolders();
+    std::vector<Link> links;
+    const auto found = m_holders.find(shape.TShape().get());
+    if (found != m_holders.end())
+    {
+        for (const std::uint64_t block : found->second)
+        {
+            links.push_back({block, entity(shape, block), shape.TShape().get()});
+        }
+    }
+    else if (shape.ShapeType() < TopAbs_EDGE && shape.ShapeType() != TopAbs_FACE)
+    {
+        for (TopoDS_Iterator part(shape); part.More(); part.Next())
+        {
+            const std::vector<Link> more = everywhere(part.Value());
+            links.insert(links.end(), more.begin(), more.end());
+        }
+    }
+    return links;
+}
+
+void ShapeLinks::findHolders()
+{
+    if (!m_holders.empty())
+    {
+        return;
+    }
+    for (int i = 1; i <= m_blocks.blocks().Extent(); ++i)
+    {
+        const auto block = static_cast<std::uint64_t>(i);
+        if (m_blocks.shapeOf(block).IsNull())
+        {
+            continue;
+        }
+        for (const auto& [shape, place] : placesIn(block))
+        {
+            m_holders[shape].push_back(block);
+        }
+    }
+}
+
 std::vector<TopoDS_Face> ShapeLinks::faces(const std::vector<StepRecord>& aspects) const
 {
     std::vector<TopoDS_Face> faces;
@@ -156,10 +201,14 @@ std::vector<TopoDS_Shape> ShapeLinks::shapes(const std::vector<StepRecord>& aspe
 
 TopoDS_Shape ShapeLinks::shapeOf(int item) const
 {
-    const auto entity = m_model.records->entity<StepRepr_RepresentationItem>(item);
+    return shapeOf(m_model.records->entity<StepRepr_RepresentationItem>(item));
+}
+
+TopoDS_Shape ShapeLinks::shapeOf(const Handle(StepRepr_RepresentationItem) & item) const
+{
     const Handle(Transfer_TransientProcess) transfer =
         m_model.step->Reader().WS()->TransferReader()->TransientProcess();
-    return entity.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(transfer, entity);
+    return item.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(transfer, item);
 }
 
 const ShapeLinks::Places& ShapeLinks::placesIn(std::uint64_t block)
@@ -209,4 +258,10 @@ void ShapeLinks::addPlaces(std::uint64_t block, Places& places) const
         addParts(solid, ids[i]);
     }
     addParts(shape, 0);
+    const TopTools_IndexedMapOfShape shells = looseShells(shape);
+    for (int i = 1; i <= shells.Extent(); ++i)
+    {
+        const auto number = static_cast<std::uint64_t>(solids.Extent() + i - 1);
+        places.insert({shells(i).TShape().get(), {0, {EType::Body, number}}});
+    }
 }

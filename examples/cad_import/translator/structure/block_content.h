@@ -18,7 +18,6 @@ public:
     vrx::ExcColor color() const;
 
     void addCounts(vrx::ExcMiscData& data) const;
-    void addLayers(vrx::ExcMiscData& data) const;
 
     static vrx::ExcColor colorOf(const TDF_Label& label);
 

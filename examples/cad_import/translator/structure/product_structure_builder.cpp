@@ -164,7 +164,6 @@ std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const TDF_Label& l
     if (block->isPart())
     {
         content.addCounts(block->miscData());
-        content.addLayers(block->miscData());
     }
     else
     {
