@@ -7,6 +7,7 @@
 #include "import_progress.h"
 #include "looks/palette_colors.h"
 #include "looks/visualization_builder.h"
+#include "mechanical/entity_information.h"
 #include "mechanical/layers.h"
 #include "mechanical/materials.h"
 #include "mechanical/mechanical_data.h"
@@ -193,8 +194,11 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     {
         addLayers(mechanical, model, builder, links, drawn.get(), drawnIds);
     }
+    const bool showsHidden = settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow;
+    const auto hidden = showsHidden ? std::vector<ShapeLinks::Link>() : hiddenOnLayers(model, links);
+    addEntityInformation(mechanical, model, builder.frame(), links, hidden, showsHidden);
     sendMechanical(mechanical);
-    const VisualizationBuilder scenes(settings, *structure, builder, hiddenOnLayers(model, links));
+    const VisualizationBuilder scenes(settings, *structure, builder, hidden);
     sendVisualization(scenes, drawn ? scenes.root(*drawn, drawnIds) : nullptr, *structure, progress);
     return importResult(model);
 }

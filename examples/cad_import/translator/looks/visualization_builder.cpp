@@ -16,12 +16,9 @@ VisualizationBuilder::VisualizationBuilder(const ImportSettings& settings, const
     , m_structure(structure)
     , m_blocks(blocks)
 {
-    if (settings.hiddenParts != vrx::EHiddenPartsMode::ImportShow)
+    for (const ShapeLinks::Link& link : hidden)
     {
-        for (const ShapeLinks::Link& link : hidden)
-        {
-            m_hidden.insert(link.shape);
-        }
+        m_hidden.insert(link.shape);
     }
 }
 
