@@ -12,6 +12,7 @@
 #include "mechanical/materials.h"
 #include "mechanical/mechanical_data.h"
 #include "mechanical/shape_links.h"
+#include "mechanical/stated_figures.h"
 #include "mp/narrow.h"
 #include "pmi/drawn_pmi.h"
 #include "pmi/mechanical_pmi.h"
@@ -184,6 +185,7 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     ShapeLinks links(model, builder, bodies);
     MechanicalData mechanical;
     addMaterials(mechanical, materials, links);
+    addStatedFigures(mechanical, builder.properties(), links);
     const std::unique_ptr<DrawnPmi> drawn = settings.pmi ? drawnPmi(model, builder) : nullptr;
     std::map<int, mp::wstring> drawnIds;
     if (drawn && settings.semanticPmi)

@@ -18,6 +18,7 @@
 #include <XSControl_TransferReader.hxx>
 #include <XSControl_WorkSession.hxx>
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <utility>
@@ -110,6 +111,17 @@ std::shared_ptr<vrx::ExcEntity> ShapeLinks::entity(const TopoDS_Shape& shape, st
     }
     const Place& place = found->second;
     return place.bodyId != 0 ? bodyEntity(place.bodyId, place.part) : sceneEntity(place.part);
+}
+
+std::optional<std::size_t> ShapeLinks::bodyNumber(const TopoDS_Shape& solid, std::uint64_t block)
+{
+    const Places& places = placesIn(block);
+    const auto place = places.find(solid.TShape().get());
+    const std::vector<std::uint64_t>& ids = m_bodies.ids(block);
+    const auto id = place != places.end() && place->second.part.type() == EType::Body
+                        ? std::find(ids.begin(), ids.end(), place->second.bodyId)
+                        : ids.end();
+    return id != ids.end() ? std::optional(static_cast<std::size_t>(id - ids.begin())) : std::nullopt;
 }
 
 std::vector<ShapeLinks::Link> ShapeLinks::everywhere(const TopoDS_Shape& shape)

@@ -9,9 +9,11 @@
 #include <TopoDS_Shape.hxx>
 #include <TopoDS_TShape.hxx>
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -29,6 +31,9 @@ public:
     /// The faces, edges and vertices of which shape aspects tell, each once, in the order of the file. A shape aspect
     /// stands for those of its parts too, a datum for those of its features.
     std::vector<std::shared_ptr<vrx::ExcEntity>> of(const std::vector<StepRecord>& aspects, std::uint64_t block);
+
+    /// The position of a solid among the bodies of a block, if it is one of them.
+    std::optional<std::size_t> bodyNumber(const TopoDS_Shape& solid, std::uint64_t block);
 
     /// An entity of a block, and what the kernel has made of it.
     struct Link

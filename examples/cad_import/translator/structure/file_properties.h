@@ -19,14 +19,18 @@ public:
 
     const vrx::ExcMiscData& head() const { return m_head; }
 
+    /// The figures that the file states of single solids, by the ids of their items.
+    const std::map<int, vrx::ExcMiscData>& ofSolids() const { return m_ofSolids; }
+
     /// Appends the attributes of a product definition or of a usage.
     void addTo(vrx::ExcMiscData& data, const Handle(Standard_Transient) & entity) const;
 
 private:
     void readHead(const CadModel& model, const Handle(StepData_StepModel) & entities);
-    void readAttributes(const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes);
+    void readAttributes(const CadModel& model, const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes);
 
     double m_scale;
     vrx::ExcMiscData m_head;
     std::map<const Standard_Transient*, vrx::ExcMiscData> m_attributes;
+    std::map<int, vrx::ExcMiscData> m_ofSolids;
 };

@@ -30,6 +30,8 @@ public:
 
     const ModelFrame& frame() const { return m_frame; }
 
+    const FileProperties& properties() const { return m_properties; }
+
     /// All that a block shows, in the block's coordinates of the document; null for an assembly, which shows its
     /// components.
     TopoDS_Shape shapeOf(const vrx::ExcBlock& block) const;
