@@ -134,6 +134,7 @@ FileProperties::FileProperties(const CadModel& model, double scale)
             readAttributes(model, attributes);
         }
     }
+    takeFiguresOfWholes();
 }
 
 void FileProperties::readHead(const CadModel& model, const Handle(StepData_StepModel) & entities)
@@ -186,6 +187,14 @@ void FileProperties::readAttributes(const CadModel& model,
     {
         return;
     }
+    if (name == kValidation && definition->Definition().ShapeAspect().IsNull())
+    {
+        m_withFigures.insert(entity.get());
+    }
+    if (solid != 0 && !entity.IsNull())
+    {
+        m_solids[entity.get()].insert(solid);
+    }
     vrx::ExcMiscData& data = solid != 0 ? m_ofSolids[solid] : m_attributes[entity.get()];
     // A validation property is a group of figures, each of which has its own name: "volume measure" and so on.
     const double factor = lengthFactor(values) * m_scale;
@@ -197,6 +206,24 @@ void FileProperties::readAttributes(const CadModel& model,
             continue;
         }
         addItem(data, occt_text::wide(name == kValidation ? item->Name() : definition->Name()), item, factor);
+    }
+}
+
+// Many writers state the figures of a part of one solid with that solid only.
+void FileProperties::takeFiguresOfWholes()
+{
+    for (const auto& [entity, solids] : m_solids)
+    {
+        const auto figures = m_ofSolids.find(*solids.begin());
+        if (solids.size() > 1 || m_withFigures.count(entity) > 0 || figures == m_ofSolids.end())
+        {
+            continue;
+        }
+        for (const ExcMiscProperty& property : figures->second.properties())
+        {
+            m_attributes[entity].emplaceProperty(property);
+        }
+        m_ofSolids.erase(figures);
     }
 }
 
