@@ -30,7 +30,7 @@ bool readsLayers(vrx::ELayerNameProcessingModeType mode)
     const auto options = std::make_shared<vrx::imp::OptionsSTEP>();
     options->setLayerNameProcessingMode(mode);
     const Imported imported = importFile(BENCH_VISE, options);
-    EXPECT_EQ(imported.structure->blocks().size(), 20U);
+    EXPECT_EQ(imported.structure->blocks().size(), 21U);
     return hasLayers(imported);
 }
 

@@ -50,7 +50,7 @@ VisualizationBuilder::root(const DrawnPmi& drawn, const std::map<int, mp::wstrin
 
 std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vrx::ExcBlock& block) const
 {
-    const auto scene = blockScene(m_blocks.blocks()(static_cast<int>(block.id())), m_blocks.shapeOf(block),
+    const auto scene = blockScene(m_blocks.labelOf(block.id()), m_blocks.shapeOf(block),
                                   m_settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow, m_hidden);
     if (!scene)
     {

@@ -211,14 +211,13 @@ std::vector<Layered> layeredShapes(const CadModel& model, const ProductStructure
 {
     const Handle(XCAFDoc_LayerTool) tool = XCAFDoc_DocumentTool::LayerTool(model.document->Main());
     std::vector<Layered> all;
-    for (int i = 1; i <= blocks.blocks().Extent(); ++i)
+    for (std::uint64_t block = 1; block <= blocks.blockCount(); ++block)
     {
-        const auto block = static_cast<std::uint64_t>(i);
         TDF_LabelSequence labels;
         if (!blocks.shapeOf(block).IsNull())
         {
-            XCAFDoc_ShapeTool::GetSubShapes(blocks.blocks()(i), labels);
-            labels.Prepend(blocks.blocks()(i));
+            XCAFDoc_ShapeTool::GetSubShapes(blocks.labelOf(block), labels);
+            labels.Prepend(blocks.labelOf(block));
         }
         for (const TDF_Label& label : labels)
         {

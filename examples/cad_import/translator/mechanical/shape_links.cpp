@@ -153,9 +153,8 @@ void ShapeLinks::findHolders()
     {
         return;
     }
-    for (int i = 1; i <= m_blocks.blocks().Extent(); ++i)
+    for (std::uint64_t block = 1; block <= m_blocks.blockCount(); ++block)
     {
-        const auto block = static_cast<std::uint64_t>(i);
         if (m_blocks.shapeOf(block).IsNull())
         {
             continue;
@@ -234,9 +233,9 @@ const ShapeLinks::Places& ShapeLinks::placesIn(std::uint64_t block)
     addPlaces(block, places);
     if (places.empty()) // an assembly, whose annotations tell of its components
     {
-        for (int i = 1; i <= m_blocks.blocks().Extent(); ++i)
+        for (std::uint64_t id = 1; id <= m_blocks.blockCount(); ++id)
         {
-            addPlaces(static_cast<std::uint64_t>(i), places);
+            addPlaces(id, places);
         }
     }
     return places;
