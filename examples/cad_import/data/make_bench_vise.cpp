@@ -46,6 +46,7 @@ bool writeStep(const Handle(TDocStd_Document) & document, const char* path)
     STEPCAFControl_Writer writer;
     Interface_Static::SetCVal("write.step.schema", "AP214IS");
     Interface_Static::SetIVal("write.surfacecurve.mode", 0); // no curves on surfaces: half the size
+    writer.SetSHUOMode(true);
     if (!writer.Transfer(document))
     {
         return false;

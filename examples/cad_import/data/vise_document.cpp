@@ -8,6 +8,7 @@
 #include <Quantity_Color.hxx>
 #include <TCollection_HAsciiString.hxx>
 #include <TDF_Label.hxx>
+#include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
 #include <TopLoc_Location.hxx>
 #include <TopoDS_Compound.hxx>
@@ -16,6 +17,7 @@
 #include <XCAFDoc_Centroid.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
+#include <XCAFDoc_GraphNode.hxx>
 #include <XCAFDoc_LayerTool.hxx>
 #include <XCAFDoc_MaterialTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
@@ -46,6 +48,7 @@ const Look kGroundSteel{0.72, 0.74, 0.76};
 const Look kBlackOxide{0.13, 0.13, 0.14};
 const Look kBronze{0.72, 0.52, 0.22};
 const Look kBrightSteel{0.82, 0.83, 0.86};
+const Look kZincPlated{0.80, 0.76, 0.50};
 const Look kKnobRed{0.70, 0.08, 0.08};
 
 const Material kCastIron{"EN-GJL-250", 7.2};
@@ -130,6 +133,19 @@ public:
         m_colors->SetColor(label, Quantity_Color(look.red, look.green, look.blue, Quantity_TOC_sRGB), XCAFDoc_ColorGen);
     }
 
+    /// Of an instance below another one, for this one alone.
+    void setColor(const TDF_Label& upper, const TDF_Label& lower, const Look& look)
+    {
+        TDF_LabelSequence path;
+        path.Append(upper);
+        path.Append(lower);
+        Handle(XCAFDoc_GraphNode) node;
+        if (m_shapes->SetSHUO(path, node))
+        {
+            setColor(node->Label(), look);
+        }
+    }
+
     void finish() { m_shapes->UpdateAssemblies(); }
 
 private:
@@ -146,7 +162,13 @@ struct Screws
     TDF_Label m10;
 };
 
-TDF_Label jawPlateSet(Assembler& assembler, const Screws& screws)
+struct PlateSet
+{
+    TDF_Label assembly;
+    TDF_Label rightScrew; // of its two
+};
+
+PlateSet jawPlateSet(Assembler& assembler, const Screws& screws)
 {
     const TDF_Label plate = assembler.part("jaw plate", jawPlate(), kGroundSteel, kToolSteel, kMachined);
     const TDF_Label set = assembler.assembly("jaw plate set");
@@ -154,29 +176,32 @@ TDF_Label jawPlateSet(Assembler& assembler, const Screws& screws)
     // The head of a cap screw looks along +X out of the plate, its bearing plane is the counterbore's floor.
     const gp_Trsf lying = turned(gp::OY(), 90);
     assembler.place(set, screws.m8, "left screw", at(5, -28, 0) * lying);
-    assembler.place(set, screws.m8, "right screw", at(5, 28, 0) * lying);
-    return set;
+    const TDF_Label right = assembler.place(set, screws.m8, "right screw", at(5, 28, 0) * lying);
+    return {set, right};
 }
 
-TDF_Label fixedJawAssembly(Assembler& assembler, const Screws& screws, const TDF_Label& plateSet)
+TDF_Label fixedJawAssembly(Assembler& assembler, const Screws& screws, const PlateSet& plateSet)
 {
     const TDF_Label jaw = assembler.part("fixed jaw", fixedJaw(), kCastingBlue, kCastIron, kCastings);
     const TDF_Label assembly = assembler.assembly("fixed jaw assembly");
     assembler.place(assembly, jaw, "jaw", at(22, 0, 0));
-    assembler.place(assembly, plateSet, "front plate", at(22, 0, 38));
+    assembler.place(assembly, plateSet.assembly, "front plate", at(22, 0, 38));
     assembler.place(assembly, screws.m10, "bed screw left", at(4, -48, 18));
     assembler.place(assembly, screws.m10, "bed screw right", at(4, 48, 18));
     return assembly;
 }
 
-TDF_Label slidingJawAssembly(Assembler& assembler, const Screws& screws, const TDF_Label& plateSet)
+TDF_Label slidingJawAssembly(Assembler& assembler, const Screws& screws, const PlateSet& plateSet)
 {
     const TDF_Label jaw = assembler.part("sliding jaw", slidingJaw(), kCastingBlue, kCastIron, kCastings);
     const TDF_Label keeper = assembler.part("keeper strip", keeperStrip(), kGroundSteel, kSteel, kMachined);
     const TDF_Label retainer = assembler.part("retainer plate", retainerPlate(), kGroundSteel, kSteel, kMachined);
     const TDF_Label assembly = assembler.assembly("sliding jaw assembly");
     assembler.place(assembly, jaw, "jaw", at(-30, 0, 0));
-    assembler.place(assembly, plateSet, "front plate", at(-30, 0, 38) * turned(gp::OZ(), 180));
+    // One of the four screws of the two plates has been replaced.
+    const TDF_Label plate =
+        assembler.place(assembly, plateSet.assembly, "front plate", at(-30, 0, 38) * turned(gp::OZ(), 180));
+    assembler.setColor(plate, plateSet.rightScrew, kZincPlated);
     assembler.place(assembly, keeper, "keeper", at(-30, 0, -18));
     const gp_Trsf headDown = turned(gp::OX(), 180);
     assembler.place(assembly, screws.m8, "keeper screw 1", at(-22, 0, -26) * headDown);
@@ -221,7 +246,7 @@ Handle(TDocStd_Document) document()
         assembler.part("cap screw M8x20", capScrew(8, 20), kBlackOxide, kSteel, kStandard),
         assembler.part("cap screw M10x30", capScrew(10, 30), kBlackOxide, kSteel, kStandard),
     };
-    const TDF_Label plateSet = jawPlateSet(assembler, screws);
+    const PlateSet plateSet = jawPlateSet(assembler, screws);
     const TDF_Label bed = assembler.part("base", base(), kCastingBlue, kCastIron, kCastings);
     const TDF_Label bracket = assembler.part("spindle bracket", spindleBracket(), kCastingBlue, kCastIron, kCastings);
     const TDF_Label nut = assembler.part("spindle nut", spindleNut(), kBronze, kTinBronze, kMachined);

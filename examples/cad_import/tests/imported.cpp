@@ -32,6 +32,10 @@ public:
         {
             m_imported.bodies[bodies->blockId()] = bodies;
         }
+        else if (const auto data = std::dynamic_pointer_cast<vrx::ExcBlockMechanicalData>(object))
+        {
+            m_imported.mechanical[data->blockId()] = data;
+        }
         else if (const auto root = std::dynamic_pointer_cast<vrx::ExcRootAssemblyVisualization>(object))
         {
             m_imported.root = root;

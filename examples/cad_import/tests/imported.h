@@ -17,8 +17,9 @@ struct Imported
 {
     vrx::Result result;
     std::shared_ptr<vrx::ExcProductStructure> structure;
-    std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockVisualization>> scenes; // by block
-    std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockGeometry>> bodies;      // by block
+    std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockVisualization>> scenes;      // by block
+    std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockGeometry>> bodies;           // by block
+    std::map<std::uint64_t, std::shared_ptr<vrx::ExcBlockMechanicalData>> mechanical; // by block
     std::shared_ptr<vrx::ExcRootAssemblyVisualization> root;
     std::shared_ptr<vrx::LegacyComponentInstanceNames> names;
     std::shared_ptr<vrx::LegacyMaterialMap> materials;

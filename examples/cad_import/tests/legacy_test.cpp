@@ -114,7 +114,7 @@ TEST(Legacy, NamesComponentsAndTheirMaterials)
     ASSERT_NE(imported.materials, nullptr);
 
     const std::map<OdDbHandle, mp::wstring>& names = imported.names->map();
-    ASSERT_EQ(names.size(), 32U);
+    ASSERT_EQ(names.size(), 35U);
     // The root, its ten components, and those of the next block that has any.
     EXPECT_THAT(*names.begin(), Pair(OdDbHandle(1), WIDE("bench vise")));
     EXPECT_EQ(names.at(OdDbHandle(2)), WIDE("base"));

@@ -1,5 +1,3 @@
-#include "common/property_names.h"
-#include "host/find_property.h"
 #include "iges_sample.h"
 #include "imported.h"
 #include "vrx_api/vrx_api_format_options.h"
@@ -22,9 +20,8 @@ using Entities = vrx::EImportEntities;
 
 bool hasLayers(const Imported& imported)
 {
-    const auto& blocks = imported.structure->blocks();
-    return std::any_of(blocks.begin(), blocks.end(), [](const auto& block) {
-        return findProperty(block->miscData(), property_names::kLayer) != nullptr;
+    return std::any_of(imported.mechanical.begin(), imported.mechanical.end(), [](const auto& data) {
+        return data.second->miscData() && !data.second->miscData()->layers().empty();
     });
 }
 
@@ -33,7 +30,7 @@ bool readsLayers(vrx::ELayerNameProcessingModeType mode)
     const auto options = std::make_shared<vrx::imp::OptionsSTEP>();
     options->setLayerNameProcessingMode(mode);
     const Imported imported = importFile(BENCH_VISE, options);
-    EXPECT_EQ(imported.structure->blocks().size(), 20U);
+    EXPECT_EQ(imported.structure->blocks().size(), 21U);
     return hasLayers(imported);
 }
 
@@ -185,8 +182,10 @@ TEST_F(OptionsIges, PlacesAndLayersAreTheFiles)
     EXPECT_NEAR(place.affine()[1][0], 1, 1e-12);
 
     const auto& box = *imported.structure->getBlockById(product.blockReferences()[0]->blockId());
-    EXPECT_EQ(box.miscData().properties().back().name(), property_names::kLayer);
-    EXPECT_EQ(box.miscData().properties().back().value(), WIDE("4"));
+    const auto& layers = imported.mechanical.at(box.id())->miscData()->layers();
+    ASSERT_EQ(layers.size(), 1U);
+    EXPECT_EQ(layers[0]->id(), 4);
+    EXPECT_EQ(layers[0]->entities().size(), 1U);
 }
 
 } // namespace

@@ -7,8 +7,12 @@
 #include "import_progress.h"
 #include "looks/palette_colors.h"
 #include "looks/visualization_builder.h"
+#include "mechanical/entity_information.h"
+#include "mechanical/layers.h"
+#include "mechanical/materials.h"
 #include "mechanical/mechanical_data.h"
 #include "mechanical/shape_links.h"
+#include "mechanical/stated_figures.h"
 #include "mp/narrow.h"
 #include "pmi/drawn_pmi.h"
 #include "pmi/mechanical_pmi.h"
@@ -168,10 +172,11 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     const std::shared_ptr<vrx::ExcProductStructure> structure = builder.build();
     palette_colors::apply(*structure, settings.colors);
     m_channel.send(structure);
+    const std::vector<StatedMaterial> materials = statedMaterials(model, builder);
     if (settings.componentMaps)
     {
         m_channel.send(componentNames(*structure));
-        m_channel.send(componentMaterials(*structure, builder.materials()));
+        m_channel.send(componentMaterials(*structure, materials));
     }
     m_channel.send(std::make_shared<vrx::ExcStageFinished>(vrx::ExcStageFinished::EStage::ProductStructure));
 
@@ -179,14 +184,23 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     sendBodies(bodies, *structure, builder, progress);
     ShapeLinks links(model, builder, bodies);
     MechanicalData mechanical;
+    addMaterials(mechanical, materials, links);
+    addStatedFigures(mechanical, builder.properties(), links);
     const std::unique_ptr<DrawnPmi> drawn = settings.pmi ? drawnPmi(model, builder) : nullptr;
     std::map<int, mp::wstring> drawnIds;
     if (drawn && settings.semanticPmi)
     {
         drawnIds = addPmi(mechanical, model, builder, links, *drawn);
     }
+    if (settings.layers)
+    {
+        addLayers(mechanical, model, builder, links, drawn.get(), drawnIds);
+    }
+    const bool showsHidden = settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow;
+    const auto hidden = showsHidden ? std::vector<ShapeLinks::Link>() : hiddenOnLayers(model, links);
+    addEntityInformation(mechanical, model, builder.frame(), links, hidden, showsHidden);
     sendMechanical(mechanical);
-    const VisualizationBuilder scenes(settings, *structure, builder);
+    const VisualizationBuilder scenes(settings, *structure, builder, hidden);
     sendVisualization(scenes, drawn ? scenes.root(*drawn, drawnIds) : nullptr, *structure, progress);
     return importResult(model);
 }

@@ -1,5 +1,6 @@
 #include "looks/block_scene.h"
 
+#include "kernel/loose_shells.h"
 #include "looks/scene_nodes.h"
 #include "looks/shape_looks.h"
 #include "looks/tessellation.h"
@@ -67,10 +68,11 @@ private:
 class BlockScene
 {
 public:
-    BlockScene(const TDF_Label& part, const TopoDS_Shape& shape, bool showHidden)
+    BlockScene(const TDF_Label& part, const TopoDS_Shape& shape, bool showHidden, const HiddenShapes& hidden)
         : m_shape(shape)
-        , m_looks(part, showHidden)
+        , m_looks(part, showHidden, hidden)
         , m_look(m_looks.of(XCAFDoc_ShapeTool::GetShape(part)))
+        , m_shells(looseShells(shape))
         , m_root(scene_nodes::make(Node::EType::ROOT))
         , m_geometry(scene_nodes::addTo(*m_root, Node::EType::GEOMETRY))
     {
@@ -84,7 +86,7 @@ public:
         tessellation::mesh(m_shape);
         setLook(*m_root, m_look);
         addBodies(m_shape, nullptr);
-        return m_bodies > 0 ? m_root : nullptr;
+        return m_meshes || m_wires ? m_root : nullptr;
     }
 
 private:
@@ -133,7 +135,7 @@ private:
     void addMesh(const TopoDS_Shape& body, const ShapeLooks::Look* look)
     {
         const auto mesh = std::make_shared<vrx::ExcVisuMesh>();
-        identify(*mesh, look);
+        identify(*mesh, numberOf(body), look);
         const BodyIds ids(body, m_solids.FindIndex(body));
         for (TopExp_Explorer explorer(body, TopAbs_FACE); explorer.More(); explorer.Next())
         {
@@ -159,7 +161,7 @@ private:
     void addWire(const TopoDS_Shape& edges, const ShapeLooks::Look* look)
     {
         const auto wire = std::make_shared<vrx::ExcVisuWire>();
-        identify(*wire, look);
+        identify(*wire, numberOf(edges), look);
         addEdges(*wire, edges, TopAbs_FACE, BodyIds(edges, 0));
         if (!m_wires)
         {
@@ -171,10 +173,18 @@ private:
         setLook(*node, look != m_look ? look : nullptr);
     }
 
-    template <class Item>
-    void identify(Item& item, const ShapeLooks::Look* look)
+    // Solids come first, as their bodies do in the mechanical data, then shells, then the groups of what is left.
+    int numberOf(const TopoDS_Shape& body)
     {
-        item.setId(id('b', m_bodies++));
+        const int solid = m_solids.FindIndex(body);
+        const int shell = m_shells.FindIndex(body);
+        return solid > 0 ? solid - 1 : m_solids.Extent() + (shell > 0 ? shell - 1 : m_shells.Extent() + m_others++);
+    }
+
+    template <class Item>
+    void identify(Item& item, int number, const ShapeLooks::Look* look)
+    {
+        item.setId(id('b', number));
         item.setMechanicalId(item.id());
         item.setGeometryType(vrx::EVisuGeometryType::Part);
         item.setDisplayName(look ? look->name : mp::wstring());
@@ -226,16 +236,18 @@ private:
     TopTools_IndexedMapOfShape m_faces;
     TopTools_IndexedMapOfShape m_edges;
     TopTools_IndexedMapOfShape m_solids;
+    TopTools_IndexedMapOfShape m_shells; // outside of solids
     std::shared_ptr<Node> m_root;
     std::shared_ptr<Node> m_geometry;
     std::shared_ptr<Node> m_meshes;
     std::shared_ptr<Node> m_wires;
-    int m_bodies = 0;
+    int m_others = 0; // the groups of faces, or of edges, so far
 };
 
 } // namespace
 
-std::shared_ptr<vrx::ExcVisuNode> blockScene(const TDF_Label& part, const TopoDS_Shape& shape, bool showHidden)
+std::shared_ptr<vrx::ExcVisuNode> blockScene(const TDF_Label& part, const TopoDS_Shape& shape, bool showHidden,
+                                             const HiddenShapes& hidden)
 {
-    return shape.IsNull() ? nullptr : BlockScene(part, shape, showHidden).build();
+    return shape.IsNull() ? nullptr : BlockScene(part, shape, showHidden, hidden).build();
 }

@@ -6,6 +6,7 @@
 
 #include <TDF_LabelSequence.hxx>
 #include <TDataStd_Name.hxx>
+#include <TopoDS_Iterator.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
@@ -24,11 +25,31 @@ ShapeLooks::Look within(const ShapeLooks::Look& above, ShapeLooks::Look look)
 } // namespace
 
 // The product's own look is not that of its shapes: it gives way to the look of a reference.
-ShapeLooks::ShapeLooks(const TDF_Label& product, bool showHidden)
+ShapeLooks::ShapeLooks(const TDF_Label& product, bool showHidden, const HiddenShapes& hidden)
     : m_showHidden(showHidden)
 {
     add(product, TopLoc_Location(), lookOf(product), Look());
     addComponents(product, TopLoc_Location(), Look());
+    if (!hidden.empty())
+    {
+        hide(XCAFDoc_ShapeTool::GetShape(product), Look(), hidden);
+    }
+}
+
+// Bodies, and what is outside of them, look like the group that holds them where they have no look of their own.
+void ShapeLooks::hide(const TopoDS_Shape& shape, const Look& above, const HiddenShapes& hidden)
+{
+    const Look* const own = m_looks.Seek(shape);
+    Look look = own != nullptr ? *own : above;
+    if (hidden.count(shape.TShape().get()) > 0)
+    {
+        look.hidden = true;
+        m_looks.Bind(shape, look);
+    }
+    for (TopoDS_Iterator part(shape); shape.ShapeType() < TopAbs_SOLID && part.More(); part.Next())
+    {
+        hide(part.Value(), look, hidden);
+    }
 }
 
 ShapeLooks::Look ShapeLooks::lookOf(const TDF_Label& label) const

@@ -10,11 +10,16 @@
 #include "structure/product_structure_builder.h"
 
 VisualizationBuilder::VisualizationBuilder(const ImportSettings& settings, const vrx::ExcProductStructure& structure,
-                                           const ProductStructureBuilder& blocks)
+                                           const ProductStructureBuilder& blocks,
+                                           const std::vector<ShapeLinks::Link>& hidden)
     : m_settings(settings)
     , m_structure(structure)
     , m_blocks(blocks)
 {
+    for (const ShapeLinks::Link& link : hidden)
+    {
+        m_hidden.insert(link.shape);
+    }
 }
 
 std::shared_ptr<vrx::ExcRootAssemblyVisualization>
@@ -45,8 +50,8 @@ VisualizationBuilder::root(const DrawnPmi& drawn, const std::map<int, mp::wstrin
 
 std::shared_ptr<vrx::ExcBlockVisualization> VisualizationBuilder::block(const vrx::ExcBlock& block) const
 {
-    const auto scene = blockScene(m_blocks.blocks()(static_cast<int>(block.id())), m_blocks.shapeOf(block),
-                                  m_settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow);
+    const auto scene = blockScene(m_blocks.labelOf(block.id()), m_blocks.shapeOf(block),
+                                  m_settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow, m_hidden);
     if (!scene)
     {
         return nullptr;

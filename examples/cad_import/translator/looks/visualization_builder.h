@@ -1,11 +1,14 @@
 #pragma once
 
+#include "looks/shape_looks.h"
+#include "mechanical/shape_links.h"
 #include "mp/wide.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
 
 #include <map>
 #include <memory>
+#include <vector>
 
 class ProductStructureBuilder;
 struct DrawnPmi;
@@ -17,7 +20,7 @@ class VisualizationBuilder
 public:
     /// The structure is the one that `blocks` has built.
     VisualizationBuilder(const ImportSettings& settings, const vrx::ExcProductStructure& structure,
-                         const ProductStructureBuilder& blocks);
+                         const ProductStructureBuilder& blocks, const std::vector<ShapeLinks::Link>& hidden);
 
     /// Saved views and drawn annotations with their mechanical ids, by the ids of their records. Null when there is
     /// neither, or when they are not wanted.
@@ -31,4 +34,5 @@ private:
     const ImportSettings& m_settings;
     const vrx::ExcProductStructure& m_structure;
     const ProductStructureBuilder& m_blocks;
+    HiddenShapes m_hidden;
 };

@@ -1,7 +1,9 @@
 #include "mechanical/shape_links.h"
 
 #include "bodies/block_bodies.h"
+#include "kernel/loose_shells.h"
 #include "mp/narrow.h"
+#include "reading/aspect_items.h"
 #include "reading/cad_model.h"
 #include "structure/product_structure_builder.h"
 
@@ -10,11 +12,13 @@
 #include <TopExp_Explorer.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
 #include <TopoDS.hxx>
+#include <TopoDS_Iterator.hxx>
 #include <TransferBRep.hxx>
 #include <Transfer_TransientProcess.hxx>
 #include <XSControl_TransferReader.hxx>
 #include <XSControl_WorkSession.hxx>
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <utility>
@@ -55,32 +59,6 @@ void gather(const StepRecord& aspect, std::vector<StepRecord>& all, std::set<int
             gather(behind(aspect, relationship, type), all, known);
         }
     }
-}
-
-void gatherReferences(const StepParameter& parameter, std::vector<int>& all)
-{
-    if (parameter.reference != 0)
-    {
-        all.push_back(parameter.reference);
-    }
-    for (const StepParameter& element : parameter.list)
-    {
-        gatherReferences(element, all);
-    }
-}
-
-// The geometry that an aspect itself names.
-std::vector<int> itemsOf(const StepRecord& aspect)
-{
-    std::vector<int> items;
-    for (const char* type : {"GEOMETRIC_ITEM_SPECIFIC_USAGE", "ITEM_IDENTIFIED_REPRESENTATION_USAGE"})
-    {
-        for (const StepRecord& usage : aspect.users(type))
-        {
-            gatherReferences(usage[4], items);
-        }
-    }
-    return items;
 }
 
 std::shared_ptr<vrx::ExcEntity> bodyEntity(std::uint64_t bodyId, const vrx::ExcSubentId& part)
@@ -135,6 +113,59 @@ std::shared_ptr<vrx::ExcEntity> ShapeLinks::entity(const TopoDS_Shape& shape, st
     return place.bodyId != 0 ? bodyEntity(place.bodyId, place.part) : sceneEntity(place.part);
 }
 
+std::optional<std::size_t> ShapeLinks::bodyNumber(const TopoDS_Shape& solid, std::uint64_t block)
+{
+    const Places& places = placesIn(block);
+    const auto place = places.find(solid.TShape().get());
+    const std::vector<std::uint64_t>& ids = m_bodies.ids(block);
+    const auto id = place != places.end() && place->second.part.type() == EType::Body
+                        ? std::find(ids.begin(), ids.end(), place->second.bodyId)
+                        : ids.end();
+    return id != ids.end() ? std::optional(static_cast<std::size_t>(id - ids.begin())) : std::nullopt;
+}
+
+std::vector<ShapeLinks::Link> ShapeLinks::everywhere(const TopoDS_Shape& shape)
+{
+    findHolders();
+    std::vector<Link> links;
+    const auto found = m_holders.find(shape.TShape().get());
+    if (found != m_holders.end())
+    {
+        for (const std::uint64_t block : found->second)
+        {
+            links.push_back({block, entity(shape, block), shape.TShape().get()});
+        }
+    }
+    else if (shape.ShapeType() < TopAbs_EDGE && shape.ShapeType() != TopAbs_FACE)
+    {
+        for (TopoDS_Iterator part(shape); part.More(); part.Next())
+        {
+            const std::vector<Link> more = everywhere(part.Value());
+            links.insert(links.end(), more.begin(), more.end());
+        }
+    }
+    return links;
+}
+
+void ShapeLinks::findHolders()
+{
+    if (!m_holders.empty())
+    {
+        return;
+    }
+    for (std::uint64_t block = 1; block <= m_blocks.blockCount(); ++block)
+    {
+        if (m_blocks.shapeOf(block).IsNull())
+        {
+            continue;
+        }
+        for (const auto& [shape, place] : placesIn(block))
+        {
+            m_holders[shape].push_back(block);
+        }
+    }
+}
+
 std::vector<TopoDS_Face> ShapeLinks::faces(const std::vector<StepRecord>& aspects) const
 {
     std::vector<TopoDS_Face> faces;
@@ -160,7 +191,7 @@ std::vector<TopoDS_Shape> ShapeLinks::shapes(const std::vector<StepRecord>& aspe
     std::vector<TopoDS_Shape> shapes;
     for (const StepRecord& aspect : all)
     {
-        for (const int item : itemsOf(aspect))
+        for (const int item : aspect_items::of(aspect))
         {
             const TopoDS_Shape shape = shapeOf(item);
             if (!shape.IsNull() && shape.ShapeType() >= TopAbs_FACE)
@@ -181,10 +212,14 @@ std::vector<TopoDS_Shape> ShapeLinks::shapes(const std::vector<StepRecord>& aspe
 
 TopoDS_Shape ShapeLinks::shapeOf(int item) const
 {
-    const auto entity = m_model.records->entity<StepRepr_RepresentationItem>(item);
+    return shapeOf(m_model.records->entity<StepRepr_RepresentationItem>(item));
+}
+
+TopoDS_Shape ShapeLinks::shapeOf(const Handle(StepRepr_RepresentationItem) & item) const
+{
     const Handle(Transfer_TransientProcess) transfer =
         m_model.step->Reader().WS()->TransferReader()->TransientProcess();
-    return entity.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(transfer, entity);
+    return item.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(transfer, item);
 }
 
 const ShapeLinks::Places& ShapeLinks::placesIn(std::uint64_t block)
@@ -198,9 +233,9 @@ const ShapeLinks::Places& ShapeLinks::placesIn(std::uint64_t block)
     addPlaces(block, places);
     if (places.empty()) // an assembly, whose annotations tell of its components
     {
-        for (int i = 1; i <= m_blocks.blocks().Extent(); ++i)
+        for (std::uint64_t id = 1; id <= m_blocks.blockCount(); ++id)
         {
-            addPlaces(static_cast<std::uint64_t>(i), places);
+            addPlaces(id, places);
         }
     }
     return places;
@@ -234,4 +269,10 @@ void ShapeLinks::addPlaces(std::uint64_t block, Places& places) const
         addParts(solid, ids[i]);
     }
     addParts(shape, 0);
+    const TopTools_IndexedMapOfShape shells = looseShells(shape);
+    for (int i = 1; i <= shells.Extent(); ++i)
+    {
+        const auto number = static_cast<std::uint64_t>(solids.Extent() + i - 1);
+        places.insert({shells(i).TShape().get(), {0, {EType::Body, number}}});
+    }
 }

@@ -3,14 +3,17 @@
 #include "reading/step_records.h"
 #include "vrx_api/vrx_api_exchange_common.h"
 
+#include <StepRepr_RepresentationItem.hxx>
 #include <TopAbs_ShapeEnum.hxx>
 #include <TopoDS_Face.hxx>
 #include <TopoDS_Shape.hxx>
 #include <TopoDS_TShape.hxx>
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -29,15 +32,30 @@ public:
     /// stands for those of its parts too, a datum for those of its features.
     std::vector<std::shared_ptr<vrx::ExcEntity>> of(const std::vector<StepRecord>& aspects, std::uint64_t block);
 
+    /// The position of a solid among the bodies of a block, if it is one of them.
+    std::optional<std::size_t> bodyNumber(const TopoDS_Shape& solid, std::uint64_t block);
+
+    /// An entity of a block, and what the kernel has made of it.
+    struct Link
+    {
+        std::uint64_t block = 0;
+        std::shared_ptr<vrx::ExcEntity> entity;
+        const TopoDS_TShape* shape = nullptr;
+    };
+
+    /// A shape in each block that shows it; of one that is no entity, such as a group, its parts.
+    std::vector<Link> everywhere(const TopoDS_Shape& shape);
+
     /// The same faces, as the kernel has them.
     std::vector<TopoDS_Face> faces(const std::vector<StepRecord>& aspects) const;
 
-    /// A solid, face, edge or vertex of a block, wherever it is placed and however it is turned; null when the block
-    /// has none such. Faces, edges and vertices outside of solids have their id in the scene.
+    /// A solid, face, edge or vertex of a block, or a shell outside of its solids, wherever it is placed and however it
+    /// is turned; null when the block has none such. What is outside of solids has its id in the scene.
     std::shared_ptr<vrx::ExcEntity> entity(const TopoDS_Shape& shape, std::uint64_t block);
 
     /// What the kernel has made of a geometric item of a STEP file, by the id of its record; null for nothing.
     TopoDS_Shape shapeOf(int item) const;
+    TopoDS_Shape shapeOf(const Handle(StepRepr_RepresentationItem) & item) const;
 
 private:
     struct Place
@@ -49,10 +67,12 @@ private:
 
     const Places& placesIn(std::uint64_t block);
     void addPlaces(std::uint64_t block, Places& places) const;
+    void findHolders();
     std::vector<TopoDS_Shape> shapes(const std::vector<StepRecord>& aspects) const;
 
     const CadModel& m_model;
     const ProductStructureBuilder& m_blocks;
     const BlockBodies& m_bodies;
-    std::map<std::uint64_t, Places> m_places; // by block
+    std::map<std::uint64_t, Places> m_places;                                       // by block
+    std::unordered_map<const TopoDS_TShape*, std::vector<std::uint64_t>> m_holders; // the blocks that show a shape
 };

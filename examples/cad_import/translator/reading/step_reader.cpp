@@ -117,9 +117,9 @@ void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& pro
     model.step->SetColorMode(true);
     model.step->SetNameMode(true);
     model.step->SetPropsMode(true);
-    model.step->SetMatMode(true);
+    model.step->SetMatMode(false); // these and layers are read from the records
     model.step->SetSHUOMode(true);
-    model.step->SetLayerMode(settings.layers);
+    model.step->SetLayerMode(false);
     model.step->SetGDTMode(false); // what the kernel makes of it is not what the file states
     model.step->SetViewMode(false);
 

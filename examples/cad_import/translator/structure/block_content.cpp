@@ -1,27 +1,20 @@
 #include "structure/block_content.h"
 
 #include "common/property_names.h"
-#include "kernel/occt_text.h"
+#include "kernel/loose_shells.h"
 #include "structure/misc_properties.h"
 
 #include <Quantity_ColorRGBA.hxx>
-#include <TColStd_HSequenceOfExtendedString.hxx>
 #include <TDF_LabelSequence.hxx>
-#include <TDataStd_TreeNode.hxx>
 #include <TopExp.hxx>
-#include <TopExp_Explorer.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
-#include <XCAFDoc.hxx>
 #include <XCAFDoc_ColorTool.hxx>
 #include <XCAFDoc_DocumentTool.hxx>
-#include <XCAFDoc_LayerTool.hxx>
-#include <XCAFDoc_MaterialTool.hxx>
 #include <XCAFDoc_ShapeTool.hxx>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <set>
 
 namespace
 {
@@ -94,60 +87,10 @@ void BlockContent::addCounts(vrx::ExcMiscData& data) const
         return;
     }
     TopTools_IndexedMapOfShape solids;
-    TopTools_IndexedMapOfShape shells;
     TopTools_IndexedMapOfShape faces;
     TopExp::MapShapes(shape, TopAbs_SOLID, solids);
     TopExp::MapShapes(shape, TopAbs_FACE, faces);
-    for (TopExp_Explorer explorer(shape, TopAbs_SHELL, TopAbs_SOLID); explorer.More(); explorer.Next())
-    {
-        shells.Add(explorer.Current());
-    }
     add(data, property_names::kSolids, solids.Extent());
-    add(data, property_names::kShells, shells.Extent());
+    add(data, property_names::kShells, looseShells(shape).Extent());
     add(data, property_names::kFaces, faces.Extent());
-}
-
-std::optional<Material> BlockContent::material() const
-{
-    for (const TDF_Label& label : m_labels)
-    {
-        Handle(TDataStd_TreeNode) node;
-        if (!label.FindAttribute(XCAFDoc::MaterialRefGUID(), node) || !node->HasFather())
-        {
-            continue;
-        }
-        Handle(TCollection_HAsciiString) name;
-        Handle(TCollection_HAsciiString) description;
-        Handle(TCollection_HAsciiString) densityName;
-        Handle(TCollection_HAsciiString) densityType;
-        double density = 0;
-        const Handle(XCAFDoc_MaterialTool) materials = XCAFDoc_DocumentTool::MaterialTool(label);
-        if (materials->GetMaterial(node->Father()->Label(), name, description, density, densityName, densityType))
-        {
-            return Material{occt_text::wide(name), density};
-        }
-    }
-    return std::nullopt;
-}
-
-void BlockContent::addLayers(vrx::ExcMiscData& data) const
-{
-    const Handle(XCAFDoc_LayerTool) layers = XCAFDoc_DocumentTool::LayerTool(m_labels.front());
-    std::set<mp::wstring> names;
-    for (const TDF_Label& label : m_labels)
-    {
-        const Handle(TColStd_HSequenceOfExtendedString) found = layers->GetLayers(label);
-        if (found.IsNull())
-        {
-            continue;
-        }
-        for (int i = 1; i <= found->Length(); ++i)
-        {
-            names.insert(occt_text::wide(found->Value(i)));
-        }
-    }
-    for (const mp::wstring& name : names)
-    {
-        add(data, property_names::kLayer, vrx::ExcMiscProperty::EType::String, name);
-    }
 }

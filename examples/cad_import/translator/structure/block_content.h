@@ -5,14 +5,7 @@
 
 #include <TDF_Label.hxx>
 
-#include <optional>
 #include <vector>
-
-struct Material
-{
-    mp::wstring name;
-    double density = 0; // g/cm3; 0 when the file does not tell
-};
 
 /// What the XDE document says of one product: its label, and the labels of the shapes of which it consists when XDE
 /// has made an assembly of them.
@@ -25,10 +18,6 @@ public:
     vrx::ExcColor color() const;
 
     void addCounts(vrx::ExcMiscData& data) const;
-    void addLayers(vrx::ExcMiscData& data) const;
-
-    /// That of the first of its shapes that has one.
-    std::optional<Material> material() const;
 
     static vrx::ExcColor colorOf(const TDF_Label& label);
 

@@ -1,6 +1,9 @@
 #include "structure/component_maps.h"
 
-#include <vector>
+#include "mechanical/step_unit.h"
+
+#include <cstdint>
+#include <map>
 
 namespace
 {
@@ -14,6 +17,18 @@ std::vector<std::shared_ptr<vrx::ExcBlockReference>> componentsOf(const vrx::Exc
         components.insert(components.end(), block->blockReferences().begin(), block->blockReferences().end());
     }
     return components;
+}
+
+vrx::LegacyMaterialMap::Material componentMaterial(const vrx::ExcMiscMaterial& stated)
+{
+    vrx::LegacyMaterialMap::Material material;
+    material.hasMaterial = true;
+    material.name = stated.name();
+    if (const auto density = stated.get(vrx::ExcMiscMaterial::EProperty::Density))
+    {
+        material.density = gramsPerCubicCentimetre(*density).value_or(0);
+    }
+    return material;
 }
 
 } // namespace
@@ -30,21 +45,18 @@ std::shared_ptr<vrx::LegacyComponentInstanceNames> componentNames(const vrx::Exc
 }
 
 std::shared_ptr<vrx::LegacyMaterialMap> componentMaterials(const vrx::ExcProductStructure& structure,
-                                                           const std::map<std::uint64_t, Material>& ofBlocks)
+                                                           const std::vector<StatedMaterial>& ofBlocks)
 {
+    std::map<std::uint64_t, vrx::LegacyMaterialMap::Material> known;
+    for (const StatedMaterial& stated : ofBlocks)
+    {
+        known.insert({stated.block, componentMaterial(*stated.material)});
+    }
     auto materials = std::make_shared<vrx::LegacyMaterialMap>();
     std::uint64_t handle = 0;
     for (const auto& component : componentsOf(structure))
     {
-        vrx::LegacyMaterialMap::Material material;
-        const auto found = ofBlocks.find(component->blockId());
-        if (found != ofBlocks.end())
-        {
-            material.hasMaterial = true;
-            material.name = found->second.name;
-            material.density = found->second.density;
-        }
-        materials->addMaterial(OdDbHandle(++handle), material);
+        materials->addMaterial(OdDbHandle(++handle), known[component->blockId()]);
     }
     return materials;
 }

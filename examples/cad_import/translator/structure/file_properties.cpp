@@ -3,6 +3,7 @@
 #include "common/property_names.h"
 #include "kernel/occt_text.h"
 #include "mp/narrow.h"
+#include "reading/aspect_items.h"
 #include "reading/cad_model.h"
 #include "reading/step_measures.h"
 #include "structure/iges_head.h"
@@ -26,6 +27,7 @@
 
 #include <set>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -33,9 +35,8 @@ namespace
 using vrx::ExcMiscProperty;
 
 const char kValidation[] = "geometric validation property";
-const char kMaterial[] = "material property";
 
-// The others are written for a receiver to check its own work with, or come in the XDE document.
+// The others are written for a receiver to check its own work with, or are no free properties.
 bool isAttribute(const std::string& name)
 {
     static const std::set<std::string> kOthers = {"",
@@ -43,7 +44,7 @@ bool isAttribute(const std::string& name)
                                                   "pmi validation property",
                                                   "assembly validation property",
                                                   "tessellated validation property",
-                                                  kMaterial};
+                                                  "material property"};
     return kOthers.count(name) == 0;
 }
 
@@ -61,6 +62,14 @@ Handle(Standard_Transient) owner(const StepRepr_CharacterizedDefinition& describ
         return definition.ProductDefinition();
     }
     return definition.ProductDefinitionRelationship();
+}
+
+// The item of the solid of which a shape aspect tells, or 0 when that is not one.
+int onlySolid(const CadModel& model, const Handle(StepRepr_ShapeAspect) & aspect)
+{
+    const int id = aspect.IsNull() ? 0 : model.step->Reader().StepModel()->IdentLabel(aspect);
+    const std::vector<int> solids = aspect_items::solids(model.records->find(id));
+    return solids.size() == 1 ? solids.front() : 0;
 }
 
 void addItem(vrx::ExcMiscData& data, const mp::wstring& name, const Handle(StepRepr_RepresentationItem) & item,
@@ -122,9 +131,10 @@ FileProperties::FileProperties(const CadModel& model, double scale)
         const auto attributes = Handle(StepRepr_PropertyDefinitionRepresentation)::DownCast(entities->Value(i));
         if (!attributes.IsNull())
         {
-            readAttributes(attributes);
+            readAttributes(model, attributes);
         }
     }
+    takeFiguresOfWholes();
 }
 
 void FileProperties::readHead(const CadModel& model, const Handle(StepData_StepModel) & entities)
@@ -161,7 +171,8 @@ void FileProperties::readHead(const CadModel& model, const Handle(StepData_StepM
     }
 }
 
-void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes)
+void FileProperties::readAttributes(const CadModel& model,
+                                    const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes)
 {
     const Handle(StepRepr_PropertyDefinition) definition = attributes->Definition().PropertyDefinition();
     const Handle(StepRepr_Representation) values = attributes->UsedRepresentation();
@@ -169,16 +180,22 @@ void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepr
     {
         return;
     }
-    const Handle(Standard_Transient) entity = owner(definition->Definition());
     const std::string name = definition->Name()->ToCString();
-    if (!entity.IsNull() && name == kMaterial)
-    {
-        m_withMaterial.insert(entity.get());
-    }
-    if (entity.IsNull() || !isAttribute(name))
+    const int solid = name == kValidation ? onlySolid(model, definition->Definition().ShapeAspect()) : 0;
+    const Handle(Standard_Transient) entity = owner(definition->Definition());
+    if ((entity.IsNull() && solid == 0) || !isAttribute(name))
     {
         return;
     }
+    if (name == kValidation && definition->Definition().ShapeAspect().IsNull())
+    {
+        m_withFigures.insert(entity.get());
+    }
+    if (solid != 0 && !entity.IsNull())
+    {
+        m_solids[entity.get()].insert(solid);
+    }
+    vrx::ExcMiscData& data = solid != 0 ? m_ofSolids[solid] : m_attributes[entity.get()];
     // A validation property is a group of figures, each of which has its own name: "volume measure" and so on.
     const double factor = lengthFactor(values) * m_scale;
     for (int i = 1; i <= values->NbItems(); ++i)
@@ -188,14 +205,26 @@ void FileProperties::readAttributes(const Handle(StepRepr_PropertyDefinitionRepr
         {
             continue;
         }
-        addItem(m_attributes[entity.get()], occt_text::wide(name == kValidation ? item->Name() : definition->Name()),
-                item, factor);
+        addItem(data, occt_text::wide(name == kValidation ? item->Name() : definition->Name()), item, factor);
     }
 }
 
-bool FileProperties::hasMaterial(const Handle(Standard_Transient) & product) const
+// Many writers state the figures of a part of one solid with that solid only.
+void FileProperties::takeFiguresOfWholes()
 {
-    return m_withMaterial.count(product.get()) > 0;
+    for (const auto& [entity, solids] : m_solids)
+    {
+        const auto figures = m_ofSolids.find(*solids.begin());
+        if (solids.size() > 1 || m_withFigures.count(entity) > 0 || figures == m_ofSolids.end())
+        {
+            continue;
+        }
+        for (const ExcMiscProperty& property : figures->second.properties())
+        {
+            m_attributes[entity].emplaceProperty(property);
+        }
+        m_ofSolids.erase(figures);
+    }
 }
 
 void FileProperties::addTo(vrx::ExcMiscData& data, const Handle(Standard_Transient) & entity) const

@@ -20,18 +20,23 @@ public:
 
     const vrx::ExcMiscData& head() const { return m_head; }
 
+    /// The figures that the file states of single solids, by the ids of their items. Those of the only solid of a part
+    /// are figures of the part when it has no others.
+    const std::map<int, vrx::ExcMiscData>& ofSolids() const { return m_ofSolids; }
+
     /// Appends the attributes of a product definition or of a usage.
     void addTo(vrx::ExcMiscData& data, const Handle(Standard_Transient) & entity) const;
 
-    /// True if the file gives a material to the product definition. The XDE document takes other attributes for one.
-    bool hasMaterial(const Handle(Standard_Transient) & product) const;
-
 private:
     void readHead(const CadModel& model, const Handle(StepData_StepModel) & entities);
-    void readAttributes(const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes);
+    void readAttributes(const CadModel& model, const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes);
+
+    void takeFiguresOfWholes();
 
     double m_scale;
     vrx::ExcMiscData m_head;
     std::map<const Standard_Transient*, vrx::ExcMiscData> m_attributes;
-    std::set<const Standard_Transient*> m_withMaterial;
+    std::map<int, vrx::ExcMiscData> m_ofSolids;
+    std::map<const Standard_Transient*, std::set<int>> m_solids; // with figures, by what owns an aspect without a name
+    std::set<const Standard_Transient*> m_withFigures;           // of their own
 };

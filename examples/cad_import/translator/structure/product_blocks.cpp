@@ -7,17 +7,17 @@
 ProductBlocks::ProductBlocks(const CadModel& model, const ProductStructureBuilder& blocks)
 {
     const Handle(StepData_StepModel) entities = model.step->ChangeReader().StepModel();
-    for (int i = 1; i <= blocks.blocks().Extent(); ++i)
+    for (std::uint64_t id = 1; id <= blocks.blockCount(); ++id)
     {
-        const Handle(StepBasic_ProductDefinition) product = blocks.productOf(blocks.blocks()(i));
+        const Handle(StepBasic_ProductDefinition) product = blocks.productOf(blocks.labelOf(id));
         if (!product.IsNull())
         {
-            m_blocks[entities->IdentLabel(product)] = static_cast<std::uint64_t>(i);
+            m_blocks.insert({entities->IdentLabel(product), id});
         }
     }
     // The blocks at the top come first.
     const bool oneRoot = component_labels::roots(model.document).size() == 1;
-    m_top = oneRoot && blocks.blocks().Extent() > 0 ? 1 : 0;
+    m_top = oneRoot && blocks.blockCount() > 0 ? 1 : 0;
 }
 
 std::uint64_t ProductBlocks::of(const StepRecord& record) const

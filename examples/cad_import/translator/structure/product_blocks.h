@@ -15,7 +15,7 @@ public:
     ProductBlocks(const CadModel& model, const ProductStructureBuilder& blocks);
 
     /// The block of the product that a shape aspect, a product definition shape or a product definition tells of; 0
-    /// when there is none, or when it was not sent.
+    /// when there is none, or when it was not sent. Of several blocks of an assembly the first.
     std::uint64_t of(const StepRecord& record) const;
 
     /// The block of the only product at the top, or 0.

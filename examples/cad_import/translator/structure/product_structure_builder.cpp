@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 namespace
 {
@@ -74,6 +75,7 @@ ProductStructureBuilder::ProductStructureBuilder(const CadModel& model, const Im
     , m_frame(model, settings)
     , m_labels(model)
     , m_properties(model, m_frame.scale())
+    , m_styles(model.document)
 {
 }
 
@@ -91,9 +93,9 @@ std::shared_ptr<vrx::ExcProductStructure> ProductStructureBuilder::build()
         }
     }
     // A block's references append the blocks that they name, so this goes down the whole tree.
-    for (int i = 1; i <= m_blocks.Extent(); ++i)
+    for (std::uint64_t id = 1; id <= m_blocks.size(); ++id)
     {
-        m_structure->addBlock(block(m_blocks(i), static_cast<std::uint64_t>(i)));
+        m_structure->addBlock(block(Block(m_blocks[id - 1]), id));
     }
     const auto& rootReferences = m_structure->rootBlockReferences();
     m_structure->setProductName(rootReferences.size() == 1
@@ -108,7 +110,7 @@ std::shared_ptr<vrx::ExcProductStructure> ProductStructureBuilder::build()
 
 TopoDS_Shape ProductStructureBuilder::shapeOf(const vrx::ExcBlock& block) const
 {
-    return block.isPart() ? shapeOf(m_blocks(static_cast<int>(block.id()))) : TopoDS_Shape();
+    return block.isPart() ? shapeOf(labelOf(block.id())) : TopoDS_Shape();
 }
 
 TopoDS_Shape ProductStructureBuilder::shapeOf(std::uint64_t block) const
@@ -140,14 +142,15 @@ TopoDS_Shape ProductStructureBuilder::shapeOf(const TDF_Label& product) const
 
 void ProductStructureBuilder::addRoot(const TDF_Label& label)
 {
-    const std::shared_ptr<vrx::ExcBlockReference> root = reference(label);
+    const std::shared_ptr<vrx::ExcBlockReference> root = reference(label, {});
     root->setName(nameOf(component_labels::referred(label)));
     root->setTransformation(m_frame.placed(transformation(label)));
     m_structure->addRootBlockReference(root);
 }
 
-std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const TDF_Label& label, std::uint64_t id)
+std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const Block& from, std::uint64_t id)
 {
+    const TDF_Label& label = from.label;
     auto block = std::make_shared<vrx::ExcBlock>();
     block->setId(id);
     block->setName(nameOf(label));
@@ -164,53 +167,37 @@ std::shared_ptr<vrx::ExcBlock> ProductStructureBuilder::block(const TDF_Label& l
     if (block->isPart())
     {
         content.addCounts(block->miscData());
-        content.addLayers(block->miscData());
     }
     else
     {
         for (const TDF_Label& component : component_labels::of(label))
         {
-            if (!isLeftOut(component))
+            InstanceStyles::Instance instance = m_styles.of(component, from.styles);
+            const bool isHidden = instance.hidden && m_settings.hiddenParts == vrx::EHiddenPartsMode::DoNotImport;
+            if (!isHidden && !isLeftOut(component))
             {
-                block->addBlockReference(reference(component));
+                block->addBlockReference(reference(component, std::move(instance)));
             }
         }
-    }
-    if (m_properties.hasMaterial(product))
-    {
-        addMaterial(*block, content.material());
     }
     return block;
 }
 
-void ProductStructureBuilder::addMaterial(vrx::ExcBlock& block, const std::optional<Material>& material)
-{
-    if (!material)
-    {
-        return;
-    }
-    m_materials[block.id()] = *material;
-    add(block.miscData(), property_names::kMaterial, vrx::ExcMiscProperty::EType::String, material->name);
-    if (material->density > 0)
-    {
-        add(block.miscData(), property_names::kDensity, material->density);
-    }
-}
-
-std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const TDF_Label& component)
+std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const TDF_Label& component,
+                                                                           InstanceStyles::Instance instance)
 {
     const TDF_Label target = component_labels::referred(component);
     const BlockContent content(target, ownShapes(target));
 
     auto reference = std::make_shared<vrx::ExcBlockReference>();
     reference->setGuid(vrx::IExchangeObject::generateUUID());
-    reference->setBlockId(blockId(target));
+    reference->setBlockId(blockId(target, std::move(instance.below)));
     reference->setTransformation(m_frame.scaled(transformation(component)));
 
     const vrx::ExcColor own = BlockContent::colorOf(component);
-    reference->setColor(own.hasRGB() ? own : content.color());
+    reference->setColor(instance.color.hasRGB() ? instance.color : own.hasRGB() ? own : content.color());
     reference->setHidden(m_settings.hiddenParts != vrx::EHiddenPartsMode::ImportShow &&
-                         component_labels::isHidden(component));
+                         (instance.hidden || component_labels::isHidden(component)));
 
     const Handle(StepRepr_NextAssemblyUsageOccurrence) usage = m_labels.usageOf(component);
     const bool isNamed =
@@ -224,9 +211,18 @@ std::shared_ptr<vrx::ExcBlockReference> ProductStructureBuilder::reference(const
     return reference;
 }
 
-std::uint64_t ProductStructureBuilder::blockId(const TDF_Label& label)
+std::uint64_t ProductStructureBuilder::blockId(const TDF_Label& label, InstanceStyles::Entered styles)
 {
-    return static_cast<std::uint64_t>(m_blocks.Add(label));
+    if (!styles.empty() && isPart(label))
+    {
+        styles.clear();
+    }
+    const auto [known, isNew] = m_ids.insert({{m_products.Add(label), std::move(styles)}, m_blocks.size() + 1});
+    if (isNew)
+    {
+        m_blocks.push_back({label, known->first.second});
+    }
+    return known->second;
 }
 
 // The shapes of a part that XDE has made an assembly of, as it does with the products of STEP files.

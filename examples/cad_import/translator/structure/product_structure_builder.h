@@ -3,6 +3,7 @@
 #include "reading/step_labels.h"
 #include "structure/block_content.h"
 #include "structure/file_properties.h"
+#include "structure/instance_styles.h"
 #include "structure/model_frame.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
@@ -13,13 +14,15 @@
 #include <cstdint>
 #include <map>
 #include <memory>
-#include <optional>
+#include <utility>
 #include <vector>
 
 struct CadModel;
 struct ImportSettings;
 
-/// Turns an XDE document into the product structure: each product once as a block, each usage as a reference.
+/// Turns an XDE document into the product structure: each product as a block, each usage as a reference. A colour
+/// stands at a reference, so an assembly is a block once more for each way down to an instance with a style of its own;
+/// parts are one block each.
 class ProductStructureBuilder
 {
 public:
@@ -27,10 +30,15 @@ public:
 
     std::shared_ptr<vrx::ExcProductStructure> build();
 
-    /// The labels of the blocks that were built. The id of a block is the index of its label.
-    const TDF_LabelIndexedMap& blocks() const { return m_blocks; }
+    /// The ids of the blocks that were built go from 1 to this.
+    std::uint64_t blockCount() const { return m_blocks.size(); }
+
+    /// The label of a block's product; several blocks of one assembly have the same.
+    const TDF_Label& labelOf(std::uint64_t block) const { return m_blocks[block - 1].label; }
 
     const ModelFrame& frame() const { return m_frame; }
+
+    const FileProperties& properties() const { return m_properties; }
 
     /// All that a block shows, in the block's coordinates of the document; null for an assembly, which shows its
     /// components.
@@ -46,15 +54,17 @@ public:
     /// True for a product at the top, or a component of a product that is no part, that is not sent.
     bool isLeftOut(const TDF_Label& component) const;
 
-    /// The materials of the blocks that have one, by the id of the block.
-    const std::map<std::uint64_t, Material>& materials() const { return m_materials; }
-
 private:
+    struct Block
+    {
+        TDF_Label label;
+        InstanceStyles::Entered styles;
+    };
+
     void addRoot(const TDF_Label& label);
-    std::shared_ptr<vrx::ExcBlock> block(const TDF_Label& label, std::uint64_t id);
-    std::shared_ptr<vrx::ExcBlockReference> reference(const TDF_Label& component);
-    void addMaterial(vrx::ExcBlock& block, const std::optional<Material>& material);
-    std::uint64_t blockId(const TDF_Label& label);
+    std::shared_ptr<vrx::ExcBlock> block(const Block& from, std::uint64_t id);
+    std::shared_ptr<vrx::ExcBlockReference> reference(const TDF_Label& component, InstanceStyles::Instance instance);
+    std::uint64_t blockId(const TDF_Label& label, InstanceStyles::Entered styles);
     std::vector<TDF_Label> ownShapes(const TDF_Label& label) const;
     TopoDS_Shape shapeOf(const TDF_Label& product) const;
 
@@ -64,6 +74,8 @@ private:
     StepLabels m_labels;
     FileProperties m_properties;
     std::shared_ptr<vrx::ExcProductStructure> m_structure;
-    TDF_LabelIndexedMap m_blocks;
-    std::map<std::uint64_t, Material> m_materials;
+    InstanceStyles m_styles;
+    std::vector<Block> m_blocks;
+    TDF_LabelIndexedMap m_products;
+    std::map<std::pair<int, InstanceStyles::Entered>, std::uint64_t> m_ids; // of blocks, by product and styles
 };

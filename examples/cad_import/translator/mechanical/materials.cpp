@@ -1,0 +1,220 @@
+#include "mechanical/materials.h"
+
+#include "mechanical/mechanical_data.h"
+#include "mechanical/shape_links.h"
+#include "mechanical/step_unit.h"
+#include "mp/narrow.h"
+#include "reading/aspect_items.h"
+#include "reading/cad_model.h"
+#include "structure/product_blocks.h"
+#include "structure/product_structure_builder.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace
+{
+
+using EProperty = vrx::ExcMiscMaterial::EProperty;
+
+const mp::wchar* const kMaterialProperty = WIDE("material property");
+
+// The letters of a name in lower case: writers spell it with spaces, underscores and apostrophes, or without.
+std::string letters(const mp::wstring& name)
+{
+    std::string result;
+    for (const char letter : mp::toNarrow(name))
+    {
+        const bool isUpper = letter >= 'A' && letter <= 'Z';
+        if (isUpper || (letter >= 'a' && letter <= 'z'))
+        {
+            result += isUpper ? static_cast<char>(letter - 'A' + 'a') : letter;
+        }
+    }
+    return result;
+}
+
+std::optional<EProperty> propertyNamed(const mp::wstring& name)
+{
+    static const std::map<std::string, EProperty> kNames = {
+        {"density", EProperty::Density},
+        {"densitymeasure", EProperty::Density},
+        {"massdensity", EProperty::Density},
+        {"youngsmodulus", EProperty::YoungsModulus},
+        {"youngmodulus", EProperty::YoungsModulus},
+        {"elasticmodulus", EProperty::YoungsModulus},
+        {"modulusofelasticity", EProperty::YoungsModulus},
+        {"poissonsratio", EProperty::PoissonsRatio},
+        {"poissonratio", EProperty::PoissonsRatio},
+        {"yieldstrength", EProperty::YieldStrength},
+        {"yieldstress", EProperty::YieldStrength},
+        {"tensilestrength", EProperty::TensileStrength},
+        {"ultimatestrength", EProperty::TensileStrength},
+        {"ultimatetensilestrength", EProperty::TensileStrength},
+        {"thermalconductivity", EProperty::ThermalConductivity},
+        {"heatconductivity", EProperty::ThermalConductivity},
+        {"thermalexpansion", EProperty::ThermalExpansionCoefficient},
+        {"thermalexpansioncoefficient", EProperty::ThermalExpansionCoefficient},
+        {"coefficientofthermalexpansion", EProperty::ThermalExpansionCoefficient},
+        {"specificheat", EProperty::SpecificHeat},
+        {"specificheatcapacity", EProperty::SpecificHeat},
+        {"heatcapacity", EProperty::SpecificHeat},
+        {"shearmodulus", EProperty::ShearModulus},
+        {"modulusofrigidity", EProperty::ShearModulus},
+    };
+    const auto found = kNames.find(letters(name));
+    return found != kNames.end() ? std::optional(found->second) : std::nullopt;
+}
+
+// The kernel's own writer states g/cm3 as the product of the cube of the gram and the square of the centimetre.
+void correct(vrx::ExcMiscMaterialProperty& density)
+{
+    vrx::ExcMiscMaterialProperty::Unit& unit = density.unit();
+    if (unit.mass && unit.mass->dimension() == 3 && unit.length && unit.length->dimension() == 2)
+    {
+        unit.setMass(unit.mass->units(), 1).setLength(unit.length->units(), -3);
+    }
+}
+
+class Reader
+{
+public:
+    Reader(const CadModel& model, const ProductStructureBuilder& blocks)
+        : m_records(*model.records)
+        , m_products(model, blocks)
+    {
+    }
+
+    std::vector<StatedMaterial> all()
+    {
+        for (const char* const type : {"PROPERTY_DEFINITION", "MATERIAL_PROPERTY"})
+        {
+            for (const StepRecord& definition : m_records.all(type))
+            {
+                const StepRecord property = definition.as(type);
+                if (definition.is("MATERIAL_PROPERTY") || property.text(0) == kMaterialProperty)
+                {
+                    add(definition, property);
+                }
+            }
+        }
+        return m_all;
+    }
+
+private:
+    void add(const StepRecord& definition, const StepRecord& property)
+    {
+        StatedMaterial* const stated = materialOf(property.next(2));
+        if (stated == nullptr)
+        {
+            return;
+        }
+        for (const char* const type : {"PROPERTY_DEFINITION_REPRESENTATION", "MATERIAL_PROPERTY_REPRESENTATION"})
+        {
+            for (const StepRecord& representation : definition.users(type))
+            {
+                const StepRecord values = representation.next(1).as("REPRESENTATION");
+                for (const StepRecord& item : values.nexts(1))
+                {
+                    addItem(*stated->material, item, {values.text(0), property.text(1)});
+                }
+            }
+        }
+    }
+
+    // Of a product, or of the solids that a shape aspect names; null for what was not sent.
+    StatedMaterial* materialOf(const StepRecord& target)
+    {
+        const std::uint64_t block = target ? m_products.of(target) : 0;
+        std::vector<int> solids = target.is("SHAPE_ASPECT") ? aspect_items::solids(target) : std::vector<int>();
+        if (block == 0 || (target.is("SHAPE_ASPECT") && solids.empty()))
+        {
+            return nullptr;
+        }
+        // The shape of a product stands for the product.
+        const auto [known, isNew] = m_places.insert({{block, solids}, m_all.size()});
+        if (isNew)
+        {
+            m_all.push_back({block, std::move(solids), std::make_shared<vrx::ExcMiscMaterial>()});
+        }
+        return &m_all[known->second];
+    }
+
+    static void addItem(vrx::ExcMiscMaterial& material, const StepRecord& item,
+                        const std::vector<mp::wstring>& otherNames)
+    {
+        if (item.is("DESCRIPTIVE_REPRESENTATION_ITEM"))
+        {
+            const bool isLabelled = letters(item.text(0)) == "materialname" || letters(item.text(0)) == "name";
+            const mp::wstring name = item.text(isLabelled ? 1 : 0);
+            material.setName(material.name().empty() ? name : material.name());
+            return;
+        }
+        const bool hasParts = item.is("REPRESENTATION_ITEM");
+        std::optional<EProperty> id = propertyNamed((hasParts ? item.as("REPRESENTATION_ITEM") : item).text(0));
+        for (const mp::wstring& name : otherNames)
+        {
+            id = id ? id : propertyNamed(name);
+        }
+        std::optional<vrx::ExcMiscMaterialProperty> property = propertyOf(item);
+        if (!id || !property || (*id == EProperty::Density && property->value() <= 0))
+        {
+            return;
+        }
+        if (*id == EProperty::Density)
+        {
+            correct(*property);
+        }
+        material.set(*id, std::make_shared<vrx::ExcMiscMaterialProperty>(*property));
+    }
+
+    const StepRecords& m_records;
+    ProductBlocks m_products;
+    std::map<std::pair<std::uint64_t, std::vector<int>>, std::size_t> m_places; // in the list below
+    std::vector<StatedMaterial> m_all;
+};
+
+bool isEmpty(const vrx::ExcMiscMaterial& material)
+{
+    for (int id = static_cast<int>(EProperty::Density); id <= static_cast<int>(EProperty::ShearModulus); ++id)
+    {
+        if (material.get(static_cast<EProperty>(id)))
+        {
+            return false;
+        }
+    }
+    return material.name().empty();
+}
+
+} // namespace
+
+std::vector<StatedMaterial> statedMaterials(const CadModel& model, const ProductStructureBuilder& blocks)
+{
+    std::vector<StatedMaterial> all = model.records ? Reader(model, blocks).all() : std::vector<StatedMaterial>();
+    all.erase(std::remove_if(all.begin(), all.end(), [](const StatedMaterial& one) { return isEmpty(*one.material); }),
+              all.end());
+    return all;
+}
+
+void addMaterials(MechanicalData& data, const std::vector<StatedMaterial>& materials, ShapeLinks& links)
+{
+    for (const StatedMaterial& stated : materials)
+    {
+        stated.material->setPartLevelMaterial(stated.solids.empty());
+        for (const int solid : stated.solids)
+        {
+            const TopoDS_Shape shape = links.shapeOf(solid);
+            if (const auto body = shape.IsNull() ? nullptr : links.entity(shape, stated.block))
+            {
+                stated.material->addLinkedElement(body);
+            }
+        }
+        if (stated.material->isPartLevelMaterial() || !stated.material->linkedElements().empty())
+        {
+            data.misc(stated.block).addMaterial(stated.material);
+        }
+    }
+}
