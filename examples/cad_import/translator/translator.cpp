@@ -3,6 +3,7 @@
 #include "bodies/block_bodies.h"
 #include "common/framing.h"
 #include "delayed_termination.h"
+#include "features/features.h"
 #include "host_channel.h"
 #include "import_progress.h"
 #include "looks/palette_colors.h"
@@ -185,6 +186,7 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     {
         drawnIds = addPmi(mechanical, model, builder, links, *drawn);
     }
+    addFeatures(mechanical, model, builder, links);
     sendMechanical(mechanical);
     const VisualizationBuilder scenes(settings, *structure, builder);
     sendVisualization(scenes, drawn ? scenes.root(*drawn, drawnIds) : nullptr, *structure, progress);
