@@ -3,6 +3,7 @@
 #include "bodies/block_bodies.h"
 #include "common/framing.h"
 #include "delayed_termination.h"
+#include "features/features.h"
 #include "host_channel.h"
 #include "import_progress.h"
 #include "looks/palette_colors.h"
@@ -199,6 +200,7 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     const bool showsHidden = settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow;
     const auto hidden = showsHidden ? std::vector<ShapeLinks::Link>() : hiddenOnLayers(model, links);
     addEntityInformation(mechanical, model, builder.frame(), links, hidden, showsHidden);
+    addFeatures(mechanical, model, builder, links);
     sendMechanical(mechanical);
     const VisualizationBuilder scenes(settings, *structure, builder, hidden);
     sendVisualization(scenes, drawn ? scenes.root(*drawn, drawnIds) : nullptr, *structure, progress);
