@@ -2,9 +2,12 @@
 
 #include <BRepBndLib.hxx>
 #include <BRepGProp.hxx>
+#include <Bnd_Box.hxx>
 #include <GProp_GProps.hxx>
 #include <TopExp.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
+#include <TopoDS_Shape.hxx>
+#include <gp_Pnt.hxx>
 
 #include <cmath>
 #include <iomanip>
@@ -36,7 +39,15 @@ BodyFigures figuresOf(const TopoDS_Shape& shape)
     GProp_GProps solid;
     BRepGProp::VolumeProperties(shape, solid, false, false, false);
     figures.volume = solid.Mass();
-    BRepBndLib::AddOptimal(shape, figures.box, false, false);
+    const gp_Pnt centroid = solid.CentreOfMass();
+    figures.centroid = {centroid.X(), centroid.Y(), centroid.Z()};
+    Bnd_Box box;
+    BRepBndLib::AddOptimal(shape, box, false, false);
+    figures.hasBox = !box.IsVoid();
+    if (figures.hasBox)
+    {
+        box.Get(figures.low[0], figures.low[1], figures.low[2], figures.high[0], figures.high[1], figures.high[2]);
+    }
     return figures;
 }
 
@@ -46,19 +57,20 @@ std::string figuresText(const BodyFigures& figures)
     stream.imbue(std::locale::classic());
     stream << std::setprecision(12) << figures.faces << " faces, " << figures.edges << " edges, " << figures.vertices
            << " vertices, area " << figures.area << ", volume " << figures.volume;
-    if (figures.box.IsVoid())
+    if (!figures.hasBox)
     {
         return stream.str() + ", no box";
     }
-    double bounds[6] = {};
-    figures.box.Get(bounds[0], bounds[1], bounds[2], bounds[3], bounds[4], bounds[5]);
     // What is nothing beside the body is shown as nothing.
-    const double noise = std::sqrt(figures.box.SquareExtent()) * 1e-12;
-    for (double& bound : bounds)
+    const double noise = std::hypot(figures.high[0] - figures.low[0], figures.high[1] - figures.low[1],
+                                    figures.high[2] - figures.low[2]) *
+                         1e-12;
+    const auto shown = [noise](double bound) { return std::abs(bound) < noise ? 0 : bound; };
+    const char* separator = ", box (";
+    for (const std::array<double, 3>& corner : {figures.low, figures.high})
     {
-        bound = std::abs(bound) < noise ? 0 : bound;
+        stream << separator << shown(corner[0]) << ' ' << shown(corner[1]) << ' ' << shown(corner[2]) << ')';
+        separator = " to (";
     }
-    stream << ", box (" << bounds[0] << ' ' << bounds[1] << ' ' << bounds[2] << ") to (" << bounds[3] << ' '
-           << bounds[4] << ' ' << bounds[5] << ')';
     return stream.str();
 }

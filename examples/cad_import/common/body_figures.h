@@ -1,10 +1,9 @@
 #pragma once
 
-#include <Bnd_Box.hxx>
-#include <TopoDS_Shape.hxx>
-
-#include <cstdint>
+#include <array>
 #include <string>
+
+class TopoDS_Shape;
 
 /// What can be measured of a body, in the units of its coordinates.
 struct BodyFigures
@@ -14,7 +13,10 @@ struct BodyFigures
     int vertices = 0;
     double area = 0;
     double volume = 0;
-    Bnd_Box box;
+    std::array<double, 3> centroid{}; // of the volume
+    bool hasBox = false;
+    std::array<double, 3> low{}; // the corners of the box
+    std::array<double, 3> high{};
 };
 
 BodyFigures figuresOf(const TopoDS_Shape& shape);

@@ -11,11 +11,13 @@ const char* const kUsage = R"(usage: cad_host [options] <file>
 Has a translator import a CAD file, STEP or IGES, and prints the product tree on standard output. Progress and messages
 go to standard error.
 
-  --json               the tree and the PMI as JSON
+  --json               the tree, the PMI and the mechanical data of parts as JSON
   --bodies             the exact bodies of each part: their faces, edges and vertices, area, volume and box, measured
                        from what arrived; not with --json
   --pmi-table          the dimensions, tolerances, datums and notes of each part, with the numbers of their faces and
                        edges and the saved views that show them; not with --json, which has them anyway
+  --holes              the holes of each part with their threads and patterns, as a table for the shop; not with --json,
+                       which has them anyway
   --properties         the free properties of the product and of each block below their lines
   --option NAME=VALUE  a setting of the import, by its name in a command; can be repeated, and a wrong name or value is
                        answered with a list of what there is
@@ -58,9 +60,18 @@ struct Flag
 };
 
 const Flag kFlags[] = {
-    {"--bodies", &Arguments::bodies}, {"--help", &Arguments::help},          {"--json", &Arguments::json},
-    {"--legacy", &Arguments::legacy}, {"--pmi-table", &Arguments::pmiTable}, {"--properties", &Arguments::properties},
-    {"--quiet", &Arguments::quiet},   {"--verbose", &Arguments::verbose},
+    {"--bodies", &Arguments::bodies},         {"--help", &Arguments::help},
+    {"--holes", &Arguments::holes},           {"--json", &Arguments::json},
+    {"--legacy", &Arguments::legacy},         {"--pmi-table", &Arguments::pmiTable},
+    {"--properties", &Arguments::properties}, {"--quiet", &Arguments::quiet},
+    {"--verbose", &Arguments::verbose},
+};
+
+// They add to the tree as text.
+const Flag kTables[] = {
+    {"--bodies", &Arguments::bodies},
+    {"--holes", &Arguments::holes},
+    {"--pmi-table", &Arguments::pmiTable},
 };
 
 struct Option
@@ -135,9 +146,12 @@ Arguments parseArguments(int argc, char** argv)
             throw UsageError("more than one file");
         }
     }
-    if (arguments.json && (arguments.bodies || arguments.pmiTable))
+    for (const Flag& table : kTables)
     {
-        throw UsageError(std::string(arguments.bodies ? "--bodies" : "--pmi-table") + " goes with the tree as text");
+        if (arguments.json && arguments.*table.field)
+        {
+            throw UsageError(std::string(table.name) + " goes with the tree as text");
+        }
     }
     if (!arguments.viewName.empty() && !arguments.makesPage())
     {

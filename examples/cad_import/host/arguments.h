@@ -14,6 +14,7 @@ struct Arguments
     std::string viewName;   // the saved view with which the page opens, or empty
     bool bodies = false;
     bool help = false;
+    bool holes = false;
     bool json = false;
     bool legacy = false;
     bool pmiTable = false;
@@ -23,7 +24,6 @@ struct Arguments
     std::vector<GivenSetting> settings;
 
     bool makesPage() const { return !view.empty() || !picture.empty(); }
-    bool tellsPmi() const { return pmiTable || json || makesPage(); }
 };
 
 extern const char* const kUsage;

@@ -64,11 +64,12 @@ void ImportCollector::onObject(const std::shared_ptr<vrx::IExchangeObject>& obje
     }
     else if (const auto bodies = std::dynamic_pointer_cast<vrx::ExcBlockGeometry>(object))
     {
-        take(*bodies);
+        m_model.bodies.add(*bodies);
     }
     else if (const auto block = std::dynamic_pointer_cast<vrx::ExcBlockMechanicalData>(object))
     {
         m_model.pmi.add(*block);
+        m_model.mechanical.push_back(block);
     }
     else if (const auto root = std::dynamic_pointer_cast<vrx::ExcRootMechanicalData>(object))
     {
@@ -84,31 +85,12 @@ void ImportCollector::onObject(const std::shared_ptr<vrx::IExchangeObject>& obje
     }
 }
 
-void ImportCollector::take(const vrx::ExcBlockGeometry& bodies)
-{
-    if (m_arguments.bodies)
-    {
-        m_model.bodies.add(bodies);
-    }
-    if (m_linksBodies)
-    {
-        m_model.pmi.add(bodies);
-    }
-}
-
 bool ImportCollector::wants(const vrx::IExchangeObject& object)
 {
     const mp::wstring& name = object.objectName();
-    if (name == vrx::ExcBlockMechanicalData::objName() || name == vrx::ExcRootMechanicalData::objName())
-    {
-        m_linksBodies = m_arguments.tellsPmi();
-        return m_linksBodies;
-    }
-    if (name == vrx::ExcBlockGeometry::objName())
-    {
-        return m_arguments.bodies || m_linksBodies;
-    }
-    return name == vrx::ExcProductStructure::objName() || m_arguments.makesPage();
+    const bool isLook =
+        name == vrx::ExcBlockVisualization::objName() || name == vrx::ExcRootAssemblyVisualization::objName();
+    return !isLook || m_arguments.makesPage();
 }
 
 void ImportCollector::print(const std::string& text)

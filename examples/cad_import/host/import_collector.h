@@ -1,10 +1,12 @@
 #pragma once
 
 #include "arguments.h"
-#include "body_report.h"
 #include "component_data.h"
+#include "measured_body.h"
+#include "mechanical/mechanical_model.h"
 #include "pmi/received_pmi.h"
 #include "progress_bar.h"
+#include "received_bodies.h"
 #include "scene_page.h"
 #include "translator_session.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
@@ -17,8 +19,9 @@ struct ReceivedModel
 {
     std::shared_ptr<vrx::ExcProductStructure> structure; // null when there came none
     ScenePage page;
-    BodyReport bodies;
+    ReceivedBodies bodies{measuredBody};
     ReceivedPmi pmi;
+    SentMechanicalData mechanical;
     ComponentData components;
 };
 
@@ -37,17 +40,13 @@ public:
     void onStage(vrx::ExcStageFinished::EStage stage) override;
     void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override;
 
-    /// Bodies are worth restoring where they are asked for, or where mechanical data, which came after them and were
-    /// asked about before, may name their faces.
+    /// Looks are only for the page. Bodies are always worth restoring: what is said of them may be in other objects.
     bool wants(const vrx::IExchangeObject& object) override;
 
     void print(const std::string& text);
 
 private:
-    void take(const vrx::ExcBlockGeometry& bodies);
-
     const Arguments& m_arguments;
     ReceivedModel& m_model;
     ProgressBar m_bar;
-    bool m_linksBodies = false; // PMI is to be told, and there is some
 };

@@ -1,8 +1,11 @@
 // A host for CAD files: has the translator import a file, prints its product tree and shows the model.
 
 #include "arguments.h"
+#include "body_report.h"
 #include "common/pmi_conventions.h"
 #include "import_collector.h"
+#include "mechanical/hole_table.h"
+#include "mechanical/stated_report.h"
 #include "mp/narrow.h"
 #include "page_picture.h"
 #include "pmi/pmi_json.h"
@@ -69,25 +72,31 @@ std::string describe(const vrx::FerrantInfo& info)
 }
 
 // Prints the tree and what else is asked for on standard output.
-void print(const ReceivedModel& model, const Arguments& arguments)
+void print(const ReceivedModel& model, const MechanicalModel& mechanical, const Arguments& arguments)
 {
     const vrx::ExcProductStructure& structure = *model.structure;
-    const TreeExtras extras{arguments.properties, model.components, model.pmi};
+    TreeExtras extras{arguments.properties, model.components, mechanical};
     if (arguments.json)
     {
+        extras.pmi = pmiJson(model.pmi, model.bodies);
         printJson(std::cout, structure, extras);
     }
     else
     {
         printText(std::cout, structure, extras);
+        printStated(std::cout, mechanical, structure);
     }
     if (arguments.bodies)
     {
-        model.bodies.print(std::cout, structure);
+        printBodies(std::cout, model.bodies, structure);
+    }
+    if (arguments.holes)
+    {
+        printHoles(std::cout, mechanical, structure);
     }
     if (arguments.pmiTable)
     {
-        printPmi(std::cout, model.pmi, structure);
+        printPmi(std::cout, model.pmi, model.bodies, structure);
     }
     if (!std::cout.flush())
     {
@@ -96,13 +105,14 @@ void print(const ReceivedModel& model, const Arguments& arguments)
 }
 
 // Writes the page and the picture that are asked for.
-void show(const ReceivedModel& model, const Arguments& arguments)
+void show(const ReceivedModel& model, const MechanicalModel& mechanical, const Arguments& arguments)
 {
     if (!arguments.makesPage())
     {
         return;
     }
-    const std::string html = model.page.html(*model.structure, pmiJson(model.pmi), arguments.viewName);
+    const std::string pmi = pmiJson(model.pmi, model.bodies);
+    const std::string html = model.page.html(*model.structure, mechanical, pmi, arguments.viewName);
     if (!arguments.view.empty())
     {
         writeText(arguments.view, html);
@@ -111,6 +121,18 @@ void show(const ReceivedModel& model, const Arguments& arguments)
     {
         takePicture(html, arguments.picture);
     }
+}
+
+// Tells of the model that arrived. Throws TranslatorFailure when its bodies are not what they should be.
+void tell(ReceivedModel& model, const Arguments& arguments)
+{
+    if (arguments.bodies)
+    {
+        model.bodies.measureAll();
+    }
+    const MechanicalModel mechanical(*model.structure, model.mechanical, model.bodies);
+    print(model, mechanical, arguments);
+    show(model, mechanical, arguments);
 }
 
 int import(const Arguments& arguments)
@@ -158,8 +180,11 @@ int import(const Arguments& arguments)
     }
     try
     {
-        print(model, arguments);
-        show(model, arguments);
+        tell(model, arguments);
+    }
+    catch (const TranslatorFailure&)
+    {
+        throw;
     }
     catch (const std::exception& failure)
     {

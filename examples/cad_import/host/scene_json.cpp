@@ -1,6 +1,7 @@
 #include "scene_json.h"
 
 #include "base64.h"
+#include "camera_json.h"
 #include "common/scene_conventions.h"
 #include "page_json.h"
 #include "placement.h"
@@ -298,25 +299,11 @@ void viewHead(PageJson& json, const View& view)
     json.EndArray();
 }
 
-void camera(PageJson& json, const vrx::ExcCamera& camera)
-{
-    json.Key("camera");
-    json.StartObject();
-    json.vector("eye", camera.eye());
-    json.vector("target", camera.target());
-    json.vector("up", camera.up());
-    json.Key("height");
-    json.number(camera.type() == vrx::ExcCamera::EType::Orthographic ? camera.orthographicZoomFactor() : 0);
-    json.Key("angle");
-    json.number(camera.type() == vrx::ExcCamera::EType::Perspective ? camera.perspectiveViewAngle() : 0);
-    json.EndObject();
-}
-
 void captureObject(PageJson& json, const vrx::ExcVisuCapture& capture)
 {
     json.StartObject();
     viewHead(json, capture);
-    camera(json, capture.camera());
+    cameraJson(json, capture.camera());
     // Of the plane's two forms only the coefficients arrive whole.
     if (capture.clippingPlane().hasCoefficients())
     {
@@ -336,7 +323,7 @@ void viewObject(PageJson& json, const vrx::ExcVisuView& view)
     plane.setUp(v);
     json.StartObject();
     viewHead(json, view);
-    camera(json, plane);
+    cameraJson(json, plane);
     json.EndObject();
 }
 

@@ -1,5 +1,6 @@
 #include "scene_page.h"
 
+#include "mechanical/mechanical_json.h"
 #include "page_json.h"
 #include "placement.h"
 #include "printable.h"
@@ -104,8 +105,8 @@ void ScenePage::add(const vrx::ExcRootAssemblyVisualization& root)
     }
 }
 
-std::string ScenePage::html(const vrx::ExcProductStructure& structure, const std::string& pmi,
-                            const std::string& openView) const
+std::string ScenePage::html(const vrx::ExcProductStructure& structure, const MechanicalModel& mechanical,
+                            const std::string& pmi, const std::string& openView) const
 {
     if (!openView.empty())
     {
@@ -125,7 +126,7 @@ std::string ScenePage::html(const vrx::ExcProductStructure& structure, const std
         page += piece;
     }
     static const std::string kPlace = "{{scene}}";
-    return page.replace(page.find(kPlace), kPlace.size(), withoutTags(scene(structure, pmi, openView)));
+    return page.replace(page.find(kPlace), kPlace.size(), withoutTags(scene(structure, mechanical, pmi, openView)));
 }
 
 void ScenePage::checkView(const std::string& name) const
@@ -142,13 +143,14 @@ void ScenePage::checkView(const std::string& name) const
     throw std::runtime_error(message);
 }
 
-std::string ScenePage::scene(const vrx::ExcProductStructure& structure, const std::string& pmi,
-                             const std::string& openView) const
+std::string ScenePage::scene(const vrx::ExcProductStructure& structure, const MechanicalModel& mechanical,
+                             const std::string& pmi, const std::string& openView) const
 {
     PageJson json;
     json.StartObject();
     json.field("title", structure.productName());
     json.field("units", vrx::enumToString(structure.units()));
+    mechanical.mass ? json.number("mass", *mechanical.mass) : json.null("mass");
     references(json, structure.rootBlockReferences());
     json.Key("blocks");
     json.StartArray();
@@ -161,6 +163,12 @@ std::string ScenePage::scene(const vrx::ExcProductStructure& structure, const st
         json.Bool(block->isPart());
         references(json, block->blockReferences());
         properties(json, block->miscData());
+        const auto part = mechanical.parts.find(block->id());
+        if (block->isPart() && part != mechanical.parts.end())
+        {
+            json.Key("mechanical");
+            json.raw(mechanicalJson(part->second));
+        }
         const auto shape = m_shapes.find(block->id());
         if (shape != m_shapes.end())
         {

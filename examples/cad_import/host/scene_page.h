@@ -1,5 +1,6 @@
 #pragma once
 
+#include "mechanical/mechanical_model.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
 
@@ -18,12 +19,12 @@ public:
 
     /// The page in UTF-8, with the PMI as `pmiJson` gives it. It opens with a saved view when one is named. Throws
     /// std::runtime_error when a scene has other units than the structure, and for a view that is not there.
-    std::string html(const vrx::ExcProductStructure& structure, const std::string& pmi,
-                     const std::string& openView = {}) const;
+    std::string html(const vrx::ExcProductStructure& structure, const MechanicalModel& mechanical,
+                     const std::string& pmi, const std::string& openView = {}) const;
 
 private:
-    std::string scene(const vrx::ExcProductStructure& structure, const std::string& pmi,
-                      const std::string& openView) const;
+    std::string scene(const vrx::ExcProductStructure& structure, const MechanicalModel& mechanical,
+                      const std::string& pmi, const std::string& openView) const;
     void checkView(const std::string& name) const;
 
     std::map<std::uint64_t, std::string> m_shapes; // by the block's id

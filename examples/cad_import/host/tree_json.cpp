@@ -1,5 +1,5 @@
+#include "mechanical/mechanical_json.h"
 #include "mp/narrow.h"
-#include "pmi/pmi_json.h"
 #include "product_tree.h"
 #include "tree_output.h"
 #include "vrx_api/json/json_value.h"
@@ -32,10 +32,13 @@ public:
         m_writer.StartObject();
         field("product", m_structure.productName());
         field("units", vrx::enumToString(m_structure.units()));
+        m_writer.Key("mass");
+        m_extras.mechanical.mass ? number(*m_extras.mechanical.mass) : static_cast<void>(m_writer.Null());
         properties(m_structure.miscData());
         blocks();
         tree();
-        pmi();
+        m_writer.Key("pmi");
+        raw(m_extras.pmi);
         componentNames();
         componentMaterials();
         m_writer.EndObject();
@@ -86,10 +89,27 @@ private:
             m_writer.Key("is_part");
             m_writer.Bool(block->isPart());
             properties(block->miscData());
+            mechanical(*block);
             m_writer.EndObject();
         }
         m_writer.EndArray();
     }
+
+    void mechanical(const vrx::ExcBlock& block)
+    {
+        const auto part = m_extras.mechanical.parts.find(block.id());
+        if (!block.isPart() || part == m_extras.mechanical.parts.end())
+        {
+            return;
+        }
+        for (const auto& [key, value] : mechanicalMembers(part->second))
+        {
+            m_writer.Key(key.c_str());
+            raw(value);
+        }
+    }
+
+    void raw(const std::string& json) { m_writer.RawValue(json.c_str(), json.size(), rapidjson::kObjectType); }
 
     void tree()
     {
@@ -138,13 +158,6 @@ private:
         properties(reference.miscData());
         m_writer.Key("children");
         m_writer.StartArray();
-    }
-
-    void pmi()
-    {
-        const std::string json = pmiJson(m_extras.pmi);
-        m_writer.Key("pmi");
-        m_writer.RawValue(json.c_str(), json.size(), rapidjson::kObjectType);
     }
 
     void componentNames()

@@ -1,5 +1,6 @@
 #include "common/property_names.h"
 #include "find_property.h"
+#include "mechanical/mass_text.h"
 #include "printable.h"
 #include "product_tree.h"
 #include "tree_output.h"
@@ -25,7 +26,34 @@ std::string property(const vrx::ExcMiscData& data, const mp::wchar* name)
     return found != nullptr ? printable(found->value()) : std::string();
 }
 
-std::string partNote(const vrx::ExcBlock& block)
+std::string materialsText(const MechanicalPart& part)
+{
+    std::string text = part.materials.size() == 1 ? "material " : "materials ";
+    const char* separator = "";
+    for (const PartMaterial& material : part.materials)
+    {
+        text += separator + printable(material.name);
+        separator = ", ";
+    }
+    return text;
+}
+
+// The mass of the product, or of those parts of which it is known.
+std::string massSummary(const MechanicalModel& mechanical)
+{
+    if (mechanical.mass)
+    {
+        return ", mass " + massText(*mechanical.mass);
+    }
+    if (mechanical.partsWithMass == 0)
+    {
+        return {};
+    }
+    return ", mass of " + std::to_string(mechanical.partsWithMass) + " of " +
+           counted(std::to_string(mechanical.partsWithBodies), "part", "parts") + ' ' + massText(mechanical.knownMass);
+}
+
+std::string partNote(const vrx::ExcBlock& block, const MechanicalModel& mechanical)
 {
     std::string note = "part";
     const char* separator = ": ";
@@ -36,7 +64,6 @@ std::string partNote(const vrx::ExcBlock& block)
     const std::string solids = property(block.miscData(), property_names::kSolids);
     const std::string shells = property(block.miscData(), property_names::kShells);
     const std::string faces = property(block.miscData(), property_names::kFaces);
-    const std::string material = property(block.miscData(), property_names::kMaterial);
     if (!solids.empty() && solids != "0")
     {
         append(counted(solids, "solid", "solids"));
@@ -49,14 +76,23 @@ std::string partNote(const vrx::ExcBlock& block)
     {
         append(counted(faces, "face", "faces"));
     }
-    if (!material.empty())
+    const auto part = mechanical.parts.find(block.id());
+    if (part == mechanical.parts.end())
     {
-        append("material " + material);
+        return note;
+    }
+    if (!part->second.materials.empty())
+    {
+        append(materialsText(part->second));
+    }
+    if (part->second.mass)
+    {
+        append(massText(*part->second.mass));
     }
     return note;
 }
 
-std::string note(const ProductTreeNode& node)
+std::string note(const ProductTreeNode& node, const MechanicalModel& mechanical)
 {
     switch (node.state)
     {
@@ -69,7 +105,7 @@ std::string note(const ProductTreeNode& node)
     }
     if (node.block->isPart())
     {
-        return partNote(*node.block);
+        return partNote(*node.block, mechanical);
     }
     return "assembly: " + counted(std::to_string(node.block->blockReferences().size()), "component", "components");
 }
@@ -102,7 +138,7 @@ std::string names(const ProductTreeNode& node)
     return node.references.size() == 1 || first == last ? first : first + " .. " + last;
 }
 
-std::string line(const ProductTreeNode& node)
+std::string line(const ProductTreeNode& node, const MechanicalModel& mechanical)
 {
     const vrx::ExcBlockReference& reference = *node.references.front();
     std::string text = names(node);
@@ -126,7 +162,7 @@ std::string line(const ProductTreeNode& node)
     {
         text += " suppressed";
     }
-    return text + " [" + note(node) + ']';
+    return text + " [" + note(node, mechanical) + ']';
 }
 
 void printProperties(std::ostream& stream, const vrx::ExcMiscData& data, const std::string& indent)
@@ -138,7 +174,7 @@ void printProperties(std::ostream& stream, const vrx::ExcMiscData& data, const s
 }
 
 void printSummary(std::ostream& stream, const vrx::ExcProductStructure& structure,
-                  const std::vector<ProductTreeNode>& tree)
+                  const std::vector<ProductTreeNode>& tree, const MechanicalModel& mechanical)
 {
     const auto parts = std::count_if(structure.blocks().begin(), structure.blocks().end(),
                                      [](const auto& block) { return block->isPart(); });
@@ -160,7 +196,7 @@ void printSummary(std::ostream& stream, const vrx::ExcProductStructure& structur
     stream << counted(text(structure.blocks().size()), "block", "blocks") << " ("
            << counted(std::to_string(parts), "part", "parts") << "), "
            << counted(text(instances), "instance", "instances") << " of parts, "
-           << counted(text(depth), "level", "levels") << '\n';
+           << counted(text(depth), "level", "levels") << massSummary(mechanical) << '\n';
 }
 
 } // namespace
@@ -178,12 +214,12 @@ void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, 
     for (const ProductTreeNode& node : tree)
     {
         const std::string indent(2 * node.depth, ' ');
-        stream << indent << line(node) << '\n';
+        stream << indent << line(node, extras.mechanical) << '\n';
         if (extras.properties && node.block && described.insert(node.block).second)
         {
             printProperties(stream, node.block->miscData(), indent + "    ");
         }
     }
-    printSummary(stream, structure, tree);
+    printSummary(stream, structure, tree, extras.mechanical);
     printComponents(stream, extras.components);
 }

@@ -1,6 +1,7 @@
 #include "acis_kernel/acis_kernel.h"
 #include "common/pmi_conventions.h"
 #include "host/pmi/received_pmi.h"
+#include "host/received_bodies.h"
 #include "host/restored_bodies.h"
 #include "imported.h"
 
@@ -33,12 +34,13 @@ TEST(PmiOfFile, NamesTheFacesOfTheBodiesThatWereSent)
     }
     ASSERT_EQ(pmi.sets().size(), 1U);
     const RestoredBodies bodies(*imported.bodies.at(pmi.sets()[0]->blockId()));
-    pmi.add(*imported.bodies.at(pmi.sets()[0]->blockId()));
+    ReceivedBodies received;
+    received.add(*imported.bodies.at(pmi.sets()[0]->blockId()));
 
     const auto& drawn = *pmi.sets()[0]->views().back();
     ASSERT_EQ(drawn.dimensions().size(), 1U);
     const vrx::ExcPMIDimension& diameter = *drawn.dimensions().front();
-    const std::vector<PmiLink> links = pmi.links(diameter);
+    const std::vector<BodyLink> links = received.links(diameter.linkedElements());
     ASSERT_EQ(links.size(), 1U);
     const auto& payload = dynamic_cast<const BODY&>(bodies.body(links[0].body)).payload();
     std::istringstream stream(std::string(payload.begin(), payload.end()), std::ios::binary);

@@ -361,24 +361,25 @@ TEST(Pmi, IsLinkedToTheBodiesThatCame)
     data.pmiData()->annotationSets()[0]->views()[0]->addNote(note);
     ReceivedPmi pmi;
     pmi.add(data);
-    pmi.add(geometry);
+    ReceivedBodies received;
+    received.add(geometry);
 
     std::vector<mp::wstring> ids;
-    for (const PmiLink& link : pmi.links(*note))
+    for (const BodyLink& link : received.links(note->linkedElements()))
     {
         ids.push_back(link.mechanicalId);
     }
     EXPECT_THAT(ids,
                 testing::ElementsAre(WIDE("1/f2"), WIDE("0/f0"), WIDE("1/f0"), WIDE("0/f1"), WIDE("b0"), WIDE("e7")));
     std::ostringstream table;
-    printPmi(table, pmi, {});
+    printPmi(table, pmi, received, {});
     EXPECT_THAT(table.str(), testing::HasSubstr("body 2 faces 2, 0; body 1 face 0; 0/f1; body 1; e7"));
 }
 
 TEST(Pmi, IsTold)
 {
     std::ostringstream table;
-    printPmi(table, received(), {});
+    printPmi(table, received(), ReceivedBodies(), {});
     EXPECT_EQ(table.str(), "PMI\n"
                            "  a block that is not there: block 5\n"
                            "    dimensions\n"
@@ -394,7 +395,7 @@ TEST(Pmi, IsTold)
                            "      MBD  [31m front  1 annotation\n");
 
     rapidjson::Document json;
-    json.Parse(pmiJson(received()).c_str());
+    json.Parse(pmiJson(received(), ReceivedBodies()).c_str());
     ASSERT_TRUE(json.IsObject());
     ASSERT_EQ(json["tolerances"].Size(), 2U);
     const auto& frame = json["tolerances"][0];

@@ -1,10 +1,11 @@
 #include "pmi/pmi_json.h"
 
+#include "camera_json.h"
 #include "common/pmi_conventions.h"
 #include "page_json.h"
 #include "pmi/control_frame.h"
 #include "pmi/pmi_notation.h"
-#include "pmi/wire_name.h"
+#include "wire_name.h"
 
 #include <array>
 #include <vector>
@@ -62,8 +63,9 @@ std::vector<EModifier> modifiersOf(const vrx::ExcPMIGDT::DatumRef& reference)
 class PmiWriter
 {
 public:
-    explicit PmiWriter(const ReceivedPmi& pmi)
+    PmiWriter(const ReceivedPmi& pmi, const ReceivedBodies& bodies)
         : m_pmi(pmi)
+        , m_bodies(bodies)
     {
     }
 
@@ -211,12 +213,12 @@ private:
         m_json.Key("block_id");
         m_json.Uint64(place.set.blockId());
         m_json.field("text", text);
-        const std::vector<PmiLink> links = m_pmi.links(annotation);
+        const std::vector<BodyLink> links = m_bodies.links(annotation.linkedElements());
         indices("faces", links, EType::Face);
         indices("edges", links, EType::Edge);
         m_json.Key("links");
         m_json.StartArray();
-        for (const PmiLink& link : links)
+        for (const BodyLink& link : links)
         {
             write(link);
         }
@@ -226,11 +228,11 @@ private:
         m_json.numbers("position", std::array<double, 2>{annotation.position()[0], annotation.position()[1]});
     }
 
-    void indices(const char* key, const std::vector<PmiLink>& links, EType type)
+    void indices(const char* key, const std::vector<BodyLink>& links, EType type)
     {
         m_json.Key(key);
         m_json.StartArray();
-        for (const PmiLink& link : links)
+        for (const BodyLink& link : links)
         {
             if (link.resolved && link.type == type)
             {
@@ -240,7 +242,7 @@ private:
         m_json.EndArray();
     }
 
-    void write(const PmiLink& link)
+    void write(const BodyLink& link)
     {
         m_json.StartObject();
         if (link.resolved)
@@ -315,7 +317,7 @@ private:
         m_json.texts("annotations", capture.annotationIds());
         if (capture.camera())
         {
-            camera(*capture.camera());
+            cameraJson(m_json, *capture.camera());
         }
         else
         {
@@ -332,31 +334,19 @@ private:
         m_json.EndObject();
     }
 
-    void camera(const vrx::ExcCamera& camera)
-    {
-        using ECamera = vrx::ExcCamera::EType;
-        m_json.Key("camera");
-        m_json.StartObject();
-        m_json.vector("eye", camera.eye());
-        m_json.vector("target", camera.target());
-        m_json.vector("up", camera.up());
-        m_json.number("height", camera.type() == ECamera::Orthographic ? camera.orthographicZoomFactor() : 0);
-        m_json.number("angle", camera.type() == ECamera::Perspective ? camera.perspectiveViewAngle() : 0);
-        m_json.EndObject();
-    }
-
     void numberOrNull(const char* key, bool isNumber, double value)
     {
         isNumber ? m_json.number(key, value) : m_json.null(key);
     }
 
     const ReceivedPmi& m_pmi;
+    const ReceivedBodies& m_bodies;
     PageJson m_json;
 };
 
 } // namespace
 
-std::string pmiJson(const ReceivedPmi& pmi)
+std::string pmiJson(const ReceivedPmi& pmi, const ReceivedBodies& bodies)
 {
-    return PmiWriter(pmi).text();
+    return PmiWriter(pmi, bodies).text();
 }

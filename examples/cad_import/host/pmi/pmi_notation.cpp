@@ -2,13 +2,10 @@
 
 #include "common/pmi_conventions.h"
 #include "mp/narrow.h"
+#include "number_text.h"
 #include "pmi/control_frame.h"
 
 #include <algorithm>
-#include <cmath>
-#include <iomanip>
-#include <locale>
-#include <sstream>
 #include <string>
 
 namespace pmi_notation
@@ -108,24 +105,6 @@ void append(wstring& line, const wstring& text)
     }
     line += text;
     std::replace(line.begin(), line.end(), WIDE('\n'), WIDE(' '));
-}
-
-// With this number of decimal places; with as many as there are when it is 0, and none that only arithmetic has made.
-wstring numberText(double value, double places = 0)
-{
-    const int kFinest = 9;
-    std::ostringstream stream;
-    stream.imbue(std::locale::classic());
-    stream << std::fixed
-           << std::setprecision(places > 0 ? static_cast<int>(std::min<double>(places, kFinest)) : kFinest) << value;
-    std::string text = stream.str();
-    if (!(places > 0) && std::isfinite(value))
-    {
-        text.erase(text.find_last_not_of('0') + 1);
-        text.erase(text.find_last_not_of('.') + 1);
-    }
-    const bool isNothing = text.find_first_not_of("-0.") == std::string::npos;
-    return mp::toWide(isNothing && text.front() == '-' ? text.substr(1) : text);
 }
 
 wstring deviationText(double deviation, double places)

@@ -1,8 +1,8 @@
 #include "pmi/pmi_table.h"
 
 #include "pmi/pmi_notation.h"
-#include "pmi/wire_name.h"
 #include "printable.h"
+#include "wire_name.h"
 
 #include <algorithm>
 #include <array>
@@ -83,8 +83,9 @@ std::string kindOf(EType type, bool several)
 class PmiTable
 {
 public:
-    PmiTable(const ReceivedPmi& pmi, const vrx::ExcProductStructure& structure)
+    PmiTable(const ReceivedPmi& pmi, const ReceivedBodies& bodies, const vrx::ExcProductStructure& structure)
         : m_pmi(pmi)
+        , m_bodies(bodies)
         , m_structure(structure)
         , m_units(lengthUnits())
     {
@@ -187,14 +188,14 @@ private:
     {
         std::string line;
         const auto append = [&line](const std::string& text) { line += (line.empty() ? "" : "; ") + text; };
-        std::vector<PmiLink> links = m_pmi.links(annotation);
+        std::vector<BodyLink> links = m_bodies.links(annotation.linkedElements());
         for (auto first = links.begin(); first != links.end();)
         {
-            const auto kind = [](const PmiLink& link) {
+            const auto kind = [](const BodyLink& link) {
                 return std::make_tuple(link.resolved, link.type, link.block, link.body);
             };
             const auto end =
-                std::stable_partition(first, links.end(), [&kind, wanted = kind(*first)](const PmiLink& link) {
+                std::stable_partition(first, links.end(), [&kind, wanted = kind(*first)](const BodyLink& link) {
                     return kind(link) == wanted;
                 });
             append(described(first, end, block));
@@ -203,7 +204,7 @@ private:
         return line;
     }
 
-    using Links = std::vector<PmiLink>::const_iterator;
+    using Links = std::vector<BodyLink>::const_iterator;
 
     // Links to parts of one kind and one body.
     std::string described(Links first, Links end, std::uint64_t block) const
@@ -212,7 +213,7 @@ private:
         if (!first->resolved)
         {
             std::transform(first, end, std::back_inserter(names),
-                           [](const PmiLink& link) { return link.mechanicalId; });
+                           [](const BodyLink& link) { return link.mechanicalId; });
             return joined(names, ", ");
         }
         std::string text = first->block != block ? "block " + std::to_string(first->block) + ' ' : std::string();
@@ -220,12 +221,12 @@ private:
         {
             return text + "body " + std::to_string(first->body + 1);
         }
-        if (m_pmi.bodyCount(first->block) > 1)
+        if (m_bodies.of(first->block).size() > 1)
         {
             text += "body " + std::to_string(first->body + 1) + ' ';
         }
         std::transform(first, end, std::back_inserter(names),
-                       [](const PmiLink& link) { return mp::toWide(std::to_string(link.index)); });
+                       [](const BodyLink& link) { return mp::toWide(std::to_string(link.index)); });
         return text + kindOf(first->type, names.size() > 1) + ' ' + joined(names, ", ");
     }
 
@@ -243,13 +244,15 @@ private:
     }
 
     const ReceivedPmi& m_pmi;
+    const ReceivedBodies& m_bodies;
     const vrx::ExcProductStructure& m_structure;
     const std::set<mp::wstring> m_units; // of all lengths
 };
 
 } // namespace
 
-void printPmi(std::ostream& stream, const ReceivedPmi& pmi, const vrx::ExcProductStructure& structure)
+void printPmi(std::ostream& stream, const ReceivedPmi& pmi, const ReceivedBodies& bodies,
+              const vrx::ExcProductStructure& structure)
 {
-    PmiTable(pmi, structure).print(stream);
+    PmiTable(pmi, bodies, structure).print(stream);
 }

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "acis_kernel/acis_kernel.h"
+#include "common/body_figures.h"
+
+/// Measures a restored body by the B-rep that comes with it. Throws TranslatorFailure when there is none, or when its
+/// faces, edges and vertices are not those of the body.
+BodyFigures measuredBody(ENTITY& body);

@@ -1,0 +1,180 @@
+#include "mechanical/hole_table.h"
+
+#include "mechanical/hole_callout.h"
+#include "printable.h"
+
+#include <algorithm>
+#include <map>
+#include <ostream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace
+{
+
+// In the order in which the keys first occurred.
+template <class Value>
+class Groups
+{
+public:
+    void add(const std::string& key, const Value& value)
+    {
+        const auto [known, isNew] = m_places.emplace(key, m_groups.size());
+        if (isNew)
+        {
+            m_groups.push_back({key, {}});
+        }
+        m_groups[known->second].second.push_back(value);
+    }
+
+    auto begin() const { return m_groups.begin(); }
+    auto end() const { return m_groups.end(); }
+
+private:
+    std::vector<std::pair<std::string, std::vector<Value>>> m_groups;
+    std::map<std::string, std::size_t> m_places;
+};
+
+std::string pointText(const vrx::ExcVector3d& point)
+{
+    std::string text = "(";
+    for (std::size_t i = 0; i < 3; ++i)
+    {
+        text += (i == 0 ? "" : " ") + printable(hole_callout::number(point[i]));
+    }
+    return text + ')';
+}
+
+std::string times(std::size_t count)
+{
+    return count == 1 ? std::string() : std::to_string(count) + "X ";
+}
+
+class HoleTable
+{
+public:
+    HoleTable(std::ostream& stream, const MechanicalPart& part)
+        : m_stream(stream)
+        , m_holes(part.features)
+    {
+        for (const PartHole& hole : m_holes.holes)
+        {
+            m_severalBodies = m_severalBodies || hole.body != m_holes.holes.front().body;
+        }
+    }
+
+    void print() const
+    {
+        Groups<const PartHole*> equal;
+        for (const PartHole& hole : m_holes.holes)
+        {
+            equal.add(printable(hole_callout::text(hole, m_holes.threads)), &hole);
+        }
+        for (const auto& [callout, holes] : equal)
+        {
+            m_stream << "    " << times(holes.size()) << callout << '\n';
+            printPlaces(holes);
+        }
+        Groups<const PartThread*> threads;
+        for (const PartThread& thread : m_holes.threads)
+        {
+            if (!thread.hole)
+            {
+                threads.add(printable(hole_callout::text(thread)) + (thread.isInternal ? " internal" : " external"),
+                            &thread);
+            }
+        }
+        for (const auto& [callout, same] : threads)
+        {
+            m_stream << "    " << times(same.size()) << callout << '\n';
+            printFaces(same);
+        }
+    }
+
+private:
+    // A line for each pattern, direction and body.
+    void printPlaces(const std::vector<const PartHole*>& holes) const
+    {
+        Groups<std::string> places;
+        for (const PartHole* const hole : holes)
+        {
+            std::string key;
+            if (hole->pattern)
+            {
+                key = printable(hole_callout::text(m_holes.patterns[*hole->pattern])) + ": ";
+            }
+            if (m_severalBodies && hole->body)
+            {
+                key += "body " + std::to_string(*hole->body + 1) + ' ';
+            }
+            places.add(key + '\n' + pointText(hole->direction), pointText(hole->center));
+        }
+        for (const auto& [key, points] : places)
+        {
+            const std::size_t middle = key.find('\n');
+            m_stream << "      " << key.substr(0, middle) << joined(points) << " into " << key.substr(middle + 1)
+                     << '\n';
+        }
+    }
+
+    void printFaces(const std::vector<const PartThread*>& threads) const
+    {
+        std::vector<std::string> faces;
+        for (const PartThread* const thread : threads)
+        {
+            for (const mp::wstring& face : thread->faces)
+            {
+                faces.push_back(printable(face));
+            }
+        }
+        if (!faces.empty())
+        {
+            m_stream << "      " << (faces.size() == 1 ? "face " : "faces ") << joined(faces) << '\n';
+        }
+    }
+
+    static std::string joined(const std::vector<std::string>& texts)
+    {
+        std::string line;
+        for (const std::string& text : texts)
+        {
+            line += (line.empty() ? "" : ", ") + text;
+        }
+        return line;
+    }
+
+    std::ostream& m_stream;
+    const PartHoles& m_holes;
+    bool m_severalBodies = false;
+};
+
+bool hasFeatures(const MechanicalPart& part)
+{
+    return !part.features.holes.empty() || !part.features.threads.empty();
+}
+
+} // namespace
+
+void printHoles(std::ostream& stream, const MechanicalModel& mechanical, const vrx::ExcProductStructure& structure)
+{
+    const bool some = std::any_of(mechanical.parts.begin(), mechanical.parts.end(),
+                                  [](const auto& part) { return hasFeatures(part.second); });
+    if (!some)
+    {
+        stream << "holes: none\n";
+        return;
+    }
+    stream << "holes, lengths in " << printable(vrx::enumToString(structure.units())) << '\n';
+    for (const auto& [id, part] : mechanical.parts)
+    {
+        const auto block = structure.getBlockById(id);
+        if (block && hasFeatures(part))
+        {
+            stream << "  " << printable(block->name()) << ": block " << id << ", "
+                   << printable(hole_callout::number(part.instances))
+                   << (part.instances == 1 ? " instance\n" : " instances\n");
+            HoleTable(stream, part).print();
+        }
+    }
+}

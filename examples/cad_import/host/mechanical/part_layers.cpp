@@ -1,0 +1,61 @@
+#include "mechanical/part_layers.h"
+
+#include "mechanical/block_ids.h"
+#include "wire_name.h"
+
+#include <algorithm>
+#include <set>
+
+namespace
+{
+
+// The id of an annotation names its view too, such as "1/0/notes/3".
+bool isShape(const mp::wstring& id)
+{
+    return std::count(id.begin(), id.end(), WIDE('/')) < 2;
+}
+
+bool areHidden(const std::vector<mp::wstring>& entities, const std::set<mp::wstring>& hidden)
+{
+    return std::any_of(entities.begin(), entities.end(), isShape) &&
+           std::all_of(entities.begin(), entities.end(),
+                       [&hidden](const mp::wstring& id) { return !isShape(id) || hidden.count(id) != 0; });
+}
+
+} // namespace
+
+std::vector<PartEntity> partEntities(const vrx::ExcEntityData& data, std::uint64_t block, const ReceivedBodies& bodies)
+{
+    std::vector<PartEntity> entities;
+    for (const std::shared_ptr<vrx::ExcTopologicalEntityInformation>& sent : data.data())
+    {
+        const std::vector<mp::wstring> ids =
+            sent->entity() ? idsInBlock({sent->entity()}, block, bodies) : std::vector<mp::wstring>();
+        if (!ids.empty())
+        {
+            entities.push_back({ids.front(), sent->persistentNames(), sent->name(), sent->isHidden(),
+                                wireName(*sent, WIDE("line_type")), sent->lineThickness()});
+        }
+    }
+    return entities;
+}
+
+std::vector<PartLayer> partLayers(const vrx::ExcMechanicalMiscData& data, std::uint64_t block,
+                                  const ReceivedBodies& bodies, const std::vector<PartEntity>& entities)
+{
+    std::set<mp::wstring> hidden;
+    for (const PartEntity& entity : entities)
+    {
+        if (entity.isHidden)
+        {
+            hidden.insert(entity.entity);
+        }
+    }
+    std::vector<PartLayer> layers;
+    for (const std::shared_ptr<vrx::ExcMiscLayer>& sent : data.layers())
+    {
+        const std::vector<mp::wstring> ids = idsInBlock(sent->entities(), block, bodies);
+        layers.push_back({sent->id(), sent->name(), ids, areHidden(ids, hidden)});
+    }
+    return layers;
+}
