@@ -45,6 +45,7 @@ class Annotation extends Group {
     this.normal = normal;
     this.box = new Box3();
     this.shown = true;
+    this.onLayer = true;
     this.lit = false;
     this.look = 'plain';
     const { stroke, filling } = ink(legible(data.color ?? undefined), this.look);
@@ -123,13 +124,20 @@ export class Annotations extends Group {
     this.#update();
   }
 
+  showLayers(layers) {
+    for (const annotation of this.children) annotation.onLayer = layers.showsAnnotation(annotation.data.mechanicalId);
+    this.#update();
+  }
+
   light(annotations) {
     for (const annotation of this.children) annotation.lit = annotations.includes(annotation);
     this.#update();
   }
 
   #update() {
-    for (const annotation of this.children) annotation.visible = annotation.shown || annotation.lit;
+    for (const annotation of this.children) {
+      annotation.visible = (annotation.shown && annotation.onLayer) || annotation.lit;
+    }
   }
 
   drawn() {

@@ -1,7 +1,11 @@
-// The panel that tells what is selected: a place in the product tree, a face of it, or an element of the PMI.
+// The panel that tells what is selected: a place in the product tree, a face of it, an element of the PMI, or a
+// line of holes.
 
+import { unitSign } from './figures.js';
+import { rowsOf, whichOne } from './holes.js';
+import { line } from './lines_panel.js';
+import { faceRows, partRows, propertyRows } from './mechanical.js';
 import { drawing } from './notation.js';
-import { line } from './pmi_panel.js';
 
 const hex = (color) => '#' + color.slice(0, 3).map((channel) => channel.toString(16).padStart(2, '0')).join('');
 const words = (wire) => wire?.replaceAll('_', ' ');
@@ -17,6 +21,7 @@ export class Details {
   constructor(panel, model, onSelect) {
     this.panel = panel;
     this.model = model;
+    this.unit = unitSign(model.units);
     this.onSelect = onSelect;
   }
 
@@ -26,7 +31,8 @@ export class Details {
     this.panel.scrollTop = 0;
     if (face) this.#face(node, face);
     if (node) this.#place(node);
-    if (element) this.#element(element);
+    if (element?.ones) this.#holes(element);
+    else if (element) this.#element(element);
   }
 
   #place(node) {
@@ -36,25 +42,43 @@ export class Details {
     const where = [];
     for (let above = node.parent; above; above = above.parent) where.unshift(above.name);
     this.#rows([
+      ...(block ? partRows(block, node.mass, this.unit) : []),
       ['Block', block?.name !== node.name && block?.name],
       ['Block id', reference.blockId],
       ['Persistent id', reference.persistentId],
       ['Reference', reference.guid],
       ['In', where.join(' › ')],
-      ...(block?.properties ?? []).map(({ name, value }) => [name, value]),
+      ...(block ? propertyRows(block) : []),
     ]);
   }
 
   #face(node, face) {
-    const mesh = face.mesh;
-    const color = face.color ?? node.color ?? node.block.shape.color;
+    const { mesh } = face;
+    const { block } = node;
+    const { pmi, holes, layers } = this.model;
+    const color = face.color ?? node.color ?? block.shape.color;
+    const onLayers = layers?.of(block.id, face.mechanicalId) ?? [];
+    const ofHoles = holes?.speakingOf(block.id, face) ?? [];
     this.#head('Face', swatch(color), this.#label('', `Face ${face.id}`));
     this.#rows([
+      ...faceRows(block, face, this.unit),
       ['Mechanical id', face.mechanicalId],
       ['Body', [mesh.name !== node.name && mesh.name, mesh.id].filter(Boolean).join(' · ')],
+      ['Layer', onLayers.map(({ name }) => name).join(', ')],
       ['Triangles', face.triangles.toLocaleString('en')],
+      ...ofHoles.map((element) => [element.kind, whichOne(element, face)]),
     ]);
-    if (this.model.pmi) this.#lines('Said of this face', this.model.pmi.speakingOf(node.reference.blockId, face));
+    this.#lines('Belongs to', ofHoles);
+    this.#lines('Said of this face', pmi?.speakingOf(block.id, face) ?? []);
+  }
+
+  #holes(element) {
+    const { pmi } = this.model;
+    const faces = this.model.linked(element).map(({ part }) => part);
+    this.#head(element.type, this.#label('drawing', ...drawing(element)));
+    this.#rows([['Part', element.name], ...rowsOf(element, this.unit), ['Faces', faces.length]]);
+    const said = faces.flatMap((face) => pmi?.speakingOf(element.block, face) ?? []);
+    this.#lines('Said of these faces', [...new Set(said)]);
   }
 
   #element(element) {
@@ -90,12 +114,13 @@ export class Details {
 
   #rows(rows) {
     const list = document.createElement('dl');
-    for (const [key, value] of rows) {
+    for (const [key, value, className = ''] of rows) {
       if (!value) continue;
       const term = document.createElement('dt');
       const detail = document.createElement('dd');
       term.textContent = key;
       detail.textContent = value;
+      detail.className = className;
       list.append(term, detail);
     }
     this.panel.append(list);

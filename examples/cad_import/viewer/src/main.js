@@ -1,6 +1,9 @@
 // The page: puts the scene that the host wrote into the picture and the panels around it.
 
 import { Details } from './details.js';
+import { mass, unitSign } from './figures.js';
+import { buildLayers } from './layers_panel.js';
+import { LinesPanel } from './lines_panel.js';
 import { Model } from './model.js';
 import { PmiPanel } from './pmi_panel.js';
 import { Selection } from './selection.js';
@@ -31,11 +34,22 @@ const openView = buildSavedViews(element('views'), stage, model.views, (view) =>
 const pmiElements = { list: element('pmi-list'), filter: element('pmi-filter'), grouping: element('grouping') };
 const pmiActions = { onSelect: (said) => selection.setElement(said), onView: openView };
 const pmiPanel = model.pmi && new PmiPanel(pmiElements, model, pmiActions);
+const holesElements = { list: element('holes-list'), filter: element('holes-filter') };
+const holesPanel = model.holes && new LinesPanel(holesElements, model.holes, pmiActions.onSelect);
+holesPanel?.show(model.holes.groups);
 selection.onChange = () => {
   const { node, face } = selection;
   tree.select(node);
-  pmiPanel?.mark(selection.element, face ? model.pmi.speakingOf(node.reference.blockId, face) : []);
+  for (const panel of [pmiPanel, holesPanel]) {
+    panel?.mark(selection.element, face ? panel.source.speakingOf(node.reference.blockId, face) : []);
+  }
 };
+if (model.layers) {
+  buildLayers(element('layers-list'), model, () => {
+    stage.showLayers();
+    selection.refresh();
+  });
+}
 
 function showTab(id) {
   for (const tab of element('tabs').children) {
@@ -44,9 +58,14 @@ function showTab(id) {
     element(panel).hidden = panel !== id;
   }
 }
-for (const tab of element('tabs').children) tab.onclick = () => showTab(tab.getAttribute('aria-controls'));
-element('tabs').hidden = !model.pmi;
-showTab(model.pmi && [...model.nodes()].length === 1 ? 'pmi' : 'parts'); // a tree of one part tells nothing
+const lists = ['pmi', 'holes', 'layers'].filter((list) => model[list]);
+for (const tab of element('tabs').children) {
+  const panel = tab.getAttribute('aria-controls');
+  tab.onclick = () => showTab(panel);
+  tab.hidden = panel !== 'parts' && !lists.includes(panel);
+}
+element('tabs').hidden = !lists.length;
+showTab([...model.nodes()].length === 1 ? (lists[0] ?? 'parts') : 'parts'); // a tree of one part tells nothing
 
 function describe() {
   const nodes = [...model.nodes()];
@@ -55,7 +74,8 @@ function describe() {
   const facts = [count(parts, 'part')];
   if (nodes.length > parts) facts.push(count(nodes.length - parts, 'assembly').replace('assemblys', 'assemblies'));
   if (model.annotations.length) facts.push(count(model.annotations.length, 'annotation'));
-  if (model.units) facts.push(model.units);
+  if (model.mass !== null) facts.push(mass(model.mass));
+  if (model.units) facts.push(unitSign(model.units));
   return facts.join(' · ');
 }
 document.title = model.title;

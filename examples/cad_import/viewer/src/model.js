@@ -3,6 +3,8 @@
 import { Box3, BufferAttribute, BufferGeometry, Vector3 } from 'three';
 import { LineSegmentsGeometry } from 'three/addons/lines/LineSegmentsGeometry.js';
 
+import { Holes } from './holes.js';
+import { Layers } from './layers.js';
 import { Pmi, speaksOf } from './pmi.js';
 
 function bytes(base64) {
@@ -38,11 +40,8 @@ function buildFaces(shape) {
     const count = face.end - face.begin;
     face.begin = at;
     face.end = at += count;
-    if (!colors.length || colorKey(colors.at(-1)) !== colorKey(face.color)) {
-      colors.push(face.color ?? null);
-      geometry.addGroup(face.begin, 0, colors.length - 1);
-    }
-    geometry.groups.at(-1).count += count;
+    if (!colors.length || colorKey(colors.at(-1)) !== colorKey(face.color)) colors.push(face.color ?? null);
+    face.material = colors.length - 1;
   }
   geometry.setAttribute('position', new BufferAttribute(floats(shape.positions), 3));
   geometry.setAttribute('normal', new BufferAttribute(floats(shape.normals), 3));
@@ -55,14 +54,56 @@ class Shape {
   constructor(data) {
     Object.assign(this, buildFaces(data));
     this.color = data.color;
+    this.segments = floats(data.segments);
+    this.lines = data.edges ?? []; // in the order of their segments
+    this.parts = [...this.faces, ...this.lines]; // what a mechanical id can name
+    this.edges = this.segments.length ? new LineSegmentsGeometry() : null;
+    this.geometry.computeBoundingSphere();
+    this.show(() => true);
     const largest = this.geometry.groups.reduce((a, b) => (b.count > a.count ? b : a), { count: 0 });
     this.mainColor = this.colors[largest.materialIndex] ?? null; // null: the part's or the reference's
-    this.segments = floats(data.segments);
-    this.parts = [...this.faces, ...(data.edges ?? [])]; // what a mechanical id can name
-    this.edges = this.segments.length ? new LineSegmentsGeometry().setPositions(this.segments) : null;
-    if (this.edges) this.edges.computeBoundingBox();
-    this.geometry.computeBoundingBox();
-    this.geometry.computeBoundingSphere();
+  }
+
+  // Shows some of the faces and edges and hides the others, which are not drawn and not met by rays.
+  show(isShown) {
+    for (const part of this.parts) part.shown = isShown(part);
+    const shown = this.faces.filter((face) => face.shown);
+    this.geometry.clearGroups();
+    for (const { begin, end, material } of shown) {
+      const last = this.geometry.groups.at(-1);
+      if (last?.materialIndex === material && last.start + last.count === begin) last.count += end - begin;
+      else this.geometry.addGroup(begin, end - begin, material);
+    }
+    if (shown.length === this.faces.length) this.geometry.computeBoundingBox();
+    else this.geometry.boundingBox = this.#boxOf(shown);
+    this.edges?.dispose(); // what is drawn of them has another size now
+    this.edges?.setPositions(this.#shownSegments());
+  }
+
+  #shownSegments() {
+    const hidden = this.lines.filter(({ shown }) => !shown);
+    const missing = hidden.reduce((sum, { begin, end }) => sum + end - begin, 0);
+    const result = new Float32Array(this.segments.length - missing);
+    let from = 0;
+    let at = 0;
+    for (const { begin, end } of [...hidden, { begin: this.segments.length }]) {
+      result.set(this.segments.subarray(from, begin), at);
+      at += begin - from;
+      from = end;
+    }
+    return result;
+  }
+
+  #boxOf(faces) {
+    const box = new Box3();
+    const point = new Vector3();
+    const positions = this.geometry.getAttribute('position');
+    for (const { begin, end } of faces) {
+      for (const vertex of this.geometry.index.array.subarray(begin, end)) {
+        box.expandByPoint(point.fromBufferAttribute(positions, vertex));
+      }
+    }
+    return box;
   }
 
   // The face of a triangle that a ray has met.
@@ -80,14 +121,11 @@ class Shape {
   // The triangles of one face, on the vertices of the whole shape.
   faceGeometry(face) {
     const geometry = new BufferGeometry();
-    const positions = this.geometry.getAttribute('position');
-    geometry.setAttribute('position', positions);
+    geometry.setAttribute('position', this.geometry.getAttribute('position'));
     geometry.setAttribute('normal', this.geometry.getAttribute('normal'));
     const index = this.geometry.index.array.subarray(face.begin, face.end);
     geometry.setIndex(new BufferAttribute(index, 1));
-    geometry.boundingBox = new Box3();
-    const point = new Vector3();
-    for (const vertex of index) geometry.boundingBox.expandByPoint(point.fromBufferAttribute(positions, vertex));
+    geometry.boundingBox = this.#boxOf([face]);
     return geometry;
   }
 
@@ -112,6 +150,13 @@ class TreeNode {
       .map((child) => new TreeNode(model, child, this, within));
   }
 
+  // The kilograms of all bodies here and below; null when those of one are not known.
+  get mass() {
+    if (this.block?.isPart) return this.block.shape ? (this.block.mechanical?.mass ?? null) : 0;
+    const below = this.children.map((child) => child.mass);
+    return below.includes(null) ? null : below.reduce((sum, mass) => sum + mass, 0);
+  }
+
   *all() {
     const left = [this];
     while (left.length) {
@@ -128,12 +173,19 @@ export class Model {
     this.units = scene.units;
     this.views = scene.views ?? [];
     this.openView = scene.openView;
+    this.mass = scene.mass ?? null;
     const pmi = new Pmi(scene.pmi ?? {});
     this.pmi = pmi.elements.length ? pmi : null;
     this.annotations = scene.annotations ?? [];
     this.blocks = new Map(scene.blocks.map((block) => [block.id, block]));
     for (const block of scene.blocks) block.shape = block.shape && new Shape(block.shape);
     this.roots = scene.references.map((reference) => new TreeNode(this, reference, null, []));
+    const places = new Map();
+    for (const { block } of this.nodes()) if (block) places.set(block.id, (places.get(block.id) ?? 0) + 1);
+    const holes = new Holes(scene.blocks, places);
+    this.holes = holes.elements.length ? holes : null;
+    const layers = new Layers(scene.blocks);
+    this.layers = layers.all.length ? layers : null;
   }
 
   *nodes() {

@@ -20,6 +20,9 @@ const kSymbols = {
   '⌰': 'M9 13.5H1.5L7 5M3.5 5.4 7 5l.8 3.4M9 13.5 14.5 5M11 5.4l3.5-.4.8 3.4',
   '⌀': circle(5) + 'M3 14 13 2',
   '□': 'M3 3h10v10H3z',
+  '↧': 'M3 2.5h10M8 2.5V14M4.5 10 8 14l3.5-4',
+  '⌴': 'M2 4v8h12V4',
+  '⌵': 'M2 4l6 8 6-8',
 };
 const kSvg = 'http://www.w3.org/2000/svg';
 const kSpecial = new RegExp(`([${Object.keys(kSymbols).join('')}Ⓐ-Ⓩ])`, 'u');

@@ -1,4 +1,5 @@
-// What is selected: a place in the product tree and maybe a face of it, or an element of the PMI. Shows it in colour.
+// What is selected: a place in the product tree and maybe a face of it, an element of the PMI or a line of
+// holes. Shows it in colour.
 
 import { Mesh, MeshBasicMaterial } from 'three';
 import { LineMaterial } from 'three/addons/lines/LineMaterial.js';
@@ -45,14 +46,16 @@ export class Selection {
     this.#begin({ node, face: node && face, element: null });
     if (node) {
       for (const place of node.all()) {
-        if (place.mesh) this.#cover(place, new Mesh(place.mesh.geometry, partMaterial), 1);
+        if (!place.mesh) continue;
+        const materials = place.mesh.material.map(() => partMaterial);
+        this.#cover(place, new Mesh(place.mesh.geometry, materials), 1);
       }
     }
     if (this.face) this.#light(node, this.face);
     this.#end();
   }
 
-  // Lights what an element of the PMI is linked to, in all places, and its drawn form.
+  // Lights what an element of the PMI or a line of holes is linked to, in all places, and its drawn form.
   setElement(element) {
     const { model, annotations } = this.stage;
     this.#begin({ node: null, face: null, element });
@@ -64,11 +67,17 @@ export class Selection {
     this.#comeIntoView();
   }
 
+  // After a change of what is shown.
+  refresh() {
+    if (this.element) this.setElement(this.element);
+    else this.set(this.node, this.face);
+  }
+
   #begin(selected) {
     Object.assign(this, selected);
     for (const object of this.overlays) {
       object.removeFromParent();
-      if (object.material !== partMaterial) object.geometry.dispose();
+      if (object.geometry !== object.userData.place.mesh.geometry) object.geometry.dispose();
     }
     this.overlays = [];
     this.stage.annotations.light([]);
@@ -92,6 +101,7 @@ export class Selection {
 
   #light(place, part) {
     const { shape } = place.block;
+    if (!part.shown) return;
     if (part.mesh) {
       const geometry = shape.faceGeometry(part);
       this.#cover(place, new Mesh(geometry, faceMaterial), 2, part);

@@ -42,6 +42,7 @@ export class Stage {
     this.scene.add(this.parts, this.annotations);
     this.camera = new PerspectiveCamera(kFieldOfView);
     this.scene.add(this.camera);
+    if (model.layers) this.showLayers();
     this.#resize();
     this.look(kIsometric);
     new ResizeObserver(() => this.#resize()).observe(canvas.parentElement);
@@ -60,6 +61,14 @@ export class Stage {
 
   setEdges(shown) {
     for (const edges of this.parts.edges) edges.visible = shown;
+    this.draw();
+  }
+
+  // Shows what stands on a layer that is on, or on none.
+  showLayers() {
+    const { layers, blocks } = this.model;
+    for (const { id, shape } of blocks.values()) shape?.show((part) => layers.shows(id, part.mechanicalId));
+    this.annotations.showLayers(layers);
     this.draw();
   }
 

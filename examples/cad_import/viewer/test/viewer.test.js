@@ -1,13 +1,15 @@
-// usage: node viewer.test.js [--pmi] PAGE.html [SCREENSHOT.png]
+// usage: node viewer.test.js [--pmi] [--mechanical] PAGE.html [SCREENSHOT.png]
 // Opens the page in Chromium without a display and uses it as a person would. Prints what it checks; exits with 1 at
-// the first check that fails. A page without PMI passes, unless --pmi tells that it has some.
+// the first check that fails. What a page does not have is not checked, unless --pmi tells that it has PMI, and
+// --mechanical that it has holes, layers and a mass.
 import assert from 'node:assert/strict';
 import { pathToFileURL } from 'node:url';
 import { chromium } from 'playwright-core';
 
 const words = process.argv.slice(2);
 const mustHavePmi = words.includes('--pmi');
-const [page, screenshot] = words.filter((word) => word !== '--pmi');
+const mustBeMechanical = words.includes('--mechanical');
+const [page, screenshot] = words.filter((word) => !word.startsWith('--'));
 const browser = await chromium.launch({
   executablePath: process.env.BROWSER || '/usr/bin/chromium',
   args: [
@@ -76,14 +78,14 @@ const lit = () => {
   return { faces: faces.sort(), drawn: drawn.map(({ data }) => data.id).sort() };
 };
 
-// A point of the canvas with a face of which something is said.
-const spokenOf = () => {
+// A point of the canvas with a face of which something is said in the list of the PMI or of the holes.
+const spokenOf = (list) => {
   const { model, stage } = window.viewer;
   const { clientWidth, clientHeight } = stage.renderer.domElement;
   for (let y = 90; y < clientHeight - 90; y += 5) {
     for (let x = 5; x < clientWidth - 320; x += 5) {
       const { node, face } = stage.pick(x, y) ?? {};
-      const said = face ? model.pmi.speakingOf(node.block.id, face).map(({ id }) => id) : [];
+      const said = face ? model[list].speakingOf(node.block.id, face).map(({ id }) => id) : [];
       if (said.length) return { x, y, face: `${node.block.id} ${face.mechanicalId}`, said: said.sort() };
     }
   }
@@ -121,17 +123,105 @@ async function checkPmi(tab) {
   await tab.keyboard.press('Escape');
   await tab.locator('#toolbar button', { hasText: 'Iso' }).click();
   await tab.evaluate(look);
-  const spot = await tab.evaluate(spokenOf);
+  const spot = await tab.evaluate(spokenOf, 'pmi');
   assert.ok(spot, 'a face with PMI can be seen');
   const corner = await tab.locator('#canvas').boundingBox();
   await tab.mouse.click(corner.x + spot.x, corner.y + spot.y);
   assert.deepEqual((await tab.evaluate(lit)).faces, [spot.face]);
-  assert.deepEqual(await ids(tab.locator('#details .line')), spot.said, 'a click on a face tells what is said of it');
+  const told = tab.locator('#details h3:has-text("Said of this face") ~ .line');
+  assert.deepEqual(await ids(told), spot.said, 'a click on a face tells what is said of it');
   assert.deepEqual(await ids(tab.locator('#pmi-list .line.about')), spot.said, 'and marks it in the list');
-  await tab.locator('#details .line').first().click();
+  await told.first().click();
   const chosen = await tab.evaluate(() => window.viewer.selection.element.id);
   assert.ok(spot.said.includes(chosen), 'a line there selects what it tells');
   console.log(`${spot.said.length} elements speak of the face ${spot.face}`);
+}
+
+// The lines of holes, with the faces, in all their places, of the holes for which they stand.
+const holeLines = () => {
+  const { model } = window.viewer;
+  const nodes = [...model.nodes()];
+  return model.holes.elements.map(({ id, kind, text, block, ones }) => {
+    const { mechanical } = model.blocks.get(block);
+    const all = kind === 'Hole' ? mechanical.holes : mechanical.threads;
+    const names = [...new Set(ones.flatMap(({ index }) => all[index].faces))].map((face) => `${block} ${face}`);
+    const places = nodes.filter((node) => node.block?.id === block);
+    return { id, text, block, count: ones.length, places: places.length, faces: places.flatMap(() => names).sort() };
+  });
+};
+
+async function checkHoles(tab) {
+  await tab.locator('#tabs button', { hasText: 'Holes' }).click();
+  const all = await tab.evaluate(holeLines);
+  const told = await tab.evaluate(() => {
+    const blocks = new Set([...window.viewer.model.nodes()].map(({ block }) => block));
+    const data = [...blocks].flatMap((block) => block?.mechanical ?? []);
+    return data.flatMap(({ holes, threads }) => [...holes, ...threads.filter(({ hole }) => hole === null)]).length;
+  });
+  const listed = all.reduce((sum, { count }) => sum + count, 0);
+  assert.equal(listed, told, 'each hole stands on one line');
+  for (const line of new Set([...all.filter(({ count }) => count > 1), ...all.filter(({ places }) => places > 1)])) {
+    await tab.locator(`#holes-list [data-id="${line.id}"]`).click();
+    assert.deepEqual((await tab.evaluate(lit)).faces, line.faces, `${line.text} lights its faces and no others`);
+    assert.deepEqual(await ids(tab.locator('#holes-list .line.selected')), [line.id]);
+  }
+
+  await tab.keyboard.press('Escape');
+  await tab.evaluate(look);
+  const spot = await tab.evaluate(spokenOf, 'holes');
+  assert.ok(spot, 'a face of a hole can be seen');
+  const corner = await tab.locator('#canvas').boundingBox();
+  await tab.mouse.click(corner.x + spot.x, corner.y + spot.y);
+  assert.deepEqual(await ids(tab.locator('#holes-list .line.about')), spot.said, 'a click on it marks the line');
+  await tab.locator(`#details .line[data-id="${spot.said[0]}"]`).click();
+  const { faces } = await tab.evaluate(lit);
+  assert.ok(faces.includes(spot.face), 'and the line there lights the hole');
+  await tab.keyboard.press('Escape');
+  console.log(`${all.length} lines tell of ${told} holes and threads`);
+}
+
+// A point of the canvas at which something on a layer stands, or what stands at a given point.
+const onLayer = (point) => {
+  const { model, stage } = window.viewer;
+  const layersAt = ({ x, y }) => {
+    const { node, face } = stage.pick(x, y) ?? {};
+    return face ? model.layers.of(node.block.id, face.mechanicalId).map(({ name }) => name) : [];
+  };
+  if (point) return layersAt(point);
+  const { clientWidth, clientHeight } = stage.renderer.domElement;
+  for (let y = 90; y < clientHeight - 90; y += 5) {
+    for (let x = 5; x < clientWidth; x += 5) {
+      const names = layersAt({ x, y });
+      if (names.length === 1) return { x, y, name: names[0] };
+    }
+  }
+  return null;
+};
+
+async function checkLayers(tab) {
+  await tab.locator('#tabs button', { hasText: 'Layers' }).click();
+  const before = await tab.evaluate(look);
+  const spot = await tab.evaluate(onLayer);
+  assert.ok(spot, 'something on a layer can be seen');
+  const box = tab.getByRole('checkbox', { name: spot.name });
+  await box.uncheck();
+  const without = await tab.evaluate(look);
+  assert.ok(without.triangles < before.triangles && without.share < before.share, `${spot.name} disappears`);
+  assert.ok(!(await tab.evaluate(onLayer, spot)).includes(spot.name), 'and is not picked');
+  await box.check();
+  assert.deepEqual(await tab.evaluate(look), before, 'and comes back');
+  console.log(`the layer ${spot.name} has ${before.triangles - without.triangles} triangles`);
+}
+
+async function checkMass(tab) {
+  const [whole] = (await tab.locator('#summary').innerText()).match(/[\d,.]+ k?g\b/) ?? [];
+  assert.ok(whole, 'the head tells the mass of the whole');
+  await tab.locator('#tabs button', { hasText: 'Parts' }).click();
+  await tab.locator('.row .name').first().click();
+  const rows = await tab.locator('#details dl').innerText();
+  assert.ok(rows.includes(whole), `the masses of the parts come to ${whole}`);
+  await tab.keyboard.press('Escape');
+  console.log(`the mass is ${whole}`);
 }
 
 try {
@@ -142,12 +232,14 @@ try {
   await tab.goto(pathToFileURL(page).href);
   await tab.waitForFunction(() => window.viewer);
 
-  const { first: firstView, openView, hasPmi } = await tab.evaluate(() => {
-    const { views, openView, pmi } = window.viewer.model;
+  const { firstView, openView, has } = await tab.evaluate(() => {
+    const { views, openView, pmi, holes, layers, mass } = window.viewer.model;
     const first = views.find((view) => view.annotationIds.length) ?? views[0];
-    return { first: first && (first.name || first.id), openView, hasPmi: Boolean(pmi) };
+    const has = { pmi: Boolean(pmi), holes: Boolean(holes), layers: Boolean(layers), mass: mass !== null };
+    return { firstView: first && (first.name || first.id), openView, has };
   });
-  assert.ok(hasPmi || !mustHavePmi, 'there is PMI');
+  assert.ok(has.pmi || !mustHavePmi, 'there is PMI');
+  assert.ok((has.holes && has.layers && has.mass) || !mustBeMechanical, 'there are holes, layers and a mass');
   if (firstView) assert.equal(await pressedView(tab), openView ?? firstView, 'the page opens on a saved view');
   const first = await tab.evaluate(look);
   assert.ok(first.triangles > 0, 'triangles are drawn');
@@ -167,10 +259,13 @@ try {
   assert.equal(await tab.locator('.row.selected .name').innerText(), selected.part, 'the tree shows it too');
   console.log(`the click selected ${selected.part}, face ${selected.face}`);
 
-  if (hasPmi) await checkPmi(tab);
+  if (has.pmi) await checkPmi(tab);
+  if (has.holes) await checkHoles(tab);
+  if (has.layers) await checkLayers(tab);
+  if (has.mass) await checkMass(tab);
   if (screenshot) await tab.screenshot({ path: screenshot });
 
-  if (hasPmi) await tab.locator('#tabs button', { hasText: 'Parts' }).click();
+  if (await tab.locator('#tabs').isVisible()) await tab.locator('#tabs button', { hasText: 'Parts' }).click();
   const annotations = tab.locator('#toolbar button', { hasText: 'PMI' });
   if (await annotations.count()) await annotations.click();
   await tab.locator('.row input').first().uncheck();
