@@ -11,7 +11,7 @@
 void addFeatures(MechanicalData& data, const CadModel& model, const ProductStructureBuilder& builder, ShapeLinks& links)
 {
     (void)model;
-    for (std::uint64_t block = 1; block <= static_cast<std::uint64_t>(builder.blocks().Extent()); ++block)
+    for (std::uint64_t block = 1; block <= builder.blockCount(); ++block)
     {
         const TopoDS_Shape shape = builder.shapeOf(block);
         TopTools_IndexedMapOfShape solids;
