@@ -151,9 +151,9 @@ void BlockFeatures::addPattern(vrx::ExcMfgData& data, const HolePattern& pattern
         const auto circle = std::make_shared<vrx::ExcMfgPatternCircular>();
         circle->setAnchorPoint(point(first.center));
         circle->setCenterOfRotation(point(pattern.center));
-        circle->setAxisOfRotation(vector(first.direction));
+        circle->setAxisOfRotation(vector(pattern.axis));
         circle->setAxialInstanceCount(static_cast<std::int32_t>(pattern.holes.size()));
-        circle->setAxialDistanceDegrees(360.0 / static_cast<double>(pattern.holes.size()));
+        circle->setAxialDistanceDegrees(pattern.step);
         circle->setRadialInstanceCount(1);
         circle->setBaseInstance(base);
         feature->setPattern(circle);
