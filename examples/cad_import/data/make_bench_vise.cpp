@@ -3,6 +3,7 @@
 
 #include "iges_form.h"
 #include "vise_document.h"
+#include "vise_threads.h"
 
 #include <APIHeaderSection_MakeHeader.hxx>
 #include <Interface_Static.hxx>
@@ -51,6 +52,7 @@ bool writeStep(const Handle(TDocStd_Document) & document, const char* path)
     {
         return false;
     }
+    vise::addThreads(writer, document);
     setHeader(Handle(StepData_StepModel)::DownCast(writer.ChangeWriter().WS()->Model()));
     return writer.Write(path) == IFSelect_RetDone;
 }

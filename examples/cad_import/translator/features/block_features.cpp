@@ -1,5 +1,6 @@
 #include "features/block_features.h"
 
+#include "features/face_surface.h"
 #include "mechanical/shape_links.h"
 #include "mp/narrow.h"
 
@@ -12,6 +13,29 @@ namespace
 vrx::ExcVector3d vector(const gp_Dir& direction)
 {
     return {direction.X() + 0.0, direction.Y() + 0.0, direction.Z() + 0.0}; // no negative zeros
+}
+
+// By the beginning of the designation, but for the unified threads, which begin with their size.
+vrx::ExcMfgThreading::EDesignationSystemType systemOf(const mp::wstring& designation)
+{
+    using EType = vrx::ExcMfgThreading::EDesignationSystemType;
+    const std::string text = mp::toNarrow(designation);
+    const auto begins = [&text](const char* with) { return text.rfind(with, 0) == 0; };
+    if (text.find("UN") != std::string::npos || text.find("NPT") != std::string::npos)
+    {
+        return EType::American;
+    }
+    if (begins("BS") || begins("G"))
+    {
+        return EType::British;
+    }
+    return begins("M") || begins("Tr") ? EType::Metric : EType::Unknown;
+}
+
+vrx::ExcMfgThreading::EOrientation orientationOf(const mp::wstring& hand)
+{
+    using EType = vrx::ExcMfgThreading::EOrientation;
+    return hand == WIDE("right") ? EType::RightHanded : hand == WIDE("left") ? EType::LeftHanded : EType::Unknown;
 }
 
 // One face may be around both ends.
@@ -151,9 +175,9 @@ void BlockFeatures::addPattern(vrx::ExcMfgData& data, const HolePattern& pattern
         const auto circle = std::make_shared<vrx::ExcMfgPatternCircular>();
         circle->setAnchorPoint(point(first.center));
         circle->setCenterOfRotation(point(pattern.center));
-        circle->setAxisOfRotation(vector(first.direction));
+        circle->setAxisOfRotation(vector(pattern.axis));
         circle->setAxialInstanceCount(static_cast<std::int32_t>(pattern.holes.size()));
-        circle->setAxialDistanceDegrees(360.0 / static_cast<double>(pattern.holes.size()));
+        circle->setAxialDistanceDegrees(pattern.step);
         circle->setRadialInstanceCount(1);
         circle->setBaseInstance(base);
         feature->setPattern(circle);
@@ -175,4 +199,63 @@ void BlockFeatures::addPattern(vrx::ExcMfgData& data, const HolePattern& pattern
     feature->setId(name);
     feature->setName(name);
     data.addUnclassifiedFeature(feature);
+}
+
+void BlockFeatures::addThread(vrx::ExcMfgData& data, const StepThread& thread, const std::vector<TopoDS_Face>& faces,
+                              const Hole* hole) const
+{
+    using EBottomType = vrx::ExcMfgThread::EBottomType;
+    const double scale = m_frame.scale();
+    const auto sizes = std::make_shared<vrx::ExcMfgThread>();
+    sizes->setDesignation(thread.designation);
+    sizes->setDesignationSystemType(systemOf(thread.designation));
+    sizes->setOrientation(orientationOf(thread.hand));
+    sizes->setDiameter(thread.diameter * scale);
+    sizes->setPitch(thread.pitch * scale);
+    sizes->setDepth(thread.depth * scale);
+    if (thread.depth > 0)
+    {
+        sizes->setBottomType(EBottomType::Dimension);
+    }
+    if (hole != nullptr)
+    {
+        sizes->setSupportDiameter(hole->diameter * scale);
+        sizes->setSupportDepth(hole->depth * scale);
+        // All of the hole is tapped.
+        if (thread.depth == 0 || thread.depth >= hole->depth * (1 - kSameLength))
+        {
+            sizes->setBottomType(EBottomType::SupportDepth);
+        }
+    }
+    else if (const FaceSurface surface = surfaceOf(faces.front()); surface.kind == FaceSurface::Kind::Cylinder)
+    {
+        sizes->setSupportDiameter(2 * surface.radius * scale);
+    }
+
+    const auto fill = [&](vrx::ExcMfgFeatureThread& feature, std::size_t before) {
+        const mp::wstring name = mp::toWide("thread " + std::to_string(before + 1));
+        feature.setId(name);
+        feature.setName(name);
+        feature.setThread(sizes);
+        link(faces, [&feature](const auto& entity) { feature.addSideFace(entity); });
+        if (hole != nullptr)
+        {
+            link(hole->opening, [&feature](const auto& entity) { feature.addTopFace(entity); });
+            link(hole->end == Hole::End::Blind ? hole->bottom : hole->exit,
+                 [&feature](const auto& entity) { feature.addBottomFace(entity); });
+        }
+    };
+    const std::size_t before = data.internalThreads().size() + data.externalThreads().size();
+    if (thread.isInternal)
+    {
+        const auto feature = std::make_shared<vrx::ExcMfgFeatureInternalThread>();
+        fill(*feature, before);
+        data.addInternalThread(feature);
+    }
+    else
+    {
+        const auto feature = std::make_shared<vrx::ExcMfgFeatureExternalThread>();
+        fill(*feature, before);
+        data.addExternalThread(feature);
+    }
 }

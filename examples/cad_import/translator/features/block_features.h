@@ -2,6 +2,7 @@
 
 #include "features/hole.h"
 #include "features/hole_patterns.h"
+#include "features/step_threads.h"
 #include "structure/model_frame.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 
@@ -24,6 +25,10 @@ public:
 
     /// Of these holes of one solid.
     void addPattern(vrx::ExcMfgData& data, const HolePattern& pattern, const std::vector<Hole>& holes) const;
+
+    /// On these faces; the hole is the one that is tapped, or null.
+    void addThread(vrx::ExcMfgData& data, const StepThread& thread, const std::vector<TopoDS_Face>& faces,
+                   const Hole* hole) const;
 
 private:
     template <class T>

@@ -44,6 +44,12 @@ private:
         gp_Ax1 axis;       // of its narrowest wall
         double radius = 0; // of that
         std::size_t narrowest = 0;
+        enum class Opening
+        {
+            Unknown,
+            AtFirstEnd,
+            AtSecondEnd,
+        } opening = Opening::Unknown;
         std::vector<SolidLines::Crossing> crossings{}; // of the axis with the solid
     };
 
@@ -55,6 +61,7 @@ private:
     double along(const Bore& bore, const gp_Pnt& point) const;
     bool isFree(const Bore& bore, double from, double to) const;
     double mouth(const RingChain& chain) const;
+    bool isBoredWider(const Bore& bore, bool fromItsEnd) const;
 
     Bore boreOf(const RingChain& chain) const;
     void turn(Bore& bore) const;
@@ -112,6 +119,27 @@ double HoleFinder::mouth(const RingChain& chain) const
     return 0;
 }
 
+// At its first end, or at its second; a chamfer is nothing of the kind.
+bool HoleFinder::isBoredWider(const Bore& bore, bool fromItsEnd) const
+{
+    const auto isCylinder = [this](const RingPass& pass) {
+        return m_rings.isWall(pass.region) && surfaceOf(pass.region).kind == Kind::Cylinder;
+    };
+    const RingChain& chain = bore.chain;
+    const RingPass* cylinder = nullptr;
+    if (fromItsEnd)
+    {
+        const auto found = std::find_if(chain.rbegin(), chain.rend(), isCylinder);
+        cylinder = found != chain.rend() ? &*found : nullptr;
+    }
+    else
+    {
+        const auto found = std::find_if(chain.begin(), chain.end(), isCylinder);
+        cylinder = found != chain.end() ? &*found : nullptr;
+    }
+    return cylinder != nullptr && surfaceOf(cylinder->region).radius > bore.radius * (1 + kSameLength);
+}
+
 // Its axis leads from the first end to the second.
 HoleFinder::Bore HoleFinder::boreOf(const RingChain& chain) const
 {
@@ -153,6 +181,11 @@ void HoleFinder::turn(Bore& bore) const
         std::swap(pass.entry, pass.exit);
     }
     bore.narrowest = bore.chain.size() - 1 - bore.narrowest;
+    if (bore.opening != Bore::Opening::Unknown)
+    {
+        bore.opening =
+            bore.opening == Bore::Opening::AtFirstEnd ? Bore::Opening::AtSecondEnd : Bore::Opening::AtFirstEnd;
+    }
     const double length = along(bore, entryPlace(bore.chain.front()));
     bore.axis.SetLocation(bore.axis.Location().Translated(gp_Vec(bore.axis.Direction()) * length));
     bore.axis.Reverse();
@@ -209,12 +242,19 @@ void HoleFinder::joinInLine(std::vector<Bore>& bores) const
         for (std::size_t j = 1; j < inLine.size(); ++j)
         {
             Bore& before = bores[last];
-            const Bore& behind = bores[inLine[j].second];
+            Bore& behind = bores[inLine[j].second];
             const double end = along(before, exitPlace(before.chain.back()));
             const double begin = along(before, behind.axis.Location());
             const double margin = kSameAxis * before.radius;
-            const bool areOpen = !isClosed(before.chain.back().exit) && !isClosed(behind.chain.front().entry);
-            if (areOpen && begin > end - margin && isFree(before, end + margin, begin - margin))
+            const bool areJoined = !isClosed(before.chain.back().exit) && !isClosed(behind.chain.front().entry) &&
+                                   begin > end - margin && isFree(before, end + margin, begin - margin);
+            if (areJoined && isBoredWider(before, false) && isBoredWider(behind, true))
+            {
+                before.opening = Bore::Opening::AtFirstEnd;
+                behind.opening = Bore::Opening::AtSecondEnd;
+                last = inLine[j].second;
+            }
+            else if (areJoined)
             {
                 before.chain.insert(before.chain.end(), behind.chain.begin(), behind.chain.end());
                 isJoined[inLine[j].second] = true;
@@ -238,6 +278,10 @@ void HoleFinder::joinInLine(std::vector<Bore>& bores) const
 
 bool HoleFinder::isFirstEndTheOpening(const Bore& bore) const
 {
+    if (bore.opening != Bore::Opening::Unknown)
+    {
+        return bore.opening == Bore::Opening::AtFirstEnd;
+    }
     Bore turned = bore;
     turn(turned);
     const double difference = mouth(bore.chain) - mouth(turned.chain);

@@ -15,7 +15,7 @@
 namespace
 {
 
-const double kPlace = 1e-3;           // how exact the places are, in diameters of the holes
+const double kPlace = 2e-3;           // how exact the places are, in diameters of the holes
 const std::size_t kMostToSplit = 200; // holes that are no pattern as a whole, and axes to look around
 const double kFullTurn = 6.28318530717958647692;
 
@@ -69,6 +69,8 @@ public:
 private:
     std::optional<HolePattern> whole() const;
     std::optional<HolePattern> circleAround(const gp_XY& centre, Places places) const;
+    std::vector<HolePattern> arcsOf(const gp_XY& centre, const Places& places) const;
+    std::optional<HolePattern> fullCircle(const gp_XY& centre, const Places& places) const;
     std::optional<HolePattern> gridOf(const Places& places) const;
     std::optional<HolePattern> largestCircle() const;
     std::optional<HolePattern> largestGrid() const;
@@ -163,6 +165,8 @@ std::optional<HolePattern> PatternSearch::circleAround(const gp_XY& centre, Plac
     HolePattern circle;
     circle.isCircular = true;
     circle.center = inSpace(centre);
+    circle.axis = m_frame.Direction();
+    circle.step = 360.0 / static_cast<double>(places.size());
     for (const auto& [number, hole] : order)
     {
         if (number != static_cast<long>(circle.holes.size()))
@@ -272,9 +276,87 @@ std::optional<HolePattern> PatternSearch::whole() const
     return pattern ? pattern : gridOf(m_places);
 }
 
+// Arcs of places, which are all at one distance from the centre, with the smallest step between two of them; none
+// unless each place is on one.
+std::vector<HolePattern> PatternSearch::arcsOf(const gp_XY& centre, const Places& places) const
+{
+    const double radius = (places.front().point - centre).Modulus();
+    std::vector<std::pair<double, std::size_t>> order;
+    for (const Place& place : places)
+    {
+        order.emplace_back(std::atan2(place.point.Y() - centre.Y(), place.point.X() - centre.X()), place.hole);
+    }
+    std::sort(order.begin(), order.end());
+    const std::size_t count = order.size();
+    std::vector<double> gaps; // behind each place
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        gaps.push_back(order[(i + 1) % count].first - order[i].first + (i + 1 == count ? kFullTurn : 0));
+    }
+    const double step = *std::min_element(gaps.begin(), gaps.end());
+    const auto isWide = [&](std::size_t i) { return (gaps[i % count] - step) * radius > 2 * m_tolerance; };
+    std::size_t start = 0; // behind a wide gap
+    while (start < count && !isWide(start + count - 1))
+    {
+        ++start;
+    }
+    std::vector<HolePattern> arcs;
+    for (std::size_t i = start; start < count && i < start + count; ++i)
+    {
+        if (arcs.empty() || isWide(i + count - 1))
+        {
+            arcs.emplace_back();
+            arcs.back().isCircular = true;
+            arcs.back().center = inSpace(centre);
+            arcs.back().axis = m_frame.Direction();
+            arcs.back().step = step * 360.0 / kFullTurn;
+        }
+        arcs.back().holes.push_back(order[i % count].second);
+    }
+    const bool areAllArcs =
+        std::all_of(arcs.begin(), arcs.end(), [](const HolePattern& arc) { return arc.holes.size() >= 3; });
+    return areAllArcs ? arcs : std::vector<HolePattern>();
+}
+
+// The full circle with the most of these places, which are all at one distance from the centre.
+std::optional<HolePattern> PatternSearch::fullCircle(const gp_XY& centre, const Places& places) const
+{
+    for (std::size_t count = places.size(); count >= 3; --count)
+    {
+        for (const Place& first : places)
+        {
+            Places even;
+            for (std::size_t i = 0; i < count && even.size() == i; ++i)
+            {
+                const double turn = kFullTurn * static_cast<double>(i) / static_cast<double>(count);
+                const gp_XY arm = first.point - centre;
+                const gp_XY point = centre + arm * std::cos(turn) + gp_XY(-arm.Y(), arm.X()) * std::sin(turn);
+                const auto found = std::find_if(places.begin(), places.end(), [&](const Place& place) {
+                    return (place.point - point).Modulus() <= m_tolerance;
+                });
+                if (found != places.end())
+                {
+                    even.push_back(*found);
+                }
+            }
+            if (even.size() == count)
+            {
+                return circleAround(centre, even);
+            }
+        }
+    }
+    return std::nullopt;
+}
+
 std::optional<HolePattern> PatternSearch::largestCircle() const
 {
     std::optional<HolePattern> largest;
+    const auto note = [&largest](const HolePattern& pattern) {
+        if (!largest || pattern.holes.size() > largest->holes.size())
+        {
+            largest = pattern;
+        }
+    };
     for (const gp_XY& axis : m_axes)
     {
         Places sorted = m_places;
@@ -286,36 +368,21 @@ std::optional<HolePattern> PatternSearch::largestCircle() const
             const auto end = std::find_if(begin, sorted.end(), [&](const Place& place) {
                 return distance(place) > distance(*begin) + m_tolerance;
             });
-            // Not all on this circle need be of one pattern.
-            for (auto first = begin; first != end; ++first)
+            const Places places(begin, end);
+            begin = end;
+            if (places.size() < 3)
             {
-                for (std::size_t count = static_cast<std::size_t>(end - begin);
-                     count >= 3 && (!largest || count > largest->holes.size()); --count)
+                continue;
+            }
+            const std::vector<HolePattern> arcs = arcsOf(axis, places);
+            std::for_each(arcs.begin(), arcs.end(), note);
+            if (arcs.empty())
+            {
+                if (const std::optional<HolePattern> circle = fullCircle(axis, places))
                 {
-                    Places even;
-                    for (std::size_t i = 0; i < count; ++i)
-                    {
-                        const double turn = kFullTurn * static_cast<double>(i) / static_cast<double>(count);
-                        const gp_XY arm = first->point - axis;
-                        const gp_XY point(axis.X() + arm.X() * std::cos(turn) - arm.Y() * std::sin(turn),
-                                          axis.Y() + arm.X() * std::sin(turn) + arm.Y() * std::cos(turn));
-                        const auto found = std::find_if(begin, end, [&](const Place& place) {
-                            return (place.point - point).Modulus() <= m_tolerance;
-                        });
-                        if (found == end)
-                        {
-                            break;
-                        }
-                        even.push_back(*found);
-                    }
-                    if (even.size() == count)
-                    {
-                        const std::optional<HolePattern> circle = circleAround(axis, even);
-                        largest = circle ? circle : largest;
-                    }
+                    note(*circle);
                 }
             }
-            begin = end;
         }
     }
     return largest;

@@ -13,6 +13,8 @@ struct HolePattern
     std::vector<std::size_t> holes;
     bool isCircular = false;
     gp_Pnt center;
+    gp_Dir axis;
+    double step = 0; // in degrees, about that
     gp_Dir primary;
     gp_Dir secondary;
     std::size_t primaryCount = 1;
@@ -24,6 +26,6 @@ struct HolePattern
 ///
 /// Equal holes that open in one plane with one direction are tried as a whole: three or more evenly on a circle, or two
 /// or more in a full grid; four in a square are on a circle when one of the axes goes through its middle. When they are
-/// neither, circles around the axes are taken out of them, those with the most holes first, and then full grids of
-/// three in a row or more; the rest is tried as a whole once more.
+/// neither, circles around the axes and even arcs of three or more are taken out of them, those with the most holes
+/// first, and then full grids of three in a row or more; the rest is tried as a whole once more.
 std::vector<HolePattern> patternsOf(const std::vector<Hole>& holes, const std::vector<gp_Ax1>& axes);
