@@ -186,7 +186,7 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     ShapeLinks links(model, builder, bodies);
     MechanicalData mechanical;
     addMaterials(mechanical, materials, links);
-    addStatedFigures(mechanical, builder.properties(), links);
+    addStatedFigures(mechanical, model, builder, links);
     const std::unique_ptr<DrawnPmi> drawn = settings.pmi ? drawnPmi(model, builder) : nullptr;
     std::map<int, mp::wstring> drawnIds;
     if (drawn && settings.semanticPmi)

@@ -16,8 +16,8 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <tuple>
 #include <unordered_set>
-#include <utility>
 
 namespace
 {
@@ -136,7 +136,7 @@ private:
 
     Information& of(const ShapeLinks::Link& link)
     {
-        std::shared_ptr<Information>& information = m_all[{link.block, link.shape}];
+        std::shared_ptr<Information>& information = m_all[{link.block, link.shape, link.place}];
         if (!information)
         {
             information = std::make_shared<Information>();
@@ -152,7 +152,7 @@ private:
     ShapeLinks& m_links;
     LineStyles m_styles;
     std::unordered_set<int> m_invisible;
-    std::map<std::pair<std::uint64_t, const TopoDS_TShape*>, std::shared_ptr<Information>> m_all;
+    std::map<std::tuple<std::uint64_t, const TopoDS_TShape*, std::size_t>, std::shared_ptr<Information>> m_all;
 };
 
 } // namespace

@@ -82,7 +82,7 @@ public:
 
     void add(const mp::wstring& name, const mp::wstring& shownName, const ShapeLinks::Link& link)
     {
-        if (m_known.insert({name, link.block, link.shape}).second)
+        if (m_known.insert({name, link.block, link.shape, link.place}).second)
         {
             of(name, shownName, link.block).addEntity(link.entity);
         }
@@ -117,7 +117,7 @@ private:
     std::set<std::int32_t> m_used;
     std::map<mp::wstring, std::int32_t> m_ids; // of layers, by name
     std::map<std::pair<mp::wstring, std::uint64_t>, std::shared_ptr<vrx::ExcMiscLayer>> m_layers;
-    std::set<std::tuple<mp::wstring, std::uint64_t, const TopoDS_TShape*>> m_known;
+    std::set<std::tuple<mp::wstring, std::uint64_t, const TopoDS_TShape*, std::size_t>> m_known;
     std::set<std::pair<mp::wstring, mp::wstring>> m_knownAnnotations;
 };
 

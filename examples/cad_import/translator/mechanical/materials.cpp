@@ -125,20 +125,21 @@ private:
         }
     }
 
-    // Of a product, or of the solids that a shape aspect names; null for what was not sent.
+    // Of a product, or of the solids that a shape aspect names; null for anything else.
     StatedMaterial* materialOf(const StepRecord& target)
     {
-        const std::uint64_t block = target ? m_products.of(target) : 0;
+        const int product = m_products.productOf(target).id();
         std::vector<int> solids = target.is("SHAPE_ASPECT") ? aspect_items::solids(target) : std::vector<int>();
-        if (block == 0 || (target.is("SHAPE_ASPECT") && solids.empty()))
+        if (product == 0 || (target.is("SHAPE_ASPECT") && solids.empty()))
         {
             return nullptr;
         }
         // The shape of a product stands for the product.
-        const auto [known, isNew] = m_places.insert({{block, solids}, m_all.size()});
+        const auto [known, isNew] = m_places.insert({{product, solids}, m_all.size()});
         if (isNew)
         {
-            m_all.push_back({block, std::move(solids), std::make_shared<vrx::ExcMiscMaterial>()});
+            m_all.push_back(
+                {m_products.of(target), product, std::move(solids), std::make_shared<vrx::ExcMiscMaterial>()});
         }
         return &m_all[known->second];
     }
@@ -173,7 +174,7 @@ private:
 
     const StepRecords& m_records;
     ProductBlocks m_products;
-    std::map<std::pair<std::uint64_t, std::vector<int>>, std::size_t> m_places; // in the list below
+    std::map<std::pair<int, std::vector<int>>, std::size_t> m_places; // in the list below
     std::vector<StatedMaterial> m_all;
 };
 
@@ -187,6 +188,32 @@ bool isEmpty(const vrx::ExcMiscMaterial& material)
         }
     }
     return material.name().empty();
+}
+
+// Adds a material to the blocks that show its bodies.
+void addToBodies(MechanicalData& data, const StatedMaterial& stated, ShapeLinks& links)
+{
+    std::map<std::uint64_t, std::shared_ptr<vrx::ExcMiscMaterial>> ofBlocks;
+    for (const int item : stated.solids.empty() ? std::vector<int>{stated.product} : stated.solids)
+    {
+        const TopoDS_Shape shape = links.shapeOf(item);
+        for (const ShapeLinks::Link& link : shape.IsNull() ? std::vector<ShapeLinks::Link>() : links.everywhere(shape))
+        {
+            const bool isBody = link.entity->type() == vrx::ExcEntity::EType::Fsp &&
+                                link.entity->fsp()->subentId().type() == vrx::ExcSubentId::EType::Body;
+            if (!isBody || (stated.block != 0 && link.block != stated.block))
+            {
+                continue;
+            }
+            std::shared_ptr<vrx::ExcMiscMaterial>& material = ofBlocks[link.block];
+            if (!material)
+            {
+                material = std::make_shared<vrx::ExcMiscMaterial>(*stated.material);
+                data.misc(link.block).addMaterial(material);
+            }
+            material->addLinkedElement(link.entity);
+        }
+    }
 }
 
 } // namespace
@@ -203,18 +230,14 @@ void addMaterials(MechanicalData& data, const std::vector<StatedMaterial>& mater
 {
     for (const StatedMaterial& stated : materials)
     {
-        stated.material->setPartLevelMaterial(stated.solids.empty());
-        for (const int solid : stated.solids)
+        if (stated.block != 0 && stated.solids.empty())
         {
-            const TopoDS_Shape shape = links.shapeOf(solid);
-            if (const auto body = shape.IsNull() ? nullptr : links.entity(shape, stated.block))
-            {
-                stated.material->addLinkedElement(body);
-            }
-        }
-        if (stated.material->isPartLevelMaterial() || !stated.material->linkedElements().empty())
-        {
+            stated.material->setPartLevelMaterial(true);
             data.misc(stated.block).addMaterial(stated.material);
+        }
+        else
+        {
+            addToBodies(data, stated, links);
         }
     }
 }

@@ -14,12 +14,13 @@ struct CadModel;
 /// The material that a STEP file gives a part, or some of its solids.
 struct StatedMaterial
 {
-    std::uint64_t block = 0;
+    std::uint64_t block = 0; // of the part; 0 when that is no block of its own
+    int product = 0;         // its product definition
     std::vector<int> solids; // the items of the geometry; empty for the part as a whole
     std::shared_ptr<vrx::ExcMiscMaterial> material;
 };
 
-/// Those of the blocks that were built, in the order of the file.
+/// In the order of the file.
 std::vector<StatedMaterial> statedMaterials(const CadModel& model, const ProductStructureBuilder& blocks);
 
 void addMaterials(MechanicalData& data, const std::vector<StatedMaterial>& materials, ShapeLinks& links);

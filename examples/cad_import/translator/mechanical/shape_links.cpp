@@ -7,7 +7,6 @@
 #include "reading/cad_model.h"
 #include "structure/product_structure_builder.h"
 
-#include <StepRepr_RepresentationItem.hxx>
 #include <TopExp.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
@@ -77,7 +76,22 @@ std::shared_ptr<vrx::ExcEntity> sceneEntity(const vrx::ExcSubentId& part)
     return entity;
 }
 
+std::shared_ptr<vrx::ExcEntity> entityAt(std::uint64_t bodyId, const vrx::ExcSubentId& part)
+{
+    return bodyId != 0 ? bodyEntity(bodyId, part) : sceneEntity(part);
+}
+
 } // namespace
+
+void ShapeLinks::Places::add(const TopoDS_TShape* shape, const Place& place)
+{
+    const auto [known, isNew] = first.insert({shape, place});
+    // The parts of bodies are parts of the block too.
+    if (!isNew && (place.bodyId != 0 || known->second.bodyId == 0))
+    {
+        others[shape].push_back(place);
+    }
+}
 
 ShapeLinks::ShapeLinks(const CadModel& model, const ProductStructureBuilder& blocks, const BlockBodies& bodies)
     : m_model(model)
@@ -104,21 +118,16 @@ std::vector<std::shared_ptr<vrx::ExcEntity>> ShapeLinks::of(const std::vector<St
 std::shared_ptr<vrx::ExcEntity> ShapeLinks::entity(const TopoDS_Shape& shape, std::uint64_t block)
 {
     const Places& places = placesIn(block);
-    const auto found = places.find(shape.TShape().get());
-    if (found == places.end())
-    {
-        return nullptr;
-    }
-    const Place& place = found->second;
-    return place.bodyId != 0 ? bodyEntity(place.bodyId, place.part) : sceneEntity(place.part);
+    const auto found = places.first.find(shape.TShape().get());
+    return found != places.first.end() ? entityAt(found->second.bodyId, found->second.part) : nullptr;
 }
 
 std::optional<std::size_t> ShapeLinks::bodyNumber(const TopoDS_Shape& solid, std::uint64_t block)
 {
     const Places& places = placesIn(block);
-    const auto place = places.find(solid.TShape().get());
+    const auto place = places.first.find(solid.TShape().get());
     const std::vector<std::uint64_t>& ids = m_bodies.ids(block);
-    const auto id = place != places.end() && place->second.part.type() == EType::Body
+    const auto id = place != places.first.end() && place->second.part.type() == EType::Body
                         ? std::find(ids.begin(), ids.end(), place->second.bodyId)
                         : ids.end();
     return id != ids.end() ? std::optional(static_cast<std::size_t>(id - ids.begin())) : std::nullopt;
@@ -133,7 +142,15 @@ std::vector<ShapeLinks::Link> ShapeLinks::everywhere(const TopoDS_Shape& shape)
     {
         for (const std::uint64_t block : found->second)
         {
-            links.push_back({block, entity(shape, block), shape.TShape().get()});
+            const TopoDS_TShape* const known = shape.TShape().get();
+            const Places& places = placesIn(block);
+            links.push_back({block, entity(shape, block), known, 0});
+            const auto others = places.others.find(known);
+            for (std::size_t i = 0; others != places.others.end() && i < others->second.size(); ++i)
+            {
+                const Place& place = others->second[i];
+                links.push_back({block, entityAt(place.bodyId, place.part), known, i + 1});
+            }
         }
     }
     else if (shape.ShapeType() < TopAbs_EDGE && shape.ShapeType() != TopAbs_FACE)
@@ -159,7 +176,7 @@ void ShapeLinks::findHolders()
         {
             continue;
         }
-        for (const auto& [shape, place] : placesIn(block))
+        for (const auto& [shape, place] : placesIn(block).first)
         {
             m_holders[shape].push_back(block);
         }
@@ -212,14 +229,14 @@ std::vector<TopoDS_Shape> ShapeLinks::shapes(const std::vector<StepRecord>& aspe
 
 TopoDS_Shape ShapeLinks::shapeOf(int item) const
 {
-    return shapeOf(m_model.records->entity<StepRepr_RepresentationItem>(item));
+    return shapeOf(m_model.records->entity(item));
 }
 
-TopoDS_Shape ShapeLinks::shapeOf(const Handle(StepRepr_RepresentationItem) & item) const
+TopoDS_Shape ShapeLinks::shapeOf(const Handle(Standard_Transient) & entity) const
 {
     const Handle(Transfer_TransientProcess) transfer =
         m_model.step->Reader().WS()->TransferReader()->TransientProcess();
-    return item.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(transfer, item);
+    return entity.IsNull() ? TopoDS_Shape() : TransferBRep::ShapeResult(transfer, entity);
 }
 
 const ShapeLinks::Places& ShapeLinks::placesIn(std::uint64_t block)
@@ -231,7 +248,7 @@ const ShapeLinks::Places& ShapeLinks::placesIn(std::uint64_t block)
     }
     Places& places = m_places[block];
     addPlaces(block, places);
-    if (places.empty()) // an assembly, whose annotations tell of its components
+    if (places.first.empty()) // an assembly, whose annotations tell of its components
     {
         for (std::uint64_t id = 1; id <= m_blocks.blockCount(); ++id)
         {
@@ -255,7 +272,7 @@ void ShapeLinks::addPlaces(std::uint64_t block, Places& places) const
             TopExp::MapShapes(whole, kind, parts);
             for (int i = 1; i <= parts.Extent(); ++i)
             {
-                places.insert({parts(i).TShape().get(), {bodyId, {type, static_cast<std::uint64_t>(i - 1)}}});
+                places.add(parts(i).TShape().get(), {bodyId, {type, static_cast<std::uint64_t>(i - 1)}});
             }
         }
     };
@@ -265,7 +282,7 @@ void ShapeLinks::addPlaces(std::uint64_t block, Places& places) const
     for (std::size_t i = 0; i < ids.size(); ++i)
     {
         const TopoDS_Shape& solid = solids(static_cast<int>(i) + 1);
-        places.insert({solid.TShape().get(), {ids[i], {EType::Body, 0}}});
+        places.add(solid.TShape().get(), {ids[i], {EType::Body, 0}});
         addParts(solid, ids[i]);
     }
     addParts(shape, 0);
@@ -273,6 +290,6 @@ void ShapeLinks::addPlaces(std::uint64_t block, Places& places) const
     for (int i = 1; i <= shells.Extent(); ++i)
     {
         const auto number = static_cast<std::uint64_t>(solids.Extent() + i - 1);
-        places.insert({shells(i).TShape().get(), {0, {EType::Body, number}}});
+        places.add(shells(i).TShape().get(), {0, {EType::Body, number}});
     }
 }

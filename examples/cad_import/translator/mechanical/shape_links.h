@@ -3,7 +3,6 @@
 #include "reading/step_records.h"
 #include "vrx_api/vrx_api_exchange_common.h"
 
-#include <StepRepr_RepresentationItem.hxx>
 #include <TopAbs_ShapeEnum.hxx>
 #include <TopoDS_Face.hxx>
 #include <TopoDS_Shape.hxx>
@@ -32,7 +31,7 @@ public:
     /// stands for those of its parts too, a datum for those of its features.
     std::vector<std::shared_ptr<vrx::ExcEntity>> of(const std::vector<StepRecord>& aspects, std::uint64_t block);
 
-    /// The position of a solid among the bodies of a block, if it is one of them.
+    /// The position of a solid, where it first stands, among the bodies of a block, if it is one of them.
     std::optional<std::size_t> bodyNumber(const TopoDS_Shape& solid, std::uint64_t block);
 
     /// An entity of a block, and what the kernel has made of it.
@@ -41,9 +40,10 @@ public:
         std::uint64_t block = 0;
         std::shared_ptr<vrx::ExcEntity> entity;
         const TopoDS_TShape* shape = nullptr;
+        std::size_t place = 0; // its number among those of the shape in the block
     };
 
-    /// A shape in each block that shows it; of one that is no entity, such as a group, its parts.
+    /// A shape wherever blocks show it; of one that is no entity, such as a group, its parts.
     std::vector<Link> everywhere(const TopoDS_Shape& shape);
 
     /// The same faces, as the kernel has them.
@@ -55,7 +55,9 @@ public:
 
     /// What the kernel has made of a geometric item of a STEP file, by the id of its record; null for nothing.
     TopoDS_Shape shapeOf(int item) const;
-    TopoDS_Shape shapeOf(const Handle(StepRepr_RepresentationItem) & item) const;
+
+    /// What it has made of an entity of a STEP file, which may be a product as well.
+    TopoDS_Shape shapeOf(const Handle(Standard_Transient) & entity) const;
 
 private:
     struct Place
@@ -63,7 +65,13 @@ private:
         std::uint64_t bodyId = 0; // 0 outside of bodies
         vrx::ExcSubentId part;
     };
-    using Places = std::unordered_map<const TopoDS_TShape*, Place>;
+    struct Places
+    {
+        std::unordered_map<const TopoDS_TShape*, Place> first;
+        std::unordered_map<const TopoDS_TShape*, std::vector<Place>> others; // of what a block shows repeatedly
+
+        void add(const TopoDS_TShape* shape, const Place& place);
+    };
 
     const Places& placesIn(std::uint64_t block);
     void addPlaces(std::uint64_t block, Places& places) const;

@@ -1,8 +1,10 @@
 #pragma once
 
-class FileProperties;
 class MechanicalData;
+class ProductStructureBuilder;
 class ShapeLinks;
+struct CadModel;
 
-/// Adds the figures that the file states of single solids to the mechanical data of the blocks that show them.
-void addStatedFigures(MechanicalData& data, const FileProperties& properties, ShapeLinks& links);
+/// Adds the figures that the file states of single solids to the mechanical data of their parts.
+void addStatedFigures(MechanicalData& data, const CadModel& model, const ProductStructureBuilder& blocks,
+                      ShapeLinks& links);

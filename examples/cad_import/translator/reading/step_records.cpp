@@ -363,6 +363,12 @@ void StepRecords::bind(const StepData_StepModel& model)
     }
 }
 
+Handle(Standard_Transient) StepRecords::entity(int id) const
+{
+    const auto found = m_entities.find(id);
+    return found != m_entities.end() ? found->second : Handle(Standard_Transient)();
+}
+
 std::vector<StepRecord> StepRecords::all(std::string_view type) const
 {
     std::vector<StepRecord> records;

@@ -118,12 +118,14 @@ public:
 
     StepRecord find(int id) const;
 
-    /// The kernel's entity with an id to which a record refers; null when it is of another class.
+    /// The kernel's entity with an id to which a record refers, or null.
+    Handle(Standard_Transient) entity(int id) const;
+
+    /// Null also when it is of another class.
     template <class Entity>
     Handle(Entity) entity(int id) const
     {
-        const auto found = m_entities.find(id);
-        return found != m_entities.end() ? Handle(Entity)::DownCast(found->second) : nullptr;
+        return Handle(Entity)::DownCast(entity(id));
     }
 
 private:

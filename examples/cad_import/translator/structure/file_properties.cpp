@@ -64,11 +64,15 @@ Handle(Standard_Transient) owner(const StepRepr_CharacterizedDefinition& describ
     return definition.ProductDefinitionRelationship();
 }
 
+int idOf(const CadModel& model, const Handle(StepRepr_ShapeAspect) & aspect)
+{
+    return aspect.IsNull() ? 0 : model.step->Reader().StepModel()->IdentLabel(aspect);
+}
+
 // The item of the solid of which a shape aspect tells, or 0 when that is not one.
 int onlySolid(const CadModel& model, const Handle(StepRepr_ShapeAspect) & aspect)
 {
-    const int id = aspect.IsNull() ? 0 : model.step->Reader().StepModel()->IdentLabel(aspect);
-    const std::vector<int> solids = aspect_items::solids(model.records->find(id));
+    const std::vector<int> solids = aspect_items::solids(model.records->find(idOf(model, aspect)));
     return solids.size() == 1 ? solids.front() : 0;
 }
 
@@ -191,11 +195,15 @@ void FileProperties::readAttributes(const CadModel& model,
     {
         m_withFigures.insert(entity.get());
     }
+    if (solid != 0)
+    {
+        m_ofSolids[solid].aspect = idOf(model, definition->Definition().ShapeAspect());
+    }
     if (solid != 0 && !entity.IsNull())
     {
         m_solids[entity.get()].insert(solid);
     }
-    vrx::ExcMiscData& data = solid != 0 ? m_ofSolids[solid] : m_attributes[entity.get()];
+    vrx::ExcMiscData& data = solid != 0 ? m_ofSolids[solid].figures : m_attributes[entity.get()];
     // A validation property is a group of figures, each of which has its own name: "volume measure" and so on.
     const double factor = lengthFactor(values) * m_scale;
     for (int i = 1; i <= values->NbItems(); ++i)
@@ -219,7 +227,7 @@ void FileProperties::takeFiguresOfWholes()
         {
             continue;
         }
-        for (const ExcMiscProperty& property : figures->second.properties())
+        for (const ExcMiscProperty& property : figures->second.figures.properties())
         {
             m_attributes[entity].emplaceProperty(property);
         }

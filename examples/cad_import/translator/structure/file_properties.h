@@ -20,9 +20,15 @@ public:
 
     const vrx::ExcMiscData& head() const { return m_head; }
 
+    struct SolidFigures
+    {
+        int aspect = 0; // the shape aspect of which they are stated
+        vrx::ExcMiscData figures;
+    };
+
     /// The figures that the file states of single solids, by the ids of their items. Those of the only solid of a part
     /// are figures of the part when it has no others.
-    const std::map<int, vrx::ExcMiscData>& ofSolids() const { return m_ofSolids; }
+    const std::map<int, SolidFigures>& ofSolids() const { return m_ofSolids; }
 
     /// Appends the attributes of a product definition or of a usage.
     void addTo(vrx::ExcMiscData& data, const Handle(Standard_Transient) & entity) const;
@@ -36,7 +42,7 @@ private:
     double m_scale;
     vrx::ExcMiscData m_head;
     std::map<const Standard_Transient*, vrx::ExcMiscData> m_attributes;
-    std::map<int, vrx::ExcMiscData> m_ofSolids;
+    std::map<int, SolidFigures> m_ofSolids;
     std::map<const Standard_Transient*, std::set<int>> m_solids; // with figures, by what owns an aspect without a name
     std::set<const Standard_Transient*> m_withFigures;           // of their own
 };

@@ -4,6 +4,16 @@
 #include "structure/component_labels.h"
 #include "structure/product_structure_builder.h"
 
+namespace
+{
+
+bool isProduct(const StepRecord& record)
+{
+    return record.is("PRODUCT_DEFINITION") || record.is("PRODUCT_DEFINITION_WITH_ASSOCIATED_DOCUMENTS");
+}
+
+} // namespace
+
 ProductBlocks::ProductBlocks(const CadModel& model, const ProductStructureBuilder& blocks)
 {
     const Handle(StepData_StepModel) entities = model.step->ChangeReader().StepModel();
@@ -22,9 +32,14 @@ ProductBlocks::ProductBlocks(const CadModel& model, const ProductStructureBuilde
 
 std::uint64_t ProductBlocks::of(const StepRecord& record) const
 {
+    const auto found = m_blocks.find(productOf(record).id());
+    return found != m_blocks.end() ? found->second : 0;
+}
+
+StepRecord ProductBlocks::productOf(const StepRecord& record)
+{
     StepRecord product = record;
-    if (!product.is("PRODUCT_DEFINITION_SHAPE") && !product.is("PRODUCT_DEFINITION") &&
-        !product.is("PRODUCT_DEFINITION_WITH_ASSOCIATED_DOCUMENTS"))
+    if (!product.is("PRODUCT_DEFINITION_SHAPE") && !isProduct(product))
     {
         product = product.as("SHAPE_ASPECT").next(2);
     }
@@ -32,6 +47,5 @@ std::uint64_t ProductBlocks::of(const StepRecord& record) const
     {
         product = product.next(2);
     }
-    const auto found = m_blocks.find(product.id());
-    return found != m_blocks.end() ? found->second : 0;
+    return isProduct(product) ? product : StepRecord();
 }

@@ -18,6 +18,9 @@ public:
     /// when there is none, or when it was not sent. Of several blocks of an assembly the first.
     std::uint64_t of(const StepRecord& record) const;
 
+    /// The product definition that one of these tells of, if there is one.
+    static StepRecord productOf(const StepRecord& record);
+
     /// The block of the only product at the top, or 0.
     std::uint64_t top() const { return m_top; }
 
