@@ -57,11 +57,8 @@ public:
     HoleTable(std::ostream& stream, const MechanicalPart& part)
         : m_stream(stream)
         , m_holes(part.features)
+        , m_bodies(part.bodies)
     {
-        for (const PartHole& hole : m_holes.holes)
-        {
-            m_severalBodies = m_severalBodies || hole.body != m_holes.holes.front().body;
-        }
     }
 
     void print() const
@@ -104,9 +101,9 @@ private:
             {
                 key = printable(hole_callout::text(m_holes.patterns[*hole->pattern])) + ": ";
             }
-            if (m_severalBodies && hole->body)
+            if (m_bodies > 1 && hole->body)
             {
-                key += "body " + std::to_string(*hole->body + 1) + ' ';
+                key += bodyText(*hole->body);
             }
             places.add(key + '\n' + pointText(hole->direction), pointText(hole->center));
         }
@@ -125,14 +122,30 @@ private:
         {
             for (const mp::wstring& face : thread->faces)
             {
-                faces.push_back(printable(face));
+                faces.push_back(faceText(printable(face)));
             }
         }
         if (!faces.empty())
         {
-            m_stream << "      " << (faces.size() == 1 ? "face " : "faces ") << joined(faces) << '\n';
+            m_stream << "      " << joined(faces) << '\n';
         }
     }
+
+    // Such as "body 1 face 9" for "0/f9".
+    std::string faceText(const std::string& id) const
+    {
+        for (std::size_t body = 0; body < m_bodies; ++body)
+        {
+            const std::string prefix = std::to_string(body) + "/f";
+            if (id.rfind(prefix, 0) == 0)
+            {
+                return (m_bodies > 1 ? bodyText(body) : "") + "face " + id.substr(prefix.size());
+            }
+        }
+        return id;
+    }
+
+    static std::string bodyText(std::size_t position) { return "body " + std::to_string(position + 1) + ' '; }
 
     static std::string joined(const std::vector<std::string>& texts)
     {
@@ -146,7 +159,7 @@ private:
 
     std::ostream& m_stream;
     const PartHoles& m_holes;
-    bool m_severalBodies = false;
+    const std::size_t m_bodies;
 };
 
 bool hasFeatures(const MechanicalPart& part)
