@@ -93,25 +93,30 @@ private:
     // A line for each pattern, direction and body.
     void printPlaces(const std::vector<const PartHole*>& holes) const
     {
-        Groups<std::string> places;
+        Groups<const PartHole*> places;
         for (const PartHole* const hole : holes)
         {
-            std::string key;
-            if (hole->pattern)
-            {
-                key = printable(hole_callout::text(m_holes.patterns[*hole->pattern])) + ": ";
-            }
-            if (m_bodies > 1 && hole->body)
-            {
-                key += bodyText(*hole->body);
-            }
-            places.add(key + '\n' + pointText(hole->direction), pointText(hole->center));
+            const auto position = [](const auto& place) { return place ? std::to_string(*place) + ' ' : "- "; };
+            places.add(position(hole->pattern) + position(hole->body) + pointText(hole->direction), hole);
         }
-        for (const auto& [key, points] : places)
+        for (const auto& [key, same] : places)
         {
-            const std::size_t middle = key.find('\n');
-            m_stream << "      " << key.substr(0, middle) << joined(points) << " into " << key.substr(middle + 1)
-                     << '\n';
+            const PartHole& first = *same.front();
+            m_stream << "      ";
+            if (first.pattern)
+            {
+                m_stream << printable(hole_callout::text(m_holes.patterns[*first.pattern])) << ": ";
+            }
+            if (m_bodies > 1 && first.body)
+            {
+                m_stream << bodyText(*first.body);
+            }
+            std::vector<std::string> points;
+            for (const PartHole* const hole : same)
+            {
+                points.push_back(pointText(hole->center));
+            }
+            m_stream << joined(points) << " into " << pointText(first.direction) << '\n';
         }
     }
 
