@@ -24,9 +24,20 @@ int count(const TopoDS_Shape& shape, TopAbs_ShapeEnum type)
     return map.Extent();
 }
 
+void addBox(const TopoDS_Shape& shape, BodyFigures& figures)
+{
+    Bnd_Box box;
+    BRepBndLib::AddOptimal(shape, box, false, false);
+    figures.hasBox = !box.IsVoid();
+    if (figures.hasBox)
+    {
+        box.Get(figures.low[0], figures.low[1], figures.low[2], figures.high[0], figures.high[1], figures.high[2]);
+    }
+}
+
 } // namespace
 
-BodyFigures figuresOf(const TopoDS_Shape& shape)
+BodyFigures figuresOf(const TopoDS_Shape& shape, EBox box)
 {
     BodyFigures figures;
     figures.faces = count(shape, TopAbs_FACE);
@@ -41,12 +52,9 @@ BodyFigures figuresOf(const TopoDS_Shape& shape)
     figures.volume = solid.Mass();
     const gp_Pnt centroid = solid.CentreOfMass();
     figures.centroid = {centroid.X(), centroid.Y(), centroid.Z()};
-    Bnd_Box box;
-    BRepBndLib::AddOptimal(shape, box, false, false);
-    figures.hasBox = !box.IsVoid();
-    if (figures.hasBox)
+    if (box == EBox::With)
     {
-        box.Get(figures.low[0], figures.low[1], figures.low[2], figures.high[0], figures.high[1], figures.high[2]);
+        addBox(shape, figures);
     }
     return figures;
 }

@@ -19,7 +19,14 @@ struct BodyFigures
     std::array<double, 3> high{};
 };
 
-BodyFigures figuresOf(const TopoDS_Shape& shape);
+/// A box takes as long as all the rest.
+enum class EBox
+{
+    Without,
+    With,
+};
+
+BodyFigures figuresOf(const TopoDS_Shape& shape, EBox box = EBox::With);
 
 /// The figures on one line, numbers with twelve digits.
 std::string figuresText(const BodyFigures& figures);

@@ -5,7 +5,6 @@
 #include "common/pmi_conventions.h"
 #include "import_collector.h"
 #include "mechanical/hole_table.h"
-#include "mechanical/stated_report.h"
 #include "mp/narrow.h"
 #include "page_picture.h"
 #include "pmi/pmi_json.h"
@@ -84,7 +83,6 @@ void print(const ReceivedModel& model, const MechanicalModel& mechanical, const 
     else
     {
         printText(std::cout, structure, extras);
-        printStated(std::cout, mechanical, structure);
     }
     if (arguments.bodies)
     {

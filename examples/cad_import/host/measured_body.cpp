@@ -93,13 +93,13 @@ TopoDS_Shape shapeOf(const ENTITY& entity)
 
 } // namespace
 
-BodyFigures measuredBody(ENTITY& body)
+BodyFigures measuredBody(ENTITY& body, EBox box)
 {
     try
     {
         const TopoDS_Shape shape = shapeOf(body);
         checkNumbering(body, shape);
-        return figuresOf(shape);
+        return figuresOf(shape, box);
     }
     catch (const Standard_Failure& failure)
     {

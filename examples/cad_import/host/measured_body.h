@@ -5,4 +5,4 @@
 
 /// Measures a restored body by the B-rep that comes with it. Throws TranslatorFailure when there is none, or when its
 /// faces, edges and vertices are not those of the body.
-BodyFigures measuredBody(ENTITY& body);
+BodyFigures measuredBody(ENTITY& body, EBox box);

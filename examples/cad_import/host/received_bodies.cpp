@@ -45,7 +45,7 @@ void ReceivedBodies::add(const vrx::ExcBlockGeometry& geometry)
     m_blocks[geometry.blockId()] = block;
 }
 
-void ReceivedBodies::measure(std::uint64_t block)
+void ReceivedBodies::measure(std::uint64_t block, EBox box)
 {
     const auto found = m_blocks.find(block);
     if (found == m_blocks.end() || !found->second.restored || m_measurer == nullptr)
@@ -54,7 +54,7 @@ void ReceivedBodies::measure(std::uint64_t block)
     }
     for (std::size_t i = 0; i < found->second.bodies.size(); ++i)
     {
-        found->second.bodies[i].figures = m_measurer(found->second.restored->body(i));
+        found->second.bodies[i].figures = m_measurer(found->second.restored->body(i), box);
     }
     found->second.restored = nullptr;
 }
@@ -63,7 +63,7 @@ void ReceivedBodies::measureAll()
 {
     for (const std::uint64_t block : blocks())
     {
-        measure(block);
+        measure(block, EBox::With);
     }
 }
 

@@ -29,7 +29,7 @@ class ReceivedBodies
 {
 public:
     /// Measures a restored body; throws TranslatorFailure for one that is not what it should be.
-    using Measurer = BodyFigures (*)(ENTITY& body);
+    using Measurer = BodyFigures (*)(ENTITY& body, EBox box);
 
     struct Body
     {
@@ -47,8 +47,9 @@ public:
     /// Throws TranslatorFailure when the bodies can't be restored.
     void add(const vrx::ExcBlockGeometry& geometry);
 
-    /// Fills in the figures of the bodies of a block, the first time that it is asked to. Throws TranslatorFailure.
-    void measure(std::uint64_t block);
+    /// Fills in the figures of the bodies of a block, the first time that it is asked to; of all blocks with their
+    /// boxes. Throws TranslatorFailure.
+    void measure(std::uint64_t block, EBox box = EBox::Without);
     void measureAll();
 
     /// The bodies of a block in their order; none for a block of which none came.

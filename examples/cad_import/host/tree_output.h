@@ -17,8 +17,8 @@ struct TreeExtras
 };
 
 /// The product tree as indented text: a line for each group of equal instances, with instance names, block name, count,
-/// colour and a note of what the block holds, its material and its mass; then a summary, and the components, if they
-/// arrived.
+/// colour and a note of what the block holds, its material and its mass; then a summary, what comes of the figures that
+/// the file states, and the components, if they arrived.
 void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, const TreeExtras& extras = {});
 
 /// The same tree as JSON in UTF-8: "product", "units", "mass", "properties", "blocks" (each once, by id, parts with the

@@ -1,6 +1,7 @@
 #include "common/property_names.h"
 #include "find_property.h"
 #include "mechanical/mass_text.h"
+#include "mechanical/stated_report.h"
 #include "printable.h"
 #include "product_tree.h"
 #include "tree_output.h"
@@ -221,5 +222,6 @@ void printText(std::ostream& stream, const vrx::ExcProductStructure& structure, 
         }
     }
     printSummary(stream, structure, tree, extras.mechanical);
+    printStated(stream, extras.mechanical, structure);
     printComponents(stream, extras.components);
 }

@@ -24,6 +24,7 @@ done
 
 # The PMI is in the JSON, for programs, or in the table.
 expect 2 "--pmi-table goes with the tree as text" "$host" --pmi-table --json "$vise"
+expect 2 "--holes goes with the tree as text" "$host" --holes --json "$vise"
 node -e '
     const pmi = JSON.parse(require("fs").readFileSync(process.argv[1])).pmi;
     const lists = ["dimensions", "tolerances", "datums", "datum_targets", "notes", "views"];

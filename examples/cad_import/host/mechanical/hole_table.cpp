@@ -57,11 +57,8 @@ public:
     HoleTable(std::ostream& stream, const MechanicalPart& part)
         : m_stream(stream)
         , m_holes(part.features)
+        , m_bodies(part.bodies)
     {
-        for (const PartHole& hole : m_holes.holes)
-        {
-            m_severalBodies = m_severalBodies || hole.body != m_holes.holes.front().body;
-        }
     }
 
     void print() const
@@ -96,25 +93,30 @@ private:
     // A line for each pattern, direction and body.
     void printPlaces(const std::vector<const PartHole*>& holes) const
     {
-        Groups<std::string> places;
+        Groups<const PartHole*> places;
         for (const PartHole* const hole : holes)
         {
-            std::string key;
-            if (hole->pattern)
-            {
-                key = printable(hole_callout::text(m_holes.patterns[*hole->pattern])) + ": ";
-            }
-            if (m_severalBodies && hole->body)
-            {
-                key += "body " + std::to_string(*hole->body + 1) + ' ';
-            }
-            places.add(key + '\n' + pointText(hole->direction), pointText(hole->center));
+            const auto position = [](const auto& place) { return place ? std::to_string(*place) + ' ' : "- "; };
+            places.add(position(hole->pattern) + position(hole->body) + pointText(hole->direction), hole);
         }
-        for (const auto& [key, points] : places)
+        for (const auto& [key, same] : places)
         {
-            const std::size_t middle = key.find('\n');
-            m_stream << "      " << key.substr(0, middle) << joined(points) << " into " << key.substr(middle + 1)
-                     << '\n';
+            const PartHole& first = *same.front();
+            m_stream << "      ";
+            if (first.pattern)
+            {
+                m_stream << printable(hole_callout::text(m_holes.patterns[*first.pattern])) << ": ";
+            }
+            if (m_bodies > 1 && first.body)
+            {
+                m_stream << bodyText(*first.body);
+            }
+            std::vector<std::string> points;
+            for (const PartHole* const hole : same)
+            {
+                points.push_back(pointText(hole->center));
+            }
+            m_stream << joined(points) << " into " << pointText(first.direction) << '\n';
         }
     }
 
@@ -125,14 +127,30 @@ private:
         {
             for (const mp::wstring& face : thread->faces)
             {
-                faces.push_back(printable(face));
+                faces.push_back(faceText(printable(face)));
             }
         }
         if (!faces.empty())
         {
-            m_stream << "      " << (faces.size() == 1 ? "face " : "faces ") << joined(faces) << '\n';
+            m_stream << "      " << joined(faces) << '\n';
         }
     }
+
+    // Such as "body 1 face 9" for "0/f9".
+    std::string faceText(const std::string& id) const
+    {
+        for (std::size_t body = 0; body < m_bodies; ++body)
+        {
+            const std::string prefix = std::to_string(body) + "/f";
+            if (id.rfind(prefix, 0) == 0)
+            {
+                return (m_bodies > 1 ? bodyText(body) : "") + "face " + id.substr(prefix.size());
+            }
+        }
+        return id;
+    }
+
+    static std::string bodyText(std::size_t position) { return "body " + std::to_string(position + 1) + ' '; }
 
     static std::string joined(const std::vector<std::string>& texts)
     {
@@ -146,7 +164,7 @@ private:
 
     std::ostream& m_stream;
     const PartHoles& m_holes;
-    bool m_severalBodies = false;
+    const std::size_t m_bodies;
 };
 
 bool hasFeatures(const MechanicalPart& part)

@@ -54,7 +54,7 @@ MechanicalPart makePart(const vrx::ExcBlock& block, const vrx::ExcBlockMechanica
     {
         part.features = partHoles(*data->manufacturingData(), block.id(), bodies);
     }
-    part.hasBodies = !bodies.of(block.id()).empty();
+    part.bodies = bodies.of(block.id()).size();
     const bool states = statesFigures(block.miscData(), misc);
     if (states || hasDensity(part.materials))
     {
@@ -91,7 +91,7 @@ MechanicalModel::MechanicalModel(const vrx::ExcProductStructure& structure, cons
     {
         MechanicalPart& part = parts.at(id);
         part.instances = count;
-        if (count > 0 && part.hasBodies)
+        if (count > 0 && part.bodies > 0)
         {
             ++partsWithBodies;
             partsWithMass += part.mass ? 1U : 0U;

@@ -17,7 +17,7 @@
 /// What is known of a part beside its shape, its PMI and its look.
 struct MechanicalPart
 {
-    bool hasBodies = false;
+    std::size_t bodies = 0;     // how many it has
     double instances = 0;       // how often it stands in the product, but for what is suppressed
     std::optional<double> mass; // kilograms; nothing when it is not known
     std::vector<PartMaterial> materials;

@@ -76,8 +76,8 @@ std::vector<PartMaterial> partMaterials(const vrx::ExcMechanicalMiscData& data, 
 std::optional<double> massOf(const std::vector<ReceivedBodies::Body>& bodies,
                              const std::vector<PartMaterial>& materials, vrx::ELengthUnitType unit)
 {
-    const std::optional<double> meter = units::meters(unit);
-    if (bodies.empty() || !meter)
+    const std::optional<double> perMeter = units::perMeter(unit);
+    if (bodies.empty() || !perMeter)
     {
         return std::nullopt;
     }
@@ -89,7 +89,7 @@ std::optional<double> massOf(const std::vector<ReceivedBodies::Body>& bodies,
         {
             return std::nullopt;
         }
-        mass += *density * std::abs(bodies[i].figures.volume) * (*meter * *meter * *meter);
+        mass += *density * std::abs(bodies[i].figures.volume) / (*perMeter * *perMeter * *perMeter);
     }
     return std::isfinite(mass) ? std::optional<double>(mass) : std::nullopt;
 }

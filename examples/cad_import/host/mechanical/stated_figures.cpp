@@ -63,13 +63,7 @@ BodyFigures sum(const std::vector<ReceivedBodies::Body>& bodies)
         for (std::size_t i = 0; i < 3; ++i)
         {
             all.centroid[i] += one.volume * one.centroid[i];
-            if (one.hasBox)
-            {
-                all.low[i] = all.hasBox ? std::min(all.low[i], one.low[i]) : one.low[i];
-                all.high[i] = all.hasBox ? std::max(all.high[i], one.high[i]) : one.high[i];
-            }
         }
-        all.hasBox = all.hasBox || one.hasBox;
     }
     for (double& coordinate : all.centroid)
     {
@@ -89,7 +83,7 @@ void compare(StatedFigure& figure, const BodyFigures& measured)
     {
         figure.found.assign(measured.centroid.begin(), measured.centroid.end());
         figure.deviation = distance(measured.centroid, figure.stated.data());
-        figure.relative = figure.deviation / distance(measured.high, measured.low.data());
+        figure.relative = figure.deviation / std::sqrt(measured.area);
     }
     else
     {

@@ -17,8 +17,8 @@ struct StatedFigure
         Centroid,
     };
 
-    /// Two kernels that integrate over the same faces differ by their tolerances, and files state few digits; what is
-    /// further apart is another shape.
+    /// Kernels that integrate over the same faces agree to a millionth, and files have most digits of it. What is
+    /// further apart than this is another shape, or was stated by a rough measurement.
     static constexpr double kLimit = 1e-4;
 
     bool agrees() const { return relative <= kLimit; }
@@ -28,7 +28,7 @@ struct StatedFigure
     std::vector<double> stated;      // one number or three
     std::vector<double> found;
     double deviation = 0; // as a part of the figure; of a centroid the distance
-    double relative = 0;  // the same; of a centroid the distance as a part of the box's diagonal
+    double relative = 0;  // the same; of a centroid the distance as a part of the size: the root of the area
 };
 
 /// All figures that a block states of its bodies, which are measured, in their order. Without bodies there are none.

@@ -23,31 +23,31 @@ struct Row
 {
     Unit unit;
     const char* symbol;
-    double size; // in meters or kilograms
+    double perBase; // how many are a meter or a kilogram
 };
+
+const double kFoot = 0.3048;
+const double kPound = 0.45359237;
+const double kPoundForce = kPound * 9.80665; // in newtons
 
 const Row<ELengthUnitType> kLengths[] = {
-    {ELengthUnitType::Nanometer, "nm", 1e-9},     {ELengthUnitType::Micrometer, "µm", 1e-6},
-    {ELengthUnitType::Millimeter, "mm", 1e-3},    {ELengthUnitType::Centimeter, "cm", 1e-2},
-    {ELengthUnitType::Decimeter, "dm", 1e-1},     {ELengthUnitType::Meter, "m", 1},
-    {ELengthUnitType::Inch, "in", 0.0254},        {ELengthUnitType::Foot, "ft", 0.3048},
-    {ELengthUnitType::Mile, "mi", 1609.344},      {ELengthUnitType::Kilometer, "km", 1e3},
-    {ELengthUnitType::Milliinch, "mil", 2.54e-5}, {ELengthUnitType::Microinch, "µin", 2.54e-8},
+    {ELengthUnitType::Nanometer, "nm", 1e9},           {ELengthUnitType::Micrometer, "µm", 1e6},
+    {ELengthUnitType::Millimeter, "mm", 1e3},          {ELengthUnitType::Centimeter, "cm", 1e2},
+    {ELengthUnitType::Decimeter, "dm", 1e1},           {ELengthUnitType::Meter, "m", 1},
+    {ELengthUnitType::Inch, "in", 12 / kFoot},         {ELengthUnitType::Foot, "ft", 1 / kFoot},
+    {ELengthUnitType::Mile, "mi", 1 / (5280 * kFoot)}, {ELengthUnitType::Kilometer, "km", 1e-3},
+    {ELengthUnitType::Milliinch, "mil", 12e3 / kFoot}, {ELengthUnitType::Microinch, "µin", 12e6 / kFoot},
 };
 
-// The pound-force of standard gravity.
-const double kPound = 0.45359237;
-const double kPoundForce = kPound * 9.80665;
-
 const Row<EMassUnitType> kMasses[] = {
-    {EMassUnitType::Centigram, "cg", 1e-5},
-    {EMassUnitType::Decigram, "dg", 1e-4},
-    {EMassUnitType::Gram, "g", 1e-3},
+    {EMassUnitType::Centigram, "cg", 1e5},
+    {EMassUnitType::Decigram, "dg", 1e4},
+    {EMassUnitType::Gram, "g", 1e3},
     {EMassUnitType::Kilogram, "kg", 1},
-    {EMassUnitType::PoindMass, "lb", kPound},
-    {EMassUnitType::Tonne, "t", 1e3},
-    {EMassUnitType::Slug, "slug", kPoundForce / 0.3048},
-    {EMassUnitType::Lbfsec2In, "slinch", kPoundForce / 0.0254},
+    {EMassUnitType::PoindMass, "lb", 1 / kPound},
+    {EMassUnitType::Tonne, "t", 1e-3},
+    {EMassUnitType::Slug, "slug", kFoot / kPoundForce},
+    {EMassUnitType::Lbfsec2In, "slinch", kFoot / 12 / kPoundForce},
 };
 
 const Row<ETimeUnitType> kTimes[] = {
@@ -121,10 +121,10 @@ private:
 
 } // namespace
 
-std::optional<double> meters(ELengthUnitType unit)
+std::optional<double> perMeter(ELengthUnitType unit)
 {
     const Row<ELengthUnitType>* const row = find(kLengths, unit);
-    return row != nullptr ? std::optional<double>(row->size) : std::nullopt;
+    return row != nullptr ? std::optional<double>(row->perBase) : std::nullopt;
 }
 
 std::optional<double> density(const vrx::ExcMiscMaterialProperty& property, ELengthUnitType product)
@@ -137,12 +137,12 @@ std::optional<double> density(const vrx::ExcMiscMaterialProperty& property, ELen
         return std::nullopt;
     }
     const Row<EMassUnitType>* const mass = find(kMasses, unit.mass->units());
-    const std::optional<double> length = meters(known(unit.length->units(), product));
+    const std::optional<double> length = perMeter(known(unit.length->units(), product));
     if (mass == nullptr || !length)
     {
         return std::nullopt;
     }
-    const double value = property.value() * mass->size / (*length * *length * *length);
+    const double value = property.value() * (*length * *length * *length) / mass->perBase;
     return std::isfinite(value) && value > 0 ? std::optional<double>(value) : std::nullopt;
 }
 

@@ -8,8 +8,8 @@
 namespace units
 {
 
-/// In meters; nothing for a unit that is not known, among them "model unit".
-std::optional<double> meters(vrx::ELengthUnitType unit);
+/// How many of it are a meter; nothing for a unit that is not known, among them "model unit".
+std::optional<double> perMeter(vrx::ELengthUnitType unit);
 
 /// Kilograms per cubic meter, where a model unit of length is that of the product; nothing when the value is not
 /// positive or has not the unit of a density.
