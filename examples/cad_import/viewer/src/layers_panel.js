@@ -28,7 +28,7 @@ export function buildLayers(list, model, onShow) {
   const drawn = new Set(model.annotations.flatMap(({ mechanicalId }) => model.layers.ofAnnotation(mechanicalId)));
   for (const { id, shape } of model.blocks.values()) {
     for (const part of shape?.parts ?? []) {
-      for (const layer of model.layers.of(id, part.mechanicalId)) drawn.add(layer);
+      for (const layer of model.layers.of(id, part)) drawn.add(layer);
     }
   }
   for (const layer of model.layers.all) {

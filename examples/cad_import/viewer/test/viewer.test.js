@@ -185,7 +185,7 @@ const onLayer = (point) => {
   const { model, stage } = window.viewer;
   const layersAt = ({ x, y }) => {
     const { node, face } = stage.pick(x, y) ?? {};
-    return face ? model.layers.of(node.block.id, face.mechanicalId).map(({ name }) => name) : [];
+    return face ? model.layers.of(node.block.id, face).map(({ name }) => name) : [];
   };
   if (point) return layersAt(point);
   const { clientWidth, clientHeight } = stage.renderer.domElement;
