@@ -16,13 +16,11 @@ function alike(all, keyOf) {
   const groups = new Map();
   for (const one of all) {
     const key = JSON.stringify(keyOf(one));
-    groups.set(key, [...(groups.get(key) ?? []), one]);
+    if (!groups.has(key)) groups.set(key, []);
+    groups.get(key).push(one);
   }
   return [...groups.values()];
 }
-
-const threadKey = (thread) => thread && [thread.kind, thread.designation, thread.depth, thread.hand];
-const holeKey = ({ text, end, tip_angle, thread, pattern }) => [text, end, tip_angle, threadKey(thread), pattern];
 
 function threadText({ designation, kind, diameter, pitch, depth, hand }) {
   const size = designation || `thread ⌀${number(diameter)} × ${number(pitch)}`;
@@ -31,9 +29,10 @@ function threadText({ designation, kind, diameter, pitch, depth, hand }) {
 }
 
 // A line bears `ones`, the holes or threads that it stands for.
-function line(block, kind, ones, text, type) {
+function line(block, kind, ones, type) {
+  const [{ text, index }] = ones;
   return {
-    id: `${block.id}/${kind}/${ones[0].index}`,
+    id: `${block.id}/${kind}/${index}`,
     kind,
     type,
     text: ones.length > 1 ? `${ones.length}X ${text}` : text,
@@ -48,13 +47,16 @@ function line(block, kind, ones, text, type) {
 function linesOf(block) {
   const { holes = [], threads = [], patterns = [] } = block.mechanical ?? {};
   const whole = holes.map((hole, index) => ({ ...hole, index, thread: threads.find((one) => one.hole === index) }));
-  const bare = threads.map((thread, index) => ({ ...thread, index })).filter(({ hole }) => hole === null);
+  const bare = threads.map((thread, index) => ({ ...thread, index, text: threadText(thread) }));
   return [
-    ...alike(whole, holeKey).map((ones) => {
-      const [{ text, kind, pattern }] = ones;
-      return { ...line(block, 'Hole', ones, text, kTypes[kind]), pattern: patterns[pattern] };
+    ...alike(whole, ({ text, pattern }) => [text, pattern]).map((ones) => {
+      const [{ kind, pattern }] = ones;
+      return { ...line(block, 'Hole', ones, kTypes[kind]), pattern: patterns[pattern] };
     }),
-    ...alike(bare, threadKey).map((ones) => line(block, 'Thread', ones, threadText(ones[0]), `${ones[0].kind} thread`)),
+    ...alike(
+      bare.filter(({ hole }) => hole === null),
+      ({ text, kind }) => [text, kind]
+    ).map((ones) => line(block, 'Thread', ones, `${ones[0].kind} thread`)),
   ];
 }
 

@@ -11,6 +11,7 @@ function row(layer, onShow) {
   name.className = 'name';
   name.textContent = layer.name || `Layer ${layer.id}`;
   name.title = `${name.textContent} (${layer.id})`;
+  box.ariaLabel = `Show ${name.textContent}`;
   count.className = 'count';
   count.textContent = layer.count;
   const update = () => result.classList.toggle('off', !layer.on);
