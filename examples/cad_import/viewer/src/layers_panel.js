@@ -34,7 +34,7 @@ export function buildLayers(list, model, onShow) {
   }
   for (const layer of model.layers.all) {
     const entry = row(layer, onShow);
-    entry.querySelector('input').disabled = !drawn.has(layer); // what the file hides is not in the page
+    entry.querySelector('input').disabled = !drawn.has(layer); // as of what the file hides, nothing is in the page
     list.append(entry);
   }
 }
