@@ -57,7 +57,7 @@ export class Details {
     const { block } = node;
     const { pmi, holes, layers } = this.model;
     const color = face.color ?? node.color ?? block.shape.color;
-    const onLayers = layers?.of(block.id, face.mechanicalId) ?? [];
+    const onLayers = layers?.of(block.id, face) ?? [];
     const ofHoles = holes?.speakingOf(block.id, face) ?? [];
     this.#head('Face', swatch(color), this.#label('', `Face ${face.id}`));
     this.#rows([

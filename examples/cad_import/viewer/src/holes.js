@@ -1,4 +1,5 @@
-// The holes and threads of the parts as a drawing lists them: on one line the equal ones of a part.
+// The holes and threads of the parts as a drawing lists them: on one line those of a pattern, or the equal ones of a
+// part.
 
 import { direction, number, point } from './figures.js';
 import { speaksOf } from './pmi.js';
@@ -15,24 +16,23 @@ function alike(all, keyOf) {
   const groups = new Map();
   for (const one of all) {
     const key = JSON.stringify(keyOf(one));
-    groups.set(key, [...(groups.get(key) ?? []), one]);
+    if (!groups.has(key)) groups.set(key, []);
+    groups.get(key).push(one);
   }
   return [...groups.values()];
 }
 
-const threadKey = (thread) => thread && [thread.kind, thread.designation, thread.depth, thread.hand];
-const holeKey = ({ text, end, tip_angle, thread }) => [text, end, tip_angle, threadKey(thread)];
-const threadText = ({ designation, kind, depth }) =>
-  kind === 'internal' && depth ? `${designation} ↧${number(depth)}` : designation;
-
-function holeText({ text, thread }) {
-  return thread && !text.includes(thread.designation) ? `${text} · ${threadText(thread)}` : text;
+function threadText({ designation, kind, diameter, pitch, depth, hand }) {
+  const size = designation || `thread ⌀${number(diameter)} × ${number(pitch)}`;
+  const deep = kind === 'internal' && depth ? ` ↧${number(depth)}` : '';
+  return size + (hand === 'left' ? ' LH' : '') + deep;
 }
 
 // A line bears `ones`, the holes or threads that it stands for.
-function line(block, kind, ones, text, type) {
+function line(block, kind, ones, type) {
+  const [{ text, index }] = ones;
   return {
-    id: `${block.id}/${kind}/${ones[0].index}`,
+    id: `${block.id}/${kind}/${index}`,
     kind,
     type,
     text: ones.length > 1 ? `${ones.length}X ${text}` : text,
@@ -46,17 +46,17 @@ function line(block, kind, ones, text, type) {
 
 function linesOf(block) {
   const { holes = [], threads = [], patterns = [] } = block.mechanical ?? {};
-  const whole = holes.map((hole, index) => {
-    const thread = threads.find((thread) => thread.hole === index);
-    return { ...hole, index, thread: thread ?? (hole.thread && { designation: hole.thread }) };
-  });
-  const bare = threads.map((thread, index) => ({ ...thread, index })).filter(({ hole }) => hole === null);
+  const whole = holes.map((hole, index) => ({ ...hole, index, thread: threads.find((one) => one.hole === index) }));
+  const bare = threads.map((thread, index) => ({ ...thread, index, text: threadText(thread) }));
   return [
-    ...alike(whole, holeKey).map((ones) => {
-      const found = new Set(ones.map(({ pattern }) => patterns[pattern]).filter(Boolean));
-      return { ...line(block, 'Hole', ones, holeText(ones[0]), kTypes[ones[0].kind]), patterns: [...found] };
+    ...alike(whole, ({ text, pattern }) => [text, pattern]).map((ones) => {
+      const [{ kind, pattern }] = ones;
+      return { ...line(block, 'Hole', ones, kTypes[kind]), pattern: patterns[pattern] };
     }),
-    ...alike(bare, threadKey).map((ones) => line(block, 'Thread', ones, threadText(ones[0]), `${ones[0].kind} thread`)),
+    ...alike(
+      bare.filter(({ hole }) => hole === null),
+      ({ text, kind }) => [text, kind]
+    ).map((ones) => line(block, 'Thread', ones, `${ones[0].kind} thread`)),
   ];
 }
 
@@ -92,7 +92,6 @@ function patternText(pattern, unit) {
   return `${counts} ${rows.length > 1 ? 'grid' : 'in a row'}, ${spacing} ${unit}`;
 }
 
-const handOf = (hand) => (hand === 'right' || hand === 'left' ? `${hand} hand` : '');
 const joined = (...texts) => texts.filter(Boolean).join(', ');
 
 function axes(holes) {
@@ -104,15 +103,13 @@ function axes(holes) {
   ];
 }
 
-function holeRows({ ones, patterns }, unit) {
+function holeRows({ ones, pattern }, unit) {
   const [hole] = ones;
   const length = (value) => `${number(value)} ${unit}`;
   const wide = hole.counter_diameter && `⌀${number(hole.counter_diameter)}`;
   const wideDepth = hole.counter_depth && `${length(hole.counter_depth)} deep`;
   const cone = hole.counter_angle && `${number(hole.counter_angle)}°`;
   const { designation, depth, hand } = hole.thread ?? {};
-  const some = (pattern) => (pattern.holes.length < ones.length ? `${pattern.holes.length} holes: ` : '');
-  const said = (pattern) => some(pattern) + patternText(pattern, unit);
   return [
     ['Diameter', length(hole.diameter)],
     ['Depth', joined(length(hole.depth), hole.through ? 'through' : hole.end.replaceAll('_', ' '))],
@@ -120,8 +117,8 @@ function holeRows({ ones, patterns }, unit) {
     ['Taper', hole.taper_angle && `${number(hole.taper_angle)}°`],
     [hole.kind === 'countersink' ? 'Countersink' : 'Counterbore', joined(wide, wideDepth, cone)],
     ['Sink', hole.sink_diameter && `⌀${number(hole.sink_diameter)}`],
-    ['Thread', joined(designation, depth && `${length(depth)} deep`, handOf(hand))],
-    ['Pattern', patterns.map(said).join('\n')],
+    ['Thread', joined(designation, depth && `${length(depth)} deep`, hand === 'left' && 'left hand')],
+    ['Pattern', pattern && patternText(pattern, unit)],
     ...axes(ones),
   ];
 }
@@ -132,7 +129,7 @@ function threadRows({ ones: [thread] }, unit) {
     ['Diameter', length(thread.diameter)],
     ['Pitch', length(thread.pitch)],
     [thread.kind === 'external' ? 'Length' : 'Depth', length(thread.depth)],
-    ['Hand', handOf(thread.hand)],
+    ['Hand', thread.hand !== 'unknown' && thread.hand],
   ];
 }
 

@@ -1,10 +1,9 @@
 // The layers of the file over all its parts, and what is shown of what stands on them.
 
 const isOn = (layers) => !layers.length || layers.some(({ on }) => on);
-const keyOf = (block, id) => `${block} ${id}`;
 
-// The body that an id of a face or an edge tells of.
-const bodyOf = (id) => id.match(/^(\d+)\/[ef]\d+$/)?.[1];
+// Ids of annotations, such as "1/0/notes/3", are unique in the product; those of shapes are so in their block.
+const keyOf = (block, id) => (/^\d+\/\d+\//.test(id) ? id : `${block} ${id}`);
 
 export class Layers {
   constructor(blocks) {
@@ -31,21 +30,22 @@ export class Layers {
     return this.byEntity.get(keyOf(block, id)) ?? [];
   }
 
-  // Those of a face or an edge, and of its body.
-  of(block, id) {
-    const body = bodyOf(id);
-    return [...this.#ofEntity(block, id), ...(body ? this.#ofEntity(block, `b${body}`) : [])];
+  #ofBody(block, { mesh }) {
+    return mesh ? this.#ofEntity(block, mesh.mechanicalId) : [];
   }
 
-  // Annotations have the number of their block in their id.
+  // Those of an edge, or of a face and its body.
+  of(block, part) {
+    return [...this.#ofEntity(block, part.mechanicalId), ...this.#ofBody(block, part)];
+  }
+
   ofAnnotation(id) {
-    return this.#ofEntity(id.split('/', 1)[0], id);
+    return this.#ofEntity(null, id);
   }
 
-  // Of several layers it is enough that one is on. A body that is hidden is so with its faces and edges.
-  shows(block, id) {
-    const body = bodyOf(id);
-    return isOn(this.#ofEntity(block, id)) && (!body || isOn(this.#ofEntity(block, `b${body}`)));
+  // Of several layers it is enough that one is on. A body is hidden with all its faces.
+  shows(block, part) {
+    return isOn(this.#ofEntity(block, part.mechanicalId)) && isOn(this.#ofBody(block, part));
   }
 
   showsAnnotation(id) {

@@ -11,6 +11,7 @@ function row(layer, onShow) {
   name.className = 'name';
   name.textContent = layer.name || `Layer ${layer.id}`;
   name.title = `${name.textContent} (${layer.id})`;
+  box.ariaLabel = `Show ${name.textContent}`;
   count.className = 'count';
   count.textContent = layer.count;
   const update = () => result.classList.toggle('off', !layer.on);
@@ -28,12 +29,12 @@ export function buildLayers(list, model, onShow) {
   const drawn = new Set(model.annotations.flatMap(({ mechanicalId }) => model.layers.ofAnnotation(mechanicalId)));
   for (const { id, shape } of model.blocks.values()) {
     for (const part of shape?.parts ?? []) {
-      for (const layer of model.layers.of(id, part.mechanicalId)) drawn.add(layer);
+      for (const layer of model.layers.of(id, part)) drawn.add(layer);
     }
   }
   for (const layer of model.layers.all) {
     const entry = row(layer, onShow);
-    entry.querySelector('input').disabled = !drawn.has(layer); // what the file hides is not in the page
+    entry.querySelector('input').disabled = !drawn.has(layer); // as of what the file hides, nothing is in the page
     list.append(entry);
   }
 }

@@ -3,6 +3,7 @@
 import { Box3, BufferAttribute, BufferGeometry, Vector3 } from 'three';
 import { LineSegmentsGeometry } from 'three/addons/lines/LineSegmentsGeometry.js';
 
+import { facesOfEdges } from './edge_faces.js';
 import { Holes } from './holes.js';
 import { Layers } from './layers.js';
 import { Pmi, speaksOf } from './pmi.js';
@@ -64,20 +65,32 @@ class Shape {
     this.mainColor = this.colors[largest.materialIndex] ?? null; // null: the part's or the reference's
   }
 
-  // Shows some of the faces and edges and hides the others, which are not drawn and not met by rays.
+  // Shows some of the faces and edges and hides the others, which are not drawn and not met by rays. An edge that
+  // bounds hidden faces only is hidden with them.
   show(isShown) {
     for (const part of this.parts) part.shown = isShown(part);
     const shown = this.faces.filter((face) => face.shown);
+    const isWhole = shown.length === this.faces.length;
     this.geometry.clearGroups();
     for (const { begin, end, material } of shown) {
       const last = this.geometry.groups.at(-1);
       if (last?.materialIndex === material && last.start + last.count === begin) last.count += end - begin;
       else this.geometry.addGroup(begin, end - begin, material);
     }
-    if (shown.length === this.faces.length) this.geometry.computeBoundingBox();
+    if (isWhole) this.geometry.computeBoundingBox();
     else this.geometry.boundingBox = this.#boxOf(shown);
+    if (!isWhole) this.#hideBoundsOfHidden();
     this.edges?.dispose(); // what is drawn of them has another size now
     this.edges?.setPositions(this.#shownSegments());
+  }
+
+  #hideBoundsOfHidden() {
+    const { geometry, faces, lines, segments } = this;
+    const positions = geometry.getAttribute('position').array;
+    this.bounded ??= facesOfEdges(lines, segments, faces, geometry.index.array, positions);
+    for (const [i, bounded] of this.bounded.entries()) {
+      if (bounded.length && !bounded.some((face) => face.shown)) lines[i].shown = false;
+    }
   }
 
   #shownSegments() {

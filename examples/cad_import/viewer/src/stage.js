@@ -67,7 +67,7 @@ export class Stage {
   // Shows what stands on a layer that is on, or on none.
   showLayers() {
     const { layers, blocks } = this.model;
-    for (const { id, shape } of blocks.values()) shape?.show((part) => layers.shows(id, part.mechanicalId));
+    for (const { id, shape } of blocks.values()) shape?.show((part) => layers.shows(id, part));
     this.annotations.showLayers(layers);
     this.draw();
   }

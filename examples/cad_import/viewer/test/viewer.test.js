@@ -160,7 +160,9 @@ async function checkHoles(tab) {
   });
   const listed = all.reduce((sum, { count }) => sum + count, 0);
   assert.equal(listed, told, 'each hole stands on one line');
-  for (const line of new Set([...all.filter(({ count }) => count > 1), ...all.filter(({ places }) => places > 1)])) {
+  const several = all.find(({ count }) => count > 1) ?? all[0];
+  const repeated = all.find(({ places }) => places > 1) ?? all.at(-1);
+  for (const line of [several, repeated]) {
     await tab.locator(`#holes-list [data-id="${line.id}"]`).click();
     assert.deepEqual((await tab.evaluate(lit)).faces, line.faces, `${line.text} lights its faces and no others`);
     assert.deepEqual(await ids(tab.locator('#holes-list .line.selected')), [line.id]);
@@ -185,7 +187,7 @@ const onLayer = (point) => {
   const { model, stage } = window.viewer;
   const layersAt = ({ x, y }) => {
     const { node, face } = stage.pick(x, y) ?? {};
-    return face ? model.layers.of(node.block.id, face.mechanicalId).map(({ name }) => name) : [];
+    return face ? model.layers.of(node.block.id, face).map(({ name }) => name) : [];
   };
   if (point) return layersAt(point);
   const { clientWidth, clientHeight } = stage.renderer.domElement;
@@ -203,7 +205,7 @@ async function checkLayers(tab) {
   const before = await tab.evaluate(look);
   const spot = await tab.evaluate(onLayer);
   assert.ok(spot, 'something on a layer can be seen');
-  const box = tab.getByRole('checkbox', { name: spot.name });
+  const box = tab.getByRole('checkbox', { name: `Show ${spot.name}`, exact: true });
   await box.uncheck();
   const without = await tab.evaluate(look);
   assert.ok(without.triangles < before.triangles && without.share < before.share, `${spot.name} disappears`);
