@@ -74,7 +74,7 @@ function describe() {
   const facts = [count(parts, 'part')];
   if (nodes.length > parts) facts.push(count(nodes.length - parts, 'assembly').replace('assemblys', 'assemblies'));
   if (model.annotations.length) facts.push(count(model.annotations.length, 'annotation'));
-  if (model.mass !== null) facts.push(mass(model.mass));
+  if (model.mass) facts.push(mass(model.mass));
   if (model.units) facts.push(unitSign(model.units));
   return facts.join(' · ');
 }

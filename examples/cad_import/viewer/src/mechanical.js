@@ -33,7 +33,7 @@ const isSaid = (mechanical, { name }) =>
   (mechanical.layers.length && /^layer$/i.test(name));
 
 export function partRows({ mechanical }, kilograms, unit) {
-  const rows = [['Mass', kilograms !== null && mass(kilograms)]];
+  const rows = [['Mass', kilograms && mass(kilograms)]];
   if (!mechanical) return rows;
   const layers = mechanical.layers.filter(({ entities }) => entities.some((id) => /^b\d+$/.test(id)));
   return [

@@ -165,7 +165,7 @@ class TreeNode {
 
   // The kilograms of all bodies here and below; null when those of one are not known.
   get mass() {
-    if (this.block?.isPart) return this.block.shape ? (this.block.mechanical?.mass ?? null) : 0;
+    if (this.block?.isPart) return this.block.mechanical?.mass ?? (this.block.shape ? null : 0);
     const below = this.children.map((child) => child.mass);
     return below.includes(null) ? null : below.reduce((sum, mass) => sum + mass, 0);
   }

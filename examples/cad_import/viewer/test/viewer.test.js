@@ -237,7 +237,7 @@ try {
   const { firstView, openView, has } = await tab.evaluate(() => {
     const { views, openView, pmi, holes, layers, mass } = window.viewer.model;
     const first = views.find((view) => view.annotationIds.length) ?? views[0];
-    const has = { pmi: Boolean(pmi), holes: Boolean(holes), layers: Boolean(layers), mass: mass !== null };
+    const has = { pmi: Boolean(pmi), holes: Boolean(holes), layers: Boolean(layers), mass: Boolean(mass) };
     return { firstView: first && (first.name || first.id), openView, has };
   });
   assert.ok(has.pmi || !mustHavePmi, 'there is PMI');
