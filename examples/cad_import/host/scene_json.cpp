@@ -162,7 +162,10 @@ public:
         }
         if (item.node->wire())
         {
-            appendSegments(m_segments, item.node->wire()->edges(), item.placement);
+            for (const std::shared_ptr<vrx::ExcVisuEdge>& edge : item.node->wire()->edges())
+            {
+                addEdge(edge, item.placement);
+            }
         }
     }
 
