@@ -482,4 +482,40 @@ TEST(Mechanical, IsHeldAgainstWhatTheFileStates)
     EXPECT_FALSE(json["stated"][4]["agrees"].GetBool());
 }
 
+TEST(Mechanical, HoldsAnAssemblyAgainstItsPartsInTheirPlaces)
+{
+    Block block;
+    const auto pair = std::make_shared<vrx::ExcBlock>();
+    pair->setId(6);
+    pair->setName(WIDE("pair"));
+    for (const double turn : {1.0, -1.0})
+    {
+        const auto reference = std::make_shared<vrx::ExcBlockReference>();
+        reference->setBlockId(5);
+        vrx::ExcTransformation place; // the second one is turned half around x and moved
+        place.affine()[1].set(0, turn, 0);
+        place.affine()[2].set(0, 0, turn);
+        place.translation().set(turn < 0 ? 10 : 0, 0, 0);
+        reference->setTransformation(place);
+        pair->addBlockReference(reference);
+    }
+    state(pair->miscData(), WIDE("volume measure"), WIDE("30000"));
+    state(pair->miscData(), WIDE("surface area measure"), WIDE("1500"));
+    state(pair->miscData(), WIDE("centre point"), WIDE("6 0 0"));
+    block.structure.addBlock(pair);
+    const auto reference = std::make_shared<vrx::ExcBlockReference>();
+    reference->setBlockId(6);
+    block.structure.addRootBlockReference(reference);
+
+    std::ostringstream report;
+    printStated(report, block.received(), block.structure);
+    EXPECT_EQ(report.str(), "volume and centroid as stated, within 1e-9: pair\n"
+                            "differs from the file: pair: area 3000, stated 1500\n");
+
+    pair->blockReferences()[1]->setBlockId(7); // there is none
+    std::ostringstream nothing;
+    printStated(nothing, block.received(), block.structure);
+    EXPECT_EQ(nothing.str(), "");
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 #include "mechanical/mechanical_model.h"
 
+#include "mechanical/assembly_figures.h"
 #include "product_tree.h"
 
 #include <algorithm>
@@ -68,6 +69,34 @@ MechanicalPart makePart(const vrx::ExcBlock& block, const vrx::ExcBlockMechanica
     return part;
 }
 
+std::map<std::uint64_t, std::vector<StatedFigure>> statedOfAssemblies(const vrx::ExcProductStructure& structure,
+                                                                      ReceivedBodies& bodies)
+{
+    std::map<std::uint64_t, std::vector<StatedFigure>> stated;
+    std::map<std::uint64_t, BodyFigures> figures;
+    for (const std::shared_ptr<vrx::ExcBlock>& block : structure.blocks())
+    {
+        if (block->isPart() || !statesFigures(block->miscData()))
+        {
+            continue;
+        }
+        if (figures.empty())
+        {
+            for (const std::uint64_t id : bodies.blocks())
+            {
+                bodies.measure(id);
+            }
+            figures = assemblyFigures(structure, bodies);
+        }
+        const auto found = figures.find(block->id());
+        if (found != figures.end())
+        {
+            stated[block->id()] = statedFigures(block->miscData(), found->second);
+        }
+    }
+    return stated;
+}
+
 } // namespace
 
 MechanicalModel::MechanicalModel(const vrx::ExcProductStructure& structure, const SentMechanicalData& sent,
@@ -87,6 +116,7 @@ MechanicalModel::MechanicalModel(const vrx::ExcProductStructure& structure, cons
                 makePart(*block, data != byBlock.end() ? data->second : nullptr, bodies, structure.units());
         }
     }
+    assemblies = statedOfAssemblies(structure, bodies);
     for (const auto& [id, count] : instancesOfParts(structure))
     {
         MechanicalPart& part = parts.at(id);

@@ -35,10 +35,12 @@ struct MechanicalModel
 {
     MechanicalModel() = default;
 
-    /// Measures the bodies of the parts that have a density or stated figures. Throws TranslatorFailure.
+    /// Measures the bodies of the parts that have a density or stated figures, or of all when an assembly has stated
+    /// figures. Throws TranslatorFailure.
     MechanicalModel(const vrx::ExcProductStructure& structure, const SentMechanicalData& sent, ReceivedBodies& bodies);
 
-    std::map<std::uint64_t, MechanicalPart> parts; // all of the structure, by block
+    std::map<std::uint64_t, MechanicalPart> parts;                 // all of the structure, by block
+    std::map<std::uint64_t, std::vector<StatedFigure>> assemblies; // what is stated of them, by block
     std::optional<double> mass; // of the product; nothing when that of a part with bodies is not known
 
     // What is known of the mass where not all is: of how many parts of the product that have bodies, and how much.

@@ -1,5 +1,6 @@
 #include "mechanical/stated_figures.h"
 
+#include "mechanical/assembly_figures.h"
 #include "mp/narrow.h"
 
 #include <algorithm>
@@ -49,27 +50,6 @@ std::vector<double> numbersIn(const mp::wstring& text)
         numbers.push_back(number);
     }
     return stream.eof() ? numbers : std::vector<double>();
-}
-
-// The bodies of a part taken together.
-BodyFigures sum(const std::vector<ReceivedBodies::Body>& bodies)
-{
-    BodyFigures all;
-    for (const ReceivedBodies::Body& body : bodies)
-    {
-        const BodyFigures& one = body.figures;
-        all.area += one.area;
-        all.volume += one.volume;
-        for (std::size_t i = 0; i < 3; ++i)
-        {
-            all.centroid[i] += one.volume * one.centroid[i];
-        }
-    }
-    for (double& coordinate : all.centroid)
-    {
-        coordinate /= all.volume;
-    }
-    return all;
 }
 
 double distance(const std::array<double, 3>& first, const double* second)
@@ -146,7 +126,7 @@ std::vector<StatedFigure> statedFigures(const vrx::ExcMiscData& properties, cons
     {
         return figures;
     }
-    append(figures, properties, std::nullopt, sum(bodies));
+    append(figures, properties, std::nullopt, sumOf(bodies));
     if (data != nullptr)
     {
         for (const std::shared_ptr<vrx::ExcMiscNoteParameters>& parameters : data->noteParameters())
@@ -157,6 +137,13 @@ std::vector<StatedFigure> statedFigures(const vrx::ExcMiscData& properties, cons
             }
         }
     }
+    return figures;
+}
+
+std::vector<StatedFigure> statedFigures(const vrx::ExcMiscData& properties, const BodyFigures& assembly)
+{
+    std::vector<StatedFigure> figures;
+    append(figures, properties, std::nullopt, assembly);
     return figures;
 }
 

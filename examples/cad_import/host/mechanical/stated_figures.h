@@ -35,5 +35,8 @@ struct StatedFigure
 std::vector<StatedFigure> statedFigures(const vrx::ExcMiscData& properties, const vrx::ExcMechanicalMiscData* data,
                                         const std::vector<ReceivedBodies::Body>& bodies);
 
+/// The same of an assembly, as a whole.
+std::vector<StatedFigure> statedFigures(const vrx::ExcMiscData& properties, const BodyFigures& assembly);
+
 /// Whether there is a figure to compare.
-bool statesFigures(const vrx::ExcMiscData& properties, const vrx::ExcMechanicalMiscData* data);
+bool statesFigures(const vrx::ExcMiscData& properties, const vrx::ExcMechanicalMiscData* data = nullptr);

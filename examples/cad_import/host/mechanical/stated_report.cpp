@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <map>
 #include <ostream>
 #include <string>
@@ -67,26 +68,47 @@ std::string numbers(const std::vector<double>& values)
     return values.size() == 1 ? text : '(' + text + ')';
 }
 
+// The products of which the same figures agree.
 struct Agreeing
 {
-    std::string name; // of the first part
-    std::size_t count = 0;
+    std::string text() const
+    {
+        if (parts + assemblies == 1)
+        {
+            return name;
+        }
+        const std::string first = counted(parts, "part", "parts");
+        const std::string second = counted(assemblies, "assembly", "assemblies");
+        return first + (first.empty() || second.empty() ? "" : " and ") + second;
+    }
+
+    static std::string counted(std::size_t count, const char* singular, const char* plural)
+    {
+        return count == 0 ? std::string() : std::to_string(count) + ' ' + (count == 1 ? singular : plural);
+    }
+
+    std::string name; // of the first one
+    std::size_t parts = 0;
+    std::size_t assemblies = 0;
     double worst = 0;
 };
 
-} // namespace
-
-void printStated(std::ostream& stream, const MechanicalModel& mechanical, const vrx::ExcProductStructure& structure)
+class Report
 {
-    std::map<std::vector<bool>, Agreeing, std::greater<>> agreeing; // by which figures agree
-    std::string differing;
-    for (const auto& [id, part] : mechanical.parts)
+public:
+    explicit Report(const vrx::ExcProductStructure& structure)
+        : m_structure(structure)
     {
-        const auto block = structure.getBlockById(id);
+    }
+
+    // What is stated of a block that has this many bodies, or none for an assembly.
+    void add(std::uint64_t id, const std::vector<StatedFigure>& stated, std::size_t bodies)
+    {
+        const auto block = m_structure.getBlockById(id);
         const std::string name = block ? printable(block->name()) : std::string();
         std::vector<bool> whats(3);
         double worst = 0;
-        for (const StatedFigure& figure : part.stated)
+        for (const StatedFigure& figure : stated)
         {
             if (figure.agrees())
             {
@@ -94,23 +116,47 @@ void printStated(std::ostream& stream, const MechanicalModel& mechanical, const 
                 worst = std::max(worst, figure.relative);
                 continue;
             }
-            differing += "differs from the file: " + name;
-            differing += figure.body ? " body " + std::to_string(*figure.body + 1) : std::string();
-            differing += std::string(": ") + nameOf(figure.what) + ' ' + numbers(figure.found) + ", stated " +
-                         numbers(figure.stated) + '\n';
+            m_differing += "differs from the file: " + name;
+            m_differing += bodies > 1 && figure.body ? " body " + std::to_string(*figure.body + 1) : std::string();
+            m_differing += std::string(": ") + nameOf(figure.what) + ' ' + numbers(figure.found) + ", stated " +
+                           numbers(figure.stated) + '\n';
         }
         if (std::find(whats.begin(), whats.end(), true) != whats.end())
         {
-            Agreeing& group = agreeing[whats];
-            group.name = group.count == 0 ? name : group.name;
+            Agreeing& group = m_agreeing[whats];
+            group.name = group.name.empty() ? name : group.name;
             group.worst = std::max(group.worst, worst);
-            ++group.count;
+            ++(bodies > 0 ? group.parts : group.assemblies);
         }
     }
-    for (const auto& [whats, group] : agreeing)
+
+    void print(std::ostream& stream) const
     {
-        stream << listed(whats) << " as stated, within " << within(group.worst) << ": "
-               << (group.count == 1 ? group.name : std::to_string(group.count) + " parts") << '\n';
+        for (const auto& [whats, group] : m_agreeing)
+        {
+            stream << listed(whats) << " as stated, within " << within(group.worst) << ": " << group.text() << '\n';
+        }
+        stream << m_differing;
     }
-    stream << differing;
+
+private:
+    const vrx::ExcProductStructure& m_structure;
+    std::map<std::vector<bool>, Agreeing, std::greater<>> m_agreeing; // by which figures agree
+    std::string m_differing;
+};
+
+} // namespace
+
+void printStated(std::ostream& stream, const MechanicalModel& mechanical, const vrx::ExcProductStructure& structure)
+{
+    Report report(structure);
+    for (const auto& [id, part] : mechanical.parts)
+    {
+        report.add(id, part.stated, part.bodies);
+    }
+    for (const auto& [id, stated] : mechanical.assemblies)
+    {
+        report.add(id, stated, 0);
+    }
+    report.print(stream);
 }
