@@ -1,6 +1,7 @@
 #include "features/face_surface.h"
 
 #include <BRepAdaptor_Surface.hxx>
+#include <Standard_Failure.hxx>
 #include <gp_Cone.hxx>
 #include <gp_Cylinder.hxx>
 #include <gp_Lin.hxx>
@@ -203,14 +204,7 @@ FaceSurface recognised(const std::vector<Sample>& samples)
     return surface;
 }
 
-} // namespace
-
-double FaceSurface::radiusAt(const gp_Pnt& point) const
-{
-    return std::abs(radius + slope * gp_Vec(axis.Location(), point).Dot(gp_Vec(axis.Direction())));
-}
-
-FaceSurface surfaceOf(const TopoDS_Face& face)
+FaceSurface recognised(const TopoDS_Face& face)
 {
     const BRepAdaptor_Surface adaptor(face);
     const bool isReversed = face.Orientation() == TopAbs_REVERSED;
@@ -271,6 +265,25 @@ FaceSurface surfaceOf(const TopoDS_Face& face)
         break;
     }
     return surface;
+}
+
+} // namespace
+
+double FaceSurface::radiusAt(const gp_Pnt& point) const
+{
+    return std::abs(radius + slope * gp_Vec(axis.Location(), point).Dot(gp_Vec(axis.Direction())));
+}
+
+FaceSurface surfaceOf(const TopoDS_Face& face)
+{
+    try
+    {
+        return recognised(face);
+    }
+    catch (const Standard_Failure&) // a damaged one
+    {
+        return {};
+    }
 }
 
 bool areCoaxial(const gp_Ax1& left, const gp_Ax1& right, double radius)

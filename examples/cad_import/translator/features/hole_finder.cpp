@@ -5,7 +5,6 @@
 #include "features/solid_lines.h"
 
 #include <BRepClass3d.hxx>
-#include <Standard_ErrorHandler.hxx>
 #include <Standard_Failure.hxx>
 #include <TopoDS.hxx>
 #include <TopoDS_Shell.hxx>
@@ -64,6 +63,7 @@ private:
     bool isBoredWider(const Bore& bore, bool fromItsEnd) const;
 
     Bore boreOf(const RingChain& chain) const;
+    std::vector<TopoDS_Face> piercedPlanes(const RingChain& chain) const;
     void turn(Bore& bore) const;
     void joinInLine(std::vector<Bore>& bores) const;
     bool isFirstEndTheOpening(const Bore& bore) const;
@@ -171,6 +171,27 @@ HoleFinder::Bore HoleFinder::boreOf(const RingChain& chain) const
     bore.axis.SetLocation(gp_Lin(bore.axis).Location().Translated(gp_Vec(bore.axis.Direction()) *
                                                                   along(bore, entryPlace(chain.front()))));
     return bore;
+}
+
+// The faces around the ends that the axis cannot cross, since it goes through a hole in each. That is most of those
+// with many holes, which take long.
+std::vector<TopoDS_Face> HoleFinder::piercedPlanes(const RingChain& chain) const
+{
+    std::vector<TopoDS_Face> faces;
+    for (const int end : {chain.front().entry, chain.back().exit})
+    {
+        if (isClosed(end))
+        {
+            continue;
+        }
+        const std::vector<FaceRegions::Neighbour>& around = m_rings.end(end).neighbours;
+        const bool isOnePlane = std::all_of(around.begin(), around.end(), [&](const FaceRegions::Neighbour& neighbour) {
+            return neighbour.region == around.front().region && surfaceOf(neighbour.region).kind == Kind::Plane;
+        });
+        const std::vector<TopoDS_Face> own = isOnePlane ? facesOf(around) : std::vector<TopoDS_Face>();
+        faces.insert(faces.end(), own.begin(), own.end());
+    }
+    return faces;
 }
 
 void HoleFinder::turn(Bore& bore) const
@@ -315,10 +336,8 @@ bool HoleFinder::isHollow(const Bore& bore) const
     const gp_Pnt centre = bore.axis.Location().Translated(gp_Vec(bore.axis.Direction()) * middle);
     const gp_Ax2 frame(centre, bore.axis.Direction());
     const gp_Vec askew = gp_Vec(frame.XDirection()) * 0.79 + gp_Vec(frame.YDirection()) * 0.61;
-    const std::vector<SolidLines::Crossing> crossings = m_lines.of(gp_Ax1(centre, gp_Dir(askew)));
     const double within = 0.99 * surfaceOf(pass.region).radiusAt(centre);
-    return std::none_of(crossings.begin(), crossings.end(),
-                        [within](const SolidLines::Crossing& crossing) { return std::abs(crossing.along) < within; });
+    return m_lines.of(gp_Ax1(centre, gp_Dir(askew)), -within, within).empty();
 }
 
 void HoleFinder::addFaces(std::size_t region, std::vector<TopoDS_Face>& faces) const
@@ -409,7 +428,8 @@ SolidHoles HoleFinder::find()
         if (!isClosed(chain.front().entry) || !isClosed(chain.back().exit))
         {
             bores.push_back(boreOf(chain));
-            bores.back().crossings = m_lines.of(bores.back().axis);
+            bores.back().crossings =
+                m_lines.of(bores.back().axis, -SolidLines::kFarAway, SolidLines::kFarAway, piercedPlanes(chain));
         }
     }
     joinInLine(bores);
@@ -447,7 +467,6 @@ SolidHoles holesOf(const TopoDS_Shape& solid)
 {
     try
     {
-        OCC_CATCH_SIGNALS
         return HoleFinder(solid).find();
     }
     catch (const Standard_Failure&)
