@@ -17,19 +17,23 @@
 ///   under the names that the file gives them. Those of a single body are note parameters of the block, named by
 ///   the body's mechanical id, such as "b0".
 ///
-/// A hole is all that is cut around one axis from an opening of the body inwards. Its centre is the middle of the
-/// opening, its direction leads into the material, and all depths count from the centre. Its diameter and depth are
-/// those of its narrowest part: for a blind hole to the end of the cylinder, where a tip begins; for a taper hole the
-/// diameter at the opening. A tip angle of 0 is a flat bottom. Angles are those of whole cones, from side to side.
+/// A hole is all that is cut around one axis from an opening of the body inwards, and closed around it. Its centre is
+/// where the axis leaves the body at the opening, its direction leads into the material, and all depths count from the
+/// centre. Its diameter is that of its narrowest part, for a taper hole that at the opening. Its depth is that of the
+/// whole, for a blind hole to the end of the walls, where a tip begins. A tip angle of 0 is a flat bottom, or that of a
+/// ball. Angles are those of whole cones, from side to side. What is not seen from the opening, behind a narrower part,
+/// counts for none of these.
 ///
 /// - A hole ends blind, or "up_to_last" when nothing of the body follows on its axis, or "up_to_next" when it opens
 ///   into a hollow.
+/// - Of several steps a counterbore is that at the opening. A chamfer before a counterbore or a counter drill counts
+///   for nothing; one before a hole makes it a countersink.
 /// - A counter drill's sink diameter is that of the wide end of the cone at the end of its wide part.
 /// - The defining geometry of a hole is its own faces: walls, steps and cones, the bottom and the tip. The limiting
 ///   geometry is the faces around its ends, those of the opening first.
-/// - The pattern of a hole feature does not cross. Equal holes in a grid or on a circle have an unclassified feature
-///   instead: its linked elements are the defining geometry of all of them, hole by hole, and its pattern's base
-///   instance that of the first one.
+/// - The pattern of a hole feature does not cross. Equal holes in a row or a grid, or evenly on a circle or an arc,
+///   have an unclassified feature instead: its linked elements are the defining geometry of all of them, hole by hole,
+///   and its pattern's base instance that of the first one.
 /// - A thread is a feature of its own whose side faces carry it. Those of an internal thread belong to the hole that is
 ///   tapped, whose opening and bottom are its top and bottom faces.
 namespace mechanical_conventions

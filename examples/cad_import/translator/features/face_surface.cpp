@@ -1,6 +1,7 @@
 #include "features/face_surface.h"
 
 #include <BRepAdaptor_Surface.hxx>
+#include <Standard_Failure.hxx>
 #include <gp_Cone.hxx>
 #include <gp_Cylinder.hxx>
 #include <gp_Lin.hxx>
@@ -73,6 +74,16 @@ gp_Vec across(const gp_Vec& vector, const gp_Vec& axis)
     return vector - axis * vector.Dot(axis);
 }
 
+// The sample whose normal, after this is done to it, is most square to that of the first one.
+template <class Change>
+const Sample& mostSquare(const std::vector<Sample>& samples, const Change& change)
+{
+    const gp_Vec first = change(samples.front().normal);
+    return *std::min_element(samples.begin(), samples.end(), [&](const Sample& left, const Sample& right) {
+        return std::abs(first.Dot(change(left.normal))) < std::abs(first.Dot(change(right.normal)));
+    });
+}
+
 // The point at which the lines along the normals of two samples are closest to each other, on the second one.
 gp_Pnt meetingOf(const Sample& left, const Sample& right, const gp_Vec& leftNormal, const gp_Vec& rightNormal)
 {
@@ -98,8 +109,9 @@ bool setPlane(FaceSurface& surface, const std::vector<Sample>& samples, double s
     return true;
 }
 
-bool setSphere(FaceSurface& surface, const std::vector<Sample>& samples, const Sample& other, double size)
+bool setSphere(FaceSurface& surface, const std::vector<Sample>& samples, double size)
 {
+    const Sample& other = mostSquare(samples, [](const gp_Vec& normal) { return normal; });
     const gp_Pnt centre = meetingOf(samples.front(), other, samples.front().normal, other.normal);
     const double radius = gp_Vec(centre, other.point).Dot(other.normal);
     for (const Sample& sample : samples)
@@ -117,18 +129,16 @@ bool setSphere(FaceSurface& surface, const std::vector<Sample>& samples, const S
 }
 
 // The normals of a cylinder or a cone have one angle to its axis.
-bool setRound(FaceSurface& surface, const std::vector<Sample>& samples, const Sample& other, double size)
+bool setRound(FaceSurface& surface, const std::vector<Sample>& samples, double size)
 {
     const Sample& first = samples.front();
+    const Sample& partner = mostSquare(samples, [](const gp_Vec& normal) { return normal; });
     gp_Vec axis;
     for (const Sample& sample : samples)
     {
-        const gp_Vec normal = (other.normal - first.normal).Crossed(sample.normal - first.normal);
+        const gp_Vec normal = (partner.normal - first.normal).Crossed(sample.normal - first.normal);
         axis = normal.Magnitude() > axis.Magnitude() ? normal : axis;
     }
-    // All normals of a cylinder that changes by little, or has one row of samples only, are in line with two of them.
-    const gp_Vec round = first.normal.Crossed(other.normal);
-    axis = axis.Magnitude() < kLeastCurvature * round.Magnitude() ? round : axis;
     if (axis.Magnitude() < kLeastCurvature * kLeastCurvature)
     {
         return false;
@@ -140,6 +150,11 @@ bool setRound(FaceSurface& surface, const std::vector<Sample>& samples, const Sa
         return false;
     }
     const double flat = std::sqrt(1 - rise * rise);
+    const Sample& other = mostSquare(samples, [&axis](const gp_Vec& normal) { return across(normal, axis); });
+    if (across(first.normal, axis).Crossed(across(other.normal, axis)).Magnitude() < kLeastCurvature)
+    {
+        return false;
+    }
     const gp_Pnt centre =
         meetingOf({first.point.Translated(-axis * gp_Vec(other.point, first.point).Dot(axis)), {}}, other,
                   across(first.normal, axis).Normalized(), across(other.normal, axis).Normalized());
@@ -173,37 +188,23 @@ FaceSurface recognised(const std::vector<Sample>& samples)
         return surface;
     }
     const Sample& first = samples.front();
-    const Sample* other = &first;
     double size = 0;
+    gp_Vec turn;
     for (const Sample& sample : samples)
     {
         size = std::max(size, first.point.Distance(sample.point));
-        // The one most square to the first.
-        if (std::abs(sample.normal.Dot(first.normal)) < std::abs(other->normal.Dot(first.normal)))
-        {
-            other = &sample;
-        }
+        const gp_Vec its = first.normal.Crossed(sample.normal);
+        turn = its.Magnitude() > turn.Magnitude() ? its : turn;
     }
-    if (!isFinite(size) || setPlane(surface, samples, size) ||
-        first.normal.Crossed(other->normal).Magnitude() < kLeastCurvature)
+    if (isFinite(size) && !setPlane(surface, samples, size) && turn.Magnitude() > kLeastCurvature &&
+        !setRound(surface, samples, size))
     {
-        return surface;
-    }
-    if (!setRound(surface, samples, *other, size))
-    {
-        setSphere(surface, samples, *other, size);
+        setSphere(surface, samples, size);
     }
     return surface;
 }
 
-} // namespace
-
-double FaceSurface::radiusAt(const gp_Pnt& point) const
-{
-    return std::abs(radius + slope * gp_Vec(axis.Location(), point).Dot(gp_Vec(axis.Direction())));
-}
-
-FaceSurface surfaceOf(const TopoDS_Face& face)
+FaceSurface recognised(const TopoDS_Face& face)
 {
     const BRepAdaptor_Surface adaptor(face);
     const bool isReversed = face.Orientation() == TopAbs_REVERSED;
@@ -264,6 +265,25 @@ FaceSurface surfaceOf(const TopoDS_Face& face)
         break;
     }
     return surface;
+}
+
+} // namespace
+
+double FaceSurface::radiusAt(const gp_Pnt& point) const
+{
+    return std::abs(radius + slope * gp_Vec(axis.Location(), point).Dot(gp_Vec(axis.Direction())));
+}
+
+FaceSurface surfaceOf(const TopoDS_Face& face)
+{
+    try
+    {
+        return recognised(face);
+    }
+    catch (const Standard_Failure&) // a damaged one
+    {
+        return {};
+    }
 }
 
 bool areCoaxial(const gp_Ax1& left, const gp_Ax1& right, double radius)

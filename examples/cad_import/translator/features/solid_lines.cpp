@@ -5,11 +5,12 @@
 #include <TopoDS.hxx>
 #include <gp_Lin.hxx>
 
+#include <algorithm>
+
 namespace
 {
 
 const double kTolerance = 1e-6; // millimetres
-const double kFarAway = 1e7;    // millimetres
 
 } // namespace
 
@@ -22,12 +23,18 @@ SolidLines::SolidLines(const TopoDS_Shape& solid)
     }
 }
 
-std::vector<SolidLines::Crossing> SolidLines::of(const gp_Ax1& line) const
+std::vector<SolidLines::Crossing> SolidLines::of(const gp_Ax1& line, double from, double to,
+                                                 const std::vector<TopoDS_Face>& without) const
 {
+    Bnd_Box part;
+    part.Add(line.Location().Translated(gp_Vec(line.Direction()) * from));
+    part.Add(line.Location().Translated(gp_Vec(line.Direction()) * to));
     std::vector<Crossing> crossings;
     for (Face& face : m_faces)
     {
-        if (face.box.IsVoid() || face.box.IsOut(gp_Lin(line)))
+        if (face.box.IsVoid() || face.box.IsOut(part) || face.box.IsOut(gp_Lin(line)) ||
+            std::any_of(without.begin(), without.end(),
+                        [&face](const TopoDS_Face& other) { return other.IsSame(face.face); }))
         {
             continue;
         }
@@ -35,7 +42,7 @@ std::vector<SolidLines::Crossing> SolidLines::of(const gp_Ax1& line) const
         {
             face.intersector = std::make_unique<IntCurvesFace_Intersector>(face.face, kTolerance);
         }
-        face.intersector->Perform(gp_Lin(line), -kFarAway, kFarAway);
+        face.intersector->Perform(gp_Lin(line), from, to);
         for (int i = 1; face.intersector->IsDone() && i <= face.intersector->NbPnt(); ++i)
         {
             crossings.push_back({face.intersector->WParameter(i), face.face});

@@ -21,8 +21,12 @@ public:
         TopoDS_Face face;
     };
 
-    /// In no order.
-    std::vector<Crossing> of(const gp_Ax1& line) const;
+    /// Those of a part of the line, but with none of these faces. In no order.
+    std::vector<Crossing> of(const gp_Ax1& line, double from, double to,
+                             const std::vector<TopoDS_Face>& without = {}) const;
+
+    /// Far enough for any of its faces.
+    static constexpr double kFarAway = 1e7; // millimetres
 
 private:
     struct Face
