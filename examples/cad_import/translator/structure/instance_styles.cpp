@@ -15,7 +15,7 @@
 namespace
 {
 
-const std::size_t kLongest = 100; // path
+const std::size_t kLongest = 100; // path: a damaged one may have no end
 
 } // namespace
 
@@ -52,7 +52,7 @@ void InstanceStyles::add(const TDF_Label& component)
         {
             style.path.push_back(node->Label().Father());
         }
-        if (style.path.size() > 1 && (style.color.hasRGB() || style.hidden))
+        if (node.IsNull() && style.path.size() > 1 && (style.color.hasRGB() || style.hidden))
         {
             if (!m_byFirst.IsBound(component))
             {
