@@ -3,7 +3,7 @@
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 "$host" --quiet --json "$vise" >"$scratch/tree.json"
-sed -E 's/ \[.*\]$//; /^product |^[0-9]+ blocks/d' "$example/tests/bench_vise.tree.txt" >"$scratch/expected"
+sed -E 's/ \[.*\]$//; /^product |^[0-9]+ blocks|^volume, /d' "$example/tests/bench_vise.tree.txt" >"$scratch/expected"
 node "$example/tests/json_lines.js" "$scratch/tree.json" >"$scratch/lines"
 diff -u "$scratch/expected" "$scratch/lines" || fail "the JSON has another tree"
 
@@ -29,5 +29,14 @@ node -e '
     const pmi = JSON.parse(require("fs").readFileSync(process.argv[1])).pmi;
     const lists = ["dimensions", "tolerances", "datums", "datum_targets", "notes", "views"];
     process.exit(lists.every((list) => Array.isArray(pmi[list])) ? 0 : 1);' "$scratch/tree.json" || fail "no PMI in the JSON"
+
+# The mechanical data stand with the parts.
+node -e '
+    const blocks = JSON.parse(require("fs").readFileSync(process.argv[1])).blocks;
+    const lists = ["materials", "layers", "holes", "patterns", "threads", "entities", "stated"];
+    const right = (block) => block.is_part
+        ? block.mass > 0 && lists.every((list) => Array.isArray(block[list])) && block.stated.every((one) => one.agrees)
+        : block.mass === undefined;
+    process.exit(blocks.every(right) ? 0 : 1);' "$scratch/tree.json" || fail "no mechanical data in the JSON"
 expect 2 "--view-name goes with" "$host" --view-name top "$vise"
 expect 6 "there is no saved view top, and no other" "$host" --view-name top --view "$scratch/page.html" "$vise"

@@ -9,10 +9,10 @@ diff -u "$example/tests/bench_vise.tree.txt" "$scratch/committed" || fail "the c
 "$host" --quiet "$scratch/bench_vise.step" >"$scratch/generated"
 diff -u "$example/tests/bench_vise.tree.txt" "$scratch/generated" || fail "the generator makes another assembly"
 
-# As IGES it has the same tree, but no materials, and all screws of a kind look alike.
+# As IGES it has the same tree, but neither materials nor stated figures, and all screws of a kind look alike.
 "$generator" "$scratch/bench_vise.igs"
 "$host" --quiet "$scratch/bench_vise.igs" >"$scratch/iges"
-sed -E 's/, material [^]]*//; s/^21 blocks/20 blocks/
+sed -E 's/, material [^]]*//; s/^21 blocks/20 blocks/; s/, mass .*//; /^volume, /d
     /left screw \(/{N; s/left screw \((.*)\) (#.*)\n.*/left screw .. right screw (\1) x2 \2/}' \
     "$example/tests/bench_vise.tree.txt" | diff -u - "$scratch/iges" ||
     fail "the assembly has another tree as IGES"
