@@ -35,11 +35,14 @@ compare() {
 "$generator" "$scratch/bench_vise.step"
 compare "$scratch/bench_vise.step" "$("$host" --quiet --properties "$vise" | sed -n 's/.*- solids: //p' | awk '{ n += $1 } END { print n }')"
 
-# The IGES form has the same bodies, in the same order. The curves in which faces meet are made anew from it.
-cp "$scratch/received" "$scratch/step_bodies"
+# The IGES form has the same bodies, in the same order, of other blocks. The curves in which faces meet are made anew
+# from it.
+without_blocks() { awk '{ $1 = 0; print }' "$1"; }
+without_blocks "$scratch/received" >"$scratch/step_bodies"
 "$generator" "$scratch/bench_vise.igs"
 compare "$scratch/bench_vise.igs" "$(wc -l <"$scratch/step_bodies")"
-agree "$scratch/step_bodies" "$scratch/received" 1e-5 || fail "the bodies of the IGES form differ"
+without_blocks "$scratch/received" >"$scratch/iges_bodies"
+agree "$scratch/step_bodies" "$scratch/iges_bodies" 1e-5 || fail "the bodies of the IGES form differ"
 
 # Every file that is given besides, whatever it holds.
 for file in ${STEP_FILES:-}; do

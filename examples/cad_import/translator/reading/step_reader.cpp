@@ -116,9 +116,9 @@ void readStep(CadFile& file, const ImportSettings& settings, ImportProgress& pro
     model.step = std::make_unique<STEPCAFControl_Reader>();
     model.step->SetColorMode(true);
     model.step->SetNameMode(true);
-    model.step->SetPropsMode(true);
-    model.step->SetMatMode(false); // these and layers are read from the records
     model.step->SetSHUOMode(true);
+    model.step->SetPropsMode(false); // these, materials and layers are read from the file itself
+    model.step->SetMatMode(false);
     model.step->SetLayerMode(false);
     model.step->SetGDTMode(false); // what the kernel makes of it is not what the file states
     model.step->SetViewMode(false);
