@@ -10,9 +10,9 @@
 /// - A material of the part level holds for all bodies of the block and has no linked elements; any other one names its
 ///   bodies by them. The units of its properties are products of powers of the four base units.
 /// - A layer stands in the data of each block that has something on it, with the same id and name. Its entities are
-///   bodies, what belongs to no body, faces, edges and annotations.
+///   bodies, in all their places in the block, faces, edges, what belongs to no body, and annotations.
 /// - Entity data has the names that the file gives faces and edges as their persistent names. What a layer that is
-///   switched off in the file hides is hidden there.
+///   switched off in the file hides is hidden there, whole bodies too.
 /// - Figures that the file states of a part for a receiver to check its work with are free properties of its block,
 ///   under the names that the file gives them. Those of a single body are note parameters of the block, named by
 ///   the body's mechanical id, such as "b0".

@@ -15,9 +15,6 @@ inline const mp::wchar* const kVersion = WIDE("version");
 inline const mp::wchar* const kSolids = WIDE("solids");      // integer
 inline const mp::wchar* const kShells = WIDE("open shells"); // integer: those outside of solids
 inline const mp::wchar* const kFaces = WIDE("faces");        // integer
-inline const mp::wchar* const kMaterial = WIDE("material");
-inline const mp::wchar* const kDensity = WIDE("density"); // double, g/cm3
-inline const mp::wchar* const kLayer = WIDE("layer");     // one property for each layer; its number in IGES files
 
 // of a block reference, when colours are asked for by their index
 inline const mp::wchar* const kColorIndex = WIDE("color index"); // integer: the colour index of drawings, 1 to 255

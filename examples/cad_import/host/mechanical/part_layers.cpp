@@ -9,17 +9,19 @@
 namespace
 {
 
-// The id of an annotation names its view too, such as "1/0/notes/3".
-bool isShape(const mp::wstring& id)
+// Not a vertex, such as "v4", and not an annotation, whose id names its view too, such as "1/0/notes/3".
+bool isDrawnShape(const mp::wstring& id)
 {
-    return std::count(id.begin(), id.end(), WIDE('/')) < 2;
+    const std::size_t slash = id.rfind(WIDE('/'));
+    const std::size_t kind = slash == mp::wstring::npos ? 0 : slash + 1;
+    return std::count(id.begin(), id.end(), WIDE('/')) < 2 && id.compare(kind, 1, WIDE("v")) != 0;
 }
 
 bool areHidden(const std::vector<mp::wstring>& entities, const std::set<mp::wstring>& hidden)
 {
-    return std::any_of(entities.begin(), entities.end(), isShape) &&
+    return std::any_of(entities.begin(), entities.end(), isDrawnShape) &&
            std::all_of(entities.begin(), entities.end(),
-                       [&hidden](const mp::wstring& id) { return !isShape(id) || hidden.count(id) != 0; });
+                       [&hidden](const mp::wstring& id) { return !isDrawnShape(id) || hidden.count(id) != 0; });
 }
 
 } // namespace

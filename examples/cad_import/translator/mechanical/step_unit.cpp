@@ -19,6 +19,7 @@ using vrx::ETemperatureUnitType;
 using vrx::ETimeUnitType;
 
 const int kDeepest = 6;      // units that stand for units
+const std::size_t kMost = 8; // factors of a unit
 const double kHighest = 9.0; // exponent
 
 enum EBase
@@ -235,11 +236,13 @@ private:
     bool multiplyElements(const StepRecord& unit, int exponent, int depth)
     {
         const std::vector<StepRecord> elements = unit.as("DERIVED_UNIT").nexts(0);
-        return !elements.empty() && std::all_of(elements.begin(), elements.end(), [&](const StepRecord& element) {
-            const double power = element[1].number;
-            return element.is("DERIVED_UNIT_ELEMENT") && std::abs(power) <= kHighest && power == std::round(power) &&
-                   multiply(element.next(0), exponent * static_cast<int>(power), depth + 1);
-        });
+        return !elements.empty() && elements.size() <= kMost &&
+               std::all_of(elements.begin(), elements.end(), [&](const StepRecord& element) {
+                   const double power = element[1].number;
+                   return element.is("DERIVED_UNIT_ELEMENT") && std::abs(power) <= kHighest &&
+                          power == std::round(power) &&
+                          multiply(element.next(0), exponent * static_cast<int>(power), depth + 1);
+               });
     }
 
     template <class Type, class Set>
@@ -300,5 +303,7 @@ std::optional<double> gramsPerCubicCentimetre(const vrx::ExcMiscMaterialProperty
     {
         return std::nullopt;
     }
-    return property.value() * (mass->size / kKilogram.size) / std::pow(length->size, 3) / 1000;
+    const double grams = mass->size * 1000;
+    const double centimetres = length->size * 100;
+    return property.value() * grams / (centimetres * centimetres * centimetres);
 }
