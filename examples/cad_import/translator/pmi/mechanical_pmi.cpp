@@ -1,6 +1,7 @@
 #include "pmi/mechanical_pmi.h"
 
 #include "common/pmi_conventions.h"
+#include "kernel/occt_vector.h"
 #include "mechanical/mechanical_data.h"
 #include "mechanical/shape_links.h"
 #include "mp/narrow.h"
@@ -25,11 +26,6 @@ namespace
 
 using Set = pmi_conventions::SentAnnotationSet;
 using View = vrx::ExcPMIAnnotationView;
-
-vrx::ExcVector3d vector(const gp_XYZ& coordinates)
-{
-    return {coordinates.X(), coordinates.Y(), coordinates.Z()};
-}
 
 bool areSame(const vrx::ExcVector3d& left, const vrx::ExcVector3d& right, double tolerance)
 {
@@ -299,9 +295,9 @@ private:
         const auto made = std::make_shared<View>();
         if (drawing != nullptr && drawing->plane)
         {
-            made->setOrigin(vector(drawing->plane->Location().XYZ() * m_blocks.frame().scale()));
-            made->setVectorU(vector(drawing->plane->XDirection().XYZ()));
-            made->setVectorV(vector(drawing->plane->YDirection().XYZ()));
+            made->setOrigin(occt_vector::of(drawing->plane->Location().XYZ() * m_blocks.frame().scale()));
+            made->setVectorU(occt_vector::of(drawing->plane->XDirection().XYZ()));
+            made->setVectorV(occt_vector::of(drawing->plane->YDirection().XYZ()));
         }
         const auto found = std::find_if(set.views().begin(), set.views().end(), [&](const auto& view) {
             return areSame(view->origin(), made->origin(), 1e-6) && areSame(view->vectorU(), made->vectorU(), 1e-9) &&
