@@ -17,8 +17,9 @@
 /// - Values are those that the file states, with its unit. That of a feature control frame is its name, such as "mm" or
 ///   "inch" as for dimensions, which crosses by a key "unit" of these programs' own. A dimension without a unit states
 ///   no value.
-/// - Dimensions: "before" is what stands before the value, such as "4X"; a prefix other than empty replaces the symbol
-///   of the sub type, as "S⌀" does. Fits are the alphanumerical tolerances, the upper one for a hole, the lower one for
+/// - Dimensions: "before" is what stands before the value, such as "4X": by the words of the drawing, or else by the
+///   number of holes or pins that the linked faces make. A prefix other than empty replaces the symbol of the sub type,
+///   as "S⌀" does. Fits are the alphanumerical tolerances, the upper one for a hole, the lower one for
 ///   a shaft. A dimension that states two limits and no value has their middle as its value, and the limits as its
 ///   fake alphanumerical value. A main type "unknown" has neither a tolerance nor a frame around its value. The
 ///   precision is the number of decimal places, or 0 when the file does not tell.

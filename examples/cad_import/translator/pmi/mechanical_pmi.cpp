@@ -6,8 +6,8 @@
 #include "mechanical/shape_links.h"
 #include "mp/narrow.h"
 #include "pmi/annotation_text.h"
-#include "pmi/cylinder_count.h"
 #include "pmi/drawn_pmi.h"
+#include "pmi/feature_count.h"
 #include "pmi/step_datums.h"
 #include "pmi/step_dimensions.h"
 #include "pmi/step_tolerances.h"
@@ -18,6 +18,8 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -127,17 +129,25 @@ private:
             const auto annotation = step_dimensions::make(dimension);
             const std::vector<StepRecord> aspects = step_dimensions::aspects(dimension);
             const DrawnAnnotation* const drawing = drawingOf({dimension});
-            annotation->setBefore(drawing != nullptr ? textOf(*drawing).count : mp::wstring());
-            const bool isSize = annotation->subType() == vrx::ExcPMIDimension::ESubType::Diameter ||
-                                annotation->subType() == vrx::ExcPMIDimension::ESubType::Radius;
-            const std::size_t count = isSize ? cylinderCount(m_links.faces(aspects)) : 0;
-            if (annotation->before().empty() && count > 1)
-            {
-                annotation->setBefore(mp::toWide(std::to_string(count) + "X"));
-            }
+            annotation->setBefore(countOf(drawing, *annotation, aspects));
             place(*annotation, {dimension}, aspects, WIDE("dimensions/"), &View::dimensions,
                   [&](View& view) { view.addDimension(annotation); });
         }
+    }
+
+    // By the words of the drawing, or else by the faces.
+    mp::wstring countOf(const DrawnAnnotation* drawing, const vrx::ExcPMIDimension& dimension,
+                        const std::vector<StepRecord>& aspects) const
+    {
+        const auto words = drawing != nullptr ? textOf(*drawing).count : std::nullopt;
+        if (words)
+        {
+            return *words;
+        }
+        const bool isSize = dimension.subType() == vrx::ExcPMIDimension::ESubType::Diameter ||
+                            dimension.subType() == vrx::ExcPMIDimension::ESubType::Radius;
+        const std::size_t count = isSize ? featureCount(m_links.faces(aspects)) : 0;
+        return count > 1 ? mp::toWide(std::to_string(count) + "X") : mp::wstring();
     }
 
     // What is drawn and presents none of these is a note.
