@@ -6,6 +6,7 @@
 #include "mechanical/shape_links.h"
 #include "mp/narrow.h"
 #include "pmi/annotation_text.h"
+#include "pmi/annotation_type.h"
 #include "pmi/drawn_pmi.h"
 #include "pmi/feature_count.h"
 #include "pmi/step_datums.h"
@@ -20,6 +21,7 @@
 #include <limits>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -92,11 +94,15 @@ private:
             std::vector<StepRecord> drawn = {datum};
             for (const StepRecord& feature : step_datums::features(datum))
             {
-                drawn.push_back(feature);
+                const auto type = annotationType(feature);
                 const auto target = m_ids.find(feature.id());
-                if (target != m_ids.end())
+                if (type == vrx::ExcVisuNode::EType::DATUM_TARGET && target != m_ids.end())
                 {
                     annotation->addTargetId(target->second);
+                }
+                else if (annotationGroup(type) == vrx::ExcVisuNode::EType::DATUMS)
+                {
+                    drawn.push_back(feature); // a drawing of a datum may present its feature
                 }
             }
             place(*annotation, drawn, {datum}, WIDE("datum/"), &View::datums,
@@ -199,10 +205,11 @@ private:
             plane.setCoefficient(d, plane.coefficients()[static_cast<std::size_t>(d)] * scale);
             capture->setClippingPlane(std::make_shared<vrx::ExcClippingPlane>(plane));
         }
+        std::set<mp::wstring> shown; // what is drawn twice too
         for (const int record : view.annotations)
         {
             const auto id = m_drawnIds.find(record);
-            if (id != m_drawnIds.end())
+            if (id != m_drawnIds.end() && shown.insert(id->second).second)
             {
                 capture->addAnnotationId(id->second);
             }
