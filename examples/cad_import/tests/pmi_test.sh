@@ -6,9 +6,11 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 "$host" --quiet --pmi-table "$example/tests/pin.step" | sed -n '/^PMI/,$p' >"$scratch/table"
 diff -u "$example/tests/pin.pmi.txt" "$scratch/table" || fail "the PMI is told otherwise"
 
-# A dimension between two parts belongs to the product, whose page finds them by their blocks.
+# A dimension between two parts belongs to the product, whose page finds them by their blocks. What holds for all of a
+# part belongs to the part.
 "$host" --quiet --pmi-table "$example/tests/cart.step" >"$scratch/cart"
 grep -A2 "the product" "$scratch/cart" | grep -q "20  block 2 face 0; block 3 face 0" || fail "no dimension of the product"
+sed -n '/lid: block/,$p' "$scratch/cart" | grep -q "⌓ 0.7 all over" || fail "no tolerance of a part"
 
 for file in ${STEP_FILES:-}; do
     "$host" --quiet --json "$file" >"$scratch/pmi.json"

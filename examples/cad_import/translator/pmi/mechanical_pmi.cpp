@@ -248,8 +248,14 @@ private:
                const std::vector<StepRecord>& aspects, const mp::wchar* listName, List list, const Add& add)
     {
         const DrawnAnnotation* const drawing = drawingOf(records);
-        std::uint64_t block = aspects.empty() ? 0 : m_products.of(aspects.front());
-        block = block == 0 && drawing != nullptr ? drawing->block : block;
+        std::set<std::uint64_t> blocks;
+        for (const StepRecord& aspect : aspects)
+        {
+            blocks.insert(m_products.of(aspect));
+        }
+        blocks.erase(0);
+        std::uint64_t block = blocks.size() == 1 ? *blocks.begin() : 0;
+        block = blocks.empty() && drawing != nullptr ? drawing->block : block;
         block = block == 0 ? m_products.top() : block;
         const mp::wstring id = addTo(annotation, block, drawing, aspects, listName, list, add);
         for (const StepRecord& record : records)

@@ -299,10 +299,6 @@ std::vector<Frame> all(const StepRecords& records)
 std::vector<StepRecord> aspects(const StepRecord& tolerance)
 {
     const StepRecord target = tolerance.as("GEOMETRIC_TOLERANCE").next(3);
-    if (target.is("PRODUCT_DEFINITION_SHAPE"))
-    {
-        return {};
-    }
     const bool isDimension = target.is("DIMENSIONAL_SIZE") || target.is("DIMENSIONAL_LOCATION");
     return isDimension ? step_dimensions::aspects(target) : std::vector<StepRecord>{target};
 }
