@@ -4,7 +4,9 @@
 #include "pmi/step_quantity.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
+#include <map>
 #include <optional>
 #include <string>
 
@@ -14,15 +16,29 @@ namespace
 using Dimension = vrx::ExcPMIDimension;
 
 // The types of dimensions. What has several of them has all below its first one in common.
-const char* const kLocations[] = {"ANGULAR_LOCATION", "DIMENSIONAL_LOCATION", "DIMENSIONAL_LOCATION_WITH_PATH",
-                                  "DIRECTED_DIMENSIONAL_LOCATION"};
+const char* const kLocations[] = {"ANGULAR_LOCATION", "DIMENSIONAL_LOCATION", "DIMENSIONAL_LOCATION_WITH_DATUM_FEATURE",
+                                  "DIMENSIONAL_LOCATION_WITH_PATH", "DIRECTED_DIMENSIONAL_LOCATION"};
 const char* const kSizes[] = {"ANGULAR_SIZE", "DIMENSIONAL_SIZE", "DIMENSIONAL_SIZE_WITH_DATUM_FEATURE",
                               "DIMENSIONAL_SIZE_WITH_PATH"};
 
+template <class Types>
+bool isAny(const StepRecord& record, const Types& types)
+{
+    return std::any_of(std::begin(types), std::end(types), [&](const char* type) { return record.is(type); });
+}
+
 bool isLocation(const StepRecord& dimension)
 {
-    return std::any_of(std::begin(kLocations), std::end(kLocations),
-                       [&](const char* type) { return dimension.is(type); });
+    return isAny(dimension, kLocations);
+}
+
+// Where the parameters of a dimension begin. One of a single type that is a datum feature too has those of a shape
+// aspect first.
+std::size_t firstOf(const StepRecord& dimension)
+{
+    const bool isFeature =
+        dimension.is("DIMENSIONAL_LOCATION_WITH_DATUM_FEATURE") || dimension.is("DIMENSIONAL_SIZE_WITH_DATUM_FEATURE");
+    return isFeature && !dimension.is("SHAPE_ASPECT") ? 4 : 0;
 }
 
 struct Kind
@@ -47,16 +63,14 @@ const Kind kKinds[] = {
 
 void setKind(Dimension& dimension, const StepRecord& record)
 {
-    const bool location = isLocation(record);
-    const mp::wstring name =
-        location ? record.as("SHAPE_ASPECT_RELATIONSHIP").text(0) : record.as("DIMENSIONAL_SIZE").text(1);
+    const mp::wstring name = step_dimensions::nameOf(record);
     dimension.setName(name);
     if (record.is("ANGULAR_LOCATION") || record.is("ANGULAR_SIZE"))
     {
         dimension.setSubType(Dimension::ESubType::Angle);
         return;
     }
-    dimension.setSubType(location ? Dimension::ESubType::Distance : Dimension::ESubType::Length);
+    dimension.setSubType(isLocation(record) ? Dimension::ESubType::Distance : Dimension::ESubType::Length);
     const std::string narrow = mp::toNarrow(name);
     const auto* const kind = std::find_if(std::begin(kKinds), std::end(kKinds), [&](const Kind& one) {
         return narrow.compare(0, std::strlen(one.name), one.name) == 0;
@@ -213,14 +227,27 @@ std::vector<StepRecord> all(const StepRecords& records)
     return dimensions;
 }
 
+bool isDimension(const StepRecord& record)
+{
+    return isLocation(record) || isAny(record, kSizes);
+}
+
+mp::wstring nameOf(const StepRecord& dimension)
+{
+    const std::size_t first = firstOf(dimension);
+    return isLocation(dimension) ? dimension.as("SHAPE_ASPECT_RELATIONSHIP").text(first)
+                                 : dimension.as("DIMENSIONAL_SIZE").text(first + 1);
+}
+
 std::vector<StepRecord> aspects(const StepRecord& dimension)
 {
+    const std::size_t first = firstOf(dimension);
     if (isLocation(dimension))
     {
         const StepRecord relationship = dimension.as("SHAPE_ASPECT_RELATIONSHIP");
-        return {relationship.next(2), relationship.next(3)};
+        return {relationship.next(first + 2), relationship.next(first + 3)};
     }
-    return {dimension.as("DIMENSIONAL_SIZE").next(0)};
+    return {dimension.as("DIMENSIONAL_SIZE").next(first)};
 }
 
 std::shared_ptr<vrx::ExcPMIDimension> make(const StepRecord& record)

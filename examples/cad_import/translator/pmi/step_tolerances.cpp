@@ -299,8 +299,7 @@ std::vector<Frame> all(const StepRecords& records)
 std::vector<StepRecord> aspects(const StepRecord& tolerance)
 {
     const StepRecord target = tolerance.as("GEOMETRIC_TOLERANCE").next(3);
-    const bool isDimension = target.is("DIMENSIONAL_SIZE") || target.is("DIMENSIONAL_LOCATION");
-    return isDimension ? step_dimensions::aspects(target) : std::vector<StepRecord>{target};
+    return step_dimensions::isDimension(target) ? step_dimensions::aspects(target) : std::vector<StepRecord>{target};
 }
 
 std::shared_ptr<vrx::ExcPMIGDT> make(const Frame& frame, const DatumId& datumId)
