@@ -60,6 +60,10 @@ TEST(PmiOfFile, NamesTheFacesOfTheBodiesThatWereSent)
     EXPECT_THAT((std::vector<double>{drawn.vectorV()[0], drawn.vectorV()[1], drawn.vectorV()[2]}),
                 testing::ElementsAre(0, 0, 1));
     EXPECT_THAT((std::vector<double>{diameter.position()[0], diameter.position()[1]}), testing::ElementsAre(-12, 5));
+
+    // The radius of half an inch, in millimetres.
+    const auto& target = *pmi.sets()[0]->views().front()->datumTargets().at(0);
+    EXPECT_DOUBLE_EQ(target.zonePoint2()[0], 6.35);
 }
 
 // The wall of a pin, in three pieces: the first one of the three meets both others.

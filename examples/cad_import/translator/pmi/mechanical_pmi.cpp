@@ -12,6 +12,7 @@
 #include "pmi/step_datums.h"
 #include "pmi/step_dimensions.h"
 #include "pmi/step_tolerances.h"
+#include "pmi/text_lines.h"
 #include "reading/cad_model.h"
 #include "structure/product_blocks.h"
 #include "structure/product_structure_builder.h"
@@ -120,7 +121,7 @@ private:
             mp::wstring note = annotation->note();
             for (const mp::wstring& line : drawing != nullptr ? textOf(*drawing).lines : std::vector<mp::wstring>())
             {
-                note += (note.empty() ? WIDE("") : WIDE("\n")) + line;
+                addLine(note, line);
             }
             annotation->setNote(note);
             place(*annotation, {frame.upper, frame.lower}, step_tolerances::aspects(frame.upper), WIDE("GDTs/"),

@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <cstring>
 #include <map>
-#include <optional>
 #include <string>
 
 namespace
@@ -120,29 +119,29 @@ void applyNote(Dimension& dimension, const mp::wstring& text)
     }
 }
 
-void setLimits(Dimension& dimension, bool hasValue, double lower, double upper)
+void setLimits(Dimension& dimension, const StepQuantity& lower, const StepQuantity& upper, bool hasValue)
 {
+    const double places = std::max(lower.decimals, upper.decimals);
+    dimension.setFakeAlphanumericalValue(numberText(lower.value, places) + WIDE(" - ") +
+                                         numberText(upper.value, places));
+    dimension.setHasAlphanumericalValue(true);
     if (!hasValue)
     {
-        const auto text = [](double number) {
-            std::string digits = std::to_string(number);
-            digits.erase(digits.find_last_not_of('0') + 1);
-            return mp::toWide(digits.back() == '.' ? digits.substr(0, digits.size() - 1) : digits);
-        };
-        dimension.setValue((lower + upper) / 2);
-        dimension.setFakeAlphanumericalValue(text(lower) + WIDE(" - ") + text(upper));
-        dimension.setHasAlphanumericalValue(true);
+        dimension.setValue((lower.value + upper.value) / 2);
     }
-    dimension.setMainType(Dimension::EMainType::Tolerance);
-    dimension.setNumericalToleranceLower(lower - dimension.value());
-    dimension.setNumericalToleranceUpper(upper - dimension.value());
+    if (dimension.mainType() != Dimension::EMainType::Reference)
+    {
+        dimension.setMainType(Dimension::EMainType::Tolerance);
+    }
+    dimension.setNumericalToleranceLower(lower.value - dimension.value());
+    dimension.setNumericalToleranceUpper(upper.value - dimension.value());
 }
 
 void setValues(Dimension& dimension, const StepRecord& representation)
 {
-    bool hasValue = false;
-    std::optional<double> lower;
-    std::optional<double> upper;
+    StepQuantity value;
+    StepQuantity lower;
+    StepQuantity upper;
     for (const StepRecord& item : representation.nexts(1))
     {
         if (item.is("DESCRIPTIVE_REPRESENTATION_ITEM") || item.is("COMPOUND_REPRESENTATION_ITEM"))
@@ -156,29 +155,24 @@ void setValues(Dimension& dimension, const StepRecord& representation)
         }
         const StepQuantity quantity = quantityOf(item);
         const std::string name = mp::toNarrow(quantity.name);
-        if (name == "upper limit")
-        {
-            upper = quantity.value;
-        }
-        else if (name == "lower limit")
-        {
-            lower = quantity.value;
-        }
-        else if (quantity.unit != Dimension::EDimUnit::None && !hasValue)
-        {
-            hasValue = true;
-            dimension.setValue(quantity.value);
-            for (const mp::wstring& qualifier : quantity.qualifiers)
-            {
-                applyNote(dimension, qualifier);
-            }
-        }
-        dimension.setUnit(quantity.unit);
-        dimension.setValuePrecision(std::max(dimension.valuePrecision(), quantity.decimals));
+        StepQuantity& part = name == "upper limit" ? upper : name == "lower limit" ? lower : value;
+        part = part ? part : quantity;
     }
-    if (lower && upper)
+    for (const mp::wstring& qualifier : value.qualifiers)
     {
-        setLimits(dimension, hasValue, *lower, *upper);
+        applyNote(dimension, qualifier);
+    }
+    const StepQuantity::EUnit unit = value ? value.unit : lower.unit;
+    const bool hasLimits = lower.in(unit) && upper.in(unit);
+    if (value || hasLimits)
+    {
+        dimension.setUnit(unit);
+        dimension.setValue(value.value);
+        dimension.setValuePrecision(std::max({value.decimals, lower.decimals, upper.decimals}));
+    }
+    if (hasLimits)
+    {
+        setLimits(dimension, lower.in(unit), upper.in(unit), bool(value));
     }
 }
 
@@ -186,20 +180,24 @@ void setValues(Dimension& dimension, const StepRecord& representation)
 void setTolerance(Dimension& dimension, const StepRecord& tolerance)
 {
     const StepRecord range = tolerance.next(0);
-    dimension.setMainType(Dimension::EMainType::Tolerance);
     if (range.is("LIMITS_AND_FITS"))
     {
         const mp::wstring fit = range.text(0) + range.text(2);
         const bool isShaft = mp::toNarrow(range.text(1)) == "shaft" ||
                              (!range.text(0).empty() && range.text(0).front() >= 'a' && range.text(0).front() <= 'z');
         isShaft ? dimension.setAlphanumericalToleranceLower(fit) : dimension.setAlphanumericalToleranceUpper(fit);
+        dimension.setMainType(Dimension::EMainType::Tolerance);
         return;
     }
-    const StepQuantity lower = quantityOf(range.next(0));
-    const StepQuantity upper = quantityOf(range.next(1));
-    dimension.setNumericalToleranceLower(lower.value);
-    dimension.setNumericalToleranceUpper(upper.value);
-    dimension.setTolerancePrecisionValue(std::max(lower.decimals, upper.decimals));
+    const StepQuantity lower = quantityOf(range.next(0)).in(dimension.unit());
+    const StepQuantity upper = quantityOf(range.next(1)).in(dimension.unit());
+    if (lower && upper)
+    {
+        dimension.setMainType(Dimension::EMainType::Tolerance);
+        dimension.setNumericalToleranceLower(lower.value);
+        dimension.setNumericalToleranceUpper(upper.value);
+        dimension.setTolerancePrecisionValue(std::max(lower.decimals, upper.decimals));
+    }
 }
 
 } // namespace
