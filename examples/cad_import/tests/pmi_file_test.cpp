@@ -4,9 +4,13 @@
 #include "host/received_bodies.h"
 #include "host/restored_bodies.h"
 #include "imported.h"
+#include "translator/pmi/feature_count.h"
 
 #include <BRepAdaptor_Surface.hxx>
+#include <BRepBuilderAPI_MakeFace.hxx>
+#include <BRepBuilderAPI_Sewing.hxx>
 #include <BinTools.hxx>
+#include <Geom_CylindricalSurface.hxx>
 #include <TopExp.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
 #include <TopoDS.hxx>
@@ -58,6 +62,30 @@ TEST(PmiOfFile, NamesTheFacesOfTheBodiesThatWereSent)
     EXPECT_THAT((std::vector<double>{drawn.vectorV()[0], drawn.vectorV()[1], drawn.vectorV()[2]}),
                 testing::ElementsAre(0, 0, 1));
     EXPECT_THAT((std::vector<double>{diameter.position()[0], diameter.position()[1]}), testing::ElementsAre(-12, 5));
+
+    // The radius of half an inch, in millimetres.
+    const auto& target = *pmi.sets()[0]->views().front()->datumTargets().at(0);
+    EXPECT_DOUBLE_EQ(target.zonePoint2()[0], 6.35);
+}
+
+// The wall of a pin, in three pieces: the first one of the three meets both others.
+TEST(FeatureCount, IsOneForThePiecesOfOneCylinder)
+{
+    const double kPi = 3.14159265358979;
+    const auto piece = [](double from, double to) {
+        const Handle(Geom_CylindricalSurface) surface = new Geom_CylindricalSurface(gp_Ax3(), 10);
+        return BRepBuilderAPI_MakeFace(surface, from, to, 0, 5, 1e-6).Face();
+    };
+    BRepBuilderAPI_Sewing sewing;
+    for (int i = 0; i < 3; ++i)
+    {
+        sewing.Add(piece(i * kPi / 3, (i + 1) * kPi / 3));
+    }
+    sewing.Perform();
+    TopTools_IndexedMapOfShape faces;
+    TopExp::MapShapes(sewing.SewedShape(), TopAbs_FACE, faces);
+    ASSERT_EQ(faces.Extent(), 3);
+    EXPECT_EQ(featureCount({TopoDS::Face(faces(2)), TopoDS::Face(faces(1)), TopoDS::Face(faces(3))}), 1U);
 }
 
 } // namespace

@@ -308,10 +308,17 @@ TEST(PmiNotation, OfFeatureControlFrames)
              g.setReferenceFrame(frame({datumRef(WIDE("C"), {{{}, EModifier::MaterialConditionRegardlessOfFeatureSize},
                                                              {{}, EModifier::FreeStateFree}})}));
          }},
+        {"↗ 0.1 A-?", // in a common datum, where the label is that of all
+         [](auto& g) {
+             g.setToleranceType(EToleranceType::RunOutCircular);
+             g.setReferenceFrame(
+                 frame({datumRef(WIDE("A-C"), {{kDatumA, EModifier::NoModifier}, {{}, EModifier::NoModifier}})}));
+         }},
     };
     for (const FrameRow& row : rows)
     {
         ExcPMIGDT gdt;
+        gdt.setName(WIDE("mm"));
         gdt.setToleranceValue(0.1);
         row.make(gdt);
         EXPECT_EQ(mp::toNarrow(pmi_notation::lines(gdt, pmi).at(0)), row.text);

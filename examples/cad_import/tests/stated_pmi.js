@@ -11,7 +11,7 @@ const kStated = {
     nist_ctc_01: [
         [12, 8, 6, 3, 0, 1],
         { location_true_position: 2, form_profile_any_surface: 2, form_flatness: 1, orientation_perpendicularity: 1 },
-        ['⏥ 0.2'],
+        ['⏥ 0.2', '⌀ 34.8 - 35.2'],
     ],
     nist_ctc_02: [
         [7, 7, 22, 10, 9, 3],

@@ -113,7 +113,7 @@ private:
         begin(dimension, place, dimension.id(), pmi_notation::text(dimension));
         m_json.field("type", wireName(dimension, WIDE("sub_type")));
         m_json.field("main_type", wireName(dimension, WIDE("main_type")));
-        m_json.number("value", dimension.value());
+        numberOrNull("value", pmi_notation::hasValue(dimension), dimension.value());
         m_json.field("unit", wireName(dimension, WIDE("unit")));
         const bool deviates = pmi_notation::hasDeviations(dimension);
         numberOrNull("lower", deviates, dimension.numericalToleranceLower());
@@ -140,13 +140,17 @@ private:
                 m_json.field("composite_of", gdt.id());
             }
             m_json.field("type", wireName(gdt, WIDE("tolerance_type")));
-            m_json.number("value", lines[i].value);
+            numberOrNull("value", pmi_notation::hasValue(gdt), lines[i].value);
             m_json.field("unit", gdt.name());
             m_json.field("zone", zoneName(lines[i].zone));
             m_json.numbers("rate_unit", lines[i].rateUnit);
             m_json.texts("modifiers", modifierNames(lines[i].modifiers));
             datumReferences(lines[i].datums);
-            m_json.flag("all_around", gdt.allAround() != 0);
+            m_json.number("shift", isFirst ? gdt.shiftValue() : 0);
+            m_json.number("projected", isFirst ? gdt.projectionToleranceZoneLength() : 0);
+            m_json.number("refine", isFirst ? gdt.refineTolerance() : 0);
+            m_json.flag("all_around", gdt.allAround() == pmi_conventions::kAllAround);
+            m_json.flag("all_over", gdt.allAround() == pmi_conventions::kAllOver);
             m_json.field("note", isFirst ? gdt.note() : mp::wstring());
             m_json.EndObject();
         }

@@ -87,6 +87,9 @@ const Symbol<ETarget> kTargetWords[] = {
     {ETarget::AreaRectangular, WIDE("area")}, {ETarget::AreaFace, WIDE("face")}, {ETarget::Feature, WIDE("feature")},
 };
 
+const mp::wchar* const kNoValue = WIDE("–");      // where none is stated
+const mp::wchar* const kUnknownDatum = WIDE("?"); // in a common datum
+
 // What a number has no symbol for is left out.
 template <class Number, std::size_t Count>
 wstring symbol(const Symbol<Number> (&symbols)[Count], Number number)
@@ -136,9 +139,9 @@ wstring shownValue(const vrx::ExcPMIDimension& dimension, const wstring& unit)
     {
         return dimension.fakeAlphanumericalValue() + unit;
     }
-    if (dimension.unit() == vrx::ExcPMIDimension::EDimUnit::None && dimension.value() == 0)
+    if (!hasValue(dimension))
     {
-        return WIDE("–"); // none is stated
+        return kNoValue;
     }
     const double value = dimension.hasFakeNumericalValue() ? dimension.fakeNumericalValue() : dimension.value();
     return numberText(value, dimension.valuePrecision()) + unit;
@@ -201,6 +204,10 @@ wstring compartment(const vrx::ExcPMIGDT::DatumRef& datums, const ReceivedPmi& p
     {
         return datums.label();
     }
+    const wstring& first = datums.modifiedDatums().front().datumId();
+    const bool isCommon = std::any_of(datums.modifiedDatums().begin(), datums.modifiedDatums().end(),
+                                      [&first](const auto& datum) { return datum.datumId() != first; });
+    const wstring unknown = isCommon ? wstring(kUnknownDatum) : datums.label();
     wstring text;
     const wstring* before = nullptr;
     for (const vrx::ExcPMIGDT::ModifiedDatum& datum : datums.modifiedDatums())
@@ -208,7 +215,7 @@ wstring compartment(const vrx::ExcPMIGDT::DatumRef& datums, const ReceivedPmi& p
         if (before == nullptr || datum.datumId() != *before)
         {
             const wstring label = pmi.label(datum.datumId());
-            text += (before != nullptr ? wstring(WIDE("-")) : wstring()) + (label.empty() ? datums.label() : label);
+            text += (before != nullptr ? wstring(WIDE("-")) : wstring()) + (label.empty() ? unknown : label);
         }
         appendModifier(text, datum.modifier());
         before = &datum.datumId();
@@ -229,6 +236,16 @@ bool hasDeviations(const vrx::ExcPMIDimension& dimension)
 {
     return dimension.mainType() == EMainType::Tolerance &&
            (dimension.numericalToleranceUpper() != 0 || dimension.numericalToleranceLower() != 0);
+}
+
+bool hasValue(const vrx::ExcPMIDimension& dimension)
+{
+    return dimension.unit() != EDimUnit::None || dimension.value() != 0;
+}
+
+bool hasValue(const vrx::ExcPMIGDT& gdt)
+{
+    return !gdt.name().empty();
 }
 
 bool isAngle(const vrx::ExcPMIDimension& dimension)
@@ -268,13 +285,14 @@ std::vector<mp::wstring> lines(const vrx::ExcPMIGDT& gdt, const ReceivedPmi& pmi
         append(line, isFirst ? gdt.note() : wstring());
         append(line, symbol(kToleranceSymbols, gdt.toleranceType()));
         append(line, isFirst ? wholeTolerance(gdt) : wstring());
-        append(line, symbol(kZoneSigns, frame.zone) + numberText(frame.value) + rateText(gdt, frame));
+        append(line, hasValue(gdt) ? symbol(kZoneSigns, frame.zone) + numberText(frame.value) + rateText(gdt, frame)
+                                   : wstring(kNoValue));
         for (const EModifier modifier : frame.modifiers)
         {
             append(line, symbol(kModifierSigns, modifier));
         }
-        append(line, isFirst ? circled(WIDE("Ⓟ "), gdt.projectionToleranceZoneLength()) : wstring());
-        append(line, isFirst && gdt.shiftValue() != 0
+        append(line, isFirst && hasValue(gdt) ? circled(WIDE("Ⓟ "), gdt.projectionToleranceZoneLength()) : wstring());
+        append(line, isFirst && hasValue(gdt) && gdt.shiftValue() != 0
                          ? WIDE("Ⓤ ") + numberText(gdt.shiftValue() + gdt.toleranceValue() / 2)
                          : wstring());
         for (const vrx::ExcPMIGDT::DatumRef& datums : frame.datums)

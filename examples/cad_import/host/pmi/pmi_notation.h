@@ -27,6 +27,10 @@ mp::wstring fit(const vrx::ExcPMIDimension& dimension);
 /// Whether a dimension allows deviations from its value, in numbers.
 bool hasDeviations(const vrx::ExcPMIDimension& dimension);
 
+/// Whether a value is stated. What states none has a "–" in its text.
+bool hasValue(const vrx::ExcPMIDimension& dimension);
+bool hasValue(const vrx::ExcPMIGDT& gdt);
+
 /// Whether a dimension's value is an angle.
 bool isAngle(const vrx::ExcPMIDimension& dimension);
 

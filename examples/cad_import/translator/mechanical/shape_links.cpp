@@ -34,29 +34,42 @@ const std::pair<TopAbs_ShapeEnum, EType> kParts[] = {
 };
 
 // The shape aspect that stands behind another by a relationship: a part behind a whole and a source behind what is
-// derived, but a feature behind its datum and behind a target on it.
+// derived, but a feature behind its datum and behind a target on it. None by a dimension between the two.
 StepRecord behind(const StepRecord& aspect, const StepRecord& relationship, const char* type)
 {
+    if (relationship.is("DIMENSIONAL_LOCATION"))
+    {
+        return {};
+    }
     const StepRecord relating = relationship.as(type).next(2);
     const StepRecord related = relationship.as(type).next(3);
     const bool isReversed = related.is("DATUM") || relationship.is("FEATURE_FOR_DATUM_TARGET_RELATIONSHIP");
     return aspect == (isReversed ? related : relating) ? (isReversed ? relating : related) : StepRecord();
 }
 
-void gather(const StepRecord& aspect, std::vector<StepRecord>& all, std::set<int>& known)
+// With all that stands behind it, each aspect before what is behind it.
+void gather(const StepRecord& first, std::vector<StepRecord>& all, std::set<int>& known)
 {
-    if (!aspect || !known.insert(aspect.id()).second)
+    std::vector<StepRecord> waiting = {first}; // the last one goes first
+    while (!waiting.empty())
     {
-        return;
-    }
-    all.push_back(aspect);
-    for (const char* type :
-         {"SHAPE_ASPECT_RELATIONSHIP", "SHAPE_ASPECT_DERIVING_RELATIONSHIP", "FEATURE_FOR_DATUM_TARGET_RELATIONSHIP"})
-    {
-        for (const StepRecord& relationship : aspect.users(type))
+        const StepRecord aspect = waiting.back();
+        waiting.pop_back();
+        if (!aspect || !known.insert(aspect.id()).second)
         {
-            gather(behind(aspect, relationship, type), all, known);
+            continue;
         }
+        all.push_back(aspect);
+        std::vector<StepRecord> next;
+        for (const char* type : {"SHAPE_ASPECT_RELATIONSHIP", "SHAPE_ASPECT_DERIVING_RELATIONSHIP",
+                                 "FEATURE_FOR_DATUM_TARGET_RELATIONSHIP"})
+        {
+            for (const StepRecord& relationship : aspect.users(type))
+            {
+                next.push_back(behind(aspect, relationship, type));
+            }
+        }
+        waiting.insert(waiting.end(), next.rbegin(), next.rend());
     }
 }
 

@@ -3,12 +3,14 @@
 #include "mp/wide.h"
 #include "reading/step_records.h"
 
+#include <optional>
 #include <vector>
 
 /// What a STEP file says in words of a drawn annotation.
 struct AnnotationText
 {
-    mp::wstring count;              // that stands before a dimension, such as "4X"
+    /// That stands before a dimension, such as "4X"; empty when the words of a dimension have none.
+    std::optional<mp::wstring> count;
     std::vector<mp::wstring> lines; // of text alone
 };
 

@@ -1,5 +1,8 @@
 #include "pmi/annotation_type.h"
 
+#include "pmi/step_dimensions.h"
+#include "pmi/tolerance_types.h"
+
 #include <algorithm>
 #include <iterator>
 #include <string_view>
@@ -15,31 +18,18 @@ struct TypeRow
     EType type;
 };
 
-// A record of several types is of the first one here.
+// What is no tolerance of a known type. A record of several types is of the first one here.
 const TypeRow kTypes[] = {
-    {"ANGULARITY_TOLERANCE", EType::GEOMTOL_ANGULARITY},
-    {"CIRCULAR_RUNOUT_TOLERANCE", EType::GEOMTOL_RUNOUT_CIRCULAR},
-    {"COAXIALITY_TOLERANCE", EType::GEOMTOL_CONCENTRICITY},
-    {"CONCENTRICITY_TOLERANCE", EType::GEOMTOL_CONCENTRICITY},
-    {"CYLINDRICITY_TOLERANCE", EType::GEOMTOL_CYLINDRICITY},
-    {"FLATNESS_TOLERANCE", EType::GEOMTOL_FLATNESS},
-    {"LINE_PROFILE_TOLERANCE", EType::GEOMTOL_PROFILE_LINE},
-    {"PARALLELISM_TOLERANCE", EType::GEOMTOL_PARALLELISM},
-    {"PERPENDICULARITY_TOLERANCE", EType::GEOMTOL_PERPENDICULARITY},
-    {"POSITION_TOLERANCE", EType::GEOMTOL_POSITION},
-    {"ROUNDNESS_TOLERANCE", EType::GEOMTOL_CIRCULARITY},
-    {"STRAIGHTNESS_TOLERANCE", EType::GEOMTOL_STRAIGHTNESS},
-    {"SURFACE_PROFILE_TOLERANCE", EType::GEOMTOL_PROFILE_SURFACE},
-    {"SYMMETRY_TOLERANCE", EType::GEOMTOL_SYMMETRY},
-    {"TOTAL_RUNOUT_TOLERANCE", EType::GEOMTOL_RUNOUT_TOTAL},
     {"GEOMETRIC_TOLERANCE", EType::GEOMTOL_UNKNOWN},
     {"ANGULAR_LOCATION", EType::DIMENSION_ANGLE},
     {"ANGULAR_SIZE", EType::DIMENSION_ANGLE},
     {"DIMENSIONAL_SIZE_WITH_PATH", EType::DIMENSION_LENGTH},
     {"DIMENSIONAL_SIZE", EType::DIMENSION_DISTANCE},
+    {"DIMENSIONAL_SIZE_WITH_DATUM_FEATURE", EType::DIMENSION_DISTANCE},
     {"DIMENSIONAL_LOCATION_WITH_PATH", EType::DIMENSION_LENGTH},
     {"DIRECTED_DIMENSIONAL_LOCATION", EType::DIMENSION_DISTANCE},
     {"DIMENSIONAL_LOCATION", EType::DIMENSION_DISTANCE},
+    {"DIMENSIONAL_LOCATION_WITH_DATUM_FEATURE", EType::DIMENSION_DISTANCE},
     {"PLACED_DATUM_TARGET_FEATURE", EType::DATUM_TARGET},
     {"DATUM_TARGET", EType::DATUM_TARGET},
     {"DATUM_FEATURE", EType::DATUM_SIMPLE},
@@ -65,14 +55,21 @@ EType sizeType(const mp::wstring& name)
 
 EType annotationType(const StepRecord& definition)
 {
-    const auto* const found = std::find_if(std::begin(kTypes), std::end(kTypes),
-                                           [&definition](const TypeRow& row) { return definition.is(row.record); });
+    const auto isRow = [&definition](const auto& row) { return definition.is(row.record); };
+    const auto* const tolerance =
+        std::find_if(std::begin(tolerance_types::kAll), std::end(tolerance_types::kAll), isRow);
+    if (tolerance != std::end(tolerance_types::kAll))
+    {
+        return tolerance->drawn;
+    }
+    const auto* const found = std::find_if(std::begin(kTypes), std::end(kTypes), isRow);
     if (found == std::end(kTypes))
     {
         return EType::NOTE;
     }
-    return found->record == std::string_view("DIMENSIONAL_SIZE") ? sizeType(definition.as("DIMENSIONAL_SIZE").text(1))
-                                                                 : found->type;
+    const bool isNamed =
+        std::string_view(found->record).find("DIMENSIONAL_SIZE") == 0 && found->type == EType::DIMENSION_DISTANCE;
+    return isNamed ? sizeType(step_dimensions::nameOf(definition)) : found->type;
 }
 
 EType annotationGroup(EType type)
@@ -81,9 +78,4 @@ EType annotationGroup(EType type)
            : isWithin(type, EType::DIMENSIONS, EType::DIMENSION_UNKNOWN) ? EType::DIMENSIONS
            : isWithin(type, EType::DATUMS, EType::DATUM_UNKNOWN)         ? EType::DATUMS
                                                                          : EType::NOTES;
-}
-
-bool isDimensionalSize(const StepRecord& record)
-{
-    return record.is("DIMENSIONAL_SIZE") || record.is("DIMENSIONAL_SIZE_WITH_PATH") || record.is("ANGULAR_SIZE");
 }

@@ -9,6 +9,3 @@ vrx::ExcVisuNode::EType annotationType(const StepRecord& definition);
 
 /// The type of the node that holds annotations of a type: DATUMS, DIMENSIONS, GEOMTOLS or NOTES.
 vrx::ExcVisuNode::EType annotationGroup(vrx::ExcVisuNode::EType type);
-
-/// True for a dimension of one feature, as opposed to one between two.
-bool isDimensionalSize(const StepRecord& record);

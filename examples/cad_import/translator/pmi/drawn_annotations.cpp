@@ -3,6 +3,7 @@
 #include "pmi/annotation_type.h"
 #include "pmi/item_drawer.h"
 #include "pmi/item_parameters.h"
+#include "pmi/step_dimensions.h"
 #include "reading/cad_model.h"
 #include "reading/step_axes.h"
 #include "structure/product_blocks.h"
@@ -73,19 +74,21 @@ bool isProduct(const StepRecord& record)
     return record.is("PRODUCT_DEFINITION") || record.is("PRODUCT_DEFINITION_WITH_ASSOCIATED_DOCUMENTS");
 }
 
-// The product definition of which a dimension, a tolerance, a property or a shape aspect tells in the end.
+// The product definition of which a dimension, a tolerance, a property or a shape aspect tells in the end. None for a
+// dimension between two products.
 StepRecord productOf(StepRecord record)
 {
     for (int step = 0; step < kMostSteps && record && !isProduct(record); ++step)
     {
-        const EType group = annotationGroup(annotationType(record));
-        if (group == EType::GEOMTOLS)
+        if (annotationGroup(annotationType(record)) == EType::GEOMTOLS)
         {
             record = record.as("GEOMETRIC_TOLERANCE").next(3);
         }
-        else if (isDimensionalSize(record))
+        else if (step_dimensions::isDimension(record))
         {
-            record = record.as("DIMENSIONAL_SIZE").next(0);
+            const std::vector<StepRecord> aspects = step_dimensions::aspects(record);
+            const auto shape = [](const StepRecord& aspect) { return aspect.as("SHAPE_ASPECT").next(2); };
+            record = shape(aspects.front()) == shape(aspects.back()) ? aspects.front() : StepRecord();
         }
         else
         {

@@ -1,15 +1,18 @@
 #include "pmi/mechanical_pmi.h"
 
 #include "common/pmi_conventions.h"
+#include "kernel/occt_vector.h"
 #include "mechanical/mechanical_data.h"
 #include "mechanical/shape_links.h"
 #include "mp/narrow.h"
 #include "pmi/annotation_text.h"
-#include "pmi/cylinder_count.h"
+#include "pmi/annotation_type.h"
 #include "pmi/drawn_pmi.h"
+#include "pmi/feature_count.h"
 #include "pmi/step_datums.h"
 #include "pmi/step_dimensions.h"
 #include "pmi/step_tolerances.h"
+#include "pmi/text_lines.h"
 #include "reading/cad_model.h"
 #include "structure/product_blocks.h"
 #include "structure/product_structure_builder.h"
@@ -17,6 +20,9 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
+#include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -25,11 +31,6 @@ namespace
 
 using Set = pmi_conventions::SentAnnotationSet;
 using View = vrx::ExcPMIAnnotationView;
-
-vrx::ExcVector3d vector(const gp_XYZ& coordinates)
-{
-    return {coordinates.X(), coordinates.Y(), coordinates.Z()};
-}
 
 bool areSame(const vrx::ExcVector3d& left, const vrx::ExcVector3d& right, double tolerance)
 {
@@ -94,11 +95,15 @@ private:
             std::vector<StepRecord> drawn = {datum};
             for (const StepRecord& feature : step_datums::features(datum))
             {
-                drawn.push_back(feature);
+                const auto type = annotationType(feature);
                 const auto target = m_ids.find(feature.id());
-                if (target != m_ids.end())
+                if (type == vrx::ExcVisuNode::EType::DATUM_TARGET && target != m_ids.end())
                 {
                     annotation->addTargetId(target->second);
+                }
+                else if (annotationGroup(type) == vrx::ExcVisuNode::EType::DATUMS)
+                {
+                    drawn.push_back(feature); // a drawing of a datum may present its feature
                 }
             }
             place(*annotation, drawn, {datum}, WIDE("datum/"), &View::datums,
@@ -116,7 +121,7 @@ private:
             mp::wstring note = annotation->note();
             for (const mp::wstring& line : drawing != nullptr ? textOf(*drawing).lines : std::vector<mp::wstring>())
             {
-                note += (note.empty() ? WIDE("") : WIDE("\n")) + line;
+                addLine(note, line);
             }
             annotation->setNote(note);
             place(*annotation, {frame.upper, frame.lower}, step_tolerances::aspects(frame.upper), WIDE("GDTs/"),
@@ -131,17 +136,25 @@ private:
             const auto annotation = step_dimensions::make(dimension);
             const std::vector<StepRecord> aspects = step_dimensions::aspects(dimension);
             const DrawnAnnotation* const drawing = drawingOf({dimension});
-            annotation->setBefore(drawing != nullptr ? textOf(*drawing).count : mp::wstring());
-            const bool isSize = annotation->subType() == vrx::ExcPMIDimension::ESubType::Diameter ||
-                                annotation->subType() == vrx::ExcPMIDimension::ESubType::Radius;
-            const std::size_t count = isSize ? cylinderCount(m_links.faces(aspects)) : 0;
-            if (annotation->before().empty() && count > 1)
-            {
-                annotation->setBefore(mp::toWide(std::to_string(count) + "X"));
-            }
+            annotation->setBefore(countOf(drawing, *annotation, aspects));
             place(*annotation, {dimension}, aspects, WIDE("dimensions/"), &View::dimensions,
                   [&](View& view) { view.addDimension(annotation); });
         }
+    }
+
+    // By the words of the drawing, or else by the faces.
+    mp::wstring countOf(const DrawnAnnotation* drawing, const vrx::ExcPMIDimension& dimension,
+                        const std::vector<StepRecord>& aspects) const
+    {
+        const auto words = drawing != nullptr ? textOf(*drawing).count : std::nullopt;
+        if (words)
+        {
+            return *words;
+        }
+        const bool isSize = dimension.subType() == vrx::ExcPMIDimension::ESubType::Diameter ||
+                            dimension.subType() == vrx::ExcPMIDimension::ESubType::Radius;
+        const std::size_t count = isSize ? featureCount(m_links.faces(aspects)) : 0;
+        return count > 1 ? mp::toWide(std::to_string(count) + "X") : mp::wstring();
     }
 
     // What is drawn and presents none of these is a note.
@@ -193,10 +206,11 @@ private:
             plane.setCoefficient(d, plane.coefficients()[static_cast<std::size_t>(d)] * scale);
             capture->setClippingPlane(std::make_shared<vrx::ExcClippingPlane>(plane));
         }
+        std::set<mp::wstring> shown; // what is drawn twice too
         for (const int record : view.annotations)
         {
             const auto id = m_drawnIds.find(record);
-            if (id != m_drawnIds.end())
+            if (id != m_drawnIds.end() && shown.insert(id->second).second)
             {
                 capture->addAnnotationId(id->second);
             }
@@ -235,8 +249,14 @@ private:
                const std::vector<StepRecord>& aspects, const mp::wchar* listName, List list, const Add& add)
     {
         const DrawnAnnotation* const drawing = drawingOf(records);
-        std::uint64_t block = aspects.empty() ? 0 : m_products.of(aspects.front());
-        block = block == 0 && drawing != nullptr ? drawing->block : block;
+        std::set<std::uint64_t> blocks;
+        for (const StepRecord& aspect : aspects)
+        {
+            blocks.insert(m_products.of(aspect));
+        }
+        blocks.erase(0);
+        std::uint64_t block = blocks.size() == 1 ? *blocks.begin() : 0;
+        block = blocks.empty() && drawing != nullptr ? drawing->block : block;
         block = block == 0 ? m_products.top() : block;
         const mp::wstring id = addTo(annotation, block, drawing, aspects, listName, list, add);
         for (const StepRecord& record : records)
@@ -299,9 +319,9 @@ private:
         const auto made = std::make_shared<View>();
         if (drawing != nullptr && drawing->plane)
         {
-            made->setOrigin(vector(drawing->plane->Location().XYZ() * m_blocks.frame().scale()));
-            made->setVectorU(vector(drawing->plane->XDirection().XYZ()));
-            made->setVectorV(vector(drawing->plane->YDirection().XYZ()));
+            made->setOrigin(occt_vector::of(drawing->plane->Location().XYZ() * m_blocks.frame().scale()));
+            made->setVectorU(occt_vector::of(drawing->plane->XDirection().XYZ()));
+            made->setVectorV(occt_vector::of(drawing->plane->YDirection().XYZ()));
         }
         const auto found = std::find_if(set.views().begin(), set.views().end(), [&](const auto& view) {
             return areSame(view->origin(), made->origin(), 1e-6) && areSame(view->vectorU(), made->vectorU(), 1e-9) &&

@@ -1,5 +1,6 @@
 #include "pmi/saved_views.h"
 
+#include "kernel/occt_vector.h"
 #include "mp/narrow.h"
 #include "pmi/annotation_scene.h"
 #include "pmi/item_parameters.h"
@@ -27,11 +28,6 @@ namespace
 
 const char* const kCameras[] = {"CAMERA_MODEL_D3", "CAMERA_MODEL_D3_MULTI_CLIPPING", "CAMERA_MODEL_D3_WITH_HLHSR"};
 const int kDeepest = 8; // sections made of sections, models that show models
-
-vrx::ExcVector3d vector(const gp_XYZ& coordinates)
-{
-    return {coordinates.X(), coordinates.Y(), coordinates.Z()};
-}
 
 // The middle of what a view shows, and a length beyond which there is nothing of it.
 struct Extent
@@ -257,9 +253,9 @@ vrx::ExcCamera cameraOf(const SavedView& view)
     const gp_XYZ target = view.axes.Location().XYZ();
     vrx::ExcCamera camera;
     camera.setType(view.isPerspective ? vrx::ExcCamera::EType::Perspective : vrx::ExcCamera::EType::Orthographic);
-    camera.setEye(vector(target + view.axes.Direction().XYZ() * view.distance));
-    camera.setTarget(vector(target));
-    camera.setUp(vector(view.axes.YDirection().XYZ()));
+    camera.setEye(occt_vector::of(target + view.axes.Direction().XYZ() * view.distance));
+    camera.setTarget(occt_vector::of(target));
+    camera.setUp(occt_vector::of(view.axes.YDirection().XYZ()));
     return camera;
 }
 
@@ -299,9 +295,9 @@ void addSavedViews(vrx::ExcVisualizationData& scene, const std::vector<SavedView
         }
         const auto plane = std::make_shared<vrx::ExcVisuView>();
         describe(*plane, view, "view", i + 1);
-        plane->setOrigin(vector(view.axes.Location().XYZ()));
-        plane->setDirectionU(vector(view.axes.XDirection().XYZ()));
-        plane->setDirectionV(vector(view.axes.YDirection().XYZ()));
+        plane->setOrigin(occt_vector::of(view.axes.Location().XYZ()));
+        plane->setDirectionU(occt_vector::of(view.axes.XDirection().XYZ()));
+        plane->setDirectionV(occt_vector::of(view.axes.YDirection().XYZ()));
         scene.addView(plane);
 
         const auto capture = std::make_shared<vrx::ExcVisuCapture>();

@@ -1,11 +1,11 @@
 #include "pmi/step_datums.h"
 
 #include "mp/narrow.h"
+#include "pmi/step_dimensions.h"
 #include "pmi/step_quantity.h"
 #include "reading/step_axes.h"
 #include "reading/step_measures.h"
 
-#include <cstdio>
 #include <map>
 #include <optional>
 #include <string>
@@ -16,12 +16,11 @@ namespace
 
 using Target = vrx::ExcPMIDatumTarget;
 
-// What describes a target: its placement in millimetres, and its sizes as the file states them.
+// What describes a target: its placement in millimetres, and its sizes.
 struct Shape
 {
     std::optional<gp_Ax3> axes;
-    std::map<std::string, double> sizes;
-    double unit = 1; // of the sizes, in millimetres
+    std::map<std::string, StepQuantity> sizes;
 };
 
 Shape shapeOf(const StepRecord& target, const StepRecords& records)
@@ -32,18 +31,18 @@ Shape shapeOf(const StepRecord& target, const StepRecords& records)
         for (const StepRecord& definition : property.users("SHAPE_DEFINITION_REPRESENTATION"))
         {
             const StepRecord representation = definition.next(1);
-            shape.unit = unitFactors(records, representation).length;
+            const double unit = unitFactors(records, representation).length;
             for (const StepParameter& item : representation[1].list)
             {
                 const StepQuantity quantity = quantityOf(records.find(item.reference));
                 if (!quantity.name.empty())
                 {
-                    shape.sizes[mp::toNarrow(quantity.name)] = quantity.value;
+                    shape.sizes[mp::toNarrow(quantity.name)] = quantity;
                 }
                 const auto placement = records.entity<StepGeom_Axis2Placement3d>(item.reference);
                 if (!placement.IsNull())
                 {
-                    shape.axes = stepAxes(placement, shape.unit);
+                    shape.axes = stepAxes(placement, unit);
                 }
             }
         }
@@ -51,11 +50,14 @@ Shape shapeOf(const StepRecord& target, const StepRecords& records)
     return shape;
 }
 
-std::string shortest(double number)
+double millimetres(const StepQuantity& size)
 {
-    char text[32] = {};
-    std::snprintf(text, sizeof text, "%.10g", number);
-    return text;
+    return size.in(StepQuantity::EUnit::Mm).value;
+}
+
+mp::wstring sizeText(const StepQuantity& size)
+{
+    return size ? numberText(size.value, size.decimals) : WIDE("?");
 }
 
 void setZone(Target& target, const Shape& shape, const ModelFrame& frame)
@@ -65,34 +67,36 @@ void setZone(Target& target, const Shape& shape, const ModelFrame& frame)
         return;
     }
     const auto corner = [&](double x, double y) {
-        const gp_XYZ point = shape.axes->Location().XYZ() + shape.axes->XDirection().XYZ() * (x * shape.unit) +
-                             shape.axes->YDirection().XYZ() * (y * shape.unit);
+        const gp_XYZ point =
+            shape.axes->Location().XYZ() + shape.axes->XDirection().XYZ() * x + shape.axes->YDirection().XYZ() * y;
         return vrx::ExcVector3d(point.X() * frame.scale(), point.Y() * frame.scale(), point.Z() * frame.scale());
     };
     const auto size = [&shape](const char* name) {
         const auto found = shape.sizes.find(name);
-        return found != shape.sizes.end() ? found->second : 0;
+        return found != shape.sizes.end() ? found->second : StepQuantity();
     };
-    const double length = size("target length");
-    const double width = size("target width");
-    const double diameter = size("target diameter");
+    const StepQuantity length = size("target length");
+    const StepQuantity width = size("target width");
+    const StepQuantity diameter = size("target diameter");
+    const double right = millimetres(length) / 2;
+    const double top = millimetres(width) / 2;
     switch (target.targetType())
     {
     case Target::EType::Line:
         target.setZonePoint1(corner(0, 0));
-        target.setZonePoint2(corner(length, 0));
-        target.setUpperText(mp::toWide(shortest(length)));
+        target.setZonePoint2(corner(millimetres(length), 0));
+        target.setUpperText(sizeText(length));
         break;
     case Target::EType::AreaCircular:
         target.setZonePoint1(corner(0, 0));
-        target.setZonePoint2(corner(diameter / 2, 0));
+        target.setZonePoint2(corner(millimetres(diameter) / 2, 0));
         target.setHasDiameter(true);
-        target.setUpperText(mp::toWide(shortest(diameter)));
+        target.setUpperText(sizeText(diameter));
         break;
     case Target::EType::AreaRectangular:
-        target.setZonePoint1(corner(-length / 2, -width / 2));
-        target.setZonePoint2(corner(length / 2, width / 2));
-        target.setUpperText(mp::toWide(shortest(length) + "\u00D7" + shortest(width)));
+        target.setZonePoint1(corner(-right, -top));
+        target.setZonePoint2(corner(right, top));
+        target.setUpperText(sizeText(length) + WIDE("\u00D7") + sizeText(width));
         break;
     default:
         target.setZonePoint1(corner(0, 0));
@@ -150,7 +154,7 @@ std::vector<StepRecord> features(const StepRecord& datum)
     for (const StepRecord& relationship : datum.users("SHAPE_ASPECT_RELATIONSHIP"))
     {
         const StepRecord feature = relationship.as("SHAPE_ASPECT_RELATIONSHIP").next(2);
-        if (feature && !(feature == datum))
+        if (feature && !(feature == datum) && !step_dimensions::isDimension(relationship))
         {
             features.push_back(feature);
         }
@@ -170,7 +174,7 @@ std::shared_ptr<vrx::ExcPMIDatumTarget> makeTarget(const StepRecord& record, con
     const bool isComplex = record.is("SHAPE_ASPECT");
     const mp::wstring number = isComplex ? record.as("DATUM_TARGET").text(0) : record.text(4);
     const StepRecord datum = datumOf(record);
-    target->setLabel((datum ? labelOf(datum) : mp::wstring()) + number);
+    target->setLabel((datum ? labelOf(datum) : WIDE("?")) + number);
     const std::string kind = mp::toNarrow(record.as("SHAPE_ASPECT").text(1));
     for (const auto& [name, type] : kTargetTypes)
     {

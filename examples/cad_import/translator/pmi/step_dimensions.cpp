@@ -4,8 +4,9 @@
 #include "pmi/step_quantity.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
-#include <optional>
+#include <map>
 #include <string>
 
 namespace
@@ -14,15 +15,29 @@ namespace
 using Dimension = vrx::ExcPMIDimension;
 
 // The types of dimensions. What has several of them has all below its first one in common.
-const char* const kLocations[] = {"ANGULAR_LOCATION", "DIMENSIONAL_LOCATION", "DIMENSIONAL_LOCATION_WITH_PATH",
-                                  "DIRECTED_DIMENSIONAL_LOCATION"};
+const char* const kLocations[] = {"ANGULAR_LOCATION", "DIMENSIONAL_LOCATION", "DIMENSIONAL_LOCATION_WITH_DATUM_FEATURE",
+                                  "DIMENSIONAL_LOCATION_WITH_PATH", "DIRECTED_DIMENSIONAL_LOCATION"};
 const char* const kSizes[] = {"ANGULAR_SIZE", "DIMENSIONAL_SIZE", "DIMENSIONAL_SIZE_WITH_DATUM_FEATURE",
                               "DIMENSIONAL_SIZE_WITH_PATH"};
 
+template <class Types>
+bool isAny(const StepRecord& record, const Types& types)
+{
+    return std::any_of(std::begin(types), std::end(types), [&](const char* type) { return record.is(type); });
+}
+
 bool isLocation(const StepRecord& dimension)
 {
-    return std::any_of(std::begin(kLocations), std::end(kLocations),
-                       [&](const char* type) { return dimension.is(type); });
+    return isAny(dimension, kLocations);
+}
+
+// Where the parameters of a dimension begin. One of a single type that is a datum feature too has those of a shape
+// aspect first.
+std::size_t firstOf(const StepRecord& dimension)
+{
+    const bool isFeature =
+        dimension.is("DIMENSIONAL_LOCATION_WITH_DATUM_FEATURE") || dimension.is("DIMENSIONAL_SIZE_WITH_DATUM_FEATURE");
+    return isFeature && !dimension.is("SHAPE_ASPECT") ? 4 : 0;
 }
 
 struct Kind
@@ -47,16 +62,14 @@ const Kind kKinds[] = {
 
 void setKind(Dimension& dimension, const StepRecord& record)
 {
-    const bool location = isLocation(record);
-    const mp::wstring name =
-        location ? record.as("SHAPE_ASPECT_RELATIONSHIP").text(0) : record.as("DIMENSIONAL_SIZE").text(1);
+    const mp::wstring name = step_dimensions::nameOf(record);
     dimension.setName(name);
     if (record.is("ANGULAR_LOCATION") || record.is("ANGULAR_SIZE"))
     {
         dimension.setSubType(Dimension::ESubType::Angle);
         return;
     }
-    dimension.setSubType(location ? Dimension::ESubType::Distance : Dimension::ESubType::Length);
+    dimension.setSubType(isLocation(record) ? Dimension::ESubType::Distance : Dimension::ESubType::Length);
     const std::string narrow = mp::toNarrow(name);
     const auto* const kind = std::find_if(std::begin(kKinds), std::end(kKinds), [&](const Kind& one) {
         return narrow.compare(0, std::strlen(one.name), one.name) == 0;
@@ -106,29 +119,29 @@ void applyNote(Dimension& dimension, const mp::wstring& text)
     }
 }
 
-void setLimits(Dimension& dimension, bool hasValue, double lower, double upper)
+void setLimits(Dimension& dimension, const StepQuantity& lower, const StepQuantity& upper, bool hasValue)
 {
+    const double places = std::max(lower.decimals, upper.decimals);
+    dimension.setFakeAlphanumericalValue(numberText(lower.value, places) + WIDE(" - ") +
+                                         numberText(upper.value, places));
+    dimension.setHasAlphanumericalValue(true);
     if (!hasValue)
     {
-        const auto text = [](double number) {
-            std::string digits = std::to_string(number);
-            digits.erase(digits.find_last_not_of('0') + 1);
-            return mp::toWide(digits.back() == '.' ? digits.substr(0, digits.size() - 1) : digits);
-        };
-        dimension.setValue((lower + upper) / 2);
-        dimension.setFakeAlphanumericalValue(text(lower) + WIDE(" - ") + text(upper));
-        dimension.setHasAlphanumericalValue(true);
+        dimension.setValue((lower.value + upper.value) / 2);
     }
-    dimension.setMainType(Dimension::EMainType::Tolerance);
-    dimension.setNumericalToleranceLower(lower - dimension.value());
-    dimension.setNumericalToleranceUpper(upper - dimension.value());
+    if (dimension.mainType() != Dimension::EMainType::Reference)
+    {
+        dimension.setMainType(Dimension::EMainType::Tolerance);
+    }
+    dimension.setNumericalToleranceLower(lower.value - dimension.value());
+    dimension.setNumericalToleranceUpper(upper.value - dimension.value());
 }
 
 void setValues(Dimension& dimension, const StepRecord& representation)
 {
-    bool hasValue = false;
-    std::optional<double> lower;
-    std::optional<double> upper;
+    StepQuantity value;
+    StepQuantity lower;
+    StepQuantity upper;
     for (const StepRecord& item : representation.nexts(1))
     {
         if (item.is("DESCRIPTIVE_REPRESENTATION_ITEM") || item.is("COMPOUND_REPRESENTATION_ITEM"))
@@ -142,29 +155,24 @@ void setValues(Dimension& dimension, const StepRecord& representation)
         }
         const StepQuantity quantity = quantityOf(item);
         const std::string name = mp::toNarrow(quantity.name);
-        if (name == "upper limit")
-        {
-            upper = quantity.value;
-        }
-        else if (name == "lower limit")
-        {
-            lower = quantity.value;
-        }
-        else if (quantity.unit != Dimension::EDimUnit::None && !hasValue)
-        {
-            hasValue = true;
-            dimension.setValue(quantity.value);
-            for (const mp::wstring& qualifier : quantity.qualifiers)
-            {
-                applyNote(dimension, qualifier);
-            }
-        }
-        dimension.setUnit(quantity.unit);
-        dimension.setValuePrecision(std::max(dimension.valuePrecision(), quantity.decimals));
+        StepQuantity& part = name == "upper limit" ? upper : name == "lower limit" ? lower : value;
+        part = part ? part : quantity;
     }
-    if (lower && upper)
+    for (const mp::wstring& qualifier : value.qualifiers)
     {
-        setLimits(dimension, hasValue, *lower, *upper);
+        applyNote(dimension, qualifier);
+    }
+    const StepQuantity::EUnit unit = value ? value.unit : lower.unit;
+    const bool hasLimits = lower.in(unit) && upper.in(unit);
+    if (value || hasLimits)
+    {
+        dimension.setUnit(unit);
+        dimension.setValue(value.value);
+        dimension.setValuePrecision(std::max({value.decimals, lower.decimals, upper.decimals}));
+    }
+    if (hasLimits)
+    {
+        setLimits(dimension, lower.in(unit), upper.in(unit), bool(value));
     }
 }
 
@@ -172,20 +180,24 @@ void setValues(Dimension& dimension, const StepRecord& representation)
 void setTolerance(Dimension& dimension, const StepRecord& tolerance)
 {
     const StepRecord range = tolerance.next(0);
-    dimension.setMainType(Dimension::EMainType::Tolerance);
     if (range.is("LIMITS_AND_FITS"))
     {
         const mp::wstring fit = range.text(0) + range.text(2);
         const bool isShaft = mp::toNarrow(range.text(1)) == "shaft" ||
                              (!range.text(0).empty() && range.text(0).front() >= 'a' && range.text(0).front() <= 'z');
         isShaft ? dimension.setAlphanumericalToleranceLower(fit) : dimension.setAlphanumericalToleranceUpper(fit);
+        dimension.setMainType(Dimension::EMainType::Tolerance);
         return;
     }
-    const StepQuantity lower = quantityOf(range.next(0));
-    const StepQuantity upper = quantityOf(range.next(1));
-    dimension.setNumericalToleranceLower(lower.value);
-    dimension.setNumericalToleranceUpper(upper.value);
-    dimension.setTolerancePrecisionValue(std::max(lower.decimals, upper.decimals));
+    const StepQuantity lower = quantityOf(range.next(0)).in(dimension.unit());
+    const StepQuantity upper = quantityOf(range.next(1)).in(dimension.unit());
+    if (lower && upper)
+    {
+        dimension.setMainType(Dimension::EMainType::Tolerance);
+        dimension.setNumericalToleranceLower(lower.value);
+        dimension.setNumericalToleranceUpper(upper.value);
+        dimension.setTolerancePrecisionValue(std::max(lower.decimals, upper.decimals));
+    }
 }
 
 } // namespace
@@ -213,14 +225,27 @@ std::vector<StepRecord> all(const StepRecords& records)
     return dimensions;
 }
 
+bool isDimension(const StepRecord& record)
+{
+    return isLocation(record) || isAny(record, kSizes);
+}
+
+mp::wstring nameOf(const StepRecord& dimension)
+{
+    const std::size_t first = firstOf(dimension);
+    return isLocation(dimension) ? dimension.as("SHAPE_ASPECT_RELATIONSHIP").text(first)
+                                 : dimension.as("DIMENSIONAL_SIZE").text(first + 1);
+}
+
 std::vector<StepRecord> aspects(const StepRecord& dimension)
 {
+    const std::size_t first = firstOf(dimension);
     if (isLocation(dimension))
     {
         const StepRecord relationship = dimension.as("SHAPE_ASPECT_RELATIONSHIP");
-        return {relationship.next(2), relationship.next(3)};
+        return {relationship.next(first + 2), relationship.next(first + 3)};
     }
-    return {dimension.as("DIMENSIONAL_SIZE").next(0)};
+    return {dimension.as("DIMENSIONAL_SIZE").next(first)};
 }
 
 std::shared_ptr<vrx::ExcPMIDimension> make(const StepRecord& record)

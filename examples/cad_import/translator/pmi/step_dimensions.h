@@ -13,6 +13,11 @@ namespace step_dimensions
 
 std::vector<StepRecord> all(const StepRecords& records);
 
+bool isDimension(const StepRecord& record);
+
+/// What the file calls it, such as "diameter".
+mp::wstring nameOf(const StepRecord& dimension);
+
 /// The shape aspects that a dimension is about: one for a size, the two ends for a location.
 std::vector<StepRecord> aspects(const StepRecord& dimension);
 

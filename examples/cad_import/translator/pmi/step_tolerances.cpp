@@ -5,39 +5,22 @@
 #include "pmi/step_datums.h"
 #include "pmi/step_dimensions.h"
 #include "pmi/step_quantity.h"
+#include "pmi/text_lines.h"
+#include "pmi/tolerance_types.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
+#include <cstddef>
+#include <limits>
 #include <map>
-#include <set>
 #include <string>
-#include <utility>
+#include <vector>
 
 namespace
 {
 
 using Tolerance = vrx::ExcPMIGDT;
-using EType = Tolerance::EToleranceType;
 using EModifier = Tolerance::EToleranceModifier;
-
-const std::pair<const char*, EType> kTypes[] = {
-    {"ANGULARITY_TOLERANCE", EType::OrientationAngularity},
-    {"CIRCULAR_RUNOUT_TOLERANCE", EType::RunOutCircular},
-    {"COAXIALITY_TOLERANCE", EType::LocationCoaxiality},
-    {"CONCENTRICITY_TOLERANCE", EType::LocationConcentricity},
-    {"CYLINDRICITY_TOLERANCE", EType::FormCylindricity},
-    {"FLATNESS_TOLERANCE", EType::FormFlatness},
-    {"LINE_PROFILE_TOLERANCE", EType::FormProfileAnyLine},
-    {"PARALLELISM_TOLERANCE", EType::OrientationParallelism},
-    {"PERPENDICULARITY_TOLERANCE", EType::OrientationPerpendicularity},
-    {"POSITION_TOLERANCE", EType::LocationTruePosition},
-    {"ROUNDNESS_TOLERANCE", EType::FormCircularity},
-    {"STRAIGHTNESS_TOLERANCE", EType::FormStraightness},
-    {"SURFACE_PROFILE_TOLERANCE", EType::FormProfileAnySurface},
-    {"SYMMETRY_TOLERANCE", EType::LocationSymmetry},
-    {"TOTAL_RUNOUT_TOLERANCE", EType::RunOutTotal},
-};
 
 // A modifier of a tolerance or a datum reference that the model has; the others become words in the note.
 struct Modifier
@@ -54,6 +37,9 @@ const Modifier kModifiers[] = {
     {"FREE_STATE", EModifier::FreeStateFree},
     {"STATISTICAL_TOLERANCE", EModifier::StatisticalSymbol},
     {"COMMON_ZONE", EModifier::CommonZone},
+    // in older files
+    {"MAXIMUM_MATERIAL_CONDITION", EModifier::MaterialConditionMaximum},
+    {"LEAST_MATERIAL_CONDITION", EModifier::MaterialConditionLeast},
 };
 
 EModifier modifierOf(const std::string& name)
@@ -63,6 +49,8 @@ EModifier modifierOf(const std::string& name)
     return found != std::end(kModifiers) ? found->modifier : EModifier::NoModifier;
 }
 
+const mp::wchar* const kMissing = WIDE("?");
+
 // What the model has no modifier for, in words.
 mp::wstring wordsOf(std::string name)
 {
@@ -70,46 +58,64 @@ mp::wstring wordsOf(std::string name)
     return mp::toWide(name);
 }
 
-void addLine(mp::wstring& text, const mp::wstring& line)
+// The lengths of a frame, in one unit.
+class Lengths
 {
-    text += (text.empty() ? WIDE("") : WIDE("\n")) + line;
-}
+public:
+    explicit Lengths(StepQuantity::EUnit unit)
+        : m_unit(unit)
+    {
+    }
 
-std::string numberText(double number)
-{
-    char text[32] = {};
-    std::snprintf(text, sizeof text, "%.10g", number);
-    return text;
-}
+    double read(const StepRecord& measure)
+    {
+        const StepQuantity quantity = quantityOf(measure).in(m_unit);
+        miss(!quantity);
+        return quantity.value;
+    }
+
+    // Something without which the frame would say something else.
+    void miss(bool isMissing) { m_areAll = m_areAll && !isMissing; }
+
+    // None when something is missing.
+    mp::wstring unitName() const { return m_areAll ? lengthUnitName(m_unit) : mp::wstring(); }
+
+private:
+    StepQuantity::EUnit m_unit;
+    bool m_areAll = true;
+};
 
 struct Modifiers
 {
     std::vector<EModifier> known;
-    mp::wstring others; // a line each
+    std::vector<mp::wstring> others; // in words
 };
 
-// A list of words, as tolerances have it, or of typed words and modifiers with values, as datum references do.
-Modifiers modifiersOf(const StepRecord& record, std::size_t parameter)
+const std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
+
+// A list of words, as tolerances have it, or of typed words and modifiers with values, as datum references do. Those
+// for which there is no room are among the others.
+Modifiers modifiersOf(const StepRecord& record, std::size_t parameter, Lengths& lengths, std::size_t room = kAnyNumber)
 {
     Modifiers modifiers;
-    const auto add = [&](const std::string& name) {
+    const std::vector<StepRecord> withValues = record.elements(parameter); // DATUM_REFERENCE_MODIFIER_WITH_VALUE
+    for (std::size_t i = 0; i < withValues.size(); ++i)
+    {
+        const std::string& name = record[parameter].list[i].word;
         const EModifier modifier = modifierOf(name);
-        if (modifier != EModifier::NoModifier)
+        if (modifier != EModifier::NoModifier && modifiers.known.size() < room)
         {
             modifiers.known.push_back(modifier);
         }
         else if (!name.empty())
         {
-            addLine(modifiers.others, wordsOf(name));
+            modifiers.others.push_back(wordsOf(name));
         }
-    };
-    for (const StepParameter& element : record[parameter].list)
-    {
-        add(element.word);
-    }
-    for (const StepRecord& modifier : record.nexts(parameter)) // DATUM_REFERENCE_MODIFIER_WITH_VALUE
-    {
-        add(modifier[0].word);
+        else
+        {
+            const mp::wstring value = numberText(lengths.read(withValues[i].next(1)), 0);
+            modifiers.others.push_back(withValues[i] ? wordsOf(withValues[i][0].word) + WIDE(" ") + value : kMissing);
+        }
     }
     return modifiers;
 }
@@ -119,19 +125,104 @@ Modifiers modifiersOf(const StepRecord& record, std::size_t parameter)
 std::vector<StepRecord> datumSystemsOf(const StepRecord& tolerance)
 {
     const bool isComplex = tolerance.is("GEOMETRIC_TOLERANCE");
-    return isComplex ? tolerance.as("GEOMETRIC_TOLERANCE_WITH_DATUM_REFERENCE").nexts(0) : tolerance.nexts(4);
+    std::vector<StepRecord> systems =
+        isComplex ? tolerance.as("GEOMETRIC_TOLERANCE_WITH_DATUM_REFERENCE").elements(0) : tolerance.elements(4);
+    const auto precedence = [](const StepRecord& system) { return system.as("DATUM_REFERENCE")[0].number; };
+    std::stable_sort(systems.begin(), systems.end(), [&](const StepRecord& left, const StepRecord& right) {
+        return precedence(left) < precedence(right);
+    });
+    return systems;
 }
 
-class FrameReader
+// What both lines of a frame have.
+struct Line
+{
+    double value = 0;
+    Tolerance::EToleranceValueType zone = Tolerance::EToleranceValueType::None;
+    std::array<double, 2> rateUnit = {0, 0};
+    std::vector<EModifier> modifiers;
+    std::shared_ptr<Tolerance::Frame> datums;
+};
+
+class LineReader
 {
 public:
-    FrameReader(Tolerance& tolerance, const step_tolerances::DatumId& datumId)
-        : m_tolerance(tolerance)
-        , m_datumId(datumId)
+    LineReader(const step_tolerances::DatumId& datumId, StepQuantity::EUnit unit)
+        : m_datumId(datumId)
+        , m_lengths(unit)
     {
     }
 
-    std::shared_ptr<Tolerance::Frame> read(const StepRecord& tolerance)
+    Line read(const StepRecord& tolerance, std::size_t mostModifiers)
+    {
+        Line line;
+        line.value = m_lengths.read(tolerance.as("GEOMETRIC_TOLERANCE").next(2));
+        line.zone = zoneOf(tolerance);
+        line.rateUnit = rateUnitOf(tolerance);
+        line.modifiers = zoneModifiers(tolerance, mostModifiers);
+        if (tolerance.is("GEOMETRIC_TOLERANCE_WITH_MAXIMUM_TOLERANCE"))
+        {
+            const StepRecord most = tolerance.as("GEOMETRIC_TOLERANCE_WITH_MAXIMUM_TOLERANCE").next(0);
+            note(numberText(m_lengths.read(most), 0) + WIDE(" MAX"));
+        }
+        line.datums = datumsOf(tolerance);
+        m_prefix = WIDE("LOWER LINE ");
+        return line;
+    }
+
+    Lengths& lengths() { return m_lengths; }
+
+    // What the lines have no place for.
+    const mp::wstring& notes() const { return m_notes; }
+
+private:
+    Tolerance::EToleranceValueType zoneOf(const StepRecord& tolerance)
+    {
+        auto type = Tolerance::EToleranceValueType::None;
+        for (const StepRecord& zone : tolerance.users("TOLERANCE_ZONE"))
+        {
+            const StepRecord form = zone.is("SHAPE_ASPECT") ? zone.as("TOLERANCE_ZONE").next(1) : zone.next(5);
+            const std::string name = mp::toNarrow(form.text(0));
+            type = name.find("spherical") != std::string::npos     ? Tolerance::EToleranceValueType::Spherical
+                   : name.find("cylindrical") != std::string::npos ? Tolerance::EToleranceValueType::Diameter
+                                                                   : type;
+            m_lengths.miss(!form);
+        }
+        return type;
+    }
+
+    std::array<double, 2> rateUnitOf(const StepRecord& tolerance)
+    {
+        if (!tolerance.is("GEOMETRIC_TOLERANCE_WITH_DEFINED_UNIT"))
+        {
+            return {0, 0};
+        }
+        const double length = m_lengths.read(tolerance.as("GEOMETRIC_TOLERANCE_WITH_DEFINED_UNIT").next(0));
+        const StepRecord area = tolerance.as("GEOMETRIC_TOLERANCE_WITH_DEFINED_AREA_UNIT");
+        const bool hasOther = area[0].word == "RECTANGULAR" || area.next(1);
+        return {length, hasOther ? m_lengths.read(area.next(1)) : length};
+    }
+
+    std::vector<EModifier> zoneModifiers(const StepRecord& tolerance, std::size_t most)
+    {
+        Modifiers modifiers;
+        if (tolerance.is("GEOMETRIC_TOLERANCE_WITH_MODIFIERS"))
+        {
+            modifiers = modifiersOf(tolerance.as("GEOMETRIC_TOLERANCE_WITH_MODIFIERS"), 0, m_lengths, most);
+        }
+        const std::string& older = tolerance.as("MODIFIED_GEOMETRIC_TOLERANCE")[0].word;
+        if (tolerance.is("MODIFIED_GEOMETRIC_TOLERANCE") && modifiers.known.size() < most)
+        {
+            modifiers.known.push_back(modifierOf(older));
+        }
+        for (const mp::wstring& words : modifiers.others)
+        {
+            note(words);
+        }
+        return modifiers.known;
+    }
+
+    std::shared_ptr<Tolerance::Frame> datumsOf(const StepRecord& tolerance)
     {
         const auto frame = std::make_shared<Tolerance::Frame>();
         for (const StepRecord& system : datumSystemsOf(tolerance))
@@ -139,54 +230,56 @@ public:
             if (system.is("DATUM_SYSTEM"))
             {
                 frame->setLabel(system.as("SHAPE_ASPECT").text(0));
-                for (const StepRecord& compartment : constituents(system))
+                const bool isComplex = system.is("SHAPE_ASPECT");
+                for (const StepRecord& compartment :
+                     isComplex ? system.as("DATUM_SYSTEM").elements(0) : system.elements(4))
                 {
                     frame->addDatumRef(reference(compartment));
                 }
             }
-            else if (system.is("DATUM_REFERENCE")) // (precedence, datum), in older files
+            else // (precedence, datum), in older files
             {
+                const bool isComplex = system.is("DATUM_REFERENCE") && system.is("REFERENCED_MODIFIED_DATUM");
+                const StepParameter& modifier = system.as("REFERENCED_MODIFIED_DATUM")[isComplex ? 0 : 2];
+                Modifiers modifiers;
+                if (modifierOf(modifier.word) != EModifier::NoModifier)
+                {
+                    modifiers.known.push_back(modifierOf(modifier.word));
+                }
                 Tolerance::DatumRef reference;
-                addDatum(reference, system.next(1), {});
+                addDatum(reference, system.as("DATUM_REFERENCE").next(1), modifiers);
                 frame->addDatumRef(reference);
             }
         }
         return frame->datumRefs().empty() ? nullptr : frame;
     }
 
-private:
-    static std::vector<StepRecord> constituents(const StepRecord& system)
-    {
-        return system.is("SHAPE_ASPECT") ? system.as("DATUM_SYSTEM").nexts(0) : system.nexts(4);
-    }
-
     Tolerance::DatumRef reference(const StepRecord& compartment)
     {
         Tolerance::DatumRef reference;
-        const Modifiers modifiers = modifiersOf(compartment, 5);
-        if (compartment.next(4).is("DATUM"))
+        const Modifiers modifiers = modifiersOf(compartment, 5, m_lengths);
+        if (compartment[4].list.empty())
         {
             addDatum(reference, compartment.next(4), modifiers);
+            return reference;
         }
-        else
+        for (const StepRecord& element : compartment.elements(4)) // of a common datum
         {
-            for (const StepRecord& element : compartment.nexts(4)) // of a common datum
-            {
-                Modifiers own = modifiersOf(element, 5);
-                own.known.insert(own.known.end(), modifiers.known.begin(), modifiers.known.end());
-                addDatum(reference, element.next(4), own);
-            }
-            addLine(modifiers);
+            Modifiers own = modifiersOf(element, 5, m_lengths);
+            own.known.insert(own.known.end(), modifiers.known.begin(), modifiers.known.end());
+            addDatum(reference, element.next(4), own);
         }
+        note(reference.label(), modifiers);
         return reference;
     }
 
     void addDatum(Tolerance::DatumRef& reference, const StepRecord& datum, const Modifiers& modifiers)
     {
-        const mp::wstring label = step_datums::labelOf(datum);
+        const bool isDatum = datum.is("DATUM");
+        const mp::wstring label = isDatum ? step_datums::labelOf(datum) : kMissing;
         reference.setLabel(reference.label() + (reference.label().empty() ? WIDE("") : WIDE("-")) + label);
         Tolerance::ModifiedDatum modified;
-        modified.setDatumId(m_datumId(datum));
+        modified.setDatumId(isDatum ? m_datumId(datum) : mp::wstring());
         if (modifiers.known.empty())
         {
             reference.addModifiedDatum(modified);
@@ -196,64 +289,28 @@ private:
             modified.setModifier(modifier);
             reference.addModifiedDatum(modified);
         }
-        addLine(modifiers);
+        note(label, modifiers);
     }
 
-    void addLine(const Modifiers& modifiers)
+    void note(const mp::wstring& label, const Modifiers& modifiers)
     {
-        if (!modifiers.others.empty())
+        for (const mp::wstring& words : modifiers.others)
         {
-            mp::wstring note = m_tolerance.note();
-            ::addLine(note, modifiers.others);
-            m_tolerance.setNote(note);
+            note(label + WIDE(" ") + words);
         }
     }
 
-    Tolerance& m_tolerance;
+    void note(const mp::wstring& words) { addLine(m_notes, m_prefix + words); }
+
     const step_tolerances::DatumId& m_datumId;
+    Lengths m_lengths;
+    mp::wstring m_prefix; // of the notes of a lower line
+    mp::wstring m_notes;  // a line each
 };
 
-// What both lines of a frame have.
-struct Line
+EModifier modifierAt(const Line& line, std::size_t position)
 {
-    double value = 0;
-    Tolerance::EToleranceValueType zone = Tolerance::EToleranceValueType::None;
-    std::array<double, 2> rateUnit = {0, 0};
-    std::array<EModifier, 2> modifiers = {EModifier::NoModifier, EModifier::NoModifier};
-    mp::wstring note;
-};
-
-Line lineOf(const StepRecord& tolerance)
-{
-    Line line;
-    line.value = quantityOf(tolerance.as("GEOMETRIC_TOLERANCE").next(2)).value;
-    for (const StepRecord& zone : tolerance.users("TOLERANCE_ZONE"))
-    {
-        const std::string form = mp::toNarrow(zone.next(5).text(0));
-        line.zone = form.find("spherical") != std::string::npos     ? Tolerance::EToleranceValueType::Spherical
-                    : form.find("cylindrical") != std::string::npos ? Tolerance::EToleranceValueType::Diameter
-                                                                    : line.zone;
-    }
-    if (tolerance.is("GEOMETRIC_TOLERANCE_WITH_DEFINED_UNIT"))
-    {
-        const double length = quantityOf(tolerance.as("GEOMETRIC_TOLERANCE_WITH_DEFINED_UNIT").next(0)).value;
-        const StepRecord area = tolerance.as("GEOMETRIC_TOLERANCE_WITH_DEFINED_AREA_UNIT");
-        line.rateUnit = {length, area.next(1) ? quantityOf(area.next(1)).value : length};
-    }
-    const StepRecord modified = tolerance.as("GEOMETRIC_TOLERANCE_WITH_MODIFIERS");
-    const Modifiers modifiers =
-        tolerance.is("GEOMETRIC_TOLERANCE_WITH_MODIFIERS") ? modifiersOf(modified, 0) : Modifiers();
-    for (std::size_t i = 0; i < modifiers.known.size() && i < line.modifiers.size(); ++i)
-    {
-        line.modifiers[i] = modifiers.known[i];
-    }
-    line.note = modifiers.others;
-    if (tolerance.is("GEOMETRIC_TOLERANCE_WITH_MAXIMUM_TOLERANCE"))
-    {
-        const double most = quantityOf(tolerance.as("GEOMETRIC_TOLERANCE_WITH_MAXIMUM_TOLERANCE").next(0)).value;
-        addLine(line.note, mp::toWide(numberText(most) + " MAX"));
-    }
-    return line;
+    return position < line.modifiers.size() ? line.modifiers[position] : EModifier::NoModifier;
 }
 
 } // namespace
@@ -264,9 +321,9 @@ namespace step_tolerances
 std::vector<Frame> all(const StepRecords& records)
 {
     std::map<int, Frame> frames; // by the id of the upper line
-    for (const auto& [type, ignored] : kTypes)
+    for (const ToleranceTypeRow& row : tolerance_types::kAll)
     {
-        for (const StepRecord& tolerance : records.all(type))
+        for (const StepRecord& tolerance : records.all(row.record))
         {
             frames.insert({tolerance.id(), {tolerance, {}}});
         }
@@ -299,60 +356,54 @@ std::vector<Frame> all(const StepRecords& records)
 std::vector<StepRecord> aspects(const StepRecord& tolerance)
 {
     const StepRecord target = tolerance.as("GEOMETRIC_TOLERANCE").next(3);
-    if (target.is("PRODUCT_DEFINITION_SHAPE"))
-    {
-        return {};
-    }
-    const bool isDimension = target.is("DIMENSIONAL_SIZE") || target.is("DIMENSIONAL_LOCATION");
-    return isDimension ? step_dimensions::aspects(target) : std::vector<StepRecord>{target};
+    return step_dimensions::isDimension(target) ? step_dimensions::aspects(target) : std::vector<StepRecord>{target};
 }
 
 std::shared_ptr<vrx::ExcPMIGDT> make(const Frame& frame, const DatumId& datumId)
 {
     auto tolerance = std::make_shared<Tolerance>();
-    const StepRecord magnitude = frame.upper.as("GEOMETRIC_TOLERANCE").next(2);
-    tolerance->setName(lengthUnitName(quantityOf(magnitude).unit));
-    for (const auto& [name, type] : kTypes)
+    for (const ToleranceTypeRow& row : tolerance_types::kAll)
     {
-        if (frame.upper.is(name))
+        if (frame.upper.is(row.record))
         {
-            tolerance->setToleranceType(type);
+            tolerance->setToleranceType(row.type);
         }
     }
-    const Line upper = lineOf(frame.upper);
+    LineReader reader(datumId, quantityOf(frame.upper.as("GEOMETRIC_TOLERANCE").next(2)).unit);
+    const Line upper = reader.read(frame.upper, 2);
     tolerance->setToleranceValue(upper.value);
     tolerance->setToleranceValueType(upper.zone);
     tolerance->setRateUnit(upper.rateUnit[0], upper.rateUnit[1]);
-    tolerance->setZoneModifiers(upper.modifiers[0], upper.modifiers[1]);
-    tolerance->setNote(upper.note);
+    tolerance->setZoneModifiers(modifierAt(upper, 0), modifierAt(upper, 1));
+    tolerance->setReferenceFrame(upper.datums);
     if (frame.upper.is("UNEQUALLY_DISPOSED_GEOMETRIC_TOLERANCE"))
     {
         const StepRecord displacement = frame.upper.as("UNEQUALLY_DISPOSED_GEOMETRIC_TOLERANCE").next(0);
-        tolerance->setShiftValue(quantityOf(displacement).value - upper.value / 2);
+        tolerance->setShiftValue(reader.lengths().read(displacement) - upper.value / 2);
     }
     for (const StepRecord& zone : frame.upper.users("TOLERANCE_ZONE"))
     {
         for (const StepRecord& projected : zone.users("PROJECTED_ZONE_DEFINITION"))
         {
-            tolerance->setProjectionToleranceZoneLength(quantityOf(projected.next(3)).value);
+            tolerance->setProjectionToleranceZoneLength(reader.lengths().read(projected.next(3)));
         }
     }
     const StepRecord target = frame.upper.as("GEOMETRIC_TOLERANCE").next(3);
     tolerance->setAllAround(target.is("ALL_AROUND_SHAPE_ASPECT")    ? pmi_conventions::kAllAround
                             : target.is("PRODUCT_DEFINITION_SHAPE") ? pmi_conventions::kAllOver
                                                                     : 0);
-    FrameReader datums(*tolerance, datumId);
-    tolerance->setReferenceFrame(datums.read(frame.upper));
     if (frame.lower)
     {
-        const Line lower = lineOf(frame.lower);
+        const Line lower = reader.read(frame.lower, 1);
         tolerance->setComposite(true);
         tolerance->setCompositeToleranceValue(lower.value);
         tolerance->setCompositeToleranceValueType(lower.zone);
         tolerance->setCompositeRateUnits(lower.rateUnit[0], lower.rateUnit[1]);
-        tolerance->setCompositeZoneModifier(lower.modifiers[0]);
-        tolerance->setCompositeReferenceFrame(datums.read(frame.lower));
+        tolerance->setCompositeZoneModifier(modifierAt(lower, 0));
+        tolerance->setCompositeReferenceFrame(lower.datums);
     }
+    tolerance->setNote(reader.notes());
+    tolerance->setName(reader.lengths().unitName());
     return tolerance;
 }
 

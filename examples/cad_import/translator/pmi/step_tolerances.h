@@ -21,8 +21,8 @@ struct Frame
 /// Each tolerance is in one frame. Of a composite one with more than two lines each further line is a frame of its own.
 std::vector<Frame> all(const StepRecords& records);
 
-/// The shape aspects that a tolerance is about: those of a dimension when it is about one. None when it is about the
-/// product as a whole.
+/// The shape aspects that a tolerance is about: those of a dimension when it is about one. The shape of a product when
+/// it is about all of that.
 std::vector<StepRecord> aspects(const StepRecord& tolerance);
 
 /// The ids of datums are given by the caller.

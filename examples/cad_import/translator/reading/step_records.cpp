@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstdlib>
 #include <iterator>
 #include <unordered_set>
 
@@ -21,8 +22,8 @@ namespace
 const int kUnknown = 0; // the number of an entity that a module does not know
 const int kDeepest = 8; // lists within lists: more than any schema has
 
-// What is left to the kernel.
-bool isGeometry(const TCollection_AsciiString& type)
+// Geometry, and how it is styled.
+bool isLeftToKernel(const TCollection_AsciiString& type)
 {
     static const std::unordered_set<std::string_view> kTypes = {
         "ADVANCED_FACE",
@@ -68,11 +69,12 @@ bool isGeometry(const TCollection_AsciiString& type)
     return kTypes.count({type.ToCString(), static_cast<std::size_t>(type.Length())}) > 0;
 }
 
-// Curves and surfaces have several types.
-bool isGeometry(const StepData_StepReaderData& data, int number)
+// Some curves and surfaces have several types.
+bool isLeftToKernel(const StepData_StepReaderData& data, int number)
 {
     const TCollection_AsciiString& first = data.RecordType(number);
-    return isGeometry(first) || (data.IsComplex(number) && (first == "BOUNDED_CURVE" || first == "BOUNDED_SURFACE"));
+    return isLeftToKernel(first) ||
+           (data.IsComplex(number) && (first == "BOUNDED_CURVE" || first == "BOUNDED_SURFACE"));
 }
 
 bool isNumeric(const StepData_StepReaderData& data, int number)
@@ -116,7 +118,8 @@ StepParameter parameterOf(const StepData_StepReaderData& data, int number, int p
         result.word.erase(std::remove(result.word.begin(), result.word.end(), '.'), result.word.end());
         break;
     case Interface_ParamIdent:
-        result.reference = parameter.EntityNumber() > 0 ? data.RecordIdent(parameter.EntityNumber()) : 0;
+        // By its text: the kernel takes the number of a record that is not there for another one.
+        result.reference = static_cast<int>(std::strtol(value + (*value == '#' ? 1 : 0), nullptr, 10));
         break;
     case Interface_ParamSub:
     {
@@ -285,6 +288,16 @@ std::vector<StepRecord> StepRecord::nexts(std::size_t parameter) const
     return records;
 }
 
+std::vector<StepRecord> StepRecord::elements(std::size_t parameter) const
+{
+    std::vector<StepRecord> records;
+    for (const StepParameter& element : (*this)[parameter].list)
+    {
+        records.push_back(m_all->find(element.reference));
+    }
+    return records;
+}
+
 std::vector<StepRecord> StepRecord::users(std::string_view type) const
 {
     std::vector<StepRecord> records;
@@ -318,7 +331,7 @@ StepRecords::Keeper::~Keeper()
 void StepRecords::add(const StepData_StepReaderData& data, int number)
 {
     const int id = data.RecordIdent(number);
-    if (id == 0 || isGeometry(data, number)) // those of the header have no id
+    if (id == 0 || m_records.count(id) > 0 || isLeftToKernel(data, number)) // those of the header have no id
     {
         return;
     }

@@ -58,6 +58,9 @@ public:
     /// Those to which the parameter's list refers, or the one of the parameter itself.
     std::vector<StepRecord> nexts(std::size_t parameter) const;
 
+    /// The records of the parameter's list, in their places: an empty one for each that is not there.
+    std::vector<StepRecord> elements(std::size_t parameter) const;
+
     /// The records of a type that refer to this one, in the order of the file.
     std::vector<StepRecord> users(std::string_view type) const;
 
@@ -88,9 +91,9 @@ private:
     std::size_t m_part = 0;
 };
 
-/// The records of a STEP file as they stand in it, but for its geometry, which the kernel reads well and of which there
-/// is most. The kernel's own entities know product manufacturing information only in part, and drop what is not as they
-/// expect it.
+/// The records of a STEP file as they stand in it, but for its geometry and its styles, which the kernel reads well and
+/// of which there is most. Of two records with one id the first one counts. The kernel's own entities know product
+/// manufacturing information only in part, and drop what is not as they expect it.
 class StepRecords
 {
 public:

@@ -61,9 +61,9 @@ function frame({ text, datums }) {
   if (!found) return written(text);
   const [, before, sign, inner, after = ''] = found;
   const compartments = [[sign], []];
-  const labels = datums.map(({ label }) => label);
+  const labels = datums.map(({ label }) => label.split('-')[0]); // "D Ⓜ-E Ⓜ" is of the common datum "D-E"
   for (const word of inner.split(' ')) {
-    if (word === labels[0]) {
+    if (word.split('-')[0] === labels[0]) {
       labels.shift();
       compartments.push([]);
     }

@@ -1,4 +1,4 @@
-#include "pmi/cylinder_count.h"
+#include "pmi/feature_count.h"
 
 #include <BRepAdaptor_Surface.hxx>
 #include <TopExp.hxx>
@@ -53,7 +53,7 @@ bool shareAnEdge(const TopoDS_Face& left, const TopoDS_Face& right)
 
 } // namespace
 
-std::size_t cylinderCount(const std::vector<TopoDS_Face>& faces)
+std::size_t featureCount(const std::vector<TopoDS_Face>& faces)
 {
     std::vector<std::size_t> groups; // of each face
     for (std::size_t i = 0; i < faces.size(); ++i)
@@ -61,9 +61,13 @@ std::size_t cylinderCount(const std::vector<TopoDS_Face>& faces)
         groups.push_back(i);
         for (std::size_t j = 0; j < i; ++j)
         {
-            const bool isOne = areOfOne(BRepAdaptor_Surface(faces[i], false), BRepAdaptor_Surface(faces[j], false)) &&
-                               shareAnEdge(faces[i], faces[j]);
-            std::replace(groups.begin(), groups.end(), isOne ? groups[j] : i, groups[i]);
+            if (areOfOne(BRepAdaptor_Surface(faces[i], false), BRepAdaptor_Surface(faces[j], false)) &&
+                shareAnEdge(faces[i], faces[j]))
+            {
+                const std::size_t joined = groups[j];
+                const std::size_t group = groups[i];
+                std::replace(groups.begin(), groups.end(), joined, group);
+            }
         }
     }
     return std::set<std::size_t>(groups.begin(), groups.end()).size();
