@@ -28,31 +28,25 @@ Places gridFrom(const Places& places, const Place& corner, const gp_XY& row, dou
     for (const Place& place : places)
     {
         const gp_XY column = place.point - corner.point;
-        if (first.size() < 2 || column.Crossed(row) >= 0 || std::abs(column.Dot(row)) > tolerance * row.Modulus())
+        if (first.size() < 2 || column.Modulus() <= tolerance || column.Crossed(row) >= 0 ||
+            std::abs(column.Dot(row)) > tolerance * row.Modulus())
         {
             continue;
         }
-        std::size_t width = first.size();
-        std::vector<Places> rows{first};
-        while (width > 1)
+        std::vector<Places> rows;
+        for (Places next = first; next.size() == first.size();)
         {
-            Places next;
-            for (std::size_t i = 0; i < width; ++i)
+            rows.push_back(std::move(next));
+            next.clear();
+            for (const Place& last : rows.back())
             {
-                const Place* const found = at(places, rows.back()[i].point + column, tolerance);
-                if (found == nullptr)
+                if (const Place* const found = at(places, last.point + column, tolerance))
                 {
-                    break;
+                    next.push_back(*found);
                 }
-                next.push_back(*found);
             }
-            if (next.size() < width) // a narrower grid may still go on
-            {
-                break;
-            }
-            rows.push_back(next);
         }
-        if (rows.size() > 1 && rows.size() * width > largest.size())
+        if (rows.size() > 1 && rows.size() * first.size() > largest.size())
         {
             largest.clear();
             for (const Places& one : rows)
