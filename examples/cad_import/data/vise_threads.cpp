@@ -119,7 +119,7 @@ private:
         const Handle(StepRepr_RepresentationItem) solid = STEPConstruct::FindEntity(m_made, part);
         for (int i = 1; i <= m_model->NbEntities(); ++i)
         {
-            const auto shape = Handle(StepShape_ShapeDefinitionRepresentation)::DownCast(m_model->Value(i));
+            auto shape = Handle(StepShape_ShapeDefinitionRepresentation)::DownCast(m_model->Value(i));
             const Handle(StepRepr_Representation) made =
                 shape.IsNull() ? Handle(StepRepr_Representation)() : shape->UsedRepresentation();
             for (int item = 1; !made.IsNull() && item <= made->NbItems(); ++item)
@@ -179,7 +179,7 @@ private:
 
     static Handle(StepRepr_DescriptiveRepresentationItem) textItem(const mp::wchar* name, const char* value)
     {
-        const Handle(StepRepr_DescriptiveRepresentationItem) item = new StepRepr_DescriptiveRepresentationItem;
+        Handle(StepRepr_DescriptiveRepresentationItem) item = new StepRepr_DescriptiveRepresentationItem;
         item->Init(text(name), new TCollection_HAsciiString(value));
         return item;
     }
@@ -200,7 +200,7 @@ private:
                 unit.SetValue(units->UnitsValue(i));
             }
         }
-        const Handle(StepRepr_MeasureRepresentationItem) item = new StepRepr_MeasureRepresentationItem;
+        Handle(StepRepr_MeasureRepresentationItem) item = new StepRepr_MeasureRepresentationItem;
         item->Init(text(name), member, unit);
         return item;
     }

@@ -67,6 +67,47 @@ std::vector<EdgeUse> edgesOf(const TopoDS_Face& face, std::size_t number, TopToo
     return uses;
 }
 
+// Which edges of an outline hang together, by their places in it.
+Groups connected(const std::vector<std::pair<int, bool>>& outline, const TopTools_IndexedMapOfShape& edges)
+{
+    Groups groups(outline.size());
+    TopTools_IndexedMapOfShape vertices;
+    std::vector<std::size_t> firstAt; // of each vertex the first edge
+    for (std::size_t i = 0; i < outline.size(); ++i)
+    {
+        for (TopExp_Explorer explorer(edges(outline[i].first + 1), TopAbs_VERTEX); explorer.More(); explorer.Next())
+        {
+            const auto vertex = static_cast<std::size_t>(vertices.Add(explorer.Current())) - 1;
+            if (vertex == firstAt.size())
+            {
+                firstAt.push_back(i);
+            }
+            groups.join(i, firstAt[vertex]);
+        }
+    }
+    return groups;
+}
+
+// Follows an edge around the axis of a frame, of which it gives the angle, and makes its loop as long as the edge is.
+double follow(const std::vector<gp_Pnt>& points, const gp_Ax2& frame, RegionLoop& loop)
+{
+    double angle = 0;
+    double last = 0;
+    bool isFirst = true;
+    for (const gp_Pnt& point : points)
+    {
+        const gp_Vec place(frame.Location(), point);
+        const double along = place.Dot(gp_Vec(frame.Direction()));
+        const double now = std::atan2(place.Dot(gp_Vec(frame.YDirection())), place.Dot(gp_Vec(frame.XDirection())));
+        angle += isFirst ? 0 : std::remainder(now - last, kFullTurn);
+        loop.low = std::min(loop.low, along);
+        loop.high = std::max(loop.high, along);
+        last = now;
+        isFirst = false;
+    }
+    return angle;
+}
+
 } // namespace
 
 FaceRegions::FaceRegions(const TopoDS_Shape& shell)
@@ -146,51 +187,23 @@ const std::vector<gp_Pnt>& FaceRegions::pointsOf(int edge) const
 std::vector<RegionLoop> FaceRegions::loops(std::size_t region, const gp_Ax1& axis) const
 {
     const std::vector<std::pair<int, bool>>& outline = m_regions[region].outline;
-    Groups groups(outline.size());
-    TopTools_IndexedMapOfShape vertices;
-    std::vector<std::size_t> firstAt; // of each vertex the first edge
-    for (std::size_t i = 0; i < outline.size(); ++i)
-    {
-        for (TopExp_Explorer explorer(m_edges(outline[i].first + 1), TopAbs_VERTEX); explorer.More(); explorer.Next())
-        {
-            const auto vertex = static_cast<std::size_t>(vertices.Add(explorer.Current())) - 1;
-            if (vertex == firstAt.size())
-            {
-                firstAt.push_back(i);
-            }
-            groups.join(i, firstAt[vertex]);
-        }
-    }
-
+    Groups groups = connected(outline, m_edges);
     const gp_Ax2 frame(axis.Location(), axis.Direction());
     std::vector<RegionLoop> loops;
     std::vector<double> angles;
     std::unordered_map<std::size_t, std::size_t> loopOf; // by group
     for (std::size_t i = 0; i < outline.size(); ++i)
     {
+        const auto& [edge, isReversed] = outline[i];
         const std::size_t loop = loopOf.insert({groups.of(i), loops.size()}).first->second;
-        const bool isNew = loop == loops.size();
-        if (isNew)
+        if (loop == loops.size())
         {
             loops.emplace_back();
             angles.push_back(0);
         }
-        loops[loop].edges.push_back(outline[i].first);
-        double angle = 0;
-        double last = 0;
-        bool isFirst = true;
-        for (const gp_Pnt& point : pointsOf(outline[i].first))
-        {
-            const gp_Vec place(axis.Location(), point);
-            const double along = place.Dot(gp_Vec(axis.Direction()));
-            const double now = std::atan2(place.Dot(gp_Vec(frame.YDirection())), place.Dot(gp_Vec(frame.XDirection())));
-            angle += isFirst ? 0 : std::remainder(now - last, kFullTurn);
-            loops[loop].low = isNew && isFirst ? along : std::min(loops[loop].low, along);
-            loops[loop].high = isNew && isFirst ? along : std::max(loops[loop].high, along);
-            last = now;
-            isFirst = false;
-        }
-        angles[loop] += outline[i].second ? -angle : angle;
+        loops[loop].edges.push_back(edge);
+        const double angle = follow(pointsOf(edge), frame, loops[loop]);
+        angles[loop] += isReversed ? -angle : angle;
     }
     for (std::size_t i = 0; i < loops.size(); ++i)
     {

@@ -7,15 +7,16 @@
 #include <gp_Pnt.hxx>
 
 #include <cstddef>
+#include <limits>
 #include <vector>
 
 /// A part of the outline of a region, of edges that hang together.
 struct RegionLoop
 {
-    std::vector<int> edges; // by their number in the shape
-    int turns = 0;          // how often it goes around the axis in question
-    double low = 0;         // where it lies along the axis, from its location
-    double high = 0;
+    std::vector<int> edges;                          // by their number in the shape
+    int turns = 0;                                   // how often it goes around the axis in question
+    double low = std::numeric_limits<double>::max(); // where it lies along the axis, from its location
+    double high = std::numeric_limits<double>::lowest();
 };
 
 /// Faces that hang together and are pieces of one surface: CAD systems and kernels split surfaces as they like.

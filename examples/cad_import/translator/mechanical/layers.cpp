@@ -56,7 +56,7 @@ TopoDS_Shape shapeOf(int item, const CadModel& model, const ShapeLinks& links)
 class Layers
 {
 public:
-    Layers(MechanicalData& data, std::vector<mp::wstring> names)
+    Layers(MechanicalData& data, const std::vector<mp::wstring>& names)
         : m_data(data)
     {
         for (const mp::wstring& name : names)

@@ -128,7 +128,7 @@ private:
     // Of a product, or of the solids that a shape aspect names; null for anything else.
     StatedMaterial* materialOf(const StepRecord& target)
     {
-        const int product = m_products.productOf(target).id();
+        const int product = ProductBlocks::productOf(target).id();
         std::vector<int> solids = target.is("SHAPE_ASPECT") ? aspect_items::solids(target) : std::vector<int>();
         if (product == 0 || (target.is("SHAPE_ASPECT") && solids.empty()))
         {
