@@ -296,7 +296,9 @@ private:
     {
         for (const mp::wstring& words : modifiers.others)
         {
-            note(label + WIDE(" ") + words);
+            mp::wstring line = label;
+            line += WIDE(' ');
+            note(line += words);
         }
     }
 
