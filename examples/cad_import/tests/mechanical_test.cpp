@@ -1,10 +1,10 @@
 #include "acis_kernel/acis_kernel.h"
 #include "common/framing.h"
+#include "common/material_units.h"
 #include "host/mechanical/hole_table.h"
 #include "host/mechanical/mechanical_json.h"
 #include "host/mechanical/mechanical_model.h"
 #include "host/mechanical/stated_report.h"
-#include "host/mechanical/units.h"
 #include "host/tree_output.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 

@@ -1,6 +1,6 @@
 #include "mechanical/part_materials.h"
 
-#include "mechanical/units.h"
+#include "common/material_units.h"
 
 #include <algorithm>
 #include <cmath>

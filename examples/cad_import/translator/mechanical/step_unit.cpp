@@ -259,17 +259,6 @@ private:
     std::array<Power, BaseCount> m_powers;
 };
 
-template <class Type>
-const BaseUnit* baseUnit(EBase base, Type type)
-{
-    const auto isIt = [base, type](const BaseUnit& one) {
-        return one.base == base && one.type == static_cast<std::int32_t>(type);
-    };
-    const auto* const si = std::find_if(std::begin(kSi), std::end(kSi), isIt);
-    const auto* const converted = std::find_if(std::begin(kConverted), std::end(kConverted), isIt);
-    return si != std::end(kSi) ? si : converted != std::end(kConverted) ? converted : nullptr;
-}
-
 } // namespace
 
 std::optional<vrx::ExcMiscMaterialProperty> propertyOf(const StepRecord& measure)
@@ -287,23 +276,4 @@ std::optional<vrx::ExcMiscMaterialProperty> propertyOf(const StepRecord& measure
     Compound compound(value[isPlainItem ? 1 : 0].number);
     const StepRecord unit = value.next(isPlainItem ? 2 : 1);
     return !unit || compound.multiply(unit) ? compound.property() : std::nullopt;
-}
-
-std::optional<double> gramsPerCubicCentimetre(const vrx::ExcMiscMaterialProperty& property)
-{
-    const vrx::ExcMiscMaterialProperty::Unit& unit = property.unit();
-    if (!unit.mass || unit.mass->dimension() != 1 || !unit.length || unit.length->dimension() != -3 || unit.time ||
-        unit.temperature)
-    {
-        return std::nullopt;
-    }
-    const BaseUnit* const mass = baseUnit(Mass, unit.mass->units());
-    const BaseUnit* const length = baseUnit(Length, unit.length->units());
-    if (mass == nullptr || length == nullptr)
-    {
-        return std::nullopt;
-    }
-    const double grams = mass->size * 1000;
-    const double centimetres = length->size * 100;
-    return property.value() * grams / (centimetres * centimetres * centimetres);
 }

@@ -9,6 +9,3 @@
 /// unit without a base unit of its own becomes those that it stands for, with their factor on the value. Nothing for
 /// what is no measure, a number that is not finite, or a unit that is not known.
 std::optional<vrx::ExcMiscMaterialProperty> propertyOf(const StepRecord& measure);
-
-/// Nothing for a property that is no density.
-std::optional<double> gramsPerCubicCentimetre(const vrx::ExcMiscMaterialProperty& property);

@@ -1,6 +1,6 @@
 #include "structure/component_maps.h"
 
-#include "mechanical/step_unit.h"
+#include "common/material_units.h"
 
 #include <cstdint>
 #include <map>
@@ -26,7 +26,8 @@ vrx::LegacyMaterialMap::Material componentMaterial(const vrx::ExcMiscMaterial& s
     material.name = stated.name();
     if (const auto density = stated.get(vrx::ExcMiscMaterial::EProperty::Density))
     {
-        material.density = gramsPerCubicCentimetre(*density).value_or(0);
+        // The map's densities are in g/cm3.
+        material.density = units::density(*density, vrx::ELengthUnitType::Unknown).value_or(0) / 1000;
     }
     return material;
 }

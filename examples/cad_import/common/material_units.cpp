@@ -1,4 +1,4 @@
-#include "mechanical/units.h"
+#include "common/material_units.h"
 
 #include "mp/narrow.h"
 
