@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The PMI of a file, as the host tells it. STEP_FILES may name the public test cases, which are held against what their
-# texts state and their drawings say.
+# texts state and their drawings say, of holes too.
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
 "$host" --quiet --pmi-table "$example/tests/pin.step" | sed -n '/^PMI/,$p' >"$scratch/table"
@@ -23,4 +23,5 @@ sed -n '/lid: block/,$p' "$scratch/cart" | grep -q "⌓ 0.7 all over" || fail "n
 for file in ${STEP_FILES:-}; do
     "$host" --quiet --json "$file" >"$scratch/pmi.json"
     node "$example/tests/stated_pmi.js" "$(basename "$file")" "$scratch/pmi.json" || fail "$file states other PMI"
+    node "$example/tests/stated_holes.js" "$(basename "$file")" "$scratch/pmi.json" || fail "$file has other holes"
 done
