@@ -18,6 +18,7 @@ namespace
 
 using Lines = std::multiset<std::string>;
 using Entities = std::vector<std::shared_ptr<vrx::ExcEntity>>;
+using Faces = std::set<std::pair<std::uint64_t, std::uint64_t>>; // by body and number
 
 double rounded(double value)
 {
@@ -31,9 +32,9 @@ std::string textOf(const vrx::ExcVector3d& vector)
     return text.str();
 }
 
-std::set<std::pair<std::uint64_t, std::uint64_t>> facesOf(const Entities& entities)
+Faces facesOf(const Entities& entities)
 {
-    std::set<std::pair<std::uint64_t, std::uint64_t>> faces;
+    Faces faces;
     for (const auto& entity : entities)
     {
         faces.emplace(entity->fsp()->bodyId(), entity->fsp()->subentId().index());
@@ -222,6 +223,53 @@ std::string generated(const char* name)
 TEST(Vise, hasTheHolesAndThreadsOfItsDesign)
 {
     EXPECT_THAT(featuresOf(importFile(generated("vise_features.step"))), testing::ContainerEq(designOf(true)));
+}
+
+// Each place of a part is a body of its own then, with features on its own faces.
+TEST(Vise, hasThemAtEachPlaceInOneBlock)
+{
+    const auto options = vrx::Command::newLegacyImportOptions();
+    options->setProductStructureMode(vrx::EProductStructureMode::None);
+    const Imported imported = importFile(generated("vise_one_block.step"), options);
+    ASSERT_EQ(imported.mechanical.size(), 1U);
+    ASSERT_TRUE(imported.mechanical.begin()->second->manufacturingData());
+    const vrx::ExcMfgData& all = *imported.mechanical.begin()->second->manufacturingData();
+
+    std::map<std::string, int> counts; // of the holes with a thread
+    for (const std::string& line : featuresOf(imported))
+    {
+        const std::size_t thread = line.find(", M") != std::string::npos ? line.find(", M") : line.find(", Tr");
+        ++counts[thread != std::string::npos ? line.substr(thread + 2) : ""];
+    }
+    counts.erase("");
+    EXPECT_THAT(counts, testing::UnorderedElementsAre(testing::Pair(std::string(kM8).substr(2), 8),
+                                                      testing::Pair(std::string(kM10).substr(2), 6),
+                                                      testing::Pair("Tr20x4 (20 p 4) x 32", 1)));
+    EXPECT_EQ(all.internalThreads().size(), 15U);
+    EXPECT_EQ(all.externalThreads().size(), 15U); // a screw in each but the nut, and the spindle
+
+    Faces faces;
+    std::size_t count = 0;
+    const auto note = [&](const Entities& entities) {
+        const Faces more = facesOf(entities);
+        EXPECT_FALSE(more.empty());
+        count += more.size();
+        faces.insert(more.begin(), more.end());
+    };
+    for (const auto& hole : all.simpleHoles())
+    {
+        note(hole->definingGeometry());
+    }
+    for (const auto& hole : all.counterBoreHoles())
+    {
+        note(hole->definingGeometry());
+    }
+    for (const auto& thread : all.externalThreads())
+    {
+        note(thread->sideFaces());
+    }
+    EXPECT_EQ(faces.size(), count);
+    EXPECT_EQ(all.counterBoreHoles().size(), 6U); // two of the fixed jaw, and two of each jaw plate
 }
 
 TEST(Vise, hasTheSameHolesInIges)
