@@ -9,6 +9,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <fstream>
+#include <map>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <utility>
@@ -270,6 +273,46 @@ TEST(Vise, hasThemAtEachPlaceInOneBlock)
     }
     EXPECT_EQ(faces.size(), count);
     EXPECT_EQ(all.counterBoreHoles().size(), 6U); // two of the fixed jaw, and two of each jaw plate
+}
+
+// With all threads of the base as those of one shape aspect, their pitch in inches, and depths without a unit.
+void stateOtherwise(const std::string& file)
+{
+    std::ostringstream stream;
+    stream << std::ifstream(file).rdbuf();
+    const std::string text = stream.str();
+    const std::regex usage(R"((GEOMETRIC_ITEM_SPECIFIC_USAGE\('','',)#(\d+),(#\d+,#\d+\);\s*#\d+ = SHAPE_ASPECT\()"
+                           R"('thread','M10x1.5',(#\d+)))");
+    std::map<std::string, std::string> first; // aspect by product
+    std::string changed;
+    std::sregex_iterator match(text.begin(), text.end(), usage);
+    auto end = text.cbegin();
+    for (; match != std::sregex_iterator(); ++match)
+    {
+        const std::string& aspect = first.insert({(*match)[4], (*match)[2]}).first->second;
+        changed.append(end, (*match)[0].first).append((*match)[1].str() + '#' + aspect + ',' + (*match)[3].str());
+        end = (*match)[0].second;
+    }
+    ASSERT_EQ(first.size(), 2U); // the screw and the base
+    changed.append(end, text.cend());
+    changed = std::regex_replace(changed, std::regex(R"('pitch',LENGTH_MEASURE\(1\.5\),\s*#\d+)"),
+                                 "'pitch',LENGTH_MEASURE(0.0590551181),#9000000");
+    changed = std::regex_replace(changed, std::regex(R"('depth',LENGTH_MEASURE\(16\.\),\s*#\d+)"),
+                                 "'depth',LENGTH_MEASURE(16.),$$");
+    changed.insert(changed.rfind("ENDSEC;"),
+                   "#9000000=(CONVERSION_BASED_UNIT('INCH',#9000001)LENGTH_UNIT()NAMED_UNIT(#9000003));\n"
+                   "#9000001=LENGTH_MEASURE_WITH_UNIT(LENGTH_MEASURE(25.4),#9000002);\n"
+                   "#9000002=(LENGTH_UNIT()NAMED_UNIT(*)SI_UNIT(.MILLI.,.METRE.));\n"
+                   "#9000003=DIMENSIONAL_EXPONENTS(1.,0.,0.,0.,0.,0.,0.);\n");
+    EXPECT_THAT(changed, testing::AllOf(testing::HasSubstr("(0.0590551181)"), testing::HasSubstr("(16.),$")));
+    std::ofstream(file) << changed;
+}
+
+TEST(Vise, hasTheSameThreadsWhenTheyAreStatedOtherwise)
+{
+    const std::string file = generated("vise_otherwise.step");
+    stateOtherwise(file);
+    EXPECT_THAT(featuresOf(importFile(file)), testing::ContainerEq(designOf(true)));
 }
 
 TEST(Vise, hasTheSameHolesInIges)
