@@ -116,6 +116,18 @@ const Row kRows[] = {
     {"blind taper", {{0, 0}, {0, 6}, {-20, 4}, {-20, 0}}, "taper 12 x 20 blind, 11.421 deg, at 0 0 0 to 0 0 -1"},
     {"upward taper", {{0, 0}, {0, 4}, {-30, 6}, {-30, 0}}, "taper 12 x 30 last, 7.628 deg, at 0 0 -30 to 0 0 1"},
     {"dimple", {{0, 0}, {0, 4}, {-4, 0}}, "taper 8 x 4 blind, 90 deg, at 0 0 0 to 0 0 -1"},
+    {"taper with a tip",
+     {{0, 0}, {0, 6}, {-20, 5}, {-23, 0}},
+     "taper 12 x 20 blind tip 118.072, 5.725 deg, at 0 0 0 to 0 0 -1"},
+    {"taper with a cut tip",
+     {{0, 0}, {0, 6}, {-20, 5}, {-22, 2}, {-22, 0}},
+     "taper 12 x 20 blind tip 112.62, 5.725 deg, at 0 0 0 to 0 0 -1"},
+    {"chamfered taper with a tip",
+     {{0, 0}, {0, 7}, {-1, 6}, {-21, 5}, {-24, 0}},
+     "taper 12 x 21 blind tip 118.072, 5.725 deg, at 0 0 0 to 0 0 -1"},
+    {"chamfered taper",
+     {{0, 0}, {0, 7}, {-1, 6}, {-21, 5}, {-21, 0}},
+     "taper 12 x 21 blind, 5.725 deg, at 0 0 0 to 0 0 -1"},
     {"counterbore",
      {{1, 0}, {1, 7}, {-9, 7}, {-9, 4}, {-31, 4}, {-31, 0}},
      "counterbore 8 x 30 last, 14 x 9, at 0 0 0 to 0 0 -1"},
@@ -206,6 +218,19 @@ TEST(Holes, thatMeetOthersOrHollows)
     // At a slant, where the axis leaves the block.
     EXPECT_THAT(textsOf(cut(block(), turned(drill(4, 20), gp::OY(), std::atan(0.75)))),
                 testing::ElementsAre("simple 8 x 20 blind, at 0 0 0 to -0.6 0 -0.8"));
+}
+
+// A little beside the middle of a counterbore, and far beside.
+TEST(Holes, inTheFloorOfOthers)
+{
+    const TopoDS_Shape pocket = cut(block(), drill(8, 10));
+    EXPECT_THAT(textsOf(cut(pocket, moved(drill(4.5, 31), 0.01, 0, 0))),
+                testing::ElementsAre("counterbore 9 x 30 last, 16 x 10, at 0.01 0 0 to 0 0 -1"));
+    EXPECT_THAT(textsOf(cut(pocket, moved(drill(4.5, 31), 1, 0, 0))),
+                testing::UnorderedElementsAre("simple 16 x 10 blind, at 0 0 0 to 0 0 -1",
+                                              "simple 9 x 20 last, at 1 0 -10 to 0 0 -1"));
+    EXPECT_THAT(textsOf(cut(pocket, box(gp_Pnt(-3, -3, -31), gp_Pnt(3, 3, 0)))),
+                testing::ElementsAre("simple 16 x 10 blind, at 0 0 0 to 0 0 -1"));
 }
 
 TEST(Holes, areNoBossesRoundsSlotsOrCavities)

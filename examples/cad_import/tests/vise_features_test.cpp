@@ -9,6 +9,9 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <fstream>
+#include <map>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <utility>
@@ -18,6 +21,7 @@ namespace
 
 using Lines = std::multiset<std::string>;
 using Entities = std::vector<std::shared_ptr<vrx::ExcEntity>>;
+using Faces = std::set<std::pair<std::uint64_t, std::uint64_t>>; // by body and number
 
 double rounded(double value)
 {
@@ -31,9 +35,9 @@ std::string textOf(const vrx::ExcVector3d& vector)
     return text.str();
 }
 
-std::set<std::pair<std::uint64_t, std::uint64_t>> facesOf(const Entities& entities)
+Faces facesOf(const Entities& entities)
 {
-    std::set<std::pair<std::uint64_t, std::uint64_t>> faces;
+    Faces faces;
     for (const auto& entity : entities)
     {
         faces.emplace(entity->fsp()->bodyId(), entity->fsp()->subentId().index());
@@ -222,6 +226,93 @@ std::string generated(const char* name)
 TEST(Vise, hasTheHolesAndThreadsOfItsDesign)
 {
     EXPECT_THAT(featuresOf(importFile(generated("vise_features.step"))), testing::ContainerEq(designOf(true)));
+}
+
+// Each place of a part is a body of its own then, with features on its own faces.
+TEST(Vise, hasThemAtEachPlaceInOneBlock)
+{
+    const auto options = vrx::Command::newLegacyImportOptions();
+    options->setProductStructureMode(vrx::EProductStructureMode::None);
+    const Imported imported = importFile(generated("vise_one_block.step"), options);
+    ASSERT_EQ(imported.mechanical.size(), 1U);
+    ASSERT_TRUE(imported.mechanical.begin()->second->manufacturingData());
+    const vrx::ExcMfgData& all = *imported.mechanical.begin()->second->manufacturingData();
+
+    std::map<std::string, int> counts; // of the holes with a thread
+    for (const std::string& line : featuresOf(imported))
+    {
+        const std::size_t thread = line.find(", M") != std::string::npos ? line.find(", M") : line.find(", Tr");
+        ++counts[thread != std::string::npos ? line.substr(thread + 2) : ""];
+    }
+    counts.erase("");
+    EXPECT_THAT(counts, testing::UnorderedElementsAre(testing::Pair(std::string(kM8).substr(2), 8),
+                                                      testing::Pair(std::string(kM10).substr(2), 6),
+                                                      testing::Pair("Tr20x4 (20 p 4) x 32", 1)));
+    EXPECT_EQ(all.internalThreads().size(), 15U);
+    EXPECT_EQ(all.externalThreads().size(), 15U); // a screw in each but the nut, and the spindle
+
+    Faces faces;
+    std::size_t count = 0;
+    const auto note = [&](const Entities& entities) {
+        const Faces more = facesOf(entities);
+        EXPECT_FALSE(more.empty());
+        count += more.size();
+        faces.insert(more.begin(), more.end());
+    };
+    for (const auto& hole : all.simpleHoles())
+    {
+        note(hole->definingGeometry());
+    }
+    for (const auto& hole : all.counterBoreHoles())
+    {
+        note(hole->definingGeometry());
+    }
+    for (const auto& thread : all.externalThreads())
+    {
+        note(thread->sideFaces());
+    }
+    EXPECT_EQ(faces.size(), count);
+    EXPECT_EQ(all.counterBoreHoles().size(), 6U); // two of the fixed jaw, and two of each jaw plate
+}
+
+// With all threads of the base as those of one shape aspect, their pitch in inches, and depths without a unit.
+void stateOtherwise(const std::string& file)
+{
+    std::ostringstream stream;
+    stream << std::ifstream(file).rdbuf();
+    const std::string text = stream.str();
+    const std::regex usage(R"((GEOMETRIC_ITEM_SPECIFIC_USAGE\('','',)#(\d+),(#\d+,#\d+\);\s*#\d+ = SHAPE_ASPECT\()"
+                           R"('thread','M10x1.5',(#\d+)))");
+    std::map<std::string, std::string> first; // aspect by product
+    std::string changed;
+    std::sregex_iterator match(text.begin(), text.end(), usage);
+    auto end = text.cbegin();
+    for (; match != std::sregex_iterator(); ++match)
+    {
+        const std::string& aspect = first.insert({(*match)[4], (*match)[2]}).first->second;
+        changed.append(end, (*match)[0].first).append((*match)[1].str() + '#' + aspect + ',' + (*match)[3].str());
+        end = (*match)[0].second;
+    }
+    ASSERT_EQ(first.size(), 2U); // the screw and the base
+    changed.append(end, text.cend());
+    changed = std::regex_replace(changed, std::regex(R"('pitch',LENGTH_MEASURE\(1\.5\),\s*#\d+)"),
+                                 "'pitch',LENGTH_MEASURE(0.0590551181),#9000000");
+    changed = std::regex_replace(changed, std::regex(R"('depth',LENGTH_MEASURE\(16\.\),\s*#\d+)"),
+                                 "'depth',LENGTH_MEASURE(16.),$$");
+    changed.insert(changed.rfind("ENDSEC;"),
+                   "#9000000=(CONVERSION_BASED_UNIT('INCH',#9000001)LENGTH_UNIT()NAMED_UNIT(#9000003));\n"
+                   "#9000001=LENGTH_MEASURE_WITH_UNIT(LENGTH_MEASURE(25.4),#9000002);\n"
+                   "#9000002=(LENGTH_UNIT()NAMED_UNIT(*)SI_UNIT(.MILLI.,.METRE.));\n"
+                   "#9000003=DIMENSIONAL_EXPONENTS(1.,0.,0.,0.,0.,0.,0.);\n");
+    EXPECT_THAT(changed, testing::AllOf(testing::HasSubstr("(0.0590551181)"), testing::HasSubstr("(16.),$")));
+    std::ofstream(file) << changed;
+}
+
+TEST(Vise, hasTheSameThreadsWhenTheyAreStatedOtherwise)
+{
+    const std::string file = generated("vise_otherwise.step");
+    stateOtherwise(file);
+    EXPECT_THAT(featuresOf(importFile(file)), testing::ContainerEq(designOf(true)));
 }
 
 TEST(Vise, hasTheSameHolesInIges)

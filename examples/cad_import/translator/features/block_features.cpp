@@ -1,7 +1,6 @@
 #include "features/block_features.h"
 
 #include "features/face_surface.h"
-#include "mechanical/shape_links.h"
 #include "mp/narrow.h"
 
 #include <algorithm>
@@ -67,6 +66,18 @@ vrx::ExcMfgHole::EBottomLimitExtentType extentOf(Hole::End end)
     }
 }
 
+template <class Add>
+void link(const std::vector<TopoDS_Face>& faces, const BodyFaces& body, const Add& add)
+{
+    for (const TopoDS_Face& face : faces)
+    {
+        if (const std::shared_ptr<vrx::ExcEntity> entity = body.entity(face))
+        {
+            add(entity);
+        }
+    }
+}
+
 } // namespace
 
 vrx::ExcVector3d BlockFeatures::point(const gp_Pnt& point) const
@@ -75,20 +86,8 @@ vrx::ExcVector3d BlockFeatures::point(const gp_Pnt& point) const
     return {point.X() * scale, point.Y() * scale, point.Z() * scale};
 }
 
-template <class Add>
-void BlockFeatures::link(const std::vector<TopoDS_Face>& faces, const Add& add) const
-{
-    for (const TopoDS_Face& face : faces)
-    {
-        if (const std::shared_ptr<vrx::ExcEntity> entity = m_links.entity(face, m_block))
-        {
-            add(entity);
-        }
-    }
-}
-
 template <class T>
-std::shared_ptr<vrx::ExcMfgFeatureHoleType<T>> BlockFeatures::feature(const Hole& hole,
+std::shared_ptr<vrx::ExcMfgFeatureHoleType<T>> BlockFeatures::feature(const Hole& hole, const BodyFaces& faces,
                                                                       const std::shared_ptr<T>& data) const
 {
     data->setPrimaryDiameter(hole.diameter * m_frame.scale());
@@ -102,25 +101,25 @@ std::shared_ptr<vrx::ExcMfgFeatureHoleType<T>> BlockFeatures::feature(const Hole
     feature->setHoleData(data);
     const auto define = [&feature](const auto& entity) { feature->addDefiningGeometry(entity); };
     const auto limit = [&feature](const auto& entity) { feature->addLimitingGeometry(entity); };
-    link(hole.walls, define);
-    link(hole.bottom, define);
-    link(limitsOf(hole), limit);
+    link(hole.walls, faces, define);
+    link(hole.bottom, faces, define);
+    link(limitsOf(hole), faces, limit);
     return feature;
 }
 
-void BlockFeatures::addHole(vrx::ExcMfgData& data, const Hole& hole) const
+void BlockFeatures::addHole(const Hole& hole, const BodyFaces& faces) const
 {
     const double scale = m_frame.scale();
     switch (hole.kind)
     {
     case Hole::Kind::Simple:
-        data.addSimpleHole(feature(hole, std::make_shared<vrx::ExcMfgSimpleHole>()));
+        m_data.addSimpleHole(feature(hole, faces, std::make_shared<vrx::ExcMfgSimpleHole>()));
         break;
     case Hole::Kind::Taper:
     {
         const auto taper = std::make_shared<vrx::ExcMfgTaperHole>();
         taper->setAngle(hole.angle);
-        data.addTaperHole(feature(hole, taper));
+        m_data.addTaperHole(feature(hole, faces, taper));
         break;
     }
     case Hole::Kind::CounterBore:
@@ -128,7 +127,7 @@ void BlockFeatures::addHole(vrx::ExcMfgData& data, const Hole& hole) const
         const auto bore = std::make_shared<vrx::ExcMfgCounterBoreHole>();
         bore->setDiameter(hole.counterDiameter * scale);
         bore->setDepth(hole.counterDepth * scale);
-        data.addCounterBoreHole(feature(hole, bore));
+        m_data.addCounterBoreHole(feature(hole, faces, bore));
         break;
     }
     case Hole::Kind::CounterSink:
@@ -136,7 +135,7 @@ void BlockFeatures::addHole(vrx::ExcMfgData& data, const Hole& hole) const
         const auto sink = std::make_shared<vrx::ExcMfgCounterSinkHole>();
         sink->setDiameter(hole.counterDiameter * scale);
         sink->setTaperAngle(hole.angle);
-        data.addCounterSinkHole(feature(hole, sink));
+        m_data.addCounterSinkHole(feature(hole, faces, sink));
         break;
     }
     case Hole::Kind::CounterDrill:
@@ -146,13 +145,13 @@ void BlockFeatures::addHole(vrx::ExcMfgData& data, const Hole& hole) const
         drill->setDepth(hole.counterDepth * scale);
         drill->setSinkDiameter(hole.sinkDiameter * scale);
         drill->setTaperAngle(hole.angle);
-        data.addCounterDrillHole(feature(hole, drill));
+        m_data.addCounterDrillHole(feature(hole, faces, drill));
         break;
     }
     }
 }
 
-void BlockFeatures::addPattern(vrx::ExcMfgData& data, const HolePattern& pattern, const std::vector<Hole>& holes) const
+void BlockFeatures::addPattern(const HolePattern& pattern, const std::vector<Hole>& holes, const BodyFaces& faces) const
 {
     const auto feature = std::make_shared<vrx::ExcMfgFeatureUnclassified>();
     const auto base = std::make_shared<vrx::ExcMfgPattern::Instance>();
@@ -160,14 +159,14 @@ void BlockFeatures::addPattern(vrx::ExcMfgData& data, const HolePattern& pattern
     base->setBaseInstance(true);
     const auto define = [&base](const auto& entity) { base->addDefining(entity); };
     const auto limit = [&base](const auto& entity) { base->addLimiting(entity); };
-    link(first.walls, define);
-    link(first.bottom, define);
-    link(limitsOf(first), limit);
+    link(first.walls, faces, define);
+    link(first.bottom, faces, define);
+    link(limitsOf(first), faces, limit);
     for (const std::size_t hole : pattern.holes)
     {
         const auto add = [&feature](const auto& entity) { feature->addLinkedElement(entity); };
-        link(holes[hole].walls, add);
-        link(holes[hole].bottom, add);
+        link(holes[hole].walls, faces, add);
+        link(holes[hole].bottom, faces, add);
     }
 
     if (pattern.isCircular)
@@ -195,14 +194,14 @@ void BlockFeatures::addPattern(vrx::ExcMfgData& data, const HolePattern& pattern
         grid->setBaseInstance(base);
         feature->setPattern(grid);
     }
-    const mp::wstring name = mp::toWide("pattern " + std::to_string(data.unclassifiedFeatures().size() + 1));
+    const mp::wstring name = mp::toWide("pattern " + std::to_string(m_data.unclassifiedFeatures().size() + 1));
     feature->setId(name);
     feature->setName(name);
-    data.addUnclassifiedFeature(feature);
+    m_data.addUnclassifiedFeature(feature);
 }
 
-void BlockFeatures::addThread(vrx::ExcMfgData& data, const StepThread& thread, const std::vector<TopoDS_Face>& faces,
-                              const Hole* hole) const
+void BlockFeatures::addThread(const StepThread& thread, const std::vector<std::shared_ptr<vrx::ExcEntity>>& sides,
+                              const TopoDS_Face& shape, const TappedHole* tapped) const
 {
     using EBottomType = vrx::ExcMfgThread::EBottomType;
     const double scale = m_frame.scale();
@@ -217,17 +216,18 @@ void BlockFeatures::addThread(vrx::ExcMfgData& data, const StepThread& thread, c
     {
         sizes->setBottomType(EBottomType::Dimension);
     }
-    if (hole != nullptr)
+    if (tapped != nullptr)
     {
-        sizes->setSupportDiameter(hole->diameter * scale);
-        sizes->setSupportDepth(hole->depth * scale);
+        const Hole& hole = tapped->hole;
+        sizes->setSupportDiameter(hole.diameter * scale);
+        sizes->setSupportDepth(hole.depth * scale);
         // All of the hole is tapped.
-        if (thread.depth == 0 || thread.depth >= hole->depth * (1 - kSameLength))
+        if (thread.depth == 0 || thread.depth >= hole.depth * (1 - kSameLength))
         {
             sizes->setBottomType(EBottomType::SupportDepth);
         }
     }
-    else if (const FaceSurface surface = surfaceOf(faces.front()); surface.kind == FaceSurface::Kind::Cylinder)
+    else if (const FaceSurface surface = surfaceOf(shape); surface.kind == FaceSurface::Kind::Cylinder)
     {
         sizes->setSupportDiameter(2 * surface.radius * scale);
     }
@@ -237,25 +237,29 @@ void BlockFeatures::addThread(vrx::ExcMfgData& data, const StepThread& thread, c
         feature.setId(name);
         feature.setName(name);
         feature.setThread(sizes);
-        link(faces, [&feature](const auto& entity) { feature.addSideFace(entity); });
-        if (hole != nullptr)
+        for (const std::shared_ptr<vrx::ExcEntity>& side : sides)
         {
-            link(hole->opening, [&feature](const auto& entity) { feature.addTopFace(entity); });
-            link(hole->end == Hole::End::Blind ? hole->bottom : hole->exit,
+            feature.addSideFace(side);
+        }
+        if (tapped != nullptr)
+        {
+            const auto& [hole, faces] = *tapped;
+            link(hole.opening, faces, [&feature](const auto& entity) { feature.addTopFace(entity); });
+            link(hole.end == Hole::End::Blind ? hole.bottom : hole.exit, faces,
                  [&feature](const auto& entity) { feature.addBottomFace(entity); });
         }
     };
-    const std::size_t before = data.internalThreads().size() + data.externalThreads().size();
+    const std::size_t before = m_data.internalThreads().size() + m_data.externalThreads().size();
     if (thread.isInternal)
     {
         const auto feature = std::make_shared<vrx::ExcMfgFeatureInternalThread>();
         fill(*feature, before);
-        data.addInternalThread(feature);
+        m_data.addInternalThread(feature);
     }
     else
     {
         const auto feature = std::make_shared<vrx::ExcMfgFeatureExternalThread>();
         fill(*feature, before);
-        data.addExternalThread(feature);
+        m_data.addExternalThread(feature);
     }
 }

@@ -286,10 +286,10 @@ FaceSurface surfaceOf(const TopoDS_Face& face)
     }
 }
 
-bool areCoaxial(const gp_Ax1& left, const gp_Ax1& right, double radius)
+bool areCoaxial(const gp_Ax1& left, const gp_Ax1& right, double radius, double tolerance)
 {
     return left.Direction().IsParallel(right.Direction(), kSameDirection) &&
-           gp_Lin(left).Distance(right.Location()) <= kSameAxis * radius;
+           gp_Lin(left).Distance(right.Location()) <= tolerance * radius;
 }
 
 bool areOne(const FaceSurface& left, const FaceSurface& right)

@@ -9,6 +9,9 @@ inline const double kSameLength = 1e-4;
 /// Axes are one when they lie no further apart than this part of the radius around them, ...
 inline const double kSameAxis = 1e-3;
 
+/// ... those on both sides of a flat step no further than this one, since they are bored one after the other, ...
+inline const double kSameStepAxis = 1e-2;
+
 /// ... and directions when the angle between them is no larger, in radians.
 inline const double kSameDirection = 1e-4;
 
@@ -41,5 +44,5 @@ FaceSurface surfaceOf(const TopoDS_Face& face);
 /// Whether faces with these surfaces that meet at an edge are pieces of one.
 bool areOne(const FaceSurface& left, const FaceSurface& right);
 
-/// For what has about this radius.
-bool areCoaxial(const gp_Ax1& left, const gp_Ax1& right, double radius);
+/// For what has about this radius, of which the tolerance is a part.
+bool areCoaxial(const gp_Ax1& left, const gp_Ax1& right, double radius, double tolerance = kSameAxis);

@@ -11,83 +11,124 @@
 #include <TopExp.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
 
-#include <algorithm>
-#include <iterator>
+#include <cstddef>
+#include <cstdint>
 #include <map>
+#include <optional>
+#include <set>
+#include <tuple>
 #include <utility>
 
 namespace
 {
 
-using BlockHoles = std::map<std::uint64_t, std::vector<Hole>>;
-
-std::vector<Hole> addHoles(MechanicalData& data, std::uint64_t block, const TopoDS_Shape& shape,
-                           const BlockFeatures& features)
+struct BodyHoles
 {
-    TopTools_IndexedMapOfShape solids;
-    if (!shape.IsNull())
+    BodyFaces faces;
+    std::vector<Hole> holes;
+    std::map<std::uint64_t, std::size_t> holeOf; // by the number of a wall
+};
+
+using HolesOfBodies = std::map<std::uint64_t, BodyHoles>; // by the id of the body
+
+/// The faces of a thread in one hole, or on one body without a hole.
+struct ThreadPlace
+{
+    std::uint64_t block = 0;
+    const BodyHoles* body = nullptr;
+    std::optional<std::size_t> hole;
+    TopoDS_Face shape; // of one of them
+    std::vector<std::shared_ptr<vrx::ExcEntity>> faces;
+};
+
+void addHoles(const BlockFeatures& features, const SolidHoles& found, const BodyFaces& faces)
+{
+    for (const Hole& hole : found.holes)
     {
-        TopExp::MapShapes(shape, TopAbs_SOLID, solids);
+        features.addHole(hole, faces);
     }
-    std::vector<Hole> all;
-    for (int i = 1; i <= solids.Extent(); ++i)
+    for (const HolePattern& pattern : patternsOf(found.holes, found.axes))
     {
-        SolidHoles found = holesOf(solids(i));
-        for (const Hole& hole : found.holes)
-        {
-            features.addHole(data.manufacturing(block), hole);
-        }
-        for (const HolePattern& pattern : patternsOf(found.holes, found.axes))
-        {
-            features.addPattern(data.manufacturing(block), pattern, found.holes);
-        }
-        std::move(found.holes.begin(), found.holes.end(), std::back_inserter(all));
+        features.addPattern(pattern, found.holes, faces);
     }
-    return all;
 }
 
-const Hole* holeWith(const std::vector<TopoDS_Face>& faces, const std::vector<Hole>& holes)
+BodyHoles bodyHoles(BodyFaces faces, std::vector<Hole> holes)
 {
-    for (const Hole& hole : holes)
+    BodyHoles body{std::move(faces), std::move(holes), {}};
+    for (std::size_t i = 0; i < body.holes.size(); ++i)
     {
-        for (const TopoDS_Face& wall : hole.walls)
+        for (const TopoDS_Face& wall : body.holes[i].walls)
         {
-            if (std::any_of(faces.begin(), faces.end(),
-                            [&wall](const TopoDS_Face& face) { return face.IsPartner(wall); }))
+            if (const std::shared_ptr<vrx::ExcEntity> entity = body.faces.entity(wall))
             {
-                return &hole;
+                body.holeOf.insert({entity->fsp()->subentId().index(), i});
             }
         }
     }
-    return nullptr;
+    return body;
 }
 
-void addThreads(MechanicalData& data, const CadModel& model, const ProductStructureBuilder& builder, ShapeLinks& links,
-                const BlockHoles& holes)
+// Wherever the faces stand: in the block that the thread tells of, or in all when that has no shape of its own.
+std::vector<ThreadPlace> placesOf(const StepThread& thread, std::uint64_t block, ShapeLinks& links,
+                                  const HolesOfBodies& bodies)
 {
-    const std::vector<StepThread> threads = threadsOf(*model.records);
-    if (threads.empty())
+    std::vector<ThreadPlace> places;
+    std::map<std::tuple<std::uint64_t, std::uint64_t, std::optional<std::size_t>>, std::size_t> known;
+    std::set<const TopoDS_TShape*> faces;
+    for (const TopoDS_Face& face : links.faces({thread.aspect}))
     {
-        return;
+        if (!faces.insert(face.TShape().get()).second)
+        {
+            continue;
+        }
+        for (const ShapeLinks::Link& link : links.everywhere(face))
+        {
+            if (!link.entity || (block != 0 && link.block != block))
+            {
+                continue;
+            }
+            ThreadPlace place{link.block, nullptr, std::nullopt, face, {}};
+            const auto path = link.entity->fsp();
+            const auto body = path && thread.isInternal ? bodies.find(path->bodyId()) : bodies.end();
+            if (body != bodies.end())
+            {
+                const auto hole = body->second.holeOf.find(path->subentId().index());
+                place.body = &body->second;
+                place.hole = hole != body->second.holeOf.end() ? std::optional(hole->second) : std::nullopt;
+            }
+            const auto key = std::make_tuple(link.block, path ? path->bodyId() : 0, place.hole);
+            const auto [at, isNew] = known.insert({key, places.size()});
+            if (isNew)
+            {
+                places.push_back(std::move(place));
+            }
+            places[at->second].faces.push_back(link.entity);
+        }
     }
+    return places;
+}
+
+void addThreads(MechanicalData& data, const std::vector<StepThread>& threads, const CadModel& model,
+                const ProductStructureBuilder& builder, ShapeLinks& links, const HolesOfBodies& bodies)
+{
     const ProductBlocks blocks(model, builder);
     for (const StepThread& thread : threads)
     {
-        const std::uint64_t block = blocks.of(thread.aspect);
-        std::vector<TopoDS_Face> faces;
-        for (const TopoDS_Face& face : links.faces({thread.aspect}))
+        const std::uint64_t stated = blocks.of(thread.aspect);
+        const std::uint64_t block = stated != 0 && !builder.shapeOf(stated).IsNull() ? stated : 0;
+        for (const ThreadPlace& place : placesOf(thread, block, links, bodies))
         {
-            if (block != 0 && links.entity(face, block))
+            const BlockFeatures features(data.manufacturing(place.block), builder.frame());
+            if (place.hole)
             {
-                faces.push_back(face);
+                const TappedHole tapped{place.body->holes[*place.hole], place.body->faces};
+                features.addThread(thread, place.faces, place.shape, &tapped);
             }
-        }
-        if (!faces.empty())
-        {
-            const auto found = holes.find(block);
-            const Hole* const hole =
-                thread.isInternal && found != holes.end() ? holeWith(faces, found->second) : nullptr;
-            BlockFeatures(block, builder.frame(), links).addThread(data.manufacturing(block), thread, faces, hole);
+            else
+            {
+                features.addThread(thread, place.faces, place.shape, nullptr);
+            }
         }
     }
 }
@@ -96,18 +137,34 @@ void addThreads(MechanicalData& data, const CadModel& model, const ProductStruct
 
 void addFeatures(MechanicalData& data, const CadModel& model, const ProductStructureBuilder& builder, ShapeLinks& links)
 {
-    BlockHoles holes;
+    const std::vector<StepThread> threads = model.records ? threadsOf(*model.records) : std::vector<StepThread>();
+    HolesOfBodies bodies;
     for (std::uint64_t block = 1; block <= builder.blockCount(); ++block)
     {
-        const BlockFeatures features(block, builder.frame(), links);
-        std::vector<Hole> found = addHoles(data, block, builder.shapeOf(block), features);
-        if (!found.empty())
+        const std::vector<std::uint64_t>& ids = links.bodyIds(block);
+        TopTools_IndexedMapOfShape solids;
+        if (!ids.empty())
         {
-            holes[block] = std::move(found);
+            TopExp::MapShapes(builder.shapeOf(block), TopAbs_SOLID, solids);
+        }
+        for (std::size_t i = 0; i < ids.size(); ++i)
+        {
+            const TopoDS_Shape& solid = solids(static_cast<int>(i) + 1);
+            SolidHoles found = holesOf(solid);
+            if (found.holes.empty())
+            {
+                continue;
+            }
+            BodyFaces faces(ids[i], solid);
+            addHoles(BlockFeatures(data.manufacturing(block), builder.frame()), found, faces);
+            if (!threads.empty())
+            {
+                bodies.emplace(ids[i], bodyHoles(std::move(faces), std::move(found.holes)));
+            }
         }
     }
-    if (model.records)
+    if (!threads.empty())
     {
-        addThreads(data, model, builder, links, holes);
+        addThreads(data, threads, model, builder, links, bodies);
     }
 }

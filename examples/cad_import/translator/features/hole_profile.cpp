@@ -43,6 +43,13 @@ std::vector<HoleSection> seenFromOpening(const std::vector<HoleSection>& section
     return seen;
 }
 
+// The tip behind a taper is blunter: either pointed, or by far.
+bool isTipOfTaper(const HoleSection& cone, const HoleSection& taper)
+{
+    const bool isPointed = cone.radiusAtEnd <= kSameLength * cone.radiusAtBegin;
+    return angleOf(cone) > (isPointed ? 1 : 2) * angleOf(taper);
+}
+
 } // namespace
 
 void setProfile(Hole& hole, const std::vector<HoleSection>& sections)
@@ -54,7 +61,8 @@ void setProfile(Hole& hole, const std::vector<HoleSection>& sections)
     }
     const bool hasCylinder =
         std::any_of(parts.begin(), parts.end(), [](const HoleSection& part) { return !part.isCone; });
-    if (hole.end == Hole::End::Blind && hasCylinder && sections.back().isCone && parts.back().isCone)
+    const bool mayBeTip = hole.end == Hole::End::Blind && sections.back().isCone && parts.back().isCone;
+    if (mayBeTip && (hasCylinder || (parts.size() > 1 && isTipOfTaper(parts.back(), parts[parts.size() - 2]))))
     {
         hole.tipAngle = angleOf(parts.back());
         parts.pop_back();

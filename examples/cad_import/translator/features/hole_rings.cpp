@@ -209,8 +209,8 @@ void HoleRings::joinAcrossSteps()
             RingEnd& end = m_ends[static_cast<std::size_t>(number)];
             const auto next = std::find_if(plane.behind.begin(), plane.behind.end(), [&](int candidate) {
                 const RingEnd& other = m_ends[static_cast<std::size_t>(candidate)];
-                return other.next < 0 &&
-                       areCoaxial(surfaceOf(end).axis, surfaceOf(other).axis, radiusOf(surfaceOf(other), other.place));
+                return other.next < 0 && areCoaxial(surfaceOf(end).axis, surfaceOf(other).axis,
+                                                    radiusOf(surfaceOf(other), other.place), kSameStepAxis);
             });
             if (next != plane.behind.end())
             {
@@ -218,7 +218,7 @@ void HoleRings::joinAcrossSteps()
                 m_ends[static_cast<std::size_t>(*next)].next = number;
                 end.step = m_ends[static_cast<std::size_t>(*next)].step = static_cast<int>(region);
             }
-            else if (closes(region, end))
+            else // a floor, whatever goes through it
             {
                 end.bottom = static_cast<int>(region);
             }

@@ -5,6 +5,7 @@
 #include "reading/step_measures.h"
 
 #include <cmath>
+#include <string>
 #include <utility>
 
 namespace
@@ -40,6 +41,23 @@ struct Items
     }
 };
 
+// In millimetres, and 0 for what is no length. What has no unit of its own has that of its representation.
+double lengthOf(const StepRecord& item, double factor)
+{
+    if (const StepQuantity quantity = quantityOf(item))
+    {
+        return quantity.in(StepQuantity::EUnit::Mm).value;
+    }
+    const bool isMeasure = item.is("MEASURE_WITH_UNIT");
+    const StepRecord measure = item.as(isMeasure                                ? "MEASURE_WITH_UNIT"
+                                       : item.is("MEASURE_REPRESENTATION_ITEM") ? "MEASURE_REPRESENTATION_ITEM"
+                                                                                : "VALUE_REPRESENTATION_ITEM");
+    const StepParameter& value = measure[isMeasure ? 0 : 1];
+    const bool hasUnit = measure[isMeasure ? 1 : 2].reference != 0;
+    const bool isLength = value.type.find("LENGTH") != std::string::npos;
+    return isLength && !hasUnit ? value.number * factor : 0;
+}
+
 Items itemsOf(const StepRecord& aspect, const StepRecords& records)
 {
     Items items;
@@ -61,8 +79,8 @@ Items itemsOf(const StepRecord& aspect, const StepRecords& records)
                 }
                 else
                 {
-                    const StepQuantity quantity = quantityOf(item);
-                    items.lengths.emplace_back(quantity.name, quantity.value * factor);
+                    const StepRecord named = item.is("REPRESENTATION_ITEM") ? item.as("REPRESENTATION_ITEM") : item;
+                    items.lengths.emplace_back(named.text(0), lengthOf(item, factor));
                 }
             }
         }

@@ -146,6 +146,11 @@ std::optional<std::size_t> ShapeLinks::bodyNumber(const TopoDS_Shape& solid, std
     return id != ids.end() ? std::optional(static_cast<std::size_t>(id - ids.begin())) : std::nullopt;
 }
 
+const std::vector<std::uint64_t>& ShapeLinks::bodyIds(std::uint64_t block) const
+{
+    return m_bodies.ids(block);
+}
+
 std::vector<ShapeLinks::Link> ShapeLinks::everywhere(const TopoDS_Shape& shape)
 {
     findHolders();

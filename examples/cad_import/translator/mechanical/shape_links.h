@@ -34,6 +34,9 @@ public:
     /// The position of a solid, where it first stands, among the bodies of a block, if it is one of them.
     std::optional<std::size_t> bodyNumber(const TopoDS_Shape& solid, std::uint64_t block);
 
+    /// The ids of the bodies of a block, in the order of its solids.
+    const std::vector<std::uint64_t>& bodyIds(std::uint64_t block) const;
+
     /// An entity of a block, and what the kernel has made of it.
     struct Link
     {

@@ -1,0 +1,23 @@
+#include "features/body_faces.h"
+
+#include <TopExp.hxx>
+
+BodyFaces::BodyFaces(std::uint64_t bodyId, const TopoDS_Shape& solid)
+    : m_bodyId(bodyId)
+{
+    TopExp::MapShapes(solid, TopAbs_FACE, m_faces);
+}
+
+std::shared_ptr<vrx::ExcEntity> BodyFaces::entity(const TopoDS_Face& face) const
+{
+    const int number = m_faces.FindIndex(face);
+    if (number == 0)
+    {
+        return nullptr;
+    }
+    const vrx::ExcSubentId part(vrx::ExcSubentId::EType::Face, static_cast<std::uint64_t>(number - 1));
+    auto entity = std::make_shared<vrx::ExcEntity>();
+    entity->setType(vrx::ExcEntity::EType::Fsp);
+    entity->setFsp(std::make_shared<vrx::ExcFullSubentPath>(m_bodyId, part));
+    return entity;
+}
