@@ -82,9 +82,9 @@ std::vector<std::string> texts(const std::vector<std::shared_ptr<vrx::ExcEntity>
     return all;
 }
 
-TEST_F(Rod, IsOfAMaterialInItsOwnUnits)
+TEST_F(Rod, IsOfMaterialsInTheirOwnUnits)
 {
-    ASSERT_EQ(rod.miscData()->materials().size(), 1U);
+    ASSERT_EQ(rod.miscData()->materials().size(), 2U);
     const vrx::ExcMiscMaterial& steel = *rod.miscData()->materials()[0];
     EXPECT_EQ(steel.name(), WIDE("C45"));
     EXPECT_TRUE(steel.isPartLevelMaterial());
@@ -97,6 +97,11 @@ TEST_F(Rod, IsOfAMaterialInItsOwnUnits)
     EXPECT_EQ(text(steel, EProperty::ThermalExpansionCoefficient), "1.1e-05 kelvin-1");
     EXPECT_EQ(text(steel, EProperty::SpecificHeat), "460 meter2 second-2 kelvin-1");
     EXPECT_EQ(text(steel, EProperty::ShearModulus), "7.99791846e+10 kilogram1 meter-1 second-2");
+
+    const vrx::ExcMiscMaterial& iron = *rod.miscData()->materials()[1];
+    EXPECT_EQ(iron.name(), WIDE("GJL 200"));
+    EXPECT_TRUE(iron.isPartLevelMaterial());
+    EXPECT_EQ(text(iron, EProperty::Density), "7e-06 kilogram1 millimeter-3");
 }
 
 TEST_F(Rod, HasMaterialsAndFiguresOfSingleBodies)
