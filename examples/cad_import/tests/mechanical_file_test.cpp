@@ -18,14 +18,14 @@ using testing::ElementsAre;
 using EProperty = vrx::ExcMiscMaterial::EProperty;
 using ELineType = vrx::ExcTopologicalEntityInformation::ELineType;
 
-// The rod is block 1, the two balls are block 2.
+// The rod is block 1, the two balls are block 3, of which the assembly in block 2 has two.
 class Rod : public testing::Test
 {
 protected:
     Rod()
         : imported(importFile(ROD))
         , rod(*imported.mechanical.at(1))
-        , balls(*imported.mechanical.at(2))
+        , balls(*imported.mechanical.at(3))
     {
     }
 
@@ -122,13 +122,37 @@ TEST_F(Rod, HasMaterialsAndFiguresOfSingleBodies)
     ASSERT_EQ(balls.miscData()->noteParameters().size(), 1U);
     const vrx::ExcMiscNoteParameters& figures = *balls.miscData()->noteParameters()[0];
     EXPECT_EQ(figures.name(), WIDE("b1"));
-    ASSERT_EQ(figures.properties().properties().size(), 1U);
+    ASSERT_EQ(figures.properties().properties().size(), 2U);
     EXPECT_EQ(figures.properties().properties()[0].name(), WIDE("volume measure"));
     EXPECT_EQ(figures.properties().properties()[0].value(), WIDE("523.6"));
+    EXPECT_EQ(figures.properties().properties()[1].value(), WIDE("40 0 0"));
 
     ASSERT_EQ(balls.entityData()->data().size(), 1U);
     EXPECT_EQ(balls.entityData()->data()[0]->entity()->fsp()->bodyId(), right);
     EXPECT_TRUE(balls.entityData()->data()[0]->isHidden());
+}
+
+// The centroid is stated in the coordinates of the part.
+TEST_F(Rod, HasFiguresOfBodiesWhosePartIsNoBlock)
+{
+    const auto options = vrx::Command::newLegacyImportOptions();
+    options->setProductStructureMode(vrx::EProductStructureMode::None);
+    const Imported flat = importFile(ROD, options);
+    std::vector<std::string> names;
+    for (const auto& figures : flat.mechanical.at(2)->miscData()->noteParameters())
+    {
+        names.push_back(mp::toNarrow(figures->name()));
+        EXPECT_EQ(figures->properties().properties().size(), 1U);
+    }
+    EXPECT_THAT(names, ElementsAre("b1", "b3"));
+}
+
+TEST_F(Rod, HasOneOfTheMaterialsForAllItsBodiesAsAComponent)
+{
+    const auto options = vrx::Command::newLegacyImportOptions();
+    const Imported legacy = importFile(ROD, options);
+    EXPECT_EQ(legacy.materials->map().at(OdDbHandle(1)).name, WIDE("C45"));
+    EXPECT_FALSE(legacy.materials->map().at(OdDbHandle(3)).hasMaterial); // the balls of two materials
 }
 
 TEST_F(Rod, IsOnLayers)
@@ -149,7 +173,7 @@ TEST_F(Rod, IsOnLayers)
     EXPECT_EQ(ofBalls.name(), WIDE("balls"));
     EXPECT_EQ(ofBalls.entities().size(), 2U);
 
-    const auto root = imported.scenes.at(2)->visualizationData()->sceneRootNodes().at(0);
+    const auto root = imported.scenes.at(3)->visualizationData()->sceneRootNodes().at(0);
     const auto bodies = root->childNodes().at(0)->childNodes().at(0)->childNodes();
     ASSERT_EQ(bodies.size(), 2U);
     EXPECT_EQ(bodies[0]->attributes(), nullptr);
