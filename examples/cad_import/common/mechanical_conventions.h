@@ -12,7 +12,7 @@
 /// - A layer stands in the data of each block that has something on it, with the same id and name. Its entities are
 ///   bodies, in all their places in the block, faces, edges, what belongs to no body, and annotations.
 /// - Entity data has the names that the file gives faces and edges as their persistent names. What a layer that is
-///   switched off in the file hides is hidden there, whole bodies too.
+///   switched off in the file hides is hidden there, whole bodies and annotations too.
 /// - Figures that the file states of a part for a receiver to check its work with are free properties of its block,
 ///   under the names that the file gives them. Those of a single body are note parameters of the block, named by
 ///   the body's mechanical id, such as "b0".

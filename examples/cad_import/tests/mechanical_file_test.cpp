@@ -18,14 +18,14 @@ using testing::ElementsAre;
 using EProperty = vrx::ExcMiscMaterial::EProperty;
 using ELineType = vrx::ExcTopologicalEntityInformation::ELineType;
 
-// The rod is block 1, the two balls are block 2.
+// The rod is block 1, the two balls are block 3, of which the assembly in block 2 has two.
 class Rod : public testing::Test
 {
 protected:
     Rod()
         : imported(importFile(ROD))
         , rod(*imported.mechanical.at(1))
-        , balls(*imported.mechanical.at(2))
+        , balls(*imported.mechanical.at(3))
     {
     }
 
@@ -82,9 +82,9 @@ std::vector<std::string> texts(const std::vector<std::shared_ptr<vrx::ExcEntity>
     return all;
 }
 
-TEST_F(Rod, IsOfAMaterialInItsOwnUnits)
+TEST_F(Rod, IsOfMaterialsInTheirOwnUnits)
 {
-    ASSERT_EQ(rod.miscData()->materials().size(), 1U);
+    ASSERT_EQ(rod.miscData()->materials().size(), 2U);
     const vrx::ExcMiscMaterial& steel = *rod.miscData()->materials()[0];
     EXPECT_EQ(steel.name(), WIDE("C45"));
     EXPECT_TRUE(steel.isPartLevelMaterial());
@@ -97,6 +97,11 @@ TEST_F(Rod, IsOfAMaterialInItsOwnUnits)
     EXPECT_EQ(text(steel, EProperty::ThermalExpansionCoefficient), "1.1e-05 kelvin-1");
     EXPECT_EQ(text(steel, EProperty::SpecificHeat), "460 meter2 second-2 kelvin-1");
     EXPECT_EQ(text(steel, EProperty::ShearModulus), "7.99791846e+10 kilogram1 meter-1 second-2");
+
+    const vrx::ExcMiscMaterial& iron = *rod.miscData()->materials()[1];
+    EXPECT_EQ(iron.name(), WIDE("GJL 200"));
+    EXPECT_TRUE(iron.isPartLevelMaterial());
+    EXPECT_EQ(text(iron, EProperty::Density), "7e-06 kilogram1 millimeter-3");
 }
 
 TEST_F(Rod, HasMaterialsAndFiguresOfSingleBodies)
@@ -117,13 +122,37 @@ TEST_F(Rod, HasMaterialsAndFiguresOfSingleBodies)
     ASSERT_EQ(balls.miscData()->noteParameters().size(), 1U);
     const vrx::ExcMiscNoteParameters& figures = *balls.miscData()->noteParameters()[0];
     EXPECT_EQ(figures.name(), WIDE("b1"));
-    ASSERT_EQ(figures.properties().properties().size(), 1U);
+    ASSERT_EQ(figures.properties().properties().size(), 2U);
     EXPECT_EQ(figures.properties().properties()[0].name(), WIDE("volume measure"));
     EXPECT_EQ(figures.properties().properties()[0].value(), WIDE("523.6"));
+    EXPECT_EQ(figures.properties().properties()[1].value(), WIDE("40 0 0"));
 
     ASSERT_EQ(balls.entityData()->data().size(), 1U);
     EXPECT_EQ(balls.entityData()->data()[0]->entity()->fsp()->bodyId(), right);
     EXPECT_TRUE(balls.entityData()->data()[0]->isHidden());
+}
+
+// The centroid is stated in the coordinates of the part.
+TEST_F(Rod, HasFiguresOfBodiesWhosePartIsNoBlock)
+{
+    const auto options = vrx::Command::newLegacyImportOptions();
+    options->setProductStructureMode(vrx::EProductStructureMode::None);
+    const Imported flat = importFile(ROD, options);
+    std::vector<std::string> names;
+    for (const auto& figures : flat.mechanical.at(2)->miscData()->noteParameters())
+    {
+        names.push_back(mp::toNarrow(figures->name()));
+        EXPECT_EQ(figures->properties().properties().size(), 1U);
+    }
+    EXPECT_THAT(names, ElementsAre("b1", "b3"));
+}
+
+TEST_F(Rod, HasOneOfTheMaterialsForAllItsBodiesAsAComponent)
+{
+    const auto options = vrx::Command::newLegacyImportOptions();
+    const Imported legacy = importFile(ROD, options);
+    EXPECT_EQ(legacy.materials->map().at(OdDbHandle(1)).name, WIDE("C45"));
+    EXPECT_FALSE(legacy.materials->map().at(OdDbHandle(3)).hasMaterial); // the balls of two materials
 }
 
 TEST_F(Rod, IsOnLayers)
@@ -133,10 +162,10 @@ TEST_F(Rod, IsOnLayers)
     EXPECT_EQ(layers[0]->id(), 7);
     EXPECT_EQ(layers[0]->name(), WIDE("layer 007: turned"));
     const std::vector<std::uint64_t> body = {layers[0]->entities().at(0)->fsp()->bodyId()};
-    EXPECT_THAT(texts(layers[0]->entities(), body), ElementsAre("b0"));
+    EXPECT_THAT(texts(layers[0]->entities(), body), ElementsAre("b0", "f0"));
     EXPECT_EQ(layers[1]->id(), 1);
     EXPECT_EQ(layers[1]->name(), WIDE("notes"));
-    EXPECT_THAT(texts(layers[1]->entities(), body), ElementsAre("1/0/notes/0", "f0"));
+    EXPECT_THAT(texts(layers[1]->entities(), body), ElementsAre("1/0/notes/0"));
 
     ASSERT_EQ(balls.miscData()->layers().size(), 1U);
     const vrx::ExcMiscLayer& ofBalls = *balls.miscData()->layers()[0];
@@ -144,7 +173,7 @@ TEST_F(Rod, IsOnLayers)
     EXPECT_EQ(ofBalls.name(), WIDE("balls"));
     EXPECT_EQ(ofBalls.entities().size(), 2U);
 
-    const auto root = imported.scenes.at(2)->visualizationData()->sceneRootNodes().at(0);
+    const auto root = imported.scenes.at(3)->visualizationData()->sceneRootNodes().at(0);
     const auto bodies = root->childNodes().at(0)->childNodes().at(0)->childNodes();
     ASSERT_EQ(bodies.size(), 2U);
     EXPECT_EQ(bodies[0]->attributes(), nullptr);
@@ -166,7 +195,7 @@ TEST_F(Rod, HasNamesAndStylesOfFacesAndEdges)
         line += one->lineType() == ELineType::Dash && one->lineThickness() == 0.5 ? " dashed" : "";
         lines.push_back(line);
     }
-    EXPECT_THAT(lines, ElementsAre("f0 mantle", "e0 rim dashed", "f2 hidden"));
+    EXPECT_THAT(lines, ElementsAre("1/0/notes/0 hidden", "f0 mantle", "e0 rim dashed", "f2 hidden"));
 }
 
 TEST(InstanceStyles, GiveOneScrewItsOwnColor)

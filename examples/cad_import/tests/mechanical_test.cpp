@@ -311,10 +311,13 @@ TEST(Mechanical, LeavesOutWhatDoesNotFitTogether)
     features.addUnclassifiedFeature(std::make_shared<vrx::ExcMfgFeatureUnclassified>());
 
     block.entities->addData(std::make_shared<vrx::ExcTopologicalEntityInformation>());
-    const auto hidden = std::make_shared<vrx::ExcTopologicalEntityInformation>();
-    hidden->setEntity(block.face(2, 1));
-    hidden->setHidden(true);
-    block.entities->addData(hidden);
+    for (const auto& one : {block.face(2, 1), named(WIDE("5/0/notes/3"))})
+    {
+        const auto hidden = std::make_shared<vrx::ExcTopologicalEntityInformation>();
+        hidden->setEntity(one);
+        hidden->setHidden(true);
+        block.entities->addData(hidden);
+    }
     for (const auto& other : {block.face(2, 1), block.face(1, 1)})
     {
         const auto layer = std::make_shared<vrx::ExcMiscLayer>();
@@ -333,7 +336,7 @@ TEST(Mechanical, LeavesOutWhatDoesNotFitTogether)
     EXPECT_EQ(json["holes"][1]["faces"].Size(), 0U);
     EXPECT_EQ(json["patterns"].Size(), 0U);
     EXPECT_EQ(json["threads"].Size(), 1U);
-    EXPECT_EQ(json["entities"].Size(), 1U);
+    EXPECT_EQ(json["entities"].Size(), 2U);
     EXPECT_TRUE(json["layers"][0]["hidden"].GetBool());
     EXPECT_FALSE(json["layers"][1]["hidden"].GetBool());
     EXPECT_STREQ(json["layers"][1]["entities"][2].GetString(), "5/0/notes/3");

@@ -193,11 +193,11 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     {
         drawnIds = addPmi(mechanical, model, builder, links, *drawn);
     }
+    const bool showsHidden = settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow;
     if (settings.layers)
     {
-        addLayers(mechanical, model, builder, links, drawn.get(), drawnIds);
+        addLayers(mechanical, model, builder, links, drawn.get(), drawnIds, showsHidden);
     }
-    const bool showsHidden = settings.hiddenParts == vrx::EHiddenPartsMode::ImportShow;
     const auto hidden = showsHidden ? std::vector<ShapeLinks::Link>() : hiddenOnLayers(model, links);
     addEntityInformation(mechanical, model, builder.frame(), links, hidden, showsHidden);
     addFeatures(mechanical, model, builder, links);

@@ -9,19 +9,19 @@
 namespace
 {
 
-// Not a vertex, such as "v4", and not an annotation, whose id names its view too, such as "1/0/notes/3".
-bool isDrawnShape(const mp::wstring& id)
+// Not a vertex, such as "v4" or "0/v4".
+bool isDrawn(const mp::wstring& id)
 {
     const std::size_t slash = id.rfind(WIDE('/'));
     const std::size_t kind = slash == mp::wstring::npos ? 0 : slash + 1;
-    return std::count(id.begin(), id.end(), WIDE('/')) < 2 && id.compare(kind, 1, WIDE("v")) != 0;
+    return id.compare(kind, 1, WIDE("v")) != 0;
 }
 
 bool areHidden(const std::vector<mp::wstring>& entities, const std::set<mp::wstring>& hidden)
 {
-    return std::any_of(entities.begin(), entities.end(), isDrawnShape) &&
+    return std::any_of(entities.begin(), entities.end(), isDrawn) &&
            std::all_of(entities.begin(), entities.end(),
-                       [&hidden](const mp::wstring& id) { return !isDrawnShape(id) || hidden.count(id) != 0; });
+                       [&hidden](const mp::wstring& id) { return !isDrawn(id) || hidden.count(id) != 0; });
 }
 
 } // namespace

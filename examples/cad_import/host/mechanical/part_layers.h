@@ -10,10 +10,10 @@ struct PartLayer
     std::int32_t id = 0;
     mp::wstring name;
     std::vector<mp::wstring> entities; // mechanical ids
-    bool isHidden = false;             // all shapes on it are, and there are some
+    bool isHidden = false;             // all that is drawn on it is, and there is some
 };
 
-/// What is known of a body, a face or an edge beside its shape.
+/// What is known of a body, a face, an edge or an annotation beside its shape.
 struct PartEntity
 {
     mp::wstring entity; // a mechanical id

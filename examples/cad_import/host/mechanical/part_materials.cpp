@@ -28,18 +28,30 @@ const PropertyName kProperties[] = {
     {EProperty::ShearModulus, WIDE("shear_modulus")},
 };
 
+// The one density that materials state; nothing for several, since it is not known which of them holds.
+std::optional<double> onlyDensity(const std::vector<double>& densities)
+{
+    const bool isOne = std::all_of(densities.begin(), densities.end(), [&densities](double density) {
+        return std::abs(density - densities.front()) <= 1e-6 * densities.front();
+    });
+    return isOne && !densities.empty() ? std::optional<double>(densities.front()) : std::nullopt;
+}
+
 std::optional<double> densityOf(std::size_t body, const std::vector<PartMaterial>& materials)
 {
-    const PartMaterial* general = nullptr;
+    std::vector<double> own;
+    std::vector<double> general;
+    bool isNamed = false;
     for (const PartMaterial& material : materials)
     {
-        if (std::find(material.bodies.begin(), material.bodies.end(), body) != material.bodies.end())
+        const bool namesBody = std::find(material.bodies.begin(), material.bodies.end(), body) != material.bodies.end();
+        isNamed = isNamed || namesBody;
+        if (material.density && (namesBody || material.ofAllBodies))
         {
-            return material.density;
+            (namesBody ? own : general).push_back(*material.density);
         }
-        general = general == nullptr && material.ofAllBodies ? &material : general;
     }
-    return general != nullptr ? general->density : std::nullopt;
+    return onlyDensity(isNamed ? own : general);
 }
 
 } // namespace

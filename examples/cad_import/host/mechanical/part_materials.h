@@ -27,7 +27,7 @@ struct PartMaterial
 std::vector<PartMaterial> partMaterials(const vrx::ExcMechanicalMiscData& data, std::uint64_t block,
                                         const ReceivedBodies& bodies, vrx::ELengthUnitType unit);
 
-/// The mass in kilograms of measured bodies; nothing when there are none, when one of them has no density, or when the
-/// unit is not known. A material that names a body counts before one of all bodies.
+/// The mass in kilograms of measured bodies; nothing when there are none, when one of them has no density or several,
+/// or when the unit is not known. A material that names a body counts before one of all bodies.
 std::optional<double> massOf(const std::vector<ReceivedBodies::Body>& bodies,
                              const std::vector<PartMaterial>& materials, vrx::ELengthUnitType unit);

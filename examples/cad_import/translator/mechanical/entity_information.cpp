@@ -119,7 +119,8 @@ private:
             {
                 continue;
             }
-            const std::optional<LineStyle> style = m_styles.of(m_records.find(m_entities->IdentLabel(assignment)));
+            const std::optional<LineStyle> style =
+                m_styles.of(m_records.find(m_entities->IdentLabel(assignment)), m_entities->IdentLabel(styled));
             if (style)
             {
                 return style;

@@ -52,6 +52,14 @@ TopoDS_Shape shapeOf(int item, const CadModel& model, const ShapeLinks& links)
     return styled.IsNull() ? links.shapeOf(item) : links.shapeOf(styled->Item());
 }
 
+std::shared_ptr<vrx::ExcEntity> entityOf(const mp::wstring& annotation)
+{
+    auto entity = std::make_shared<vrx::ExcEntity>();
+    entity->setType(vrx::ExcEntity::EType::Visu);
+    entity->setId(annotation);
+    return entity;
+}
+
 // Layers while they are put together, block by block.
 class Layers
 {
@@ -92,10 +100,7 @@ public:
     {
         if (m_knownAnnotations.insert({name, annotation}).second)
         {
-            const auto entity = std::make_shared<vrx::ExcEntity>();
-            entity->setType(vrx::ExcEntity::EType::Visu);
-            entity->setId(annotation);
-            of(name, shownName, block).addEntity(entity);
+            of(name, shownName, block).addEntity(entityOf(annotation));
         }
     }
 
@@ -171,13 +176,14 @@ std::uint64_t blockOf(const mp::wstring& annotation)
 }
 
 void addStepLayers(MechanicalData& data, const CadModel& model, ShapeLinks& links,
-                   const std::map<int, mp::wstring>& annotations)
+                   const std::map<int, mp::wstring>& annotations, bool showHidden)
 {
     const std::vector<StepLayer> all = stepLayers(*model.records);
     std::vector<mp::wstring> names;
     std::transform(all.begin(), all.end(), std::back_inserter(names),
                    [](const StepLayer& layer) { return layer.name; });
     Layers layers(data, std::move(names));
+    std::map<mp::wstring, bool> areHidden; // by annotation
     for (const StepLayer& layer : all)
     {
         const mp::wstring name = nameOf(layer);
@@ -187,6 +193,8 @@ void addStepLayers(MechanicalData& data, const CadModel& model, ShapeLinks& link
             if (annotation != annotations.end())
             {
                 layers.add(layer.name, name, blockOf(annotation->second), annotation->second);
+                bool& isHidden = areHidden.insert({annotation->second, true}).first->second;
+                isHidden = isHidden && item.isHidden;
                 continue;
             }
             const TopoDS_Shape shape = shapeOf(item.id, model, links);
@@ -195,6 +203,16 @@ void addStepLayers(MechanicalData& data, const CadModel& model, ShapeLinks& link
             {
                 layers.add(layer.name, name, link);
             }
+        }
+    }
+    for (const auto& [annotation, isHidden] : areHidden)
+    {
+        if (isHidden && !showHidden)
+        {
+            const auto information = std::make_shared<vrx::ExcTopologicalEntityInformation>();
+            information->setEntity(entityOf(annotation));
+            information->setHidden(true);
+            data.entities(blockOf(annotation)).addData(information);
         }
     }
 }
@@ -271,12 +289,12 @@ std::vector<ShapeLinks::Link> hiddenOnLayers(const CadModel& model, ShapeLinks& 
 }
 
 void addLayers(MechanicalData& data, const CadModel& model, const ProductStructureBuilder& blocks, ShapeLinks& links,
-               const DrawnPmi* drawn, const std::map<int, mp::wstring>& drawnIds)
+               const DrawnPmi* drawn, const std::map<int, mp::wstring>& drawnIds, bool showHidden)
 {
     if (model.records)
     {
         addStepLayers(data, model, links,
-                      drawn != nullptr ? annotationItems(*drawn, drawnIds) : std::map<int, mp::wstring>());
+                      drawn != nullptr ? annotationItems(*drawn, drawnIds) : std::map<int, mp::wstring>(), showHidden);
     }
     else
     {

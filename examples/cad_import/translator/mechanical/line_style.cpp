@@ -1,6 +1,7 @@
 #include "mechanical/line_style.h"
 
 #include "mp/narrow.h"
+#include "pmi/step_quantity.h"
 #include "reading/step_measures.h"
 
 #include <cmath>
@@ -58,43 +59,59 @@ bool isLength(const StepParameter& width)
 } // namespace
 
 LineStyles::LineStyles(const StepRecords& records, double scale)
-    : m_factor(scale)
+    : m_scale(scale)
 {
-    for (const char* const type : {"MECHANICAL_DESIGN_GEOMETRIC_PRESENTATION_REPRESENTATION",
-                                   "ADVANCED_BREP_SHAPE_REPRESENTATION", "SHAPE_REPRESENTATION"})
+    for (const char* const type : {"SHAPE_REPRESENTATION", "ADVANCED_BREP_SHAPE_REPRESENTATION", "DRAUGHTING_MODEL",
+                                   "MECHANICAL_DESIGN_GEOMETRIC_PRESENTATION_REPRESENTATION"})
     {
         const std::vector<StepRecord> all = records.all(type);
-        if (!all.empty())
+        m_factor = all.empty() ? m_factor : unitFactors(records, all.front()).length;
+    }
+    for (const char* const type : {"DRAUGHTING_MODEL", "MECHANICAL_DESIGN_GEOMETRIC_PRESENTATION_REPRESENTATION"})
+    {
+        for (const StepRecord& representation : records.all(type))
         {
-            m_factor = scale * unitFactors(records, all.front()).length;
-            return;
+            const double factor = unitFactors(records, representation).length;
+            for (const StepParameter& item : representation.as("REPRESENTATION")[1].list)
+            {
+                m_factors.insert({item.reference, factor});
+            }
         }
     }
 }
 
-std::optional<LineStyle> LineStyles::of(const StepRecord& assignment)
+std::optional<LineStyle> LineStyles::of(const StepRecord& assignment, int styledItem)
 {
-    const auto known = m_known.find(assignment.id());
-    return known != m_known.end() ? known->second : m_known[assignment.id()] = read(assignment);
+    const auto found = m_factors.find(styledItem);
+    const double factor = found != m_factors.end() ? found->second : m_factor;
+    const auto [known, isNew] = m_known.insert({{assignment.id(), factor}, std::nullopt});
+    if (isNew)
+    {
+        known->second = read(assignment, factor);
+    }
+    return known->second;
 }
 
-std::optional<LineStyle> LineStyles::read(const StepRecord& assignment) const
+std::optional<LineStyle> LineStyles::read(const StepRecord& assignment, double factor) const
 {
     for (const StepRecord& curve : curveStyles(assignment))
     {
         LineStyle style;
-        const StepRecord font = curve.next(1);
-        style.type = typeOf(mp::toNarrow(font.text(0)));
-        const StepRecord measure = curve.next(2).as("MEASURE_WITH_UNIT");
-        const StepParameter& width = measure ? measure[0] : curve[2];
-        if (isLength(width) && std::isfinite(width.number) && width.number > 0)
-        {
-            style.thickness = width.number * m_factor;
-        }
+        style.type = typeOf(mp::toNarrow(curve.next(1).text(0)));
+        style.thickness = thickness(curve, factor);
         if (style.type != ELineType::Unknown || style.thickness > 0)
         {
             return style;
         }
     }
     return std::nullopt;
+}
+
+double LineStyles::thickness(const StepRecord& curve, double factor) const
+{
+    const StepRecord measure = curve.next(2);
+    const StepParameter& width = measure ? measure.as("MEASURE_WITH_UNIT")[0] : curve[2];
+    const StepQuantity own = quantityOf(measure).in(StepQuantity::EUnit::Mm);
+    const double result = m_scale * (own ? own.value : isLength(width) ? width.number * factor : 0);
+    return std::isfinite(result) && result > 0 ? result : 0;
 }

@@ -5,6 +5,8 @@
 
 #include <map>
 #include <optional>
+#include <unordered_map>
+#include <utility>
 
 /// How a face's boundary or an edge is drawn.
 struct LineStyle
@@ -20,12 +22,15 @@ public:
     /// Each length in millimetres is multiplied by the scale.
     LineStyles(const StepRecords& records, double scale);
 
-    /// Of a presentation style assignment, if it has one that says something.
-    std::optional<LineStyle> of(const StepRecord& assignment);
+    /// Of a presentation style assignment of a styled item, if it has one that says something.
+    std::optional<LineStyle> of(const StepRecord& assignment, int styledItem);
 
 private:
-    std::optional<LineStyle> read(const StepRecord& assignment) const;
+    std::optional<LineStyle> read(const StepRecord& assignment, double factor) const;
+    double thickness(const StepRecord& curve, double factor) const;
 
-    double m_factor = 1;                             // of lengths that name no unit of their own
-    std::map<int, std::optional<LineStyle>> m_known; // by assignment
+    double m_scale;
+    double m_factor = 1;                       // millimetres in lengths that name no unit of their own
+    std::unordered_map<int, double> m_factors; // the same of styled items
+    std::map<std::pair<int, double>, std::optional<LineStyle>> m_known; // by assignment and factor
 };

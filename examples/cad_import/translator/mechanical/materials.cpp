@@ -1,5 +1,6 @@
 #include "mechanical/materials.h"
 
+#include "common/material_units.h"
 #include "mechanical/mechanical_data.h"
 #include "mechanical/shape_links.h"
 #include "mechanical/step_unit.h"
@@ -9,9 +10,14 @@
 #include "structure/product_blocks.h"
 #include "structure/product_structure_builder.h"
 
+#include <TopExp_Explorer.hxx>
+#include <TopoDS_TShape.hxx>
+
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -79,6 +85,14 @@ void correct(vrx::ExcMiscMaterialProperty& density)
     }
 }
 
+bool isSameDensity(const vrx::ExcMiscMaterialProperty& one, const vrx::ExcMiscMaterialProperty& other)
+{
+    const auto length = vrx::ELengthUnitType::Unknown;
+    const double first = units::density(one, length).value_or(one.value());
+    const double second = units::density(other, length).value_or(other.value());
+    return std::abs(first - second) <= 1e-6 * first;
+}
+
 class Reader
 {
 public:
@@ -107,8 +121,8 @@ public:
 private:
     void add(const StepRecord& definition, const StepRecord& property)
     {
-        StatedMaterial* const stated = materialOf(property.next(2));
-        if (stated == nullptr)
+        std::size_t* const place = placeOf(property.next(2));
+        if (place == nullptr)
         {
             return;
         }
@@ -117,16 +131,18 @@ private:
             for (const StepRecord& representation : definition.users(type))
             {
                 const StepRecord values = representation.next(1).as("REPRESENTATION");
+                bool isNamed = false;
                 for (const StepRecord& item : values.nexts(1))
                 {
-                    addItem(*stated->material, item, {values.text(0), property.text(1)});
+                    addItem(*place, item, {values.text(0), property.text(1)}, isNamed);
                 }
             }
         }
     }
 
-    // Of a product, or of the solids that a shape aspect names; null for anything else.
-    StatedMaterial* materialOf(const StepRecord& target)
+    // The place of the material that was begun last for a product, or for the solids that a shape aspect names; null
+    // for anything else.
+    std::size_t* placeOf(const StepRecord& target)
     {
         const int product = ProductBlocks::productOf(target).id();
         std::vector<int> solids = target.is("SHAPE_ASPECT") ? aspect_items::solids(target) : std::vector<int>();
@@ -141,17 +157,34 @@ private:
             m_all.push_back(
                 {m_products.of(target), product, std::move(solids), std::make_shared<vrx::ExcMiscMaterial>()});
         }
-        return &m_all[known->second];
+        return &known->second;
     }
 
-    static void addItem(vrx::ExcMiscMaterial& material, const StepRecord& item,
-                        const std::vector<mp::wstring>& otherNames)
+    // Another material of the same.
+    vrx::ExcMiscMaterial& another(std::size_t& place)
     {
+        StatedMaterial stated = m_all[place];
+        stated.material = std::make_shared<vrx::ExcMiscMaterial>();
+        place = m_all.size();
+        m_all.push_back(std::move(stated));
+        return *m_all.back().material;
+    }
+
+    // A second name begins another material, unless it stands with the first one, and so does a second density.
+    void addItem(std::size_t& place, const StepRecord& item, const std::vector<mp::wstring>& otherNames, bool& isNamed)
+    {
+        vrx::ExcMiscMaterial& material = *m_all[place].material;
         if (item.is("DESCRIPTIVE_REPRESENTATION_ITEM"))
         {
             const bool isLabelled = letters(item.text(0)) == "materialname" || letters(item.text(0)) == "name";
             const mp::wstring name = item.text(isLabelled ? 1 : 0);
-            material.setName(material.name().empty() ? name : material.name());
+            const bool isOther = !material.name().empty() && material.name() != name;
+            const bool isNoName = isOther && std::count(otherNames.begin(), otherNames.end(), name) != 0;
+            if (!isNamed && !isNoName && !name.empty())
+            {
+                (isOther ? another(place) : material).setName(name);
+                isNamed = true;
+            }
             return;
         }
         const bool hasParts = item.is("REPRESENTATION_ITEM");
@@ -169,7 +202,9 @@ private:
         {
             correct(*property);
         }
-        material.set(*id, std::make_shared<vrx::ExcMiscMaterialProperty>(*property));
+        const auto known = material.get(*id);
+        const bool isOther = *id == EProperty::Density && known && !isSameDensity(*known, *property);
+        (isOther ? another(place) : material).set(*id, std::make_shared<vrx::ExcMiscMaterialProperty>(*property));
     }
 
     const StepRecords& m_records;
@@ -199,9 +234,7 @@ void addToBodies(MechanicalData& data, const StatedMaterial& stated, ShapeLinks&
         const TopoDS_Shape shape = links.shapeOf(item);
         for (const ShapeLinks::Link& link : shape.IsNull() ? std::vector<ShapeLinks::Link>() : links.everywhere(shape))
         {
-            const bool isBody = link.entity->type() == vrx::ExcEntity::EType::Fsp &&
-                                link.entity->fsp()->subentId().type() == vrx::ExcSubentId::EType::Body;
-            if (!isBody || (stated.block != 0 && link.block != stated.block))
+            if (!links.bodyNumber(link) || (stated.block != 0 && link.block != stated.block))
             {
                 continue;
             }
@@ -216,6 +249,17 @@ void addToBodies(MechanicalData& data, const StatedMaterial& stated, ShapeLinks&
     }
 }
 
+bool nameAllSolids(const StatedMaterial& stated, const ProductStructureBuilder& blocks)
+{
+    std::set<const TopoDS_TShape*> solids;
+    const TopoDS_Shape shape = stated.block != 0 ? blocks.shapeOf(stated.block) : TopoDS_Shape();
+    for (TopExp_Explorer explorer(shape, TopAbs_SOLID); explorer.More(); explorer.Next())
+    {
+        solids.insert(explorer.Current().TShape().get());
+    }
+    return stated.solids.size() >= solids.size();
+}
+
 } // namespace
 
 std::vector<StatedMaterial> statedMaterials(const CadModel& model, const ProductStructureBuilder& blocks)
@@ -223,6 +267,10 @@ std::vector<StatedMaterial> statedMaterials(const CadModel& model, const Product
     std::vector<StatedMaterial> all = model.records ? Reader(model, blocks).all() : std::vector<StatedMaterial>();
     all.erase(std::remove_if(all.begin(), all.end(), [](const StatedMaterial& one) { return isEmpty(*one.material); }),
               all.end());
+    for (StatedMaterial& stated : all)
+    {
+        stated.ofAllSolids = stated.solids.empty() || nameAllSolids(stated, blocks);
+    }
     return all;
 }
 

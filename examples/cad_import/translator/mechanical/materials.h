@@ -18,6 +18,7 @@ struct StatedMaterial
     int product = 0;         // its product definition
     std::vector<int> solids; // the items of the geometry; empty for the part as a whole
     std::shared_ptr<vrx::ExcMiscMaterial> material;
+    bool ofAllSolids = true;
 };
 
 /// In the order of the file.

@@ -135,14 +135,12 @@ std::shared_ptr<vrx::ExcEntity> ShapeLinks::entity(const TopoDS_Shape& shape, st
     return found != places.first.end() ? entityAt(found->second.bodyId, found->second.part) : nullptr;
 }
 
-std::optional<std::size_t> ShapeLinks::bodyNumber(const TopoDS_Shape& solid, std::uint64_t block)
+std::optional<std::size_t> ShapeLinks::bodyNumber(const Link& link) const
 {
-    const Places& places = placesIn(block);
-    const auto place = places.first.find(solid.TShape().get());
-    const std::vector<std::uint64_t>& ids = m_bodies.ids(block);
-    const auto id = place != places.first.end() && place->second.part.type() == EType::Body
-                        ? std::find(ids.begin(), ids.end(), place->second.bodyId)
-                        : ids.end();
+    const bool isBody =
+        link.entity->type() == vrx::ExcEntity::EType::Fsp && link.entity->fsp()->subentId().type() == EType::Body;
+    const std::vector<std::uint64_t>& ids = m_bodies.ids(link.block);
+    const auto id = isBody ? std::find(ids.begin(), ids.end(), link.entity->fsp()->bodyId()) : ids.end();
     return id != ids.end() ? std::optional(static_cast<std::size_t>(id - ids.begin())) : std::nullopt;
 }
 

@@ -31,9 +31,6 @@ public:
     /// stands for those of its parts too, a datum for those of its features.
     std::vector<std::shared_ptr<vrx::ExcEntity>> of(const std::vector<StepRecord>& aspects, std::uint64_t block);
 
-    /// The position of a solid, where it first stands, among the bodies of a block, if it is one of them.
-    std::optional<std::size_t> bodyNumber(const TopoDS_Shape& solid, std::uint64_t block);
-
     /// The ids of the bodies of a block, in the order of its solids.
     const std::vector<std::uint64_t>& bodyIds(std::uint64_t block) const;
 
@@ -48,6 +45,9 @@ public:
 
     /// A shape wherever blocks show it; of one that is no entity, such as a group, its parts.
     std::vector<Link> everywhere(const TopoDS_Shape& shape);
+
+    /// The position of a body among those of its block; nothing for another entity.
+    std::optional<std::size_t> bodyNumber(const Link& link) const;
 
     /// The same faces, as the kernel has them.
     std::vector<TopoDS_Face> faces(const std::vector<StepRecord>& aspects) const;

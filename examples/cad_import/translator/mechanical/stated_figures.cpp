@@ -10,6 +10,26 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
+
+namespace
+{
+
+// A point is one of the product; where the product is no block of its own, it stands elsewhere.
+vrx::ExcMiscData figuresIn(std::uint64_t block, const vrx::ExcMiscData& figures, std::uint64_t ofProduct)
+{
+    vrx::ExcMiscData result;
+    for (const vrx::ExcMiscProperty& property : figures.properties())
+    {
+        if (block == ofProduct || property.type() != vrx::ExcMiscProperty::EType::String)
+        {
+            result.emplaceProperty(property);
+        }
+    }
+    return result;
+}
+
+} // namespace
 
 void addStatedFigures(MechanicalData& data, const CadModel& model, const ProductStructureBuilder& blocks,
                       ShapeLinks& links)
@@ -22,14 +42,18 @@ void addStatedFigures(MechanicalData& data, const CadModel& model, const Product
     for (const auto& [solid, stated] : blocks.properties().ofSolids())
     {
         const TopoDS_Shape shape = links.shapeOf(solid);
-        const std::uint64_t block = products.of(model.records->find(stated.aspect));
-        const auto number = shape.IsNull() || block == 0 ? std::nullopt : links.bodyNumber(shape, block);
-        if (number)
+        const std::uint64_t product = products.of(model.records->find(stated.aspect));
+        for (const ShapeLinks::Link& link : shape.IsNull() ? std::vector<ShapeLinks::Link>() : links.everywhere(shape))
         {
-            const auto parameters = std::make_shared<vrx::ExcMiscNoteParameters>();
-            parameters->setName(mp::toWide("b" + std::to_string(*number)));
-            parameters->properties() = stated.figures;
-            data.misc(block).addNoteParameters(parameters);
+            const auto number = product == 0 || product == link.block ? links.bodyNumber(link) : std::nullopt;
+            vrx::ExcMiscData figures = number ? figuresIn(link.block, stated.figures, product) : vrx::ExcMiscData();
+            if (!figures.properties().empty())
+            {
+                const auto parameters = std::make_shared<vrx::ExcMiscNoteParameters>();
+                parameters->setName(mp::toWide("b" + std::to_string(*number)));
+                parameters->properties() = std::move(figures);
+                data.misc(link.block).addNoteParameters(parameters);
+            }
         }
     }
 }

@@ -19,7 +19,7 @@ using vrx::ETemperatureUnitType;
 using vrx::ETimeUnitType;
 
 const int kDeepest = 6;      // units that stand for units
-const std::size_t kMost = 8; // factors of a unit
+const int kMost = 64;        // units that a unit stands for
 const double kHighest = 9.0; // exponent
 
 enum EBase
@@ -148,6 +148,11 @@ public:
     // False for a unit that is not known.
     bool multiply(const StepRecord& unit, int exponent = 1, int depth = 0)
     {
+        if (m_left == 0)
+        {
+            return false;
+        }
+        --m_left;
         if (unit.is("CONVERSION_BASED_UNIT"))
         {
             return multiplyConverted(unit, exponent, depth);
@@ -236,13 +241,11 @@ private:
     bool multiplyElements(const StepRecord& unit, int exponent, int depth)
     {
         const std::vector<StepRecord> elements = unit.as("DERIVED_UNIT").nexts(0);
-        return !elements.empty() && elements.size() <= kMost &&
-               std::all_of(elements.begin(), elements.end(), [&](const StepRecord& element) {
-                   const double power = element[1].number;
-                   return element.is("DERIVED_UNIT_ELEMENT") && std::abs(power) <= kHighest &&
-                          power == std::round(power) &&
-                          multiply(element.next(0), exponent * static_cast<int>(power), depth + 1);
-               });
+        return !elements.empty() && std::all_of(elements.begin(), elements.end(), [&](const StepRecord& element) {
+            const double power = element[1].number;
+            return element.is("DERIVED_UNIT_ELEMENT") && std::abs(power) <= kHighest && power == std::round(power) &&
+                   multiply(element.next(0), exponent * static_cast<int>(power), depth + 1);
+        });
     }
 
     template <class Type, class Set>
@@ -256,6 +259,7 @@ private:
     }
 
     double m_value;
+    int m_left = kMost;
     std::array<Power, BaseCount> m_powers;
 };
 

@@ -49,9 +49,15 @@ std::shared_ptr<vrx::LegacyMaterialMap> componentMaterials(const vrx::ExcProduct
                                                            const std::vector<StatedMaterial>& ofBlocks)
 {
     std::map<std::uint64_t, vrx::LegacyMaterialMap::Material> known;
-    for (const StatedMaterial& stated : ofBlocks)
+    for (const bool ofParts : {true, false})
     {
-        known.insert({stated.block, componentMaterial(*stated.material)});
+        for (const StatedMaterial& stated : ofBlocks)
+        {
+            if (stated.solids.empty() == ofParts && stated.ofAllSolids)
+            {
+                known.insert({stated.block, componentMaterial(*stated.material)});
+            }
+        }
     }
     auto materials = std::make_shared<vrx::LegacyMaterialMap>();
     std::uint64_t handle = 0;

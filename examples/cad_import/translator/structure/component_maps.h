@@ -10,6 +10,7 @@
 /// The names of all components, by their handles.
 std::shared_ptr<vrx::LegacyComponentInstanceNames> componentNames(const vrx::ExcProductStructure& structure);
 
-/// The materials of all components, by their handles: those of their blocks, with densities in g/cm3.
+/// The materials of all components, by their handles: the first that holds for all of their
+/// blocks, with densities in g/cm3.
 std::shared_ptr<vrx::LegacyMaterialMap> componentMaterials(const vrx::ExcProductStructure& structure,
                                                            const std::vector<StatedMaterial>& ofBlocks);

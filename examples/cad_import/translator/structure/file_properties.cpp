@@ -24,6 +24,12 @@
 #include <StepRepr_ShapeAspect.hxx>
 #include <StepRepr_ValueRepresentationItem.hxx>
 #include <TColStd_SequenceOfAsciiString.hxx>
+#include <TopExp.hxx>
+#include <TopTools_IndexedMapOfShape.hxx>
+#include <TransferBRep.hxx>
+#include <Transfer_TransientProcess.hxx>
+#include <XSControl_TransferReader.hxx>
+#include <XSControl_WorkSession.hxx>
 
 #include <set>
 #include <string>
@@ -74,6 +80,16 @@ int onlySolid(const CadModel& model, const Handle(StepRepr_ShapeAspect) & aspect
 {
     const std::vector<int> solids = aspect_items::solids(model.records->find(idOf(model, aspect)));
     return solids.size() == 1 ? solids.front() : 0;
+}
+
+// True for a product of more than one solid.
+bool hasSeveralSolids(const CadModel& model, const Standard_Transient* product)
+{
+    const Handle(Transfer_TransientProcess) transfer = model.step->Reader().WS()->TransferReader()->TransientProcess();
+    const TopoDS_Shape shape = TransferBRep::ShapeResult(transfer, product);
+    TopTools_IndexedMapOfShape solids;
+    TopExp::MapShapes(shape, TopAbs_SOLID, solids);
+    return solids.Extent() > 1;
 }
 
 void addItem(vrx::ExcMiscData& data, const mp::wstring& name, const Handle(StepRepr_RepresentationItem) & item,
@@ -138,7 +154,7 @@ FileProperties::FileProperties(const CadModel& model, double scale)
             readAttributes(model, attributes);
         }
     }
-    takeFiguresOfWholes();
+    takeFiguresOfWholes(model);
 }
 
 void FileProperties::readHead(const CadModel& model, const Handle(StepData_StepModel) & entities)
@@ -218,12 +234,13 @@ void FileProperties::readAttributes(const CadModel& model,
 }
 
 // Many writers state the figures of a part of one solid with that solid only.
-void FileProperties::takeFiguresOfWholes()
+void FileProperties::takeFiguresOfWholes(const CadModel& model)
 {
     for (const auto& [entity, solids] : m_solids)
     {
         const auto figures = m_ofSolids.find(*solids.begin());
-        if (solids.size() > 1 || m_withFigures.count(entity) > 0 || figures == m_ofSolids.end())
+        if (solids.size() > 1 || m_withFigures.count(entity) > 0 || figures == m_ofSolids.end() ||
+            hasSeveralSolids(model, entity))
         {
             continue;
         }

@@ -37,7 +37,7 @@ private:
     void readHead(const CadModel& model, const Handle(StepData_StepModel) & entities);
     void readAttributes(const CadModel& model, const Handle(StepRepr_PropertyDefinitionRepresentation) & attributes);
 
-    void takeFiguresOfWholes();
+    void takeFiguresOfWholes(const CadModel& model);
 
     double m_scale;
     vrx::ExcMiscData m_head;

@@ -5,6 +5,9 @@ const isOn = (layers) => !layers.length || layers.some(({ on }) => on);
 // Ids of annotations, such as "1/0/notes/3", are unique in the product; those of shapes are so in their block.
 const keyOf = (block, id) => (/^\d+\/\d+\//.test(id) ? id : `${block} ${id}`);
 
+// All but a vertex, such as "0/v4".
+const isDrawn = (id) => !/(^|\/)v\d+$/.test(id);
+
 export class Layers {
   constructor(blocks) {
     this.all = [];
@@ -17,8 +20,11 @@ export class Layers {
 
   #add(block, { id, name, hidden, entities }) {
     let layer = this.all.find((other) => other.id === id && other.name === name);
-    if (!layer) this.all.push((layer = { id, name, on: false, count: 0 }));
-    layer.on ||= !hidden;
+    if (!layer) this.all.push((layer = { id, name, on: true, isTold: false, count: 0 }));
+    if (entities.some(isDrawn)) {
+      layer.on = !hidden || (layer.isTold && layer.on);
+      layer.isTold = true;
+    }
     layer.count += entities.length;
     for (const entity of entities) {
       const key = keyOf(block, entity);
