@@ -3,12 +3,19 @@
 #include "translator_session.h"
 
 #include <BinTools.hxx>
+#include <OSD.hxx>
+#include <Standard_ErrorHandler.hxx>
 #include <Standard_Failure.hxx>
 #include <TopExp.hxx>
 #include <TopTools_IndexedMapOfShape.hxx>
 #include <TopoDS_Shape.hxx>
 
+#include <csignal>
+#include <cstddef>
+#include <iterator>
+#include <new>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 namespace
@@ -91,18 +98,60 @@ TopoDS_Shape shapeOf(const ENTITY& entity)
     return shape;
 }
 
+[[noreturn]] void fail(const std::string& reason)
+{
+    throw TranslatorFailure("The B-rep of a body can not be used: " + reason);
+}
+
+// Lets the kernel turn its crashes into failures. It takes signals of the user too: those stay with the host.
+bool takeCrashes()
+{
+    const int numbers[] = {SIGHUP, SIGINT, SIGQUIT, SIGTERM};
+    struct sigaction actions[std::size(numbers)];
+    sigset_t ofUser;
+    sigset_t blocked;
+    sigemptyset(&ofUser);
+    for (const int number : numbers)
+    {
+        sigaddset(&ofUser, number);
+    }
+    sigprocmask(SIG_BLOCK, &ofUser, &blocked);
+    for (std::size_t i = 0; i < std::size(numbers); ++i)
+    {
+        sigaction(numbers[i], nullptr, &actions[i]);
+    }
+    OSD::SetSignal(false);
+    for (std::size_t i = 0; i < std::size(numbers); ++i)
+    {
+        sigaction(numbers[i], &actions[i], nullptr);
+    }
+    sigprocmask(SIG_SETMASK, &blocked, nullptr);
+    return true;
+}
+
 } // namespace
 
 BodyFigures measuredBody(ENTITY& body, EBox box)
 {
+    static const bool kTakesCrashes = takeCrashes();
+    static_cast<void>(kTakesCrashes);
     try
     {
+        OCC_CATCH_SIGNALS
         const TopoDS_Shape shape = shapeOf(body);
         checkNumbering(body, shape);
         return figuresOf(shape, box);
     }
     catch (const Standard_Failure& failure)
     {
-        throw TranslatorFailure(std::string("The B-rep of a body can not be used: ") + failure.GetMessageString());
+        fail(failure.GetMessageString());
+    }
+    catch (const std::bad_alloc&)
+    {
+        fail("there is not enough memory for it");
+    }
+    catch (const std::length_error&)
+    {
+        fail("it is longer than memory");
     }
 }

@@ -163,11 +163,11 @@ std::string ScenePage::scene(const vrx::ExcProductStructure& structure, const Me
         json.Bool(block->isPart());
         references(json, block->blockReferences());
         properties(json, block->miscData());
-        const auto part = mechanical.parts.find(block->id());
-        if (block->isPart() && part != mechanical.parts.end())
+        const std::string data = mechanicalJson(mechanical, block->id());
+        if (!data.empty())
         {
             json.Key("mechanical");
-            json.raw(mechanicalJson(part->second));
+            json.raw(data);
         }
         const auto shape = m_shapes.find(block->id());
         if (shape != m_shapes.end())

@@ -97,12 +97,7 @@ private:
 
     void mechanical(const vrx::ExcBlock& block)
     {
-        const auto part = m_extras.mechanical.parts.find(block.id());
-        if (!block.isPart() || part == m_extras.mechanical.parts.end())
-        {
-            return;
-        }
-        for (const auto& [key, value] : mechanicalMembers(part->second))
+        for (const auto& [key, value] : mechanicalMembers(m_extras.mechanical, block.id()))
         {
             m_writer.Key(key.c_str());
             raw(value);

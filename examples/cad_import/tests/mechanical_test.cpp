@@ -1,6 +1,7 @@
 #include "acis_kernel/acis_kernel.h"
 #include "common/framing.h"
 #include "common/material_units.h"
+#include "host/mechanical/hole_callout.h"
 #include "host/mechanical/hole_table.h"
 #include "host/mechanical/mechanical_json.h"
 #include "host/mechanical/mechanical_model.h"
@@ -258,10 +259,10 @@ TEST(Mechanical, HolesAreATable)
 )");
 }
 
-rapidjson::Document parsed(const MechanicalModel& model)
+rapidjson::Document parsed(const MechanicalModel& model, std::uint64_t id = 5)
 {
     rapidjson::Document document;
-    document.Parse(mechanicalJson(model.parts.at(5)).c_str());
+    document.Parse(mechanicalJson(model, id).c_str());
     EXPECT_TRUE(document.IsObject());
     return document;
 }
@@ -288,9 +289,23 @@ TEST(Mechanical, HolesAreJson)
     EXPECT_EQ(json["patterns"][0]["holes"].Size(), 4U);
     EXPECT_EQ(json["patterns"][1]["holes"][1].GetInt(), 7);
     EXPECT_EQ(json["patterns"][1]["diameter"].GetDouble(), 50);
+    EXPECT_STREQ(json["patterns"][0]["text"].GetString(), "2 × 2 grid, 36 × 68");
     EXPECT_EQ(json["threads"][4]["hole"].GetInt(), 4);
+    EXPECT_STREQ(json["threads"][4]["text"].GetString(), "M10x1.5 ↧20");
     EXPECT_TRUE(json["threads"][5]["hole"].IsNull());
     EXPECT_STREQ(json["threads"][5]["hand"].GetString(), "left");
+}
+
+TEST(Mechanical, AnArcOfHolesIsNoFullCircle)
+{
+    PartPattern arc;
+    arc.isCircular = true;
+    arc.count = 5;
+    arc.diameter = 444.5;
+    arc.angle = 29.9964;
+    EXPECT_EQ(hole_callout::text(arc), WIDE("5 on ⌀444.5 × 30°"));
+    arc.angle = 72;
+    EXPECT_EQ(hole_callout::text(arc), WIDE("5 on ⌀444.5"));
 }
 
 TEST(Mechanical, LeavesOutWhatDoesNotFitTogether)
@@ -510,10 +525,16 @@ TEST(Mechanical, HoldsAnAssemblyAgainstItsPartsInTheirPlaces)
     reference->setBlockId(6);
     block.structure.addRootBlockReference(reference);
 
+    const MechanicalModel model = block.received();
     std::ostringstream report;
-    printStated(report, block.received(), block.structure);
+    printStated(report, model, block.structure);
     EXPECT_EQ(report.str(), "volume and centroid as stated, within 1e-9: pair\n"
                             "differs from the file: pair: area 3000, stated 1500\n");
+    const rapidjson::Document json = parsed(model, 6);
+    EXPECT_EQ(json.MemberCount(), 1U);
+    ASSERT_EQ(json["stated"].Size(), 3U);
+    EXPECT_EQ(json["stated"][1]["found"].GetDouble(), 3000);
+    EXPECT_FALSE(json["stated"][1]["agrees"].GetBool());
 
     pair->blockReferences()[1]->setBlockId(7); // there is none
     std::ostringstream nothing;

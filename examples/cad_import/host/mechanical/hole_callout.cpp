@@ -15,6 +15,8 @@ namespace
 using mp::wstring;
 using EKind = PartHole::EKind;
 
+const double kRounding = 1e-3; // degrees
+
 wstring sized(const mp::wchar* symbol, double value)
 {
     return symbol + number(value);
@@ -97,7 +99,9 @@ mp::wstring text(const PartPattern& pattern)
     const auto count = [](std::int64_t value) { return mp::toWide(std::to_string(value)); };
     if (pattern.isCircular)
     {
-        return count(pattern.count) + sized(WIDE(" on ⌀"), pattern.diameter);
+        const bool isArc = std::abs(pattern.count * std::abs(pattern.angle) - 360) > kRounding;
+        return count(pattern.count) + sized(WIDE(" on ⌀"), pattern.diameter) +
+               (isArc ? WIDE(" × ") + angle(std::round(pattern.angle * 100) / 100) : wstring());
     }
     const auto& [columns, rows] = pattern.counts;
     if (columns < 2 || rows < 2)

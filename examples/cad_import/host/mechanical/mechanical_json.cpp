@@ -166,6 +166,7 @@ void members(Json& json, const PartPattern& pattern)
         json.vector("center", pattern.center);
         json.vector("axis", pattern.axis);
         json.number("diameter", pattern.diameter);
+        json.field("text", hole_callout::text(pattern));
         return;
     }
     json.Key("counts");
@@ -179,6 +180,7 @@ void members(Json& json, const PartPattern& pattern)
     json.vector(pattern.directions[0]);
     json.vector(pattern.directions[1]);
     json.EndArray();
+    json.field("text", hole_callout::text(pattern));
 }
 
 const char* handOf(PartThread::EHand hand)
@@ -205,6 +207,7 @@ void members(Json& json, const PartThread& thread)
     json.field("hand", std::string(handOf(thread.hand)));
     json.texts("faces", thread.faces);
     optionalIndex(json, "hole", thread.hole);
+    json.field("text", hole_callout::text(thread));
 }
 
 const char* nameOf(StatedFigure::EWhat what)
@@ -258,9 +261,7 @@ std::string massText(const MechanicalPart& part)
     return json.text();
 }
 
-} // namespace
-
-std::vector<std::pair<std::string, std::string>> mechanicalMembers(const MechanicalPart& part)
+std::vector<std::pair<std::string, std::string>> membersOf(const MechanicalPart& part)
 {
     const PartHoles& features = part.features;
     return {{"mass", massText(part)},
@@ -273,11 +274,33 @@ std::vector<std::pair<std::string, std::string>> mechanicalMembers(const Mechani
             {"stated", array(part.stated)}};
 }
 
-std::string mechanicalJson(const MechanicalPart& part)
+} // namespace
+
+std::vector<std::pair<std::string, std::string>> mechanicalMembers(const MechanicalModel& model, std::uint64_t block)
 {
+    const auto part = model.parts.find(block);
+    if (part != model.parts.end())
+    {
+        return membersOf(part->second);
+    }
+    const auto stated = model.assemblies.find(block);
+    if (stated != model.assemblies.end())
+    {
+        return {{"stated", array(stated->second)}};
+    }
+    return {};
+}
+
+std::string mechanicalJson(const MechanicalModel& model, std::uint64_t block)
+{
+    const auto members = mechanicalMembers(model, block);
+    if (members.empty())
+    {
+        return {};
+    }
     Json json;
     json.StartObject();
-    for (const auto& [key, value] : mechanicalMembers(part))
+    for (const auto& [key, value] : members)
     {
         json.Key(key.c_str());
         json.raw(value);

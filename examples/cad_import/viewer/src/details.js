@@ -4,7 +4,7 @@
 import { unitSign } from './figures.js';
 import { rowsOf, whichOne } from './holes.js';
 import { line } from './lines_panel.js';
-import { faceRows, partRows, propertyRows } from './mechanical.js';
+import { blockRows, faceRows, propertyRows } from './mechanical.js';
 import { drawing } from './notation.js';
 
 const hex = (color) => '#' + color.slice(0, 3).map((channel) => channel.toString(16).padStart(2, '0')).join('');
@@ -42,7 +42,7 @@ export class Details {
     const where = [];
     for (let above = node.parent; above; above = above.parent) where.unshift(above.name);
     this.#rows([
-      ...(block ? partRows(block, node.mass, this.unit) : []),
+      ...(block ? blockRows(block, node.mass, this.unit) : []),
       ['Block', block?.name !== node.name && block?.name],
       ['Block id', reference.blockId],
       ['Persistent id', reference.persistentId],

@@ -22,12 +22,6 @@ function alike(all, keyOf) {
   return [...groups.values()];
 }
 
-function threadText({ designation, kind, diameter, pitch, depth, hand }) {
-  const size = designation || `thread ⌀${number(diameter)} × ${number(pitch)}`;
-  const deep = kind === 'internal' && depth ? ` ↧${number(depth)}` : '';
-  return size + (hand === 'left' ? ' LH' : '') + deep;
-}
-
 // A line bears `ones`, the holes or threads that it stands for.
 function line(block, kind, ones, type) {
   const [{ text, index }] = ones;
@@ -47,7 +41,7 @@ function line(block, kind, ones, type) {
 function linesOf(block) {
   const { holes = [], threads = [], patterns = [] } = block.mechanical ?? {};
   const whole = holes.map((hole, index) => ({ ...hole, index, thread: threads.find((one) => one.hole === index) }));
-  const bare = threads.map((thread, index) => ({ ...thread, index, text: threadText(thread) }));
+  const bare = threads.map((thread, index) => ({ ...thread, index }));
   return [
     ...alike(whole, ({ text, pattern }) => [text, pattern]).map((ones) => {
       const [{ kind, pattern }] = ones;
@@ -80,18 +74,6 @@ export class Holes {
   }
 }
 
-function patternText(pattern, unit) {
-  if (pattern.type === 'circular') {
-    return `${pattern.count} on ⌀${number(pattern.diameter)}, ${number(pattern.angle)}° apart`;
-  }
-  const rows = pattern.counts
-    .map((count, i) => ({ count, spacing: pattern.spacing[i] }))
-    .filter(({ count }) => count > 1);
-  const counts = rows.map(({ count }) => count).join(' × ');
-  const spacing = rows.map((row) => number(row.spacing)).join(' × ');
-  return `${counts} ${rows.length > 1 ? 'grid' : 'in a row'}, ${spacing} ${unit}`;
-}
-
 const joined = (...texts) => texts.filter(Boolean).join(', ');
 
 function axes(holes) {
@@ -118,7 +100,7 @@ function holeRows({ ones, pattern }, unit) {
     [hole.kind === 'countersink' ? 'Countersink' : 'Counterbore', joined(wide, wideDepth, cone)],
     ['Sink', hole.sink_diameter && `⌀${number(hole.sink_diameter)}`],
     ['Thread', joined(designation, depth && `${length(depth)} deep`, hand === 'left' && 'left hand')],
-    ['Pattern', pattern && patternText(pattern, unit)],
+    ['Pattern', pattern?.text],
     ...axes(ones),
   ];
 }

@@ -20,7 +20,7 @@ function difference({ what, body, stated, found, deviation }, unit) {
   return `${what}${body ? ` of ${body}` : ''} off by ${off}: ${write(found)}, stated ${write(stated)}`;
 }
 
-// A row about what the file states of the part for its receivers to check.
+// A row about what the file states of the part or assembly for its receivers to check.
 function checkedRow(stated, unit) {
   const wrong = stated.filter(({ agrees }) => !agrees).map((figure) => difference(figure, unit));
   const right = stated.length ? `${listed(new Set(stated.map(({ what }) => what)))} as stated` : '';
@@ -28,19 +28,18 @@ function checkedRow(stated, unit) {
 }
 
 // What the rows say need not be said by free properties too.
-const isSaid = (mechanical, { name }) =>
-  (mechanical.materials.length && /^(material|density)$/i.test(name)) ||
-  (mechanical.layers.length && /^layer$/i.test(name));
+const isSaid = ({ materials = [], layers = [] }, { name }) =>
+  (materials.length && /^(material|density)$/i.test(name)) || (layers.length && /^layer$/i.test(name));
 
-export function partRows({ mechanical }, kilograms, unit) {
-  const rows = [['Mass', kilograms && mass(kilograms)]];
-  if (!mechanical) return rows;
-  const layers = mechanical.layers.filter(({ entities }) => entities.some((id) => /^b\d+$/.test(id)));
+// Of an assembly only the stated figures are told.
+export function blockRows({ mechanical }, kilograms, unit) {
+  const { materials = [], layers = [], stated = [] } = mechanical ?? {};
+  const ofBodies = layers.filter(({ entities }) => entities.some((id) => /^b\d+$/.test(id)));
   return [
-    ...mechanical.materials.flatMap(materialRows),
-    ...rows,
-    ['Layer', layers.map(({ name }) => name).join(', ')],
-    checkedRow(mechanical.stated, unit),
+    ...materials.flatMap(materialRows),
+    ['Mass', kilograms && mass(kilograms)],
+    ['Layer', ofBodies.map(({ name }) => name).join(', ')],
+    checkedRow(stated, unit),
   ];
 }
 
@@ -48,7 +47,7 @@ export const propertyRows = ({ mechanical, properties }) =>
   properties.filter((property) => !mechanical || !isSaid(mechanical, property)).map(({ name, value }) => [name, value]);
 
 export function faceRows({ mechanical }, face, unit) {
-  const told = mechanical?.entities.find(({ entity }) => entity === face.mechanicalId);
+  const told = mechanical?.entities?.find(({ entity }) => entity === face.mechanicalId);
   if (!told) return [];
   const type = told.line_type === 'unknown' ? '' : told.line_type.replaceAll('_', ' ');
   const thickness = told.line_thickness ? `${number(told.line_thickness)} ${unit}` : '';
