@@ -156,7 +156,8 @@ async function checkHoles(tab) {
   const told = await tab.evaluate(() => {
     const blocks = new Set([...window.viewer.model.nodes()].map(({ block }) => block));
     const data = [...blocks].flatMap((block) => block?.mechanical ?? []);
-    return data.flatMap(({ holes = [], threads = [] }) => [...holes, ...threads.filter(({ hole }) => hole === null)]).length;
+    const bare = (threads) => threads.filter(({ hole }) => hole === null);
+    return data.flatMap(({ holes = [], threads = [] }) => [...holes, ...bare(threads)]).length;
   });
   const listed = all.reduce((sum, { count }) => sum + count, 0);
   assert.equal(listed, told, 'each hole stands on one line');
