@@ -174,7 +174,7 @@ void addFeatures(Block& block)
     const auto pattern = std::make_shared<vrx::ExcMfgFeatureUnclassified>();
     for (const std::uint64_t i : {0U, 1U, 2U, 3U})
     {
-        const vrx::ExcVector3d center(36.0 * static_cast<double>(i % 2), 68.0 * static_cast<double>(i / 2), 20);
+        const vrx::ExcVector3d center(i % 2 == 0 ? 0 : 36, i < 2 ? 0 : 68, 20);
         const auto tapped = hole<vrx::ExcMfgSimpleHole>(8.5, 28, EEnd::Blind, center, block.face(i));
         tapped->holeData()->setTipAngleDegrees(118);
         features.addSimpleHole(tapped);

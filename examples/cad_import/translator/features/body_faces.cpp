@@ -5,12 +5,14 @@
 BodyFaces::BodyFaces(std::uint64_t bodyId, const TopoDS_Shape& solid)
     : m_bodyId(bodyId)
 {
-    TopExp::MapShapes(solid, TopAbs_FACE, m_faces);
+    const auto faces = std::make_shared<TopTools_IndexedMapOfShape>();
+    TopExp::MapShapes(solid, TopAbs_FACE, *faces);
+    m_faces = faces;
 }
 
 std::shared_ptr<vrx::ExcEntity> BodyFaces::entity(const TopoDS_Face& face) const
 {
-    const int number = m_faces.FindIndex(face);
+    const int number = m_faces->FindIndex(face);
     if (number == 0)
     {
         return nullptr;

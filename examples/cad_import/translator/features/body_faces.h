@@ -20,5 +20,5 @@ public:
 
 private:
     std::uint64_t m_bodyId;
-    TopTools_IndexedMapOfShape m_faces;
+    std::shared_ptr<const TopTools_IndexedMapOfShape> m_faces; // not a map, whose moves may throw
 };

@@ -69,6 +69,21 @@ BodyHoles bodyHoles(BodyFaces faces, std::vector<Hole> holes)
     return body;
 }
 
+void findHole(const vrx::ExcFullSubentPath& face, const HolesOfBodies& bodies, ThreadPlace& place)
+{
+    const auto body = bodies.find(face.bodyId());
+    if (body == bodies.end())
+    {
+        return;
+    }
+    place.body = &body->second;
+    const auto hole = body->second.holeOf.find(face.subentId().index());
+    if (hole != body->second.holeOf.end())
+    {
+        place.hole = hole->second;
+    }
+}
+
 // Wherever the faces stand: in the block that the thread tells of, or in all when that has no shape of its own.
 std::vector<ThreadPlace> placesOf(const StepThread& thread, std::uint64_t block, ShapeLinks& links,
                                   const HolesOfBodies& bodies)
@@ -88,14 +103,11 @@ std::vector<ThreadPlace> placesOf(const StepThread& thread, std::uint64_t block,
             {
                 continue;
             }
+            const auto& path = link.entity->fsp();
             ThreadPlace place{link.block, nullptr, std::nullopt, face, {}};
-            const auto path = link.entity->fsp();
-            const auto body = path && thread.isInternal ? bodies.find(path->bodyId()) : bodies.end();
-            if (body != bodies.end())
+            if (path && thread.isInternal)
             {
-                const auto hole = body->second.holeOf.find(path->subentId().index());
-                place.body = &body->second;
-                place.hole = hole != body->second.holeOf.end() ? std::optional(hole->second) : std::nullopt;
+                findHole(*path, bodies, place);
             }
             const auto key = std::make_tuple(link.block, path ? path->bodyId() : 0, place.hole);
             const auto [at, isNew] = known.insert({key, places.size()});

@@ -182,7 +182,7 @@ void addStepLayers(MechanicalData& data, const CadModel& model, ShapeLinks& link
     std::vector<mp::wstring> names;
     std::transform(all.begin(), all.end(), std::back_inserter(names),
                    [](const StepLayer& layer) { return layer.name; });
-    Layers layers(data, std::move(names));
+    Layers layers(data, names);
     std::map<mp::wstring, bool> areHidden; // by annotation
     for (const StepLayer& layer : all)
     {
@@ -255,7 +255,7 @@ void addIgesLayers(MechanicalData& data, const CadModel& model, const ProductStr
     const std::vector<Layered> all = layeredShapes(model, blocks);
     std::vector<mp::wstring> names;
     std::transform(all.begin(), all.end(), std::back_inserter(names), [](const Layered& one) { return one.layer; });
-    Layers layers(data, std::move(names));
+    Layers layers(data, names);
     for (const Layered& one : all)
     {
         for (const ShapeLinks::Link& link : links.everywhere(one.shape))

@@ -27,9 +27,9 @@ struct Scale
 
 struct Unit
 {
-    EDimUnit unit;
+    EDimUnit unit = EDimUnit::None;
     Scale scale;
-    const mp::wchar* lengthName;
+    const mp::wchar* lengthName = nullptr;
 };
 
 const Unit kUnits[] = {
