@@ -27,16 +27,20 @@ std::string property(const vrx::ExcMiscData& data, const mp::wchar* name)
     return found != nullptr ? printable(found->value()) : std::string();
 }
 
+// Each once, for several bodies may be of one.
 std::string materialsText(const MechanicalPart& part)
 {
-    std::string text = part.materials.size() == 1 ? "material " : "materials ";
-    const char* separator = "";
+    std::set<std::string> known;
+    std::string text;
     for (const PartMaterial& material : part.materials)
     {
-        text += separator + printable(material.name);
-        separator = ", ";
+        const std::string name = printable(material.name);
+        if (known.insert(name).second)
+        {
+            text += (text.empty() ? "" : ", ") + name;
+        }
     }
-    return text;
+    return (known.size() == 1 ? "material " : "materials ") + text;
 }
 
 // The mass of the product, or of those parts of which it is known.
