@@ -4,6 +4,7 @@
 #include "host/pmi/pmi_json.h"
 #include "host/pmi/pmi_notation.h"
 #include "host/pmi/pmi_table.h"
+#include "mechanical_block.h"
 #include "mp/narrow.h"
 #include "vrx_api/json/json_value.h"
 #include "vrx_api/vrx_api_exchange_object.h"
@@ -323,20 +324,6 @@ TEST(PmiNotation, OfFeatureControlFrames)
         row.make(gdt);
         EXPECT_EQ(mp::toNarrow(pmi_notation::lines(gdt, pmi).at(0)), row.text);
     }
-}
-
-BODY* bodyOfFaces(int count)
-{
-    auto* const body = new BODY;
-    auto* const lump = new LUMP;
-    auto* const shell = new SHELL;
-    body->addPart(lump);
-    lump->addPart(shell);
-    for (int i = 0; i < count; ++i)
-    {
-        shell->addPart(new FACE);
-    }
-    return body;
 }
 
 TEST(Pmi, IsLinkedToTheBodiesThatCame)

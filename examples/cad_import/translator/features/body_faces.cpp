@@ -1,5 +1,7 @@
 #include "features/body_faces.h"
 
+#include "mechanical/entities.h"
+
 #include <TopExp.hxx>
 
 BodyFaces::BodyFaces(std::uint64_t bodyId, const TopoDS_Shape& solid)
@@ -18,8 +20,5 @@ std::shared_ptr<vrx::ExcEntity> BodyFaces::entity(const TopoDS_Face& face) const
         return nullptr;
     }
     const vrx::ExcSubentId part(vrx::ExcSubentId::EType::Face, static_cast<std::uint64_t>(number - 1));
-    auto entity = std::make_shared<vrx::ExcEntity>();
-    entity->setType(vrx::ExcEntity::EType::Fsp);
-    entity->setFsp(std::make_shared<vrx::ExcFullSubentPath>(m_bodyId, part));
-    return entity;
+    return entities::ofBody(m_bodyId, part);
 }

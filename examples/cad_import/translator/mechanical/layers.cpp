@@ -1,6 +1,7 @@
 #include "mechanical/layers.h"
 
 #include "kernel/occt_text.h"
+#include "mechanical/entities.h"
 #include "mechanical/mechanical_data.h"
 #include "mp/narrow.h"
 #include "pmi/drawn_pmi.h"
@@ -52,14 +53,6 @@ TopoDS_Shape shapeOf(int item, const CadModel& model, const ShapeLinks& links)
     return styled.IsNull() ? links.shapeOf(item) : links.shapeOf(styled->Item());
 }
 
-std::shared_ptr<vrx::ExcEntity> entityOf(const mp::wstring& annotation)
-{
-    auto entity = std::make_shared<vrx::ExcEntity>();
-    entity->setType(vrx::ExcEntity::EType::Visu);
-    entity->setId(annotation);
-    return entity;
-}
-
 // Layers while they are put together, block by block.
 class Layers
 {
@@ -100,7 +93,7 @@ public:
     {
         if (m_knownAnnotations.insert({name, annotation}).second)
         {
-            of(name, shownName, block).addEntity(entityOf(annotation));
+            of(name, shownName, block).addEntity(entities::ofScene(annotation));
         }
     }
 
@@ -210,7 +203,7 @@ void addStepLayers(MechanicalData& data, const CadModel& model, ShapeLinks& link
         if (isHidden && !showHidden)
         {
             const auto information = std::make_shared<vrx::ExcTopologicalEntityInformation>();
-            information->setEntity(entityOf(annotation));
+            information->setEntity(entities::ofScene(annotation));
             information->setHidden(true);
             data.entities(blockOf(annotation)).addData(information);
         }

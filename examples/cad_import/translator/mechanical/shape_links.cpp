@@ -2,6 +2,7 @@
 
 #include "bodies/block_bodies.h"
 #include "kernel/loose_shells.h"
+#include "mechanical/entities.h"
 #include "mp/narrow.h"
 #include "reading/aspect_items.h"
 #include "reading/cad_model.h"
@@ -73,25 +74,10 @@ void gather(const StepRecord& first, std::vector<StepRecord>& all, std::set<int>
     }
 }
 
-std::shared_ptr<vrx::ExcEntity> bodyEntity(std::uint64_t bodyId, const vrx::ExcSubentId& part)
-{
-    auto entity = std::make_shared<vrx::ExcEntity>();
-    entity->setType(vrx::ExcEntity::EType::Fsp);
-    entity->setFsp(std::make_shared<vrx::ExcFullSubentPath>(bodyId, part));
-    return entity;
-}
-
-std::shared_ptr<vrx::ExcEntity> sceneEntity(const vrx::ExcSubentId& part)
-{
-    auto entity = std::make_shared<vrx::ExcEntity>();
-    entity->setType(vrx::ExcEntity::EType::Visu);
-    entity->setId(mp::toWide(static_cast<char>(part.type()) + std::to_string(part.index())));
-    return entity;
-}
-
 std::shared_ptr<vrx::ExcEntity> entityAt(std::uint64_t bodyId, const vrx::ExcSubentId& part)
 {
-    return bodyId != 0 ? bodyEntity(bodyId, part) : sceneEntity(part);
+    return bodyId != 0 ? entities::ofBody(bodyId, part)
+                       : entities::ofScene(mp::toWide(static_cast<char>(part.type()) + std::to_string(part.index())));
 }
 
 } // namespace
