@@ -69,15 +69,15 @@ void ExchangeObjectWrapper::writeObject(wostream& stream) const
     }
     JsonDocument document(rapidjson::kObjectType);
     JsonAllocator& allocator = document.GetAllocator();
-    addMember(document, kName, encode(m_pObject->objectName(), allocator), allocator);
+    addMember(document, kName, treeOf(m_pObject->objectName(), allocator), allocator);
     if (m_pObject->binary())
     {
         addMember(document, kBinary, JsonValue(true), allocator);
-        addMember(document, kData, encode(share(*m_pObject), allocator), allocator);
+        addMember(document, kData, treeOf(share(*m_pObject), allocator), allocator);
     }
     else
     {
-        addMember(document, kData, encode(*m_pObject, allocator), allocator);
+        addMember(document, kData, treeOf(*m_pObject, allocator), allocator);
     }
     JsonTextIO::write(stream, document, true);
 }
