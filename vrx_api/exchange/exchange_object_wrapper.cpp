@@ -22,8 +22,6 @@ constexpr Key kName = WIDE("exchange_object_name");
 constexpr Key kBinary = WIDE("binary");
 constexpr Key kData = WIDE("exchange_object_data");
 
-constexpr int kDefaultCompression = -1;
-
 Bytes encodeObject(const IExchangeObject& object)
 {
     JsonDocument document;
@@ -33,22 +31,29 @@ Bytes encodeObject(const IExchangeObject& object)
     return bytes;
 }
 
-Bytes contentOf(const IExchangeObject& object)
+Bytes compressed(const Bytes& plain, int level)
 {
-    Bytes bytes = encodeObject(object);
-    if (!object.compress())
+    Bytes bytes;
+    Compressor::compress(bytes, plain.data(), plain.size(), level);
+    return bytes;
+}
+
+Bytes contentOf(const IExchangeObject& object, ECompression compression)
+{
+    constexpr int kDefaultLevel = -1;
+    constexpr int kFastestLevel = 1;
+    Bytes plain = encodeObject(object);
+    if (compression == ECompression::None || !object.compress())
     {
-        return bytes;
+        return plain;
     }
-    Bytes compressed;
-    Compressor::compress(compressed, bytes.data(), bytes.size(), kDefaultCompression);
-    return compressed;
+    return compressed(plain, compression == ECompression::Fast ? kFastestLevel : kDefaultLevel);
 }
 
 // Leaves the object's binary form in the system and returns the name under which it is found there.
-wstring share(const IExchangeObject& object)
+wstring share(const IExchangeObject& object, ECompression compression)
 {
-    const Bytes bytes = contentOf(object);
+    const Bytes bytes = contentOf(object, compression);
     wstring name = IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, true);
@@ -73,7 +78,7 @@ void ExchangeObjectWrapper::writeObject(wostream& stream) const
     if (m_pObject->binary())
     {
         addMember(document, kBinary, JsonValue(true), allocator);
-        addMember(document, kData, encode(share(*m_pObject), allocator), allocator);
+        addMember(document, kData, encode(share(*m_pObject, m_compression), allocator), allocator);
     }
     else
     {

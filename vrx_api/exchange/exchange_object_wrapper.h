@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mp/serializable.h"
+#include "vrx_api/exchange/compression.h"
 #include "vrx_api/exchange/exchange_object.h"
 
 #include <memory>
@@ -28,9 +29,13 @@ public:
     /// content.
     void setDelayedLoading(bool delayed) { m_delayedLoading = delayed; }
 
+    /// How `writeObject` compresses a binary object.
+    void setCompression(ECompression compression) { m_compression = compression; }
+
 private:
     std::shared_ptr<IExchangeObject> m_pObject;
     bool m_delayedLoading = false;
+    ECompression m_compression = ECompression::AsTold;
 };
 
 } // namespace vrx
