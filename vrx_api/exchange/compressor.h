@@ -4,6 +4,7 @@
 #include "vrx_api/vrx_api_export.h"
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -17,14 +18,17 @@ class VRX_API Compressor
 public:
     Compressor() = delete;
 
+    static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
+
     /// Replaces `out` by the gzip stream of the data; level -1 is zlib's default. Throws `std::runtime_error`.
     static void compress(Bytes& out, const char* data, std::uint64_t size, int level);
     static void compress(std::vector<char>& out, const char* data, std::uint64_t size, int level);
     static void compress(std::string& out, const char* data, std::uint64_t size, int level);
 
     /// Replaces `out` by the plain data. A stream that was cut short gives what could be decompressed; a damaged one
-    /// throws `std::runtime_error`.
-    static void decompress(Bytes& out, const char* data, std::uint64_t size);
+    /// throws `std::runtime_error`, and more plain data than the limit `std::length_error`. Memory is spent for the
+    /// data that comes, whatever size the stream tells.
+    static void decompress(Bytes& out, const char* data, std::uint64_t size, std::uint64_t limit = kNoLimit);
     static void decompress(std::vector<char>& out, const char* data, std::uint64_t size);
     static void decompress(std::string& out, const char* data, std::uint64_t size);
 
