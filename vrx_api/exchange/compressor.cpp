@@ -1,6 +1,7 @@
 #include "vrx_api/exchange/compressor.h"
 
 #include "kolt/log.h"
+#include "vrx_api/exchange/fast_deflate.h"
 #include "vrx_api/exchange/zlib_stream.h"
 
 #include <algorithm>
@@ -14,6 +15,7 @@ namespace vrx
 namespace
 {
 
+constexpr bool kHasLibdeflate = VRX_API_HAS_LIBDEFLATE != 0;
 constexpr std::uint64_t kSmallestStream = 3;
 
 // zlib counts in 32 bits.
@@ -60,6 +62,13 @@ void Compressor::compress(Bytes& out, const char* data, std::uint64_t size, int 
 {
     kolt::trace();
     requireReach(size);
+    if constexpr (kHasLibdeflate)
+    {
+        if (deflateByLibdeflate(out, data, size, level))
+        {
+            return;
+        }
+    }
     deflateByZlib(out, data, size, level);
 }
 
@@ -81,7 +90,15 @@ void Compressor::decompress(Bytes& out, const char* data, std::uint64_t size, st
 {
     kolt::trace();
     requireReach(size);
-    makeRoom(out, std::min(expectedSize(data, size), limit));
+    const std::uint64_t expected = expectedSize(data, size);
+    makeRoom(out, std::min(expected, limit));
+    if constexpr (kHasLibdeflate)
+    {
+        if (out.size() == expected && inflateByLibdeflate(out, data, size))
+        {
+            return;
+        }
+    }
     inflateByZlib(out, data, size, limit);
 }
 
