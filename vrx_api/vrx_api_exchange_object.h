@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vrx_api/exchange/bytes.h"
+#include "vrx_api/exchange/compression.h"
 #include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/exchange_object.h"
 #include "vrx_api/exchange/exchange_object_registry.h"

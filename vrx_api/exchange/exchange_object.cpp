@@ -3,7 +3,6 @@
 #include "kolt/log.h"
 #include "vrx_api/exchange/json_binary_io.h"
 #include "vrx_api/exchange/shared_content.h"
-#include "vrx_api/json/json_value.h"
 
 #include <boost/uuid/random_generator.hpp>
 #include <boost/uuid/uuid_io.hpp>
@@ -12,25 +11,6 @@
 
 namespace vrx
 {
-
-namespace
-{
-
-// The plain content of a buffer, which is removed from the system.
-Bytes takeContent(const wstring& name)
-{
-    mp::SharedBuffer<char> buffer;
-    buffer.open(name, true);
-    return plainContent(buffer);
-}
-
-void decodeContent(const wstring& name, JsonDocument& document)
-{
-    const Bytes bytes = takeContent(name);
-    JsonBinaryIO::read(bytes.data(), bytes.size(), document, document.GetAllocator());
-}
-
-} // namespace
 
 IExchangeObject::~IExchangeObject() = default;
 
@@ -56,9 +36,10 @@ void IExchangeObject::load()
     {
         return;
     }
-    JsonDocument document;
-    decodeContent(m_source, document);
-    readObject(document);
+    mp::SharedBuffer<char> buffer;
+    buffer.open(m_source, true);
+    const PlainContent content(buffer, m_sizeLimit);
+    JsonBinaryIO::read(content.data(), content.size(), *this);
     m_loaded = true;
 }
 

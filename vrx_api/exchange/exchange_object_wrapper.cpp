@@ -2,6 +2,7 @@
 
 #include "kolt/log.h"
 #include "mp/shared_buffer.h"
+#include "vrx_api/exchange/binary_form.h"
 #include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/exchange_object_registry.h"
 #include "vrx_api/exchange/json_binary_io.h"
@@ -10,6 +11,9 @@
 #include "vrx_api/json/json_write.h"
 #include "vrx_api/json/message.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <functional>
 #include <stdexcept>
 
 namespace vrx
@@ -22,40 +26,38 @@ constexpr Key kName = WIDE("exchange_object_name");
 constexpr Key kBinary = WIDE("binary");
 constexpr Key kData = WIDE("exchange_object_data");
 
-constexpr int kDefaultCompression = -1;
-
-Bytes encodeObject(const IExchangeObject& object)
+Bytes compressedForm(const IExchangeObject& object, int level)
 {
-    JsonDocument document;
-    object.writeObject(document, document.GetAllocator());
+    Bytes plain;
+    JsonBinaryIO::write(plain, object);
     Bytes bytes;
-    JsonBinaryIO::write(bytes, document);
+    Compressor::compress(bytes, plain.data(), plain.size(), level);
     return bytes;
 }
 
-Bytes contentOf(const IExchangeObject& object)
+// Leaves content in the system and returns the name under which it is found there.
+wstring leave(std::uint64_t size, const std::function<void(char*)>& make)
 {
-    Bytes bytes = encodeObject(object);
-    if (!object.compress())
-    {
-        return bytes;
-    }
-    Bytes compressed;
-    Compressor::compress(compressed, bytes.data(), bytes.size(), kDefaultCompression);
-    return compressed;
-}
-
-// Leaves the object's binary form in the system and returns the name under which it is found there.
-wstring share(const IExchangeObject& object)
-{
-    const Bytes bytes = contentOf(object);
     wstring name = IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, true);
-    buffer.write(bytes.data(), bytes.size());
+    buffer.fill(size, make);
     // Nobody would ever be told of a buffer that could not be filled; a filled one is the reader's to remove.
     buffer.setRemoveOnClose(false);
     return name;
+}
+
+wstring share(const IExchangeObject& object, ECompression compression)
+{
+    constexpr int kDefaultLevel = -1;
+    constexpr int kFastestLevel = 1;
+    if (compression == ECompression::None || !object.compress())
+    {
+        const BinaryForm form(object);
+        return leave(form.size(), [&form](char* content) { form.write(content); });
+    }
+    const Bytes bytes = compressedForm(object, compression == ECompression::Fast ? kFastestLevel : kDefaultLevel);
+    return leave(bytes.size(), [&bytes](char* content) { std::copy(bytes.begin(), bytes.end(), content); });
 }
 
 } // namespace
@@ -73,7 +75,7 @@ void ExchangeObjectWrapper::writeObject(wostream& stream) const
     if (m_pObject->binary())
     {
         addMember(document, kBinary, JsonValue(true), allocator);
-        addMember(document, kData, treeOf(share(*m_pObject), allocator), allocator);
+        addMember(document, kData, treeOf(share(*m_pObject, m_compression), allocator), allocator);
     }
     else
     {
@@ -99,6 +101,7 @@ void ExchangeObjectWrapper::readObject(wistream& stream)
     {
         return;
     }
+    m_pObject->setSizeLimit(m_sizeLimit);
     const JsonValue* const data = find(document, kData);
     if (data == nullptr)
     {
