@@ -2,6 +2,7 @@
 
 #include "kolt/logger.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -26,8 +27,11 @@ public:
 
     const std::filesystem::path& path() const { return m_path; }
 
-    /// Makes this file the process's log again, after a test that used another.
-    void open() const { kolt::LoggerHolder::initLogger(kolt::kTrace, m_path.string()); }
+    /// Makes this file the process's log again, after a test that used another or another level.
+    void open(int level = kolt::kTrace) const { kolt::LoggerHolder::initLogger(level, m_path.string()); }
+
+    /// Drops what has been logged.
+    void clear() const { std::filesystem::resize_file(m_path, 0); }
 
     /// Closes the log: Windows keeps an open file from being removed.
     static void close() { kolt::LoggerHolder::initLogger(kolt::kFatal, std::string()); }
@@ -72,16 +76,22 @@ public:
         return found;
     }
 
-    /// The texts of all lines but trace lines.
-    std::vector<std::string> complaints() const
+    /// The tags and texts of all lines.
+    std::vector<std::string> all() const
     {
         std::vector<std::string> found;
-        forEachLine([&](const std::string& line) {
-            if (line.rfind("[TRACE]", 0) != 0)
-            {
-                found.push_back(line.substr(0, line.find(']') + 1) + ' ' + textOf(line));
-            }
-        });
+        forEachLine(
+            [&](const std::string& line) { found.push_back(line.substr(0, line.find(']') + 1) + ' ' + textOf(line)); });
+        return found;
+    }
+
+    /// The same of all lines but trace lines.
+    std::vector<std::string> complaints() const
+    {
+        std::vector<std::string> found = all();
+        found.erase(std::remove_if(found.begin(), found.end(),
+                                   [](const std::string& line) { return line.rfind("[TRACE]", 0) == 0; }),
+                    found.end());
         return found;
     }
 
