@@ -50,7 +50,7 @@ inline std::vector<FormValue> sampleValues()
         array({string(WIDE("x"))}),
         array({array({})}),
         array({{Tag::Object, {}, {}}}),
-        string({}),
+        string(WIDE("")),
         string(WIDE("other")),
     };
     for (const std::int32_t value : {0, -1, 7, 70000, std::numeric_limits<std::int32_t>::min()})
