@@ -342,8 +342,8 @@ public:
 };
 
 template <class T, Form kForm>
-const bool RegularWriter<T, kForm>::s_entered =
-    enterWriter(typeid(T), &RegularWriter::template write<SizeWriter>, &RegularWriter::template write<ByteWriter>);
+const bool RegularWriter<T, kForm>::s_entered = enterWriter(typeid(T), &RegularWriter::template write<SizeWriter>,
+                                                            &RegularWriter::template write<ByteWriter>);
 
 /// Enters a class that inherits the regular operations of its base, by the line `template struct Inherits<...>;`.
 template <class T, class Base, Form kForm = Form::Object>
@@ -357,9 +357,9 @@ template <class T, class Base, Form kForm>
 const bool Inherits<T, Base, kForm>::s_reader = enterReader(typeid(T), &RegularReader<Base, kForm>::read);
 
 template <class T, class Base, Form kForm>
-const bool Inherits<T, Base, kForm>::s_writer =
-    enterWriter(typeid(T), &RegularWriter<Base, kForm>::template write<SizeWriter>,
-                &RegularWriter<Base, kForm>::template write<ByteWriter>);
+const bool Inherits<T, Base, kForm>::s_writer = enterWriter(typeid(T),
+                                                            &RegularWriter<Base, kForm>::template write<SizeWriter>,
+                                                            &RegularWriter<Base, kForm>::template write<ByteWriter>);
 
 /// The regular `readObject` of an object: the trace line, the kind test with its message, the fields. The class has no
 /// other statement there.
