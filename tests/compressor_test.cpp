@@ -107,6 +107,26 @@ TEST(Compressor, RefusesWhatItCanNotDo)
     EXPECT_THROW(Compressor::decompress(out, "a", tooMuch), std::length_error);
 }
 
+TEST(Compressor, RefusesPlainDataAboveTheLimit)
+{
+    const std::string data = sample(100000);
+    for (const std::string& stream : {compressed(data), compressed(std::string(100000, 'a')), kZlib, kGzip})
+    {
+        const std::uint64_t size = decompressed(stream).size();
+        vrx::Bytes out;
+        Compressor::decompress(out, stream.data(), stream.size(), size);
+        EXPECT_EQ(out.size(), size);
+        for (const std::uint64_t limit : {size - 1, size / 2, std::uint64_t{0}})
+        {
+            vrx::Bytes refused;
+            EXPECT_EQ(test::thrownBy<std::length_error>(
+                          [&] { Compressor::decompress(refused, stream.data(), stream.size(), limit); }),
+                      "Decompressed data is above the limit of " + std::to_string(limit) + " bytes");
+            EXPECT_LE(refused.capacity(), limit + 1);
+        }
+    }
+}
+
 TEST(Compressor, TellsCompressedDataByItsFirstTwoBytes)
 {
     const auto is = [](const char* hex) {

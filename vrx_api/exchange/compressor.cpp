@@ -1,11 +1,12 @@
 #include "vrx_api/exchange/compressor.h"
 
 #include "kolt/log.h"
-
-#include <zlib.h>
+#include "vrx_api/exchange/fast_deflate.h"
+#include "vrx_api/exchange/zlib_stream.h"
 
 #include <algorithm>
 #include <limits>
+#include <new>
 #include <stdexcept>
 
 namespace vrx
@@ -14,134 +15,45 @@ namespace vrx
 namespace
 {
 
-constexpr int kGzipWindow = 15 + 16;
-constexpr int kAnyWindow = 15 + 32;
-constexpr int kMemoryLevel = 8;
+constexpr bool kHasLibdeflate = VRX_API_HAS_LIBDEFLATE != 0;
 constexpr std::uint64_t kSmallestStream = 3;
 
-class Deflater
+// zlib counts in 32 bits.
+void requireReach(std::uint64_t size)
 {
-public:
-    explicit Deflater(int level)
-    {
-        if (deflateInit2(&m_stream, level, Z_DEFLATED, kGzipWindow, kMemoryLevel, Z_DEFAULT_STRATEGY) != Z_OK)
-        {
-            throw std::runtime_error("deflate init failed");
-        }
-    }
-    Deflater(const Deflater&) = delete;
-    Deflater& operator=(const Deflater&) = delete;
-    ~Deflater() { deflateEnd(&m_stream); }
-
-    z_stream& stream() { return m_stream; }
-
-private:
-    z_stream m_stream{};
-};
-
-class Inflater
-{
-public:
-    Inflater()
-    {
-        if (inflateInit2(&m_stream, kAnyWindow) != Z_OK)
-        {
-            throw std::runtime_error("inflate init failed");
-        }
-    }
-    Inflater(const Inflater&) = delete;
-    Inflater& operator=(const Inflater&) = delete;
-    ~Inflater() { inflateEnd(&m_stream); }
-
-    z_stream& stream() { return m_stream; }
-
-private:
-    z_stream m_stream{};
-};
-
-void setInput(z_stream& stream, const char* data, std::uint64_t size)
-{
-    if (size > std::numeric_limits<uInt>::max())
+    if (size > std::numeric_limits<std::uint32_t>::max())
     {
         throw std::length_error("Data to compress or decompress must be below 4 GiB");
     }
-    // zlib does not write through its input pointer, which lacks a const for the sake of old compilers.
-    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(data)); // NOLINT
-    stream.avail_in = static_cast<uInt>(size);
-}
-
-// Gives zlib up to `chunk` bytes behind what is written.
-template <class Buffer>
-void setOutput(z_stream& stream, Buffer& out, std::size_t written, std::uint64_t chunk)
-{
-    const std::uint64_t most = std::numeric_limits<uInt>::max();
-    const auto size = static_cast<std::size_t>(std::min(chunk, most));
-    if (out.size() < written + size)
-    {
-        out.resize(written + size);
-    }
-    stream.next_out = reinterpret_cast<Bytef*>(&out[written]); // NOLINT: zlib's bytes are unsigned
-    stream.avail_out = static_cast<uInt>(size);
 }
 
 // A gzip stream ends with the size of its content modulo 2^32 (RFC 1952, section 2.3.1). It is only a hint: the bytes
-// may lie, so that it is bounded by what deflate can reach at best, which is 1032 to 1 (zlib's technical notes), and
-// for much memory by what models reach.
+// may lie, so that it is bounded by what models reach; what grows more is rare, and comes piece by piece.
 std::uint64_t expectedSize(const char* data, std::uint64_t size)
 {
-    constexpr std::uint64_t kBestRatio = 1032;
-    constexpr std::uint64_t kUsualRatio = 32;
-    constexpr std::uint64_t kMuchMemory = std::uint64_t{256} << 20;
+    constexpr std::uint64_t kUsualRatio = 64;
     constexpr std::uint64_t kSmallestGzip = 18;
     const auto byte = [data](std::uint64_t at) { return std::uint64_t{static_cast<unsigned char>(data[at])}; };
-    const std::uint64_t usual = std::max<std::uint64_t>(size * 2, 1);
     if (size < kSmallestGzip || byte(0) != 0x1F)
     {
-        return usual;
+        return size * 2;
     }
     const std::uint64_t told = byte(size - 4) | byte(size - 3) << 8 | byte(size - 2) << 16 | byte(size - 1) << 24;
-    const std::uint64_t bound = std::min(size * kBestRatio, std::max(size * kUsualRatio, kMuchMemory));
-    return told > bound ? usual : std::max<std::uint64_t>(told, 1);
+    return told > size * kUsualRatio ? size * 2 : told;
 }
 
-template <class Buffer>
-void deflateInto(Buffer& out, const char* data, std::uint64_t size, int level)
+// The room that a stream is expected to fill; none where the system does not have that much.
+void makeRoom(Bytes& out, std::uint64_t size)
 {
-    Deflater deflater(level);
-    z_stream& stream = deflater.stream();
-    setInput(stream, data, size);
-    const std::uint64_t chunk = size / 2 + 1024;
-    std::size_t written = 0;
-    do
+    out.clear();
+    try
     {
-        setOutput(stream, out, written, chunk);
-        deflate(&stream, Z_FINISH);
-        written = static_cast<std::size_t>(reinterpret_cast<char*>(stream.next_out) - out.data()); // NOLINT
-    } while (stream.avail_out == 0);
-    out.resize(written);
-}
-
-template <class Buffer>
-void inflateInto(Buffer& out, const char* data, std::uint64_t size)
-{
-    Inflater inflater;
-    z_stream& stream = inflater.stream();
-    setInput(stream, data, size);
-    std::uint64_t chunk = expectedSize(data, size);
-    std::size_t written = 0;
-    int result = Z_OK;
-    do
+        out.resize(static_cast<std::size_t>(size));
+    }
+    catch (const std::bad_alloc&)
     {
-        setOutput(stream, out, written, chunk);
-        result = inflate(&stream, Z_FINISH);
-        if (result != Z_OK && result != Z_STREAM_END && result != Z_BUF_ERROR)
-        {
-            throw std::runtime_error(stream.msg != nullptr ? stream.msg : zError(result));
-        }
-        written = static_cast<std::size_t>(reinterpret_cast<char*>(stream.next_out) - out.data()); // NOLINT
-        chunk = std::max<std::uint64_t>(size * 2, 1);
-    } while (result != Z_STREAM_END && stream.avail_out == 0);
-    out.resize(written);
+        out.clear();
+    }
 }
 
 } // namespace
@@ -149,37 +61,57 @@ void inflateInto(Buffer& out, const char* data, std::uint64_t size)
 void Compressor::compress(Bytes& out, const char* data, std::uint64_t size, int level)
 {
     kolt::trace();
-    deflateInto(out, data, size, level);
+    requireReach(size);
+    if constexpr (kHasLibdeflate)
+    {
+        if (deflateByLibdeflate(out, data, size, level))
+        {
+            return;
+        }
+    }
+    deflateByZlib(out, data, size, level);
 }
 
 void Compressor::compress(std::vector<char>& out, const char* data, std::uint64_t size, int level)
 {
-    kolt::trace();
-    deflateInto(out, data, size, level);
-}
-
-void Compressor::decompress(Bytes& out, const char* data, std::uint64_t size)
-{
-    kolt::trace();
-    inflateInto(out, data, size);
-}
-
-void Compressor::decompress(std::vector<char>& out, const char* data, std::uint64_t size)
-{
-    kolt::trace();
-    inflateInto(out, data, size);
+    Bytes bytes;
+    compress(bytes, data, size, level);
+    out.assign(bytes.begin(), bytes.end());
 }
 
 void Compressor::compress(std::string& out, const char* data, std::uint64_t size, int level)
 {
-    std::vector<char> bytes;
+    Bytes bytes;
     compress(bytes, data, size, level);
+    out.assign(bytes.begin(), bytes.end());
+}
+
+void Compressor::decompress(Bytes& out, const char* data, std::uint64_t size, std::uint64_t limit)
+{
+    kolt::trace();
+    requireReach(size);
+    const std::uint64_t expected = expectedSize(data, size);
+    makeRoom(out, std::min(expected, limit));
+    if constexpr (kHasLibdeflate)
+    {
+        if (out.size() == expected && inflateByLibdeflate(out, data, size))
+        {
+            return;
+        }
+    }
+    inflateByZlib(out, data, size, limit);
+}
+
+void Compressor::decompress(std::vector<char>& out, const char* data, std::uint64_t size)
+{
+    Bytes bytes;
+    decompress(bytes, data, size);
     out.assign(bytes.begin(), bytes.end());
 }
 
 void Compressor::decompress(std::string& out, const char* data, std::uint64_t size)
 {
-    std::vector<char> bytes;
+    Bytes bytes;
     decompress(bytes, data, size);
     out.assign(bytes.begin(), bytes.end());
 }

@@ -4,6 +4,7 @@
 #include "vrx_api/vrx_api_export.h"
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -11,11 +12,14 @@ namespace vrx
 {
 
 /// Compression of the binary form (RFC 1951 data): gzip streams (RFC 1952) are written, gzip and zlib (RFC 1950)
-/// streams are read. The data of one call must be below 4 GiB; otherwise `std::length_error` is thrown.
+/// streams are read. zlib sets the rules; where the library is built with libdeflate, that does most of the work. The
+/// data of one call must be below 4 GiB; otherwise `std::length_error` is thrown.
 class VRX_API Compressor
 {
 public:
     Compressor() = delete;
+
+    static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
 
     /// Replaces `out` by the gzip stream of the data; level -1 is zlib's default. Throws `std::runtime_error`.
     static void compress(Bytes& out, const char* data, std::uint64_t size, int level);
@@ -23,8 +27,9 @@ public:
     static void compress(std::string& out, const char* data, std::uint64_t size, int level);
 
     /// Replaces `out` by the plain data. A stream that was cut short gives what could be decompressed; a damaged one
-    /// throws `std::runtime_error`.
-    static void decompress(Bytes& out, const char* data, std::uint64_t size);
+    /// throws `std::runtime_error`, and more plain data than the limit `std::length_error`. Memory is spent for the
+    /// data that comes, whatever size the stream tells.
+    static void decompress(Bytes& out, const char* data, std::uint64_t size, std::uint64_t limit = kNoLimit);
     static void decompress(std::vector<char>& out, const char* data, std::uint64_t size);
     static void decompress(std::string& out, const char* data, std::uint64_t size);
 
