@@ -71,7 +71,7 @@ void measureGrowth(int rounds)
 {
     constexpr std::size_t kFewFaces = 15;
     constexpr std::size_t kManyFaces = 1500;
-    constexpr int kSeveralIterations = 10;
+    constexpr int kSeveralIterations = 5;
     bench::holdHeap(8 * kGigabyte);
     const bench::Road few({"20 MB scene", [] { return bench::makeScene(EPolygon::Triangle, kFewFaces); }});
     const bench::Road many({"2 GB scene", [] { return bench::makeScene(EPolygon::Triangle, kManyFaces); }});
