@@ -5,17 +5,37 @@
 #include "vrx_api/vrx_api_export.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace boost::interprocess
 {
+class mapped_region;
 class shared_memory_object;
-}
+} // namespace boost::interprocess
 
 namespace mp
 {
+
+/// The content of a shared buffer, to be read where it lies. It stays when the buffer is closed or removed, but nobody
+/// may shorten the buffer meanwhile.
+class VRX_API SharedView
+{
+public:
+    SharedView();
+    explicit SharedView(std::unique_ptr<boost::interprocess::mapped_region> region);
+    SharedView(SharedView&& other) noexcept;
+    SharedView& operator=(SharedView&& other) noexcept;
+    ~SharedView();
+
+    const char* data() const;
+    std::uint64_t size() const;
+
+private:
+    std::unique_ptr<boost::interprocess::mapped_region> m_region;
+};
 
 template <class T>
 class SharedBuffer;
@@ -40,8 +60,15 @@ public:
     /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.
     void write(const char* data, std::uint64_t size);
 
+    /// The same for content that is made where it stays: `make` gets the memory, all of which it writes. An exception
+    /// of it passes, and leaves the object empty.
+    void fill(std::uint64_t size, const std::function<void(char*)>& make);
+
     /// Replaces `out` by the content.
     void read(std::vector<char>& out) const;
+
+    /// The content without a copy. Only of an object in which another program left out pages, the others are copied.
+    SharedView view() const;
 
     /// Makes the content empty.
     void clear();

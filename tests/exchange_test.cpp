@@ -243,6 +243,64 @@ TEST(Envelope, OfABinaryObjectNamesABuffer)
     EXPECT_EQ(test::textOf(document), test::written(*structure));
 }
 
+// What the envelope of an object leaves in shared memory.
+std::string contentOf(const ExchangeObjectWrapper& wrapper)
+{
+    mp::wostringstream stream;
+    wrapper.writeObject(stream);
+    const JsonDocument envelope = test::parsed(mp::toNarrow(stream.str()));
+    return test::takeBuffer(envelope[WIDE("exchange_object_data")].GetString());
+}
+
+class PlainStructure : public ExcProductStructure
+{
+public:
+    bool compress() const override { return false; }
+};
+
+TEST(Envelope, IsCompressedAsTheSenderChooses)
+{
+    wstring name;
+    for (wchar c = 0x100; c < 0x1000; ++c)
+    {
+        name += {c, 'a', static_cast<wchar>(c / 3), 'b', c};
+    }
+    const auto structure = structureNamed(name);
+    JsonDocument document;
+    structure->writeObject(document, document.GetAllocator());
+    std::vector<char> form;
+    JsonBinaryIO::write(form, document);
+    const auto compressed = [&form](int level) {
+        std::string bytes;
+        Compressor::compress(bytes, form.data(), form.size(), level);
+        return bytes;
+    };
+    ASSERT_NE(compressed(1), compressed(-1));
+    const std::string plain(form.begin(), form.end());
+    const std::pair<ECompression, std::string> choices[] = {
+        {ECompression::AsTold, compressed(-1)}, {ECompression::Fast, compressed(1)}, {ECompression::None, plain}};
+
+    ExchangeObjectWrapper wrapper;
+    wrapper.set(structure);
+    EXPECT_TRUE(contentOf(wrapper) == compressed(-1));
+    for (const auto& [choice, expected] : choices)
+    {
+        wrapper.setCompression(choice);
+        const std::string content = contentOf(ExchangeObjectWrapper(wrapper));
+        EXPECT_TRUE(content == expected) << static_cast<int>(choice);
+        EXPECT_TRUE(nameOf(opened(structureEnvelope(test::leaveBuffer(content)))) == name);
+    }
+
+    const auto plainStructure = std::make_shared<PlainStructure>();
+    plainStructure->setProductName(name);
+    wrapper.set(plainStructure);
+    for (const auto& [choice, expected] : choices)
+    {
+        wrapper.setCompression(choice);
+        EXPECT_TRUE(contentOf(wrapper) == plain) << static_cast<int>(choice);
+    }
+}
+
 TEST(Envelope, WithoutAnObjectWritesNothing)
 {
     mp::wostringstream stream;
@@ -351,6 +409,44 @@ TEST(Load, ThatFailsRemovesTheBufferAndLeavesTheObjectUnloaded)
         EXPECT_FALSE(object->isLoaded());
         EXPECT_EQ(test::thrownBy<std::exception>([&] { object->load(); }), "Failed to parse all bytes of type");
         EXPECT_EQ(test::takeBuffer(source), "");
+    }
+}
+
+// The object of an envelope that is read with a size limit.
+std::shared_ptr<IExchangeObject> openedWithin(std::uint64_t limit, const wstring& source, bool delayed)
+{
+    ExchangeObjectWrapper wrapper;
+    wrapper.setDelayedLoading(delayed);
+    wrapper.setSizeLimit(limit);
+    mp::wistringstream stream(test::unitsOf(structureEnvelope(source)));
+    wrapper.readObject(stream);
+    return wrapper.get();
+}
+
+TEST(Load, TakesNoMoreThanTheLimit)
+{
+    const std::string plain = test::bytes("03000000 2A00000000000000"
+                                          "05000000 0500000000000000 75006E00690074007300"
+                                          "05000000 0400000000000000 69006E0063006800");
+    std::string packed;
+    Compressor::compress(packed, plain.data(), plain.size(), -1);
+    const std::pair<std::string, std::string> contents[] = {
+        {plain, "Content of 54 bytes is above the limit of 53 bytes"},
+        {packed, "Decompressed data is above the limit of 53 bytes"}};
+    ASSERT_EQ(plain.size(), 54U);
+    for (const auto& [content, text] : contents)
+    {
+        const wstring refused = test::leaveBuffer(content);
+        EXPECT_EQ(test::thrownBy<std::length_error>([&] { openedWithin(53, refused, false); }), text);
+        EXPECT_EQ(test::takeBuffer(refused), "");
+
+        const wstring refusedLater = test::leaveBuffer(content);
+        const auto object = openedWithin(53, refusedLater, true);
+        EXPECT_EQ(test::thrownBy<std::length_error>([&] { object->load(); }), text);
+        EXPECT_FALSE(object->isLoaded());
+        EXPECT_EQ(test::takeBuffer(refusedLater), "");
+
+        EXPECT_TRUE(openedWithin(54, test::leaveBuffer(content), false)->isLoaded());
     }
 }
 

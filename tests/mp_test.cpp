@@ -4,9 +4,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
+#include <stdexcept>
+
 #ifdef __linux__
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <unistd.h>
 #endif
 
 using namespace mp;
@@ -15,6 +21,11 @@ namespace
 {
 
 using Buffer = SharedBuffer<char>;
+
+std::string textOf(const SharedView& view)
+{
+    return {view.data(), view.size()};
+}
 
 TEST(Narrow, KeepsAscii)
 {
@@ -62,7 +73,9 @@ TEST(SharedBuffer, RefusesToWorkUnopened)
     EXPECT_THROW(buffer.open(WIDE("../outside"), true), SharedMemoryException);
     const char* const unopened = "Shared buffer was not initialized";
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.write("a", 1); }), unopened);
+    EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.fill(1, [](char*) {}); }), unopened);
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.read(bytes); }), unopened);
+    EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.view(); }), unopened);
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.clear(); }), unopened);
 }
 
@@ -99,6 +112,36 @@ TEST(SharedBuffer, IsSeenThroughTwoHandlesAndCleared)
     writer.clear();
     reader.read(bytes);
     EXPECT_TRUE(bytes.empty());
+}
+
+TEST(SharedBuffer, IsFilledAndSeenWhereItLies)
+{
+    SharedView view;
+    {
+        Buffer buffer;
+        buffer.open(vrx::IExchangeObject::generateUUID(), true);
+        EXPECT_EQ(buffer.view().size(), 0U);
+        buffer.fill(6, [](char* out) { std::memcpy(out, "filled", 6); });
+        view = buffer.view();
+        buffer.fill(6, [](char* out) { std::memcpy(out, "FILLED", 6); });
+        EXPECT_EQ(textOf(view), "FILLED");
+    }
+    EXPECT_EQ(textOf(view), "FILLED");
+}
+
+TEST(SharedBuffer, ThatCanNotBeFilledIsLeftEmpty)
+{
+    Buffer buffer;
+    buffer.open(vrx::IExchangeObject::generateUUID(), true);
+    buffer.write("abc", 3);
+    const auto fail = [](char* out) {
+        *out = 'x';
+        throw std::out_of_range("no more");
+    };
+    EXPECT_EQ(test::thrownBy<std::out_of_range>([&] { buffer.fill(100, fail); }), "no more");
+    EXPECT_EQ(buffer.view().size(), 0U);
+    buffer.write("again", 5);
+    EXPECT_EQ(textOf(buffer.view()), "again");
 }
 
 TEST(SharedBuffer, CanNotWriteNothing)
@@ -158,6 +201,69 @@ TEST(SharedBuffer, OfMoreThanTheSystemHoldsIsRefusedAndLeavesNothing)
         EXPECT_EQ(status.st_size, 3);
     }
     EXPECT_NE(stat(file.c_str(), &status), 0);
+}
+
+// An object of another program, which wrote three bytes into the middle and sized the rest only.
+class SparseObject
+{
+public:
+    SparseObject(off_t size, off_t middle)
+        : m_name(vrx::IExchangeObject::generateUUID())
+        , m_file(open(fileOf(m_name).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
+    {
+        EXPECT_EQ(ftruncate(m_file, size), 0);
+        EXPECT_EQ(pwrite(m_file, "abc", 3, middle), 3);
+    }
+    SparseObject(const SparseObject&) = delete;
+    SparseObject& operator=(const SparseObject&) = delete;
+    ~SparseObject() { close(m_file); }
+
+    const wstring& name() const { return m_name; }
+
+    blkcnt_t blocks() const
+    {
+        struct stat status = {};
+        EXPECT_EQ(fstat(m_file, &status), 0);
+        return status.st_blocks;
+    }
+
+private:
+    wstring m_name;
+    int m_file;
+};
+
+// A page that is made by looking at it is one that a full file system can't supply.
+TEST(SharedBuffer, OfWhichPagesAreMissingIsReadWithoutMakingThem)
+{
+    constexpr std::size_t kSize = 100001;
+    constexpr std::size_t kMiddle = 50000;
+    std::string expected(kSize, '\0');
+    expected.replace(kMiddle, 3, "abc");
+
+    const SparseObject object(kSize, kMiddle);
+    const blkcnt_t blocks = object.blocks();
+    Buffer buffer;
+    buffer.open(object.name(), true);
+    EXPECT_TRUE(textOf(buffer.view()) == expected);
+    std::vector<char> bytes;
+    buffer.read(bytes);
+    EXPECT_TRUE(std::equal(bytes.begin(), bytes.end(), expected.begin(), expected.end()));
+    EXPECT_EQ(object.blocks(), blocks);
+}
+
+TEST(SharedBuffer, OfWhichMostPagesAreMissingCostsThoseThatItHas)
+{
+    constexpr std::size_t kSize = std::size_t{1} << 30U;
+    constexpr std::size_t kMiddle = kSize / 2 - 1;
+    const SparseObject object(kSize, kMiddle);
+    const blkcnt_t blocks = object.blocks();
+    Buffer buffer;
+    buffer.open(object.name(), true);
+    const SharedView view = buffer.view();
+    ASSERT_EQ(view.size(), kSize);
+    EXPECT_EQ(std::string(view.data() + kMiddle - 1, 5), std::string("\0abc\0", 5));
+    EXPECT_EQ(view.data()[0] + view.data()[kSize - 1], 0);
+    EXPECT_EQ(object.blocks(), blocks);
 }
 #endif
 

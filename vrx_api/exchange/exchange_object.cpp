@@ -16,18 +16,13 @@ namespace vrx
 namespace
 {
 
-// The plain content of a buffer, which is removed from the system.
-Bytes takeContent(const wstring& name)
+// Decodes the content of a buffer, which is removed from the system.
+void takeContent(const wstring& name, std::uint64_t sizeLimit, JsonDocument& document)
 {
     mp::SharedBuffer<char> buffer;
     buffer.open(name, true);
-    return plainContent(buffer);
-}
-
-void decodeContent(const wstring& name, JsonDocument& document)
-{
-    const Bytes bytes = takeContent(name);
-    JsonBinaryIO::read(bytes.data(), bytes.size(), document, document.GetAllocator());
+    const PlainContent content(buffer, sizeLimit);
+    JsonBinaryIO::read(content.data(), content.size(), document, document.GetAllocator());
 }
 
 } // namespace
@@ -57,7 +52,7 @@ void IExchangeObject::load()
         return;
     }
     JsonDocument document;
-    decodeContent(m_source, document);
+    takeContent(m_source, m_sizeLimit, document);
     readObject(document);
     m_loaded = true;
 }

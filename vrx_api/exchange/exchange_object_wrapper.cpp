@@ -10,6 +10,9 @@
 #include "vrx_api/json/json_write.h"
 #include "vrx_api/json/message.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <functional>
 #include <stdexcept>
 
 namespace vrx
@@ -31,36 +34,40 @@ Bytes encodeObject(const IExchangeObject& object)
     return bytes;
 }
 
-Bytes compressed(const Bytes& plain, int level)
+Bytes compressedForm(const IExchangeObject& object, int level)
 {
+    const Bytes plain = encodeObject(object);
     Bytes bytes;
     Compressor::compress(bytes, plain.data(), plain.size(), level);
     return bytes;
 }
 
-Bytes contentOf(const IExchangeObject& object, ECompression compression)
+// Leaves content in the system and returns the name under which it is found there.
+wstring leave(std::uint64_t size, const std::function<void(char*)>& make)
 {
-    constexpr int kDefaultLevel = -1;
-    constexpr int kFastestLevel = 1;
-    Bytes plain = encodeObject(object);
-    if (compression == ECompression::None || !object.compress())
-    {
-        return plain;
-    }
-    return compressed(plain, compression == ECompression::Fast ? kFastestLevel : kDefaultLevel);
-}
-
-// Leaves the object's binary form in the system and returns the name under which it is found there.
-wstring share(const IExchangeObject& object, ECompression compression)
-{
-    const Bytes bytes = contentOf(object, compression);
     wstring name = IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, true);
-    buffer.write(bytes.data(), bytes.size());
+    buffer.fill(size, make);
     // Nobody would ever be told of a buffer that could not be filled; a filled one is the reader's to remove.
     buffer.setRemoveOnClose(false);
     return name;
+}
+
+wstring leave(const Bytes& content)
+{
+    return leave(content.size(), [&content](char* out) { std::copy(content.begin(), content.end(), out); });
+}
+
+wstring share(const IExchangeObject& object, ECompression compression)
+{
+    constexpr int kDefaultLevel = -1;
+    constexpr int kFastestLevel = 1;
+    if (compression == ECompression::None || !object.compress())
+    {
+        return leave(encodeObject(object));
+    }
+    return leave(compressedForm(object, compression == ECompression::Fast ? kFastestLevel : kDefaultLevel));
 }
 
 } // namespace
@@ -104,6 +111,7 @@ void ExchangeObjectWrapper::readObject(wistream& stream)
     {
         return;
     }
+    m_pObject->setSizeLimit(m_sizeLimit);
     const JsonValue* const data = find(document, kData);
     if (data == nullptr)
     {

@@ -4,6 +4,7 @@
 #include "vrx_api/exchange/compression.h"
 #include "vrx_api/exchange/exchange_object.h"
 
+#include <cstdint>
 #include <memory>
 
 namespace vrx
@@ -32,10 +33,14 @@ public:
     /// How `writeObject` compresses a binary object.
     void setCompression(ECompression compression) { m_compression = compression; }
 
+    /// The size limit of the objects that `readObject` makes; see `IExchangeObject::setSizeLimit`.
+    void setSizeLimit(std::uint64_t bytes) { m_sizeLimit = bytes; }
+
 private:
     std::shared_ptr<IExchangeObject> m_pObject;
     bool m_delayedLoading = false;
     ECompression m_compression = ECompression::AsTold;
+    std::uint64_t m_sizeLimit = Compressor::kNoLimit;
 };
 
 } // namespace vrx

@@ -2,22 +2,25 @@
 
 #include "vrx_api/exchange/compressor.h"
 
-#include <vector>
+#include <stdexcept>
+#include <string>
 
 namespace vrx
 {
 
-Bytes plainContent(const mp::SharedBuffer<char>& buffer)
+PlainContent::PlainContent(const mp::SharedBuffer<char>& buffer, std::uint64_t limit)
+    : m_view(buffer.view())
 {
-    std::vector<char> bytes;
-    buffer.read(bytes);
-    if (!Compressor::isCompressed(bytes.data(), bytes.size()))
+    if (Compressor::isCompressed(m_view.data(), m_view.size()))
     {
-        return Bytes(bytes.begin(), bytes.end());
+        Compressor::decompress(m_decompressed, m_view.data(), m_view.size(), limit);
+        m_view = mp::SharedView();
     }
-    Bytes plain;
-    Compressor::decompress(plain, bytes.data(), bytes.size());
-    return plain;
+    else if (m_view.size() > limit)
+    {
+        throw std::length_error("Content of " + std::to_string(m_view.size()) + " bytes is above the limit of " +
+                                std::to_string(limit) + " bytes");
+    }
 }
 
 } // namespace vrx

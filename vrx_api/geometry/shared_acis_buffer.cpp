@@ -1,7 +1,6 @@
 #include "vrx_api/geometry/shared_acis_buffer.h"
 
 #include "kolt/log.h"
-#include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/shared_content.h"
 
 #include <new>
@@ -45,13 +44,13 @@ void ExcSharedAcisBuffer::flush(bool compress)
     m_sharedBuffer.write(compressed.data(), compressed.size());
 }
 
-void ExcSharedAcisBuffer::load()
+void ExcSharedAcisBuffer::load(std::uint64_t sizeLimit)
 {
     kolt::trace();
     cleanUp();
     // What an earlier load left, which may have been longer, is replaced.
-    const Bytes bytes = plainContent(m_sharedBuffer);
-    m_stream.str(std::string(bytes.begin(), bytes.end()));
+    const PlainContent content(m_sharedBuffer, sizeLimit);
+    m_stream.str(std::string(content.data(), content.size()));
 }
 
 void ExcSharedAcisBuffer::cleanUp()

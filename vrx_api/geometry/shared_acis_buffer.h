@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mp/shared_buffer.h"
+#include "vrx_api/exchange/compressor.h"
 #include "vrx_api/geometry/kernel.h"
 #include "vrx_api/json/json_fwd.h"
 #include "vrx_api/vrx_api_export.h"
@@ -25,8 +26,9 @@ public:
     void flush(bool compress);
 
     /// Makes the content of the shared memory object, decompressed if it says that it is compressed, the bytes to
-    /// restore from. Throws `std::runtime_error` for damaged compressed data.
-    void load();
+    /// restore from. Throws `std::runtime_error` for damaged compressed data, and `std::length_error` for more bytes
+    /// than the limit.
+    void load(std::uint64_t sizeLimit = Compressor::kNoLimit);
 
     /// Goes back to the start.
     void cleanUp();
