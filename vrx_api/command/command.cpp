@@ -71,7 +71,7 @@ void Command::writeObject(wostream& stream) const
     writeMembers(*this, document, allocator);
     if (carriesOptions())
     {
-        addMember(document, kOptions, encode(options(), allocator), allocator);
+        addMember(document, kOptions, treeOf(options(), allocator), allocator);
     }
     JsonTextIO::write(stream, document, true);
 }

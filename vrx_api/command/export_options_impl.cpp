@@ -23,7 +23,8 @@ void ExportOptionsImpl::readObject(const JsonValue& value)
 
 void ExportOptionsImpl::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeFields(*this, value, allocator);
+    kolt::trace();
+    writeMembers(*this, value, allocator);
     logFields();
 }
 

@@ -2,7 +2,6 @@
 
 #include "kolt/log.h"
 #include "mp/narrow.h"
-#include "vrx_api/json/json_write.h"
 
 #include <utility>
 
@@ -37,15 +36,14 @@ void FormatOptionsMap::read(const JsonValue& array, const wstring& file)
     }
 }
 
-JsonValue FormatOptionsMap::write(JsonAllocator& allocator) const
+std::vector<std::shared_ptr<IFormatOptions>> FormatOptionsMap::all() const
 {
-    JsonValue array(rapidjson::kArrayType);
-    array.Reserve(static_cast<rapidjson::SizeType>(m_options.size()), allocator);
+    std::vector<std::shared_ptr<IFormatOptions>> all;
     for (const auto& [format, options] : m_options)
     {
-        array.PushBack(encode(*options, allocator), allocator);
+        all.push_back(options);
     }
-    return array;
+    return all;
 }
 
 } // namespace vrx

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "vrx_api/format_options/format_options.h"
-#include "vrx_api/json/json_value.h"
-#include "vrx_api/json/key.h"
+#include "vrx_api/json/fields.h"
 
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace vrx
 {
@@ -25,8 +25,8 @@ public:
     /// cost only a line in the log, which names the file of the import.
     void read(const JsonValue& array, const wstring& file);
 
-    /// An array in the order of the formats' numbers.
-    JsonValue write(JsonAllocator& allocator) const;
+    /// In the order of the formats' numbers.
+    std::vector<std::shared_ptr<IFormatOptions>> all() const;
 
 private:
     std::map<EFormatType, std::shared_ptr<IFormatOptions>> m_options;
@@ -46,19 +46,21 @@ SettingsForFile<Map> forFile(const wstring& file, Map& options)
     return {file, options};
 }
 
-inline bool decode(const JsonValue& value, const SettingsForFile<FormatOptionsMap>& settings)
+template <class Value>
+bool decode(const Value& value, const SettingsForFile<FormatOptionsMap>& settings)
 {
-    if (!value.IsArray())
+    if (!value.isArray())
     {
         return false;
     }
-    settings.options.read(value, settings.file);
+    withTree(value, [&settings](const JsonValue& array) { settings.options.read(array, settings.file); });
     return true;
 }
 
-inline JsonValue encode(const SettingsForFile<const FormatOptionsMap>& settings, JsonAllocator& allocator)
+template <class Out>
+void encode(Out& out, const SettingsForFile<const FormatOptionsMap>& settings)
 {
-    return settings.options.write(allocator);
+    encode(out, settings.options.all());
 }
 
 template <class Map>

@@ -1,10 +1,6 @@
 #include "vrx_api/common/color.h"
 
-#include "kolt/log.h"
-#include "vrx_api/json/json_read.h"
-#include "vrx_api/json/json_write.h"
-
-#include <utility>
+#include "vrx_api/json/fields.h"
 
 namespace vrx
 {
@@ -15,13 +11,106 @@ namespace
 constexpr Key kRGB = WIDE("rgb");
 constexpr Key kAlpha = WIDE("alpha");
 
-// A channel above 16 bits is cut to them.
-std::uint16_t toChannel(const JsonValue& value)
+using Channels = std::array<std::uint16_t, 4>;
+
+// A colour with neither part is JSON null.
+template <class Flag, class Numbers>
+struct Parts
 {
-    return static_cast<std::uint16_t>(value.GetUint() & 0xFFFFU);
+    Flag& hasRGB;
+    Flag& hasAlpha;
+    Numbers& channels;
+};
+template <class Flag, class Numbers>
+Parts(Flag&, Flag&, Numbers&) -> Parts<Flag, Numbers>;
+
+// A channel above 16 bits is cut to them. False for what is no unsigned integer.
+template <class Value>
+bool decodeChannel(const Value& value, std::uint16_t& channel)
+{
+    std::uint32_t number = 0;
+    const bool taken = decode(value, number);
+    channel = taken ? static_cast<std::uint16_t>(number & 0xFFFFU) : channel;
+    return taken;
+}
+
+// False when a channel is missing or is no unsigned integer.
+template <class Value>
+bool decodeRGB(const Value& value, Channels& channels)
+{
+    std::size_t channel = ExcColor::ChannelRed;
+    for (const Value element : value.elements())
+    {
+        if (channel > ExcColor::ChannelBlue || !decodeChannel(element, channels[channel]))
+        {
+            break;
+        }
+        ++channel;
+    }
+    return channel > ExcColor::ChannelBlue;
+}
+
+// An array of channels that ends early ends the whole read: the colour has an RGB part by then, and "alpha" is not
+// looked at, so that the alpha part stays as it was.
+template <class Value>
+bool decode(const Value& value, const Parts<bool, Channels>& parts)
+{
+    const std::optional<Value> rgb = value.isObject() ? findMember(value, kRGB) : std::nullopt;
+    parts.hasRGB = rgb && rgb->isArray();
+    if (parts.hasRGB && !decodeRGB(*rgb, parts.channels))
+    {
+        return true;
+    }
+    const std::optional<Value> alpha = value.isObject() ? findMember(value, kAlpha) : std::nullopt;
+    parts.hasAlpha = alpha && decodeChannel(*alpha, parts.channels[ExcColor::ChannelAlpha]);
+    return true;
+}
+
+template <class Out>
+void encode(Out& out, const Parts<const bool, const Channels>& parts)
+{
+    if (!parts.hasRGB && !parts.hasAlpha)
+    {
+        out.null();
+        return;
+    }
+    const auto object = out.beginObject();
+    if (parts.hasRGB)
+    {
+        out.key(kRGB);
+        const auto rgb = out.beginArray();
+        for (std::size_t channel = ExcColor::ChannelRed; channel <= ExcColor::ChannelBlue; ++channel)
+        {
+            out.scalar(std::uint32_t{parts.channels[channel]});
+        }
+        out.endArray(rgb);
+    }
+    if (parts.hasAlpha)
+    {
+        out.key(kAlpha);
+        out.scalar(std::uint32_t{parts.channels[ExcColor::ChannelAlpha]});
+    }
+    out.endObject(object);
 }
 
 } // namespace
+
+template <class Self, class Fields>
+void ExcColor::describe(Self& self, Fields& fields)
+{
+    fields.whole(Parts{self.m_hasRGB, self.m_hasAlpha, self.m_channels});
+}
+template struct Described<ExcColor>;
+
+void ExcColor::readObject(const JsonValue& value)
+{
+    readWhole(*this, value);
+}
+
+void ExcColor::writeObject(JsonValue& value, JsonAllocator& allocator) const
+{
+    writeWhole(*this, value, allocator);
+}
 
 ExcColor::ExcColor(std::uint16_t red, std::uint16_t green, std::uint16_t blue)
     : m_hasRGB(true)
@@ -34,70 +123,6 @@ ExcColor::ExcColor(std::uint16_t red, std::uint16_t green, std::uint16_t blue, s
     , m_hasAlpha(true)
     , m_channels{red, green, blue, alpha}
 {
-}
-
-// False when a channel is missing or is no unsigned integer.
-bool ExcColor::readRGB(const JsonValue& value)
-{
-    for (rapidjson::SizeType i = ChannelRed; i <= ChannelBlue; ++i)
-    {
-        if (i >= value.Size() || !value[i].IsUint())
-        {
-            return false;
-        }
-        m_channels[i] = toChannel(value[i]);
-    }
-    return true;
-}
-
-// An array of channels that ends early ends the whole read: the colour has an RGB part by then, and "alpha" is not
-// looked at, so that the alpha part stays as it was.
-void ExcColor::readObject(const JsonValue& value)
-{
-    kolt::trace();
-    if (!value.IsObject())
-    {
-        m_hasRGB = false;
-        m_hasAlpha = false;
-        return;
-    }
-    const JsonValue* const rgb = find(value, kRGB);
-    m_hasRGB = rgb != nullptr && rgb->IsArray();
-    if (m_hasRGB && !readRGB(*rgb))
-    {
-        return;
-    }
-    const JsonValue* const alpha = find(value, kAlpha);
-    m_hasAlpha = alpha != nullptr && alpha->IsUint();
-    if (m_hasAlpha)
-    {
-        m_channels[ChannelAlpha] = toChannel(*alpha);
-    }
-}
-
-void ExcColor::writeObject(JsonValue& value, JsonAllocator& allocator) const
-{
-    kolt::trace();
-    if (!m_hasRGB && !m_hasAlpha)
-    {
-        value.SetNull();
-        return;
-    }
-    setObject(value, (m_hasRGB ? 1U : 0U) + (m_hasAlpha ? 1U : 0U), allocator);
-    if (m_hasRGB)
-    {
-        JsonValue rgb(rapidjson::kArrayType);
-        rgb.Reserve(ChannelBlue + 1, allocator);
-        for (std::size_t i = ChannelRed; i <= ChannelBlue; ++i)
-        {
-            rgb.PushBack(unsigned{m_channels[i]}, allocator);
-        }
-        addMember(value, kRGB, std::move(rgb), allocator);
-    }
-    if (m_hasAlpha)
-    {
-        addMember(value, kAlpha, JsonValue(unsigned{m_channels[ChannelAlpha]}), allocator);
-    }
 }
 
 } // namespace vrx

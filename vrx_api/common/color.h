@@ -42,7 +42,9 @@ public:
     std::uint16_t operator[](EChannel channel) const { return m_channels[channel]; }
 
 private:
-    bool readRGB(const JsonValue& value);
+    friend struct Described<ExcColor>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
 
     bool m_hasRGB = false;
     bool m_hasAlpha = false;

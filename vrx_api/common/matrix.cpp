@@ -1,7 +1,6 @@
 #include "vrx_api/common/matrix.h"
 
-#include "kolt/log.h"
-#include "vrx_api/json/json_write.h"
+#include "vrx_api/json/fields.h"
 
 #include <stdexcept>
 
@@ -14,23 +13,40 @@ ExcMatrix3d::ExcMatrix3d()
 }
 
 // A value that is no array is passed over without a message, and so is everything from the first row that is none.
+template <class Value>
+static bool decode(const Value& value, std::array<ExcVector3d, 3>& rows)
+{
+    if (!value.isArray())
+    {
+        return false;
+    }
+    std::size_t count = 0;
+    for (const Value row : value.elements())
+    {
+        if (count == rows.size() || !row.isArray())
+        {
+            break;
+        }
+        decode(row, rows[count++]);
+    }
+    return true;
+}
+
+template <class Self, class Fields>
+void ExcMatrix3d::describe(Self& self, Fields& fields)
+{
+    fields.whole(self.m_rows);
+}
+template struct Described<ExcMatrix3d>;
+
 void ExcMatrix3d::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    if (!value.IsArray())
-    {
-        return;
-    }
-    for (rapidjson::SizeType i = 0; i < m_rows.size() && i < value.Size() && value[i].IsArray(); ++i)
-    {
-        m_rows[i].readObject(value[i]);
-    }
+    readWhole(*this, value);
 }
 
 void ExcMatrix3d::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    kolt::trace();
-    value = encode(m_rows, allocator);
+    writeWhole(*this, value, allocator);
 }
 
 ExcVector3d& ExcMatrix3d::row(std::size_t index)

@@ -26,6 +26,10 @@ public:
     const ExcVector3d& operator[](std::size_t index) const { return row(index); }
 
 private:
+    friend struct Described<ExcMatrix3d>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     std::array<ExcVector3d, 3> m_rows;
 };
 

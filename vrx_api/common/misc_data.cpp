@@ -1,6 +1,5 @@
 #include "vrx_api/common/misc_data.h"
 
-#include "vrx_api/json/elements.h"
 #include "vrx_api/json/fields.h"
 
 namespace vrx
@@ -59,14 +58,21 @@ ExcMiscProperty& ExcMiscProperty::set(EType type, const wstring& value)
 }
 
 // An element that is no object leaves a default property, so that the array keeps its length.
+template <class Self, class Fields>
+void ExcMiscData::describe(Self& self, Fields& fields)
+{
+    fields.whole(self.m_properties);
+}
+template struct Described<ExcMiscData>;
+
 void ExcMiscData::readObject(const JsonValue& value)
 {
-    readElements(m_properties, value, kSilently);
+    readArray(*this, value, kSilently);
 }
 
 void ExcMiscData::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeElements(m_properties, value, allocator);
+    writeWhole(*this, value, allocator);
 }
 
 } // namespace vrx

@@ -64,6 +64,10 @@ public:
     void clearProperties() { m_properties.clear(); }
 
 private:
+    friend struct Described<ExcMiscData>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     std::vector<ExcMiscProperty> m_properties;
 };
 

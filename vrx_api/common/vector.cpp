@@ -1,8 +1,6 @@
 #include "vrx_api/common/vector.h"
 
-#include "kolt/log.h"
-#include "vrx_api/json/json_read.h"
-#include "vrx_api/json/json_write.h"
+#include "vrx_api/json/fields.h"
 
 #include <stdexcept>
 
@@ -10,22 +8,23 @@ namespace vrx
 {
 
 template <std::size_t N>
+template <class Self, class Fields>
+void ExcVectorBase<N>::describe(Self& self, Fields& fields)
+{
+    fields.whole(self.m_components);
+}
+
+template <std::size_t N>
 void ExcVectorBase<N>::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    if (!value.IsArray())
-    {
-        kolt::log(kolt::kError, "Exchange vector/point (2D/3D) object should have a JSON array type.");
-        return;
-    }
-    decode(value, m_components);
+    readArray(*this, value, "Exchange vector/point (2D/3D)");
 }
 
 // Vectors are written by the thousand: without a trace line.
 template <std::size_t N>
 void ExcVectorBase<N>::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    value = encode(m_components, allocator);
+    value = treeOf(m_components, allocator);
 }
 
 template <std::size_t N>
@@ -50,5 +49,7 @@ double ExcVectorBase<N>::operator[](std::size_t index) const
 
 template class ExcVectorBase<2>;
 template class ExcVectorBase<3>;
+template struct Inherits<ExcVector2d, ExcVectorBase<2>, Form::Array>;
+template struct Inherits<ExcVector3d, ExcVectorBase<3>, Form::Array>;
 
 } // namespace vrx

@@ -30,6 +30,11 @@ protected:
     }
 
     std::array<double, N> m_components{};
+
+private:
+    friend struct Described<ExcVectorBase>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
 };
 
 /// A point or a direction in a plane: x and y.

@@ -1,5 +1,7 @@
-#include "vrx_api/exchange/binary_tag.h"
+#include "kolt/log.h"
+#include "vrx_api/exchange/binary_check.h"
 #include "vrx_api/exchange/json_binary_io.h"
+#include "vrx_api/json/direct.h"
 #include "vrx_api/json/json_value.h"
 
 #include <algorithm>
@@ -14,13 +16,7 @@ namespace vrx
 namespace
 {
 
-constexpr std::size_t kTagSize = sizeof(std::uint32_t);
-constexpr std::size_t kSizeSize = sizeof(std::uint64_t);
-
-constexpr const char* kNoType = "Failed to parse all bytes of type";
-constexpr const char* kNoNumber = "Failed to read all the number of bytes";
-constexpr const char* kNoString = "Failed to read all the bytes of string";
-constexpr const char* kNoArray = "Failed to read all the bytes of array";
+using namespace binary_failure;
 
 // What is left of the innermost open container, passed by value as the encoder's positions are.
 struct Cursor
@@ -151,7 +147,7 @@ private:
             m_document->Double(cursor.take<double>(kNoNumber));
             return cursor;
         default:
-            throw std::invalid_argument("Unknown value type");
+            throw std::invalid_argument(kUnknownType);
         }
     }
 
@@ -189,7 +185,7 @@ private:
         const std::uint64_t children = container.object ? container.count / 2 : container.count;
         if (children > std::numeric_limits<rapidjson::SizeType>::max())
         {
-            throw std::length_error("Too many values in one array or object");
+            throw std::length_error(kTooMany);
         }
         const auto count = static_cast<rapidjson::SizeType>(children);
         container.object ? m_document->EndObject(count) : m_document->EndArray(count);
@@ -327,6 +323,19 @@ std::istream& JsonBinaryIO::read(std::istream& stream, JsonValue& value, JsonAll
     const std::vector<char> bytes = takeValue(stream);
     read(bytes.data(), bytes.size(), value, allocator);
     return stream;
+}
+
+void JsonBinaryIO::read(const char* data, std::uint64_t size, IJsonObject& object)
+{
+    const BinaryValue value = checkBinary(data, size);
+    if (kolt::LoggerHolder::levelEnabled(kolt::kTrace))
+    {
+        readByTree(object, value);
+    }
+    else
+    {
+        readDirectly(object, value);
+    }
 }
 
 } // namespace vrx

@@ -1,8 +1,8 @@
-#include "vrx_api/exchange/binary_tag.h"
+#include "kolt/log.h"
+#include "vrx_api/exchange/binary_form.h"
 #include "vrx_api/exchange/json_binary_io.h"
 #include "vrx_api/json/json_children.h"
 
-#include <cstring>
 #include <stdexcept>
 
 namespace vrx
@@ -11,92 +11,41 @@ namespace vrx
 namespace
 {
 
-// One walk serves twice: with the first form it only adds the sizes up, so that the bytes are allocated once, and with
-// the second it writes. Positions go by value: a member would be loaded again behind each byte that is written, which
-// could be its own. Values are stored as the machine holds them, which is little-endian on both platforms.
-
-struct SizeForm
-{
-    using Position = std::size_t;
-
-    template <class T>
-    static Position put(Position at, T)
-    {
-        return at + sizeof(T);
-    }
-
-    static Position putUnits(Position at, const wchar*, std::size_t count) { return at + count * sizeof(wchar); }
-    static void patch(Position, std::uint64_t) {}
-};
-
-struct ByteForm
-{
-    using Position = char*;
-
-    template <class T>
-    static Position put(Position at, T value)
-    {
-        std::memcpy(at, &value, sizeof(T));
-        return at + sizeof(T);
-    }
-
-    static Position putUnits(Position at, const wchar* units, std::size_t count)
-    {
-        std::memcpy(at, units, count * sizeof(wchar));
-        return at + count * sizeof(wchar);
-    }
-
-    static void patch(Position at, std::uint64_t size) { put(at, size); }
-};
-
-template <class Form, class T>
-typename Form::Position putTagged(typename Form::Position at, BinaryTag tag, T value)
-{
-    return Form::put(Form::put(at, tag), value);
-}
-
-template <class Form>
-typename Form::Position encodeNumber(typename Form::Position at, const JsonValue& value)
+template <class Out>
+void encodeNumber(Out& out, const JsonValue& value)
 {
     if (value.IsDouble())
     {
-        return putTagged<Form>(at, BinaryTag::Double, value.GetDouble());
+        out.scalar(value.GetDouble());
     }
-    if (value.IsInt())
+    else if (value.IsInt64())
     {
-        return putTagged<Form>(at, BinaryTag::Int, std::int32_t{value.GetInt()});
+        out.scalar(std::int64_t{value.GetInt64()});
     }
-    if (value.IsUint())
+    else if (value.IsUint64())
     {
-        return putTagged<Form>(at, BinaryTag::Uint, std::uint32_t{value.GetUint()});
+        out.scalar(std::uint64_t{value.GetUint64()});
     }
-    if (value.IsInt64())
+    else
     {
-        return putTagged<Form>(at, BinaryTag::Int64, std::int64_t{value.GetInt64()});
+        throw std::invalid_argument("Unknown number type");
     }
-    if (value.IsUint64())
-    {
-        return putTagged<Form>(at, BinaryTag::Uint64, std::uint64_t{value.GetUint64()});
-    }
-    throw std::invalid_argument("Unknown number type");
 }
 
-template <class Form>
-typename Form::Position encodeScalar(typename Form::Position at, const JsonValue& value)
+template <class Out>
+void encodeScalar(Out& out, const JsonValue& value)
 {
     switch (value.GetType())
     {
     case rapidjson::kNullType:
-        return Form::put(at, BinaryTag::Null);
+        return out.null();
     case rapidjson::kFalseType:
-        return Form::put(at, BinaryTag::False);
     case rapidjson::kTrueType:
-        return Form::put(at, BinaryTag::True);
+        return out.scalar(value.GetBool());
     case rapidjson::kStringType:
-        at = putTagged<Form>(at, BinaryTag::String, std::uint64_t{value.GetStringLength()});
-        return Form::putUnits(at, value.GetString(), value.GetStringLength());
+        return out.text({value.GetString(), value.GetStringLength()});
     default:
-        return encodeNumber<Form>(at, value);
+        return encodeNumber(out, value);
     }
 }
 
@@ -105,25 +54,23 @@ bool isContainer(const JsonValue& value)
     return value.IsObject() || value.IsArray();
 }
 
-// Returns the position behind the value.
-template <class Form>
-typename Form::Position encode(typename Form::Position at, const JsonValue& root)
+// Keeps a stack of its own, since a tree may be deeper than the thread's stack allows.
+template <class Out>
+void encodeTree(Out& out, const JsonValue& root)
 {
     struct Container
     {
         JsonChildren children;
-        typename Form::Position sizeAt;
+        typename Out::Mark begin;
     };
-    const auto open = [&at](const JsonValue& value) {
-        at = Form::put(at, value.IsObject() ? BinaryTag::Object : BinaryTag::Array);
-        const Container container{JsonChildren(value), at};
-        at = Form::put(at, std::uint64_t{0});
-        return container;
+    const auto open = [&out](const JsonValue& value) {
+        return Container{JsonChildren(value), value.IsObject() ? out.beginObject() : out.beginArray()};
     };
 
     if (!isContainer(root))
     {
-        return encodeScalar<Form>(at, root);
+        encodeScalar(out, root);
+        return;
     }
     std::vector<Container> outer;
     Container innermost = open(root);
@@ -139,30 +86,68 @@ typename Form::Position encode(typename Form::Position at, const JsonValue& root
             }
             else
             {
-                at = encodeScalar<Form>(at, value);
+                encodeScalar(out, value);
             }
             continue;
         }
-        Form::patch(innermost.sizeAt, static_cast<std::uint64_t>(at - innermost.sizeAt) - sizeof(std::uint64_t));
+        innermost.children.isObject() ? out.endObject(innermost.begin) : out.endArray(innermost.begin);
         if (outer.empty())
         {
-            return at;
+            return;
         }
         innermost = outer.back();
         outer.pop_back();
     }
 }
 
+std::size_t sizeOf(const JsonValue& value)
+{
+    ObjectTrees none;
+    SizeWriter out(none);
+    encodeTree(out, value);
+    return out.size();
+}
+
 template <class Buffer>
 void encodeInto(Buffer& bytes, const JsonValue& value)
 {
-    const std::size_t size = encode<SizeForm>(0, value);
     bytes.clear();
-    bytes.resize(size);
-    encode<ByteForm>(bytes.data(), value);
+    bytes.resize(sizeOf(value));
+    ByteWriter out(bytes.data(), {});
+    encodeTree(out, value);
 }
 
 } // namespace
+
+void SizeWriter::tree(const IJsonObject& object)
+{
+    auto tree = std::make_unique<JsonDocument>();
+    object.writeObject(*tree, tree->GetAllocator());
+    encodeTree(*this, *tree);
+    m_trees.push_back(std::move(tree));
+}
+
+void ByteWriter::tree(const IJsonObject&)
+{
+    encodeTree(*this, **m_nextTree++);
+}
+
+BinaryForm::BinaryForm(const IJsonObject& object)
+    : m_object(object)
+    , m_byTree(kolt::LoggerHolder::levelEnabled(kolt::kTrace))
+{
+    SizeWriter out(m_trees);
+    m_byTree ? out.tree(object) : writeDirectly(object, out);
+    m_size = out.size();
+}
+
+BinaryForm::~BinaryForm() = default;
+
+void BinaryForm::write(char* bytes) const
+{
+    ByteWriter out(bytes, m_trees);
+    m_byTree ? out.tree(m_object) : writeDirectly(m_object, out);
+}
 
 void JsonBinaryIO::write(Bytes& bytes, const JsonValue& value)
 {
@@ -179,6 +164,14 @@ std::ostream& JsonBinaryIO::write(std::ostream& stream, const JsonValue& value)
     Bytes bytes;
     write(bytes, value);
     return stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+void JsonBinaryIO::write(Bytes& bytes, const IJsonObject& object)
+{
+    const BinaryForm form(object);
+    bytes.clear();
+    bytes.resize(form.size());
+    form.write(bytes.data());
 }
 
 } // namespace vrx

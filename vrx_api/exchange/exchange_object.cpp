@@ -3,7 +3,6 @@
 #include "kolt/log.h"
 #include "vrx_api/exchange/json_binary_io.h"
 #include "vrx_api/exchange/shared_content.h"
-#include "vrx_api/json/json_value.h"
 
 #include <boost/uuid/random_generator.hpp>
 #include <boost/uuid/uuid_io.hpp>
@@ -12,20 +11,6 @@
 
 namespace vrx
 {
-
-namespace
-{
-
-// Decodes the content of a buffer, which is removed from the system.
-void takeContent(const wstring& name, std::uint64_t sizeLimit, JsonDocument& document)
-{
-    mp::SharedBuffer<char> buffer;
-    buffer.open(name, true);
-    const PlainContent content(buffer, sizeLimit);
-    JsonBinaryIO::read(content.data(), content.size(), document, document.GetAllocator());
-}
-
-} // namespace
 
 IExchangeObject::~IExchangeObject() = default;
 
@@ -51,9 +36,10 @@ void IExchangeObject::load()
     {
         return;
     }
-    JsonDocument document;
-    takeContent(m_source, m_sizeLimit, document);
-    readObject(document);
+    mp::SharedBuffer<char> buffer;
+    buffer.open(m_source, true);
+    const PlainContent content(buffer, m_sizeLimit);
+    JsonBinaryIO::read(content.data(), content.size(), *this);
     m_loaded = true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "kolt/log.h"
 #include "mp/shared_buffer.h"
+#include "vrx_api/exchange/binary_form.h"
 #include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/exchange_object_registry.h"
 #include "vrx_api/exchange/json_binary_io.h"
@@ -25,18 +26,10 @@ constexpr Key kName = WIDE("exchange_object_name");
 constexpr Key kBinary = WIDE("binary");
 constexpr Key kData = WIDE("exchange_object_data");
 
-Bytes encodeObject(const IExchangeObject& object)
-{
-    JsonDocument document;
-    object.writeObject(document, document.GetAllocator());
-    Bytes bytes;
-    JsonBinaryIO::write(bytes, document);
-    return bytes;
-}
-
 Bytes compressedForm(const IExchangeObject& object, int level)
 {
-    const Bytes plain = encodeObject(object);
+    Bytes plain;
+    JsonBinaryIO::write(plain, object);
     Bytes bytes;
     Compressor::compress(bytes, plain.data(), plain.size(), level);
     return bytes;
@@ -54,20 +47,17 @@ wstring leave(std::uint64_t size, const std::function<void(char*)>& make)
     return name;
 }
 
-wstring leave(const Bytes& content)
-{
-    return leave(content.size(), [&content](char* out) { std::copy(content.begin(), content.end(), out); });
-}
-
 wstring share(const IExchangeObject& object, ECompression compression)
 {
     constexpr int kDefaultLevel = -1;
     constexpr int kFastestLevel = 1;
     if (compression == ECompression::None || !object.compress())
     {
-        return leave(encodeObject(object));
+        const BinaryForm form(object);
+        return leave(form.size(), [&form](char* content) { form.write(content); });
     }
-    return leave(compressedForm(object, compression == ECompression::Fast ? kFastestLevel : kDefaultLevel));
+    const Bytes bytes = compressedForm(object, compression == ECompression::Fast ? kFastestLevel : kDefaultLevel);
+    return leave(bytes.size(), [&bytes](char* content) { std::copy(bytes.begin(), bytes.end(), content); });
 }
 
 } // namespace
@@ -81,15 +71,15 @@ void ExchangeObjectWrapper::writeObject(wostream& stream) const
     }
     JsonDocument document(rapidjson::kObjectType);
     JsonAllocator& allocator = document.GetAllocator();
-    addMember(document, kName, encode(m_pObject->objectName(), allocator), allocator);
+    addMember(document, kName, treeOf(m_pObject->objectName(), allocator), allocator);
     if (m_pObject->binary())
     {
         addMember(document, kBinary, JsonValue(true), allocator);
-        addMember(document, kData, encode(share(*m_pObject, m_compression), allocator), allocator);
+        addMember(document, kData, treeOf(share(*m_pObject, m_compression), allocator), allocator);
     }
     else
     {
-        addMember(document, kData, encode(*m_pObject, allocator), allocator);
+        addMember(document, kData, treeOf(*m_pObject, allocator), allocator);
     }
     JsonTextIO::write(stream, document, true);
 }

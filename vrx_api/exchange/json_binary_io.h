@@ -1,7 +1,7 @@
 #pragma once
 
 #include "vrx_api/exchange/bytes.h"
-#include "vrx_api/json/json_fwd.h"
+#include "vrx_api/json/json_object.h"
 #include "vrx_api/vrx_api_export.h"
 
 #include <cstdint>
@@ -32,6 +32,14 @@ public:
 
     /// Decodes the value at the front of the bytes; throws as the reading of a stream does.
     static void read(const char* data, std::uint64_t size, JsonValue& value, JsonAllocator& allocator);
+
+    /// Replaces the bytes by the binary form of an object, as its `writeObject` and the function above make it together,
+    /// but without a tree in between. Throws what `writeObject` throws.
+    static void write(Bytes& bytes, const IJsonObject& object);
+
+    /// Has an object read its binary form, in the same way. The bytes are checked as a whole before the object takes
+    /// anything. They begin at an even address, as all memory does that is allocated or mapped.
+    static void read(const char* data, std::uint64_t size, IJsonObject& object);
 };
 
 } // namespace vrx

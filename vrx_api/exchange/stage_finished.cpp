@@ -1,9 +1,7 @@
 #include "vrx_api/exchange/stage_finished.h"
 
-#include "kolt/log.h"
 #include "vrx_api/exchange/static_exchange_object.h"
-#include "vrx_api/json/json_read.h"
-#include "vrx_api/json/json_write.h"
+#include "vrx_api/json/fields.h"
 
 namespace vrx
 {
@@ -25,16 +23,21 @@ static constexpr const auto& enumTable(ExcStageFinished::EStage)
     return kStages;
 }
 
+template <class Self, class Fields>
+void ExcStageFinished::describe(Self& self, Fields& fields)
+{
+    fields.whole(self.m_stage);
+}
+template struct Described<ExcStageFinished>;
+
 void ExcStageFinished::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    decode(value, m_stage);
+    readWhole(*this, value);
 }
 
 void ExcStageFinished::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    kolt::trace();
-    value = encode(m_stage, allocator);
+    writeWhole(*this, value, allocator);
 }
 
 const wstring& ExcStageFinished::objectName() const

@@ -40,6 +40,10 @@ public:
     void setStage(EStage stage) { m_stage = stage; }
 
 private:
+    friend struct Described<ExcStageFinished>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     EStage m_stage = EStage::Unknown;
 };
 

@@ -16,7 +16,7 @@ void checkIdentity(const IFormatOptions& options, const JsonValue& value)
     {
         return;
     }
-    FieldReader fields(value);
+    FieldReader fields{TreeValue(&value)};
     EOperationType operation = options.operationType();
     fields.always(kOperationKey, operation);
     if (operation != options.operationType())

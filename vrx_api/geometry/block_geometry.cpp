@@ -63,17 +63,17 @@ void ExcBlockGeometry::writeObject(JsonValue& value, JsonAllocator& allocator) c
 {
     kolt::trace();
     value.SetObject();
-    addMember(value, kBlockId, encode(m_blockId, allocator), allocator);
+    addMember(value, kBlockId, treeOf(m_blockId, allocator), allocator);
     if (m_buffer != nullptr)
     {
-        addMember(value, kBufferName, encode(m_buffer->name(), allocator), allocator);
+        addMember(value, kBufferName, treeOf(m_buffer->name(), allocator), allocator);
     }
     else
     {
         addMember(value, kBufferName, JsonValue(), allocator);
         kolt::log(kolt::kError, "ExcBlockGeometry: ACIS buffer was not initialized in shared memory.");
     }
-    addMember(value, kBodyIds, encode(m_bodyIds, allocator), allocator);
+    addMember(value, kBodyIds, treeOf(m_bodyIds, allocator), allocator);
 }
 
 const wstring& ExcBlockGeometry::objectName() const

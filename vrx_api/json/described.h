@@ -3,8 +3,16 @@
 namespace vrx
 {
 
-class FieldCounter;
+class BinaryValue;
+class ByteWriter;
+class SizeWriter;
+class TreeValue;
+class TreeWriter;
+
+template <class Value>
 class FieldReader;
+
+template <class Out>
 class FieldWriter;
 
 /// The walks over the description of a class; fields.h tells what a description is.
@@ -19,9 +27,11 @@ class FieldWriter;
 template <class T>
 struct Described
 {
-    static void walk(T& object, FieldReader& fields);
-    static void walk(const T& object, FieldCounter& fields);
-    static void walk(const T& object, FieldWriter& fields);
+    static void walk(T& object, FieldReader<TreeValue>& fields);
+    static void walk(T& object, FieldReader<BinaryValue>& fields);
+    static void walk(const T& object, FieldWriter<TreeWriter>& fields);
+    static void walk(const T& object, FieldWriter<SizeWriter>& fields);
+    static void walk(const T& object, FieldWriter<ByteWriter>& fields);
 };
 
 } // namespace vrx

@@ -7,6 +7,7 @@
 
 #include <stdexcept>
 #include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 namespace vrx
@@ -15,15 +16,23 @@ namespace vrx
 // A regular class describes its fields once, one line a key, and all walks go over that description.
 // docs/adding_a_class.md tells the verbs and how a class is added.
 
-/// Takes the fields of a description from an object.
+/// Takes the fields of a description from a value.
+template <class Value>
 class FieldReader
 {
 public:
     static constexpr bool kReads = true;
 
-    explicit FieldReader(const JsonValue& object)
-        : m_object(object)
+    explicit FieldReader(const Value& value)
+        : m_value(value)
+        , m_left(value.isObject() ? value.members() : decltype(value.members()){})
     {
+    }
+
+    template <class T>
+    void whole(T&& field)
+    {
+        decode(m_value, std::forward<T>(field));
     }
 
     template <class T>
@@ -82,48 +91,84 @@ private:
     template <class T>
     bool take(Key key, T&& field)
     {
-        const JsonValue* const value = find(m_object, key);
-        return value != nullptr && decode(*value, std::forward<T>(field));
+        for (auto member = m_left.begin(); member != m_left.end(); ++member)
+        {
+            if (!isNamed<Value>(*member, key))
+            {
+                continue;
+            }
+            if (member == m_left.begin())
+            {
+                m_left.dropFirst();
+            }
+            return decode((*member).value, std::forward<T>(field));
+        }
+        return false;
     }
 
-    const JsonValue& m_object;
+    const Value m_value;
+
+    // As a rule the members come in the order of the description, and each is left behind as it is taken. A description
+    // names a key once, so that nobody asks for that one again, and the first member of a name still wins.
+    decltype(std::declval<Value>().members()) m_left;
 };
 
-/// What the walks that write make of the verbs: each that writes is a `when`.
-template <class Walk>
-class WritingWalk
+/// Writes the fields of a description: the members of an object, or the whole of a value.
+template <class Out>
+class FieldWriter
 {
 public:
     static constexpr bool kReads = false;
 
+    explicit FieldWriter(Out& out)
+        : m_out(out)
+    {
+    }
+
+    template <class T>
+    void whole(const T& field)
+    {
+        encode(m_out, field);
+    }
+
     template <class T>
     void always(Key key, const T& field)
     {
-        derived().when(true, key, field);
+        when(true, key, field);
     }
 
     template <class T>
     void required(Key key, const char*, const T& field)
     {
-        derived().when(true, key, field);
+        when(true, key, field);
     }
 
     template <class T>
     void filled(Key key, const T& field)
     {
-        derived().when(!isEmpty(field), key, field);
+        when(!isEmpty(field), key, field);
+    }
+
+    template <class T>
+    void when(bool written, Key key, const T& field)
+    {
+        if (written)
+        {
+            m_out.key(key);
+            encode(m_out, field);
+        }
     }
 
     template <class T>
     void flagged(Key key, bool flag, const T& field)
     {
-        derived().when(flag, key, field);
+        when(flag, key, field);
     }
 
     template <class T>
     void optional(Key key, bool flag, const T& field)
     {
-        derived().when(flag, key, field);
+        when(flag, key, field);
     }
 
     template <class T>
@@ -134,67 +179,39 @@ public:
     template <class T>
     void writeOnly(bool written, Key key, const T& field)
     {
-        derived().when(written, key, field);
+        when(written, key, field);
     }
 
 private:
-    Walk& derived() { return static_cast<Walk&>(*this); }
-};
-
-/// Counts the members that a description writes.
-class FieldCounter : public WritingWalk<FieldCounter>
-{
-public:
-    rapidjson::SizeType count() const { return m_count; }
-
-    template <class T>
-    void when(bool written, Key, const T&)
-    {
-        m_count += written ? 1U : 0U;
-    }
-
-private:
-    rapidjson::SizeType m_count = 0;
-};
-
-/// Adds the fields of a description to an object.
-class FieldWriter : public WritingWalk<FieldWriter>
-{
-public:
-    FieldWriter(JsonValue& object, JsonAllocator& allocator)
-        : m_object(object)
-        , m_allocator(allocator)
-    {
-    }
-
-    template <class T>
-    void when(bool written, Key key, const T& field)
-    {
-        if (written)
-        {
-            addMember(m_object, key, encode(field, m_allocator), m_allocator);
-        }
-    }
-
-private:
-    JsonValue& m_object;
-    JsonAllocator& m_allocator;
+    Out& m_out;
 };
 
 template <class T>
-void Described<T>::walk(T& object, FieldReader& fields)
+void Described<T>::walk(T& object, FieldReader<TreeValue>& fields)
 {
     T::describe(object, fields);
 }
 
 template <class T>
-void Described<T>::walk(const T& object, FieldCounter& fields)
+void Described<T>::walk(T& object, FieldReader<BinaryValue>& fields)
 {
     T::describe(object, fields);
 }
 
 template <class T>
-void Described<T>::walk(const T& object, FieldWriter& fields)
+void Described<T>::walk(const T& object, FieldWriter<TreeWriter>& fields)
+{
+    T::describe(object, fields);
+}
+
+template <class T>
+void Described<T>::walk(const T& object, FieldWriter<SizeWriter>& fields)
+{
+    T::describe(object, fields);
+}
+
+template <class T>
+void Described<T>::walk(const T& object, FieldWriter<ByteWriter>& fields)
 {
     T::describe(object, fields);
 }
@@ -217,23 +234,59 @@ void describeBaseForWriting(Self& self, Fields& fields)
     }
 }
 
+/// Takes what is described from a value of the right kind.
+template <class T, class Value>
+void readDescribed(T& object, const Value& value)
+{
+    FieldReader<Value> fields(value);
+    Described<T>::walk(object, fields);
+}
+
+/// What the value of a class is. The description of an object tells its members, any other one the whole value.
+enum class Form
+{
+    Object,
+    Array,
+    Any,
+};
+
+template <Form kForm, class Value>
+bool hasForm(const Value& value)
+{
+    return kForm == Form::Any || (kForm == Form::Object ? value.isObject() : value.isArray());
+}
+
+/// Writes what is described.
+template <Form kForm, class T, class Out>
+void writeDescribed(const T& object, Out& out)
+{
+    FieldWriter<Out> fields(out);
+    if constexpr (kForm == Form::Object)
+    {
+        const auto begin = out.beginObject();
+        Described<T>::walk(object, fields);
+        out.endObject(begin);
+    }
+    else
+    {
+        Described<T>::walk(object, fields);
+    }
+}
+
 /// Takes the members of a value that is known to be an object.
 template <class T>
 void readMembers(T& object, const JsonValue& value)
 {
-    FieldReader reader(value);
-    Described<T>::walk(object, reader);
+    readDescribed(object, TreeValue(&value));
 }
 
 /// Makes the value an object of the described members.
 template <class T>
 void writeMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
 {
-    FieldCounter counter;
-    Described<T>::walk(object, counter);
-    setObject(value, counter.count(), allocator);
-    FieldWriter writer(value, allocator);
-    Described<T>::walk(object, writer);
+    TreeWriter out(allocator);
+    writeDescribed<Form::Object>(object, out);
+    value = out.take();
 }
 
 /// Adds the described members to an object; a value that is none is made one.
@@ -245,29 +298,125 @@ void addMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
         writeMembers(object, value, allocator);
         return;
     }
-    FieldWriter writer(value, allocator);
-    Described<T>::walk(object, writer);
+    TreeWriter out(allocator);
+    writeDescribed<Form::Any>(object, out);
+    out.addTo(value);
 }
 
-/// The regular `readObject`: the trace line, the kind test with its message, the members.
+/// Enters a class whose `readObject` is a regular one among those that need no tree.
+template <class T, Form kForm>
+class RegularReader
+{
+public:
+    static const bool s_entered;
+
+    // A value of another form goes to the operation itself, which knows what to say of it.
+    static void read(IJsonObject& object, BinaryValue value)
+    {
+        if (hasForm<kForm>(value))
+        {
+            readDescribed(static_cast<T&>(object), value);
+        }
+        else
+        {
+            readByTree(object, value);
+        }
+    }
+};
+
+template <class T, Form kForm>
+const bool RegularReader<T, kForm>::s_entered = enterReader(typeid(T), &RegularReader::read);
+
+/// The same of a regular `writeObject`.
+template <class T, Form kForm>
+class RegularWriter
+{
+public:
+    static const bool s_entered;
+
+    template <class Out>
+    static void write(const IJsonObject& object, Out& out)
+    {
+        writeDescribed<kForm>(static_cast<const T&>(object), out);
+    }
+};
+
+template <class T, Form kForm>
+const bool RegularWriter<T, kForm>::s_entered =
+    enterWriter(typeid(T), &RegularWriter::template write<SizeWriter>, &RegularWriter::template write<ByteWriter>);
+
+/// Enters a class that inherits the regular operations of its base, by the line `template struct Inherits<...>;`.
+template <class T, class Base, Form kForm = Form::Object>
+struct Inherits
+{
+    static const bool s_reader;
+    static const bool s_writer;
+};
+
+template <class T, class Base, Form kForm>
+const bool Inherits<T, Base, kForm>::s_reader = enterReader(typeid(T), &RegularReader<Base, kForm>::read);
+
+template <class T, class Base, Form kForm>
+const bool Inherits<T, Base, kForm>::s_writer =
+    enterWriter(typeid(T), &RegularWriter<Base, kForm>::template write<SizeWriter>,
+                &RegularWriter<Base, kForm>::template write<ByteWriter>);
+
+/// The regular `readObject` of an object: the trace line, the kind test with its message, the fields. The class has no
+/// other statement there.
 template <class T>
 void readFields(T& object, const JsonValue& value, const char* className,
                 kolt::SourcePlace place = kolt::SourcePlace::current())
 {
+    static_cast<void>(&RegularReader<T, Form::Object>::s_entered);
     kolt::trace(place);
     if (isObject(value, className))
     {
-        readMembers(object, value);
+        readDescribed(object, TreeValue(&value));
     }
 }
 
-/// The regular `writeObject`: the trace line, then the members.
+/// The same of an array.
+template <class T>
+void readArray(T& object, const JsonValue& value, const char* className,
+               kolt::SourcePlace place = kolt::SourcePlace::current())
+{
+    static_cast<void>(&RegularReader<T, Form::Array>::s_entered);
+    kolt::trace(place);
+    if (isArray(value, className))
+    {
+        readDescribed(object, TreeValue(&value));
+    }
+}
+
+/// The same of a class whose description deals with values of all kinds.
+template <class T>
+void readWhole(T& object, const JsonValue& value, kolt::SourcePlace place = kolt::SourcePlace::current())
+{
+    static_cast<void>(&RegularReader<T, Form::Any>::s_entered);
+    kolt::trace(place);
+    readDescribed(object, TreeValue(&value));
+}
+
+/// The regular `writeObject`: the trace line, then an object of the fields.
 template <class T>
 void writeFields(const T& object, JsonValue& value, JsonAllocator& allocator,
                  kolt::SourcePlace place = kolt::SourcePlace::current())
 {
+    static_cast<void>(&RegularWriter<T, Form::Object>::s_entered);
     kolt::trace(place);
     writeMembers(object, value, allocator);
+}
+
+/// The same of a class that is described as a whole.
+template <class T>
+void writeWhole(const T& object, JsonValue& value, JsonAllocator& allocator,
+                kolt::SourcePlace place = kolt::SourcePlace::current())
+{
+    static_cast<void>(&RegularWriter<T, Form::Any>::s_entered);
+    kolt::trace(place);
+    TreeWriter out(allocator);
+    writeDescribed<Form::Any>(object, out);
+    value = out.take();
 }
 
 } // namespace vrx

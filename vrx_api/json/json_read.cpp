@@ -23,20 +23,4 @@ const JsonValue* findString(const JsonValue& object, Key key)
     return value != nullptr && value->IsString() ? value : nullptr;
 }
 
-bool decode(const JsonValue& value, wstring& field)
-{
-    if (!value.IsString())
-    {
-        return false;
-    }
-    field = textOf(value);
-    return true;
-}
-
-bool decode(const JsonValue& value, IJsonObject& field)
-{
-    field.readObject(value);
-    return true;
-}
-
 } // namespace vrx

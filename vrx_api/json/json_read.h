@@ -1,15 +1,16 @@
 #pragma once
 
+#include "vrx_api/json/direct.h"
 #include "vrx_api/json/enum_table.h"
 #include "vrx_api/json/json_object.h"
-#include "vrx_api/json/json_value.h"
 #include "vrx_api/json/key.h"
 #include "vrx_api/json/scalar.h"
+#include "vrx_api/json/tree_value.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <memory>
+#include <optional>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -30,61 +31,76 @@ inline wstring_view textOf(const JsonValue& string)
     return wstring_view(string.GetString());
 }
 
-// What a field takes from a value: true when the value is of the field's kind. A value of another kind leaves the field
-// as it is. A type without an overload here or in shapes.h does not compile.
-
-/// A double that is out of the range of a float becomes an infinity.
-template <class T, std::enable_if_t<isScalar<T>, int> = 0>
-bool decode(const JsonValue& value, T& field)
+template <class Value>
+wstring_view textOf(const Value& string)
 {
-    static_assert(std::numeric_limits<float>::is_iec559, "infinities take what is out of range");
-    using Json = std::conditional_t<std::is_same_v<T, float>, double, T>;
-    if (!value.Is<Json>())
+    const wstring_view units = string.units();
+    return units.substr(0, units.find(wchar{}));
+}
+
+template <class Value>
+bool isNamed(const typename Value::Member& member, Key key)
+{
+    return member.name.isString() && member.name.units() == wstring_view(key.text, key.size);
+}
+
+/// Has a tree of the value used, for what is known to be read from trees alone.
+template <class Use>
+void withTree(const TreeValue& value, const Use& use)
+{
+    use(value.json());
+}
+
+template <class Use>
+void withTree(const BinaryValue& value, const Use& use)
+{
+    JsonDocument document;
+    decodeTree(value, document);
+    use(document);
+}
+
+/// The value of the first member of this name, if there is one.
+template <class Value>
+std::optional<Value> findMember(const Value& object, Key key)
+{
+    for (const auto member : object.members())
+    {
+        if (isNamed<Value>(member, key))
+        {
+            return member.value;
+        }
+    }
+    return std::nullopt;
+}
+
+// What a field takes from a value: true when the value is of the field's kind. A value of another kind leaves the field
+// as it is. A type without an overload here or in shapes.h does not compile. A `Value` is a TreeValue or a BinaryValue.
+
+template <class Value, class T, std::enable_if_t<isScalar<T>, int> = 0>
+bool decode(const Value& value, T& field)
+{
+    return value.take(field);
+}
+
+template <class Value>
+bool decode(const Value& value, wstring& field)
+{
+    if (!value.isString())
     {
         return false;
     }
-    field = static_cast<T>(value.Get<Json>());
+    field = textOf(value);
     return true;
 }
 
-bool decode(const JsonValue& value, wstring& field);
-
-/// A nested object gets the value whatever its kind.
-bool decode(const JsonValue& value, IJsonObject& field);
-
-template <class E, std::enable_if_t<std::is_enum_v<E>, int> = 0>
-bool decode(const JsonValue& value, E& field)
+template <class Value, class E, std::enable_if_t<std::is_enum_v<E>, int> = 0>
+bool decode(const Value& value, E& field)
 {
-    if (!value.IsString())
+    if (!value.isString())
     {
         return false;
     }
     field = enumValue<E>(textOf(value));
-    return true;
-}
-
-/// A shared object is replaced by a new one, which gets the value whatever its kind.
-template <class T>
-bool decode(const JsonValue& value, std::shared_ptr<T>& field)
-{
-    static_assert(!std::is_abstract_v<T>, "one of several classes is read by a decode of its own, beside its holder");
-    field = std::make_shared<T>();
-    return decode(value, *field);
-}
-
-/// An array of a fixed size takes the first elements, up to one of another kind and no more than there is room for. The
-/// others keep their values.
-template <class T, std::size_t N>
-bool decode(const JsonValue& value, std::array<T, N>& field)
-{
-    if (!value.IsArray())
-    {
-        return false;
-    }
-    const std::size_t count = std::min<std::size_t>(N, value.Size());
-    for (std::size_t i = 0; i < count && decode(value.Begin()[i], field[i]); ++i)
-    {
-    }
     return true;
 }
 
@@ -95,17 +111,62 @@ inline constexpr bool isNested = std::is_base_of_v<IJsonObject, T>;
 template <class T>
 inline constexpr bool isNested<std::shared_ptr<T>> = isNested<T>;
 
-/// An array of objects appends a new one per element, whatever the element's kind. An object that throws is not
-/// appended.
-template <class T, std::enable_if_t<isNested<T>, int> = 0>
-bool decode(const JsonValue& value, std::vector<T>& field)
+/// A nested object gets the value whatever its kind.
+template <class T, std::enable_if_t<std::is_base_of_v<IJsonObject, T>, int> = 0>
+bool decode(const TreeValue& value, T& field)
 {
-    if (!value.IsArray())
+    field.readObject(value.json());
+    return true;
+}
+
+template <class T, std::enable_if_t<std::is_base_of_v<IJsonObject, T>, int> = 0>
+bool decode(const BinaryValue& value, T& field)
+{
+    readDirectly(field, value);
+    return true;
+}
+
+/// A shared object is replaced by a new one, which gets the value whatever its kind.
+template <class Value, class T>
+bool decode(const Value& value, std::shared_ptr<T>& field)
+{
+    static_assert(!std::is_abstract_v<T>, "one of several classes is read by a decode of its own, beside its holder");
+    field = std::make_shared<T>();
+    return decode(value, *field);
+}
+
+/// An array of a fixed size takes the first elements, up to one of another kind and no more than there is room for. The
+/// others keep their values.
+template <class Value, class T, std::size_t N>
+bool decode(const Value& value, std::array<T, N>& field)
+{
+    if (!value.isArray())
     {
         return false;
     }
-    field.reserve(field.size() + value.Size());
-    for (const JsonValue& element : value.GetArray())
+    std::size_t count = 0;
+    for (const Value element : value.elements())
+    {
+        if (count == N || !decode(element, field[count]))
+        {
+            break;
+        }
+        ++count;
+    }
+    return true;
+}
+
+/// An array of objects appends a new one per element, whatever the element's kind. An object that throws is not
+/// appended.
+template <class Value, class T, std::enable_if_t<isNested<T>, int> = 0>
+bool decode(const Value& value, std::vector<T>& field)
+{
+    if (!value.isArray())
+    {
+        return false;
+    }
+    field.reserve(field.size() + value.expectedCount());
+    for (const Value element : value.elements())
     {
         T object;
         decode(element, object);

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "vrx_api/json/direct.h"
 #include "vrx_api/json/enum_table.h"
 #include "vrx_api/json/json_object.h"
-#include "vrx_api/json/json_value.h"
 #include "vrx_api/json/key.h"
 #include "vrx_api/json/scalar.h"
+#include "vrx_api/json/tree_writer.h"
 
 #include <array>
 #include <cstdint>
@@ -15,50 +16,8 @@
 namespace vrx
 {
 
-/// Makes the value an empty object with room for exactly this many members.
-void setObject(JsonValue& value, rapidjson::SizeType capacity, JsonAllocator& allocator);
-
 /// Adds a member whose name is not copied.
 void addMember(JsonValue& object, Key key, JsonValue&& value, JsonAllocator& allocator);
-
-// The value that a field writes. A type without an overload here or in shapes.h does not compile.
-
-template <class T, std::enable_if_t<isScalar<T>, int> = 0>
-JsonValue encode(T field, JsonAllocator&)
-{
-    if constexpr (std::is_same_v<T, float>)
-    {
-        return JsonValue(double{field});
-    }
-    else
-    {
-        return JsonValue(field);
-    }
-}
-
-JsonValue encode(const wstring& field, JsonAllocator& allocator);
-JsonValue encode(const IJsonObject& field, JsonAllocator& allocator);
-
-/// The names of a table live as long as the library, so that they are not copied.
-template <class E, std::enable_if_t<std::is_enum_v<E>, int> = 0>
-JsonValue encode(E field, JsonAllocator&)
-{
-    const wstring_view name = enumName(field);
-    return JsonValue(JsonValue::StringRefType(name.data(), static_cast<rapidjson::SizeType>(name.size())));
-}
-
-template <class T>
-JsonValue encode(const std::vector<T>& field, JsonAllocator& allocator);
-
-template <class T, std::size_t N>
-JsonValue encode(const std::array<T, N>& field, JsonAllocator& allocator);
-
-/// A null pointer writes JSON null.
-template <class T>
-JsonValue encode(const std::shared_ptr<T>& field, JsonAllocator& allocator)
-{
-    return field == nullptr ? JsonValue() : encode(*field, allocator);
-}
 
 template <class T>
 bool isNull(const std::shared_ptr<T>& element)
@@ -72,32 +31,82 @@ bool isNull(const T&)
     return false;
 }
 
-/// An array of all elements, without the null pointers among them.
-template <class Elements>
-JsonValue encodeElements(const Elements& elements, JsonAllocator& allocator)
+// What a field writes. A type without an overload here or in shapes.h does not compile. An `Out` is a TreeWriter, a
+// SizeWriter or a ByteWriter.
+
+template <class Out, class T, std::enable_if_t<isScalar<T>, int> = 0>
+void encode(Out& out, T field)
 {
-    JsonValue array(rapidjson::kArrayType);
-    array.Reserve(static_cast<rapidjson::SizeType>(elements.size()), allocator);
+    using Json = std::conditional_t<std::is_same_v<T, float>, double, T>;
+    out.scalar(Json{field});
+}
+
+template <class Out>
+void encode(Out& out, const wstring& field)
+{
+    out.text(field);
+}
+
+/// The names of a table live as long as the library, so that they are not copied.
+template <class Out, class E, std::enable_if_t<std::is_enum_v<E>, int> = 0>
+void encode(Out& out, E field)
+{
+    out.name(enumName(field));
+}
+
+template <class T, std::enable_if_t<std::is_base_of_v<IJsonObject, T>, int> = 0>
+void encode(TreeWriter& out, const T& field)
+{
+    out.object(field);
+}
+
+template <class Out, class T, std::enable_if_t<std::is_base_of_v<IJsonObject, T>, int> = 0>
+void encode(Out& out, const T& field)
+{
+    writeDirectly(field, out);
+}
+
+/// A null pointer writes JSON null.
+template <class Out, class T>
+void encode(Out& out, const std::shared_ptr<T>& field)
+{
+    field == nullptr ? out.null() : encode(out, *field);
+}
+
+/// An array of all elements, without the null pointers among them.
+template <class Out, class Elements>
+void encodeElements(Out& out, const Elements& elements)
+{
+    const auto begin = out.beginArray();
     for (const auto& element : elements)
     {
         if (!isNull(element))
         {
-            array.PushBack(encode(element, allocator), allocator);
+            encode(out, element);
         }
     }
-    return array;
+    out.endArray(begin);
 }
 
+template <class Out, class T>
+void encode(Out& out, const std::vector<T>& field)
+{
+    encodeElements(out, field);
+}
+
+template <class Out, class T, std::size_t N>
+void encode(Out& out, const std::array<T, N>& field)
+{
+    encodeElements(out, field);
+}
+
+/// The tree of a field.
 template <class T>
-JsonValue encode(const std::vector<T>& field, JsonAllocator& allocator)
+JsonValue treeOf(const T& field, JsonAllocator& allocator)
 {
-    return encodeElements(field, allocator);
-}
-
-template <class T, std::size_t N>
-JsonValue encode(const std::array<T, N>& field, JsonAllocator& allocator)
-{
-    return encodeElements(field, allocator);
+    TreeWriter out(allocator);
+    encode(out, field);
+    return out.take();
 }
 
 // True when the verb `filled` writes no key.

@@ -17,9 +17,14 @@ static bool report(bool right, const char* className, const char* complaint)
     return right;
 }
 
+bool expectObject(bool isObject, const char* className)
+{
+    return report(isObject, className, " object should have a JSON object type.");
+}
+
 bool isObject(const JsonValue& value, const char* className)
 {
-    return report(value.IsObject(), className, " object should have a JSON object type.");
+    return expectObject(value.IsObject(), className);
 }
 
 bool isArray(const JsonValue& value, const char* className)

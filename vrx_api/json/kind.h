@@ -8,8 +8,17 @@ namespace vrx
 /// Given in place of a text: nothing is logged.
 constexpr const char* kSilently = nullptr;
 
+/// Passes on whether a class's value is an object; logs that it should be one.
+bool expectObject(bool isObject, const char* className);
+
 /// True for an object; otherwise logs that the class's value should be one.
 bool isObject(const JsonValue& value, const char* className);
+
+template <class Value>
+bool isObject(const Value& value, const char* className)
+{
+    return expectObject(value.isObject(), className);
+}
 
 /// True for an array; otherwise logs that the class's value should be one.
 bool isArray(const JsonValue& value, const char* className);

@@ -34,8 +34,8 @@ Exactly<true, Fields...> exactlyOrReset(const char* refusal, Fields&&... fields)
     return {refusal, {std::forward<Fields>(fields)...}};
 }
 
-template <bool Resets, class T>
-void decodeElement(const JsonValue& value, T& field)
+template <bool Resets, class Value, class T>
+void decodeElement(const Value& value, T& field)
 {
     if constexpr (Resets)
     {
@@ -44,14 +44,15 @@ void decodeElement(const JsonValue& value, T& field)
     decode(value, field);
 }
 
-template <bool Resets, class... Fields>
-bool decode(const JsonValue& value, const Exactly<Resets, Fields...>& field)
+template <class Value, bool Resets, class... Fields>
+bool decode(const Value& value, const Exactly<Resets, Fields...>& field)
 {
-    if (!value.IsArray())
+    if (!value.isArray())
     {
         return false;
     }
-    if (value.Size() != sizeof...(Fields))
+    const auto elements = value.elements();
+    if (elements.count() != sizeof...(Fields))
     {
         if (field.refusal != kSilently)
         {
@@ -59,18 +60,22 @@ bool decode(const JsonValue& value, const Exactly<Resets, Fields...>& field)
         }
         return false;
     }
-    const JsonValue* element = value.Begin();
-    std::apply([&](auto&... each) { (decodeElement<Resets>(*element++, each), ...); }, field.fields);
+    auto element = elements.begin();
+    const auto next = [&element] {
+        const Value taken = *element;
+        ++element;
+        return taken;
+    };
+    std::apply([&](auto&... each) { (decodeElement<Resets>(next(), each), ...); }, field.fields);
     return true;
 }
 
-template <bool Resets, class... Fields>
-JsonValue encode(const Exactly<Resets, Fields...>& field, JsonAllocator& allocator)
+template <class Out, bool Resets, class... Fields>
+void encode(Out& out, const Exactly<Resets, Fields...>& field)
 {
-    JsonValue array(rapidjson::kArrayType);
-    array.Reserve(sizeof...(Fields), allocator);
-    std::apply([&](const auto&... each) { (array.PushBack(encode(each, allocator), allocator), ...); }, field.fields);
-    return array;
+    const auto begin = out.beginArray();
+    std::apply([&](const auto&... each) { (encode(out, each), ...); }, field.fields);
+    out.endArray(begin);
 }
 
 /// An array of scalars, strings or names, which appends. An element of another kind is passed over, or keeps its place
@@ -93,18 +98,18 @@ Values<true, Elements> places(Elements& elements)
     return {elements};
 }
 
-template <bool KeepsPlaces, class Elements>
-bool decode(const JsonValue& value, const Values<KeepsPlaces, Elements>& field)
+template <class Value, bool KeepsPlaces, class Elements>
+bool decode(const Value& value, const Values<KeepsPlaces, Elements>& field)
 {
-    if (!value.IsArray())
+    if (!value.isArray())
     {
         return false;
     }
     if constexpr (KeepsPlaces)
     {
-        field.elements.reserve(field.elements.size() + value.Size());
+        field.elements.reserve(field.elements.size() + value.expectedCount());
     }
-    for (const JsonValue& json : value.GetArray())
+    for (const Value json : value.elements())
     {
         typename Elements::value_type element{};
         if (decode(json, element) || KeepsPlaces)
@@ -115,10 +120,10 @@ bool decode(const JsonValue& value, const Values<KeepsPlaces, Elements>& field)
     return true;
 }
 
-template <bool KeepsPlaces, class Elements>
-JsonValue encode(const Values<KeepsPlaces, Elements>& field, JsonAllocator& allocator)
+template <class Out, bool KeepsPlaces, class Elements>
+void encode(Out& out, const Values<KeepsPlaces, Elements>& field)
 {
-    return encodeElements(field.elements, allocator);
+    encodeElements(out, field.elements);
 }
 
 template <bool KeepsPlaces, class Elements>
@@ -142,28 +147,51 @@ Record<T, Describe> record(T& object, const Describe& describe)
     return {object, describe};
 }
 
-template <class T, class Describe>
-bool decode(const JsonValue& value, const Record<T, Describe>& field)
+template <class Value, class T, class Describe>
+bool decode(const Value& value, const Record<T, Describe>& field)
 {
-    if (!value.IsObject())
+    if (!value.isObject())
     {
         return false;
     }
-    FieldReader reader(value);
-    field.describe(field.object, reader);
+    FieldReader<Value> fields(value);
+    field.describe(field.object, fields);
     return true;
 }
 
-template <class T, class Describe>
-JsonValue encode(const Record<T, Describe>& field, JsonAllocator& allocator)
+template <class Out, class T, class Describe>
+void encode(Out& out, const Record<T, Describe>& field)
 {
-    FieldCounter counter;
-    field.describe(field.object, counter);
-    JsonValue object;
-    setObject(object, counter.count(), allocator);
-    FieldWriter writer(object, allocator);
-    field.describe(field.object, writer);
-    return object;
+    FieldWriter<Out> fields(out);
+    const auto begin = out.beginObject();
+    field.describe(field.object, fields);
+    out.endObject(begin);
+}
+
+/// A field in whose place JSON null is written under the condition.
+template <class Field>
+struct OrNull
+{
+    bool isNull;
+    Field field;
+};
+
+template <class Field>
+OrNull<Field> orNull(bool isNull, const Field& field)
+{
+    return {isNull, field};
+}
+
+template <class Value, class Field>
+bool decode(const Value& value, const OrNull<Field>& field)
+{
+    return decode(value, field.field);
+}
+
+template <class Out, class Field>
+void encode(Out& out, const OrNull<Field>& field)
+{
+    field.isNull ? out.null() : encode(out, field.field);
 }
 
 /// A value that is read into one field and written from another.
@@ -180,16 +208,16 @@ InOut<In, Out> inOut(In& in, const Out& out)
     return {in, out};
 }
 
-template <class In, class Out>
-bool decode(const JsonValue& value, const InOut<In, Out>& field)
+template <class Value, class In, class Out>
+bool decode(const Value& value, const InOut<In, Out>& field)
 {
     return decode(value, field.in);
 }
 
-template <class In, class Out>
-JsonValue encode(const InOut<In, Out>& field, JsonAllocator& allocator)
+template <class Writer, class In, class Out>
+void encode(Writer& writer, const InOut<In, Out>& field)
 {
-    return encode(field.out, allocator);
+    encode(writer, field.out);
 }
 
 } // namespace vrx

@@ -15,14 +15,16 @@ static constexpr Key kNameKey = WIDE("component_name");
 void LegacyComponentInstanceNames::readObject(const JsonValue& value)
 {
     requireArray(value, "LegacyComponentInstanceNames::readObject(): Input json object is not an array");
-    readEntries<wstring>(value, kNameKey, [this](std::uint64_t handle, const wstring& name) {
+    readEntries<wstring>(TreeValue(&value), kNameKey, [this](std::uint64_t handle, const wstring& name) {
         addInstanceName(OdDbHandle(handle), name);
     });
 }
 
 void LegacyComponentInstanceNames::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    value = encodeEntries(m_map, kNameKey, allocator);
+    TreeWriter out(allocator);
+    encodeEntries(out, m_map, kNameKey);
+    value = out.take();
 }
 
 const wstring& LegacyComponentInstanceNames::objectName() const

@@ -46,9 +46,10 @@ struct ComponentNames
 
 constexpr Key kNameKey = WIDE("component_name");
 
-bool decode(const JsonValue& value, const ComponentNames<std::map<std::uint64_t, wstring>>& field)
+template <class Value>
+bool decode(const Value& value, const ComponentNames<std::map<std::uint64_t, wstring>>& field)
 {
-    if (!value.IsArray())
+    if (!value.isArray())
     {
         return false;
     }
@@ -57,9 +58,10 @@ bool decode(const JsonValue& value, const ComponentNames<std::map<std::uint64_t,
     return true;
 }
 
-JsonValue encode(const ComponentNames<const std::map<std::uint64_t, wstring>>& field, JsonAllocator& allocator)
+template <class Out>
+void encode(Out& out, const ComponentNames<const std::map<std::uint64_t, wstring>>& field)
 {
-    return encodeEntries(field.names, kNameKey, allocator);
+    encodeEntries(out, field.names, kNameKey);
 }
 
 template <class Map>

@@ -14,36 +14,36 @@ inline constexpr Key kHandleKey = WIDE("component_handle");
 
 /// Gives each handle and its data to `take(std::uint64_t, T)`. What is no such object is passed over without a log
 /// line.
-template <class T, class Take>
-void readEntries(const JsonValue& array, Key dataKey, const Take& take)
+template <class T, class Value, class Take>
+void readEntries(const Value& array, Key dataKey, const Take& take)
 {
-    for (const JsonValue& element : array.GetArray())
+    for (const Value element : array.elements())
     {
-        const JsonValue* const handleValue = element.IsObject() ? find(element, kHandleKey) : nullptr;
-        const JsonValue* const dataValue = element.IsObject() ? find(element, dataKey) : nullptr;
+        const std::optional<Value> handleValue = element.isObject() ? findMember(element, kHandleKey) : std::nullopt;
+        const std::optional<Value> dataValue = element.isObject() ? findMember(element, dataKey) : std::nullopt;
         std::uint64_t handle = 0;
         T data;
-        if (handleValue != nullptr && dataValue != nullptr && decode(*handleValue, handle) && decode(*dataValue, data))
+        if (handleValue && dataValue && decode(*handleValue, handle) && decode(*dataValue, data))
         {
             take(handle, data);
         }
     }
 }
 
-template <class Map>
-JsonValue encodeEntries(const Map& map, Key dataKey, JsonAllocator& allocator)
+template <class Out, class Map>
+void encodeEntries(Out& out, const Map& map, Key dataKey)
 {
-    JsonValue array(rapidjson::kArrayType);
-    array.Reserve(static_cast<rapidjson::SizeType>(map.size()), allocator);
+    const auto array = out.beginArray();
     for (const auto& [handle, data] : map)
     {
-        JsonValue entry;
-        setObject(entry, 2, allocator);
-        addMember(entry, kHandleKey, JsonValue(static_cast<std::uint64_t>(handle)), allocator);
-        addMember(entry, dataKey, encode(data, allocator), allocator);
-        array.PushBack(entry, allocator);
+        const auto entry = out.beginObject();
+        out.key(kHandleKey);
+        out.scalar(static_cast<std::uint64_t>(handle));
+        out.key(dataKey);
+        encode(out, data);
+        out.endObject(entry);
     }
-    return array;
+    out.endArray(array);
 }
 
 } // namespace vrx

@@ -116,15 +116,16 @@ SearchPaths<Map> searchPaths(Map& paths)
     return {paths};
 }
 
-bool decode(const JsonValue& value, const SearchPaths<std::map<wstring, wstring>>& field)
+template <class Value>
+bool decode(const Value& value, const SearchPaths<std::map<wstring, wstring>>& field)
 {
-    if (!value.IsObject())
+    if (!value.isObject())
     {
         return false;
     }
-    for (const auto& member : value.GetObject())
+    for (const auto member : value.members())
     {
-        if (member.name.IsString() && member.value.IsString())
+        if (member.name.isString() && member.value.isString())
         {
             const wstring_view key = textOf(member.name);
             const wstring_view path = textOf(member.value);
@@ -136,14 +137,16 @@ bool decode(const JsonValue& value, const SearchPaths<std::map<wstring, wstring>
     return true;
 }
 
-JsonValue encode(const SearchPaths<const std::map<wstring, wstring>>& field, JsonAllocator& allocator)
+template <class Out>
+void encode(Out& out, const SearchPaths<const std::map<wstring, wstring>>& field)
 {
-    JsonValue object(rapidjson::kObjectType);
+    const auto object = out.beginObject();
     for (const auto& [key, path] : field.paths)
     {
-        object.AddMember(vrx::encode(key, allocator), vrx::encode(path, allocator), allocator);
+        out.text(key);
+        out.text(path);
     }
-    return object;
+    out.endObject(object);
 }
 
 template <class Map>

@@ -20,27 +20,29 @@ static const auto describeMaterial = [](auto& material, auto& fields) {
     fields.always(WIDE("specific_heat"), material.specificHeat);
 };
 
-static bool decode(const JsonValue& value, LegacyMaterialMap::Material& material)
+static bool decode(const TreeValue& value, LegacyMaterialMap::Material& material)
 {
     return decode(value, record(material, describeMaterial));
 }
 
-static JsonValue encode(const LegacyMaterialMap::Material& material, JsonAllocator& allocator)
+static void encode(TreeWriter& out, const LegacyMaterialMap::Material& material)
 {
-    return encode(record(material, describeMaterial), allocator);
+    encode(out, record(material, describeMaterial));
 }
 
 void LegacyMaterialMap::readObject(const JsonValue& value)
 {
     requireArray(value, "LegacyMaterialMap::readObject(): Input json object is not an array");
-    readEntries<Material>(value, kMaterialKey, [this](std::uint64_t handle, const Material& material) {
+    readEntries<Material>(TreeValue(&value), kMaterialKey, [this](std::uint64_t handle, const Material& material) {
         m_map.emplace(OdDbHandle(handle), material);
     });
 }
 
 void LegacyMaterialMap::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    value = encodeEntries(m_map, kMaterialKey, allocator);
+    TreeWriter out(allocator);
+    encodeEntries(out, m_map, kMaterialKey);
+    value = out.take();
 }
 
 const wstring& LegacyMaterialMap::objectName() const

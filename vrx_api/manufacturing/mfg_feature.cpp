@@ -1,14 +1,16 @@
 #include "vrx_api/manufacturing/mfg_feature.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/manufacturing/mfg_feature_unclassified.h"
+#include "vrx_api/manufacturing/mfg_pattern_fields.h"
 
 namespace vrx
 {
 
 // The pattern's own type decides which class it is, and there may be none.
-static bool decode(const JsonValue& value, std::shared_ptr<ExcMfgPattern>& field)
+template <class Value>
+static bool decode(const Value& value, std::shared_ptr<ExcMfgPattern>& field)
 {
-    field = ExcMfgPattern::readPattern(value);
+    field = readPattern(value);
     return true;
 }
 
@@ -20,6 +22,7 @@ void ExcMfgFeature::describe(Self& self, Fields& fields)
     fields.filled(WIDE("pattern"), self.m_pattern);
 }
 template struct Described<ExcMfgFeature>;
+template struct Inherits<ExcMfgFeatureUnclassified, ExcMfgFeature>;
 
 void ExcMfgFeature::readObject(const JsonValue& value)
 {

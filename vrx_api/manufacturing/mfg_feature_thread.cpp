@@ -16,6 +16,8 @@ void ExcMfgFeatureThread::describe(Self& self, Fields& fields)
     fields.filled(WIDE("bottom_faces"), self.m_bottomFaces);
 }
 template struct Described<ExcMfgFeatureThread>;
+template struct Inherits<ExcMfgFeatureInternalThread, ExcMfgFeatureThread>;
+template struct Inherits<ExcMfgFeatureExternalThread, ExcMfgFeatureThread>;
 
 void ExcMfgFeatureThread::readObject(const JsonValue& value)
 {

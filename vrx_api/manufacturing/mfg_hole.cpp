@@ -35,6 +35,7 @@ void ExcMfgHole::describe(Self& self, Fields& fields)
     fields.filled(WIDE("hole_thread"), self.m_holeThread);
 }
 template struct Described<ExcMfgHole>;
+template struct Inherits<ExcMfgSimpleHole, ExcMfgHole>;
 
 void ExcMfgHole::readObject(const JsonValue& value)
 {

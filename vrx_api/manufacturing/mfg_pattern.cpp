@@ -41,22 +41,23 @@ void ExcMfgPattern::writeObject(JsonValue& value, JsonAllocator& allocator) cons
     addFields(*this, value, allocator);
 }
 
-template <class T>
-static std::shared_ptr<ExcMfgPattern> readNew(const JsonValue& value)
+template <class T, class Value>
+static std::shared_ptr<ExcMfgPattern> readNew(const Value& value)
 {
     const auto pattern = std::make_shared<T>();
-    pattern->readObject(value);
+    decode(value, *pattern);
     return pattern;
 }
 
-std::shared_ptr<ExcMfgPattern> ExcMfgPattern::readPattern(const JsonValue& value)
+template <class Value>
+static std::shared_ptr<ExcMfgPattern> readByType(const Value& value)
 {
     if (!isObject(value, "ExcMfgPattern"))
     {
         return nullptr;
     }
-    const JsonValue* const type = findString(value, kType);
-    if (type == nullptr)
+    const std::optional<Value> type = findMember(value, kType);
+    if (!type || !type->isString())
     {
         kolt::log(kolt::kError, "ExcMfgPattern should have a type.");
         return nullptr;
@@ -76,6 +77,21 @@ std::shared_ptr<ExcMfgPattern> ExcMfgPattern::readPattern(const JsonValue& value
     }
     kolt::log(kolt::kError, "ExcMfgPattern: unknown type.");
     return nullptr;
+}
+
+std::shared_ptr<ExcMfgPattern> readPattern(const TreeValue& value)
+{
+    return readByType(value);
+}
+
+std::shared_ptr<ExcMfgPattern> readPattern(const BinaryValue& value)
+{
+    return readByType(value);
+}
+
+std::shared_ptr<ExcMfgPattern> ExcMfgPattern::readPattern(const JsonValue& value)
+{
+    return readByType(TreeValue(&value));
 }
 
 template <class Self, class Fields>

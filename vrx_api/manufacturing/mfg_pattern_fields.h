@@ -23,38 +23,38 @@ IndexPairs<Pairs> indexPairs(const char* refusal, Pairs& pairs)
     return {refusal, pairs};
 }
 
-template <class Pairs>
-bool decode(const JsonValue& value, const IndexPairs<Pairs>& field)
+template <class Value, class Pairs>
+bool decode(const Value& value, const IndexPairs<Pairs>& field)
 {
-    if (!value.IsArray())
+    if (!value.isArray())
     {
         return false;
     }
-    field.pairs.reserve(field.pairs.size() + value.Size());
-    for (const JsonValue& element : value.GetArray())
+    field.pairs.reserve(field.pairs.size() + value.expectedCount());
+    for (const Value element : value.elements())
     {
-        if (!element.IsArray() || element.Size() < 2)
+        if (!element.isArray() || element.elements().count() < 2)
         {
             kolt::log(kolt::kWarning, field.refusal);
             continue;
         }
+        auto item = element.elements().begin();
         auto& [first, second] = field.pairs.emplace_back(-1, -1);
-        decode(element.Begin()[0], first);
-        decode(element.Begin()[1], second);
+        decode(*item, first);
+        decode(*++item, second);
     }
     return true;
 }
 
-template <class Pairs>
-JsonValue encode(const IndexPairs<Pairs>& field, JsonAllocator& allocator)
+template <class Out, class Pairs>
+void encode(Out& out, const IndexPairs<Pairs>& field)
 {
-    JsonValue array(rapidjson::kArrayType);
-    array.Reserve(static_cast<rapidjson::SizeType>(field.pairs.size()), allocator);
+    const auto begin = out.beginArray();
     for (const auto& [first, second] : field.pairs)
     {
-        array.PushBack(encode(std::array{first, second}, allocator), allocator);
+        encode(out, std::array{first, second});
     }
-    return array;
+    out.endArray(begin);
 }
 
 template <class Pairs>
@@ -63,11 +63,16 @@ bool isEmpty(const IndexPairs<Pairs>& field)
     return field.pairs.empty();
 }
 
+/// The pattern of a class that the value itself tells; null when it tells none.
+std::shared_ptr<ExcMfgPattern> readPattern(const TreeValue& value);
+std::shared_ptr<ExcMfgPattern> readPattern(const BinaryValue& value);
+
 /// The `writeObject` of a pattern: a value that is an object already keeps its members.
 template <class T>
 void addFields(const T& pattern, JsonValue& value, JsonAllocator& allocator,
                kolt::SourcePlace place = kolt::SourcePlace::current())
 {
+    static_cast<void>(&RegularWriter<T, Form::Object>::s_entered);
     kolt::trace(place);
     addMembers(pattern, value, allocator);
 }

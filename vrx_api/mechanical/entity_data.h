@@ -22,6 +22,10 @@ public:
     void addData(const std::shared_ptr<ExcTopologicalEntityInformation>& information);
 
 private:
+    friend struct Described<ExcEntityData>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     std::vector<std::shared_ptr<ExcTopologicalEntityInformation>> m_data;
 };
 

@@ -1,6 +1,5 @@
 #include "vrx_api/mechanical/mapping_data.h"
 
-#include "vrx_api/json/elements.h"
 #include "vrx_api/json/shapes.h"
 
 namespace vrx
@@ -13,36 +12,46 @@ static constexpr auto describePair = [](auto& pair, auto& fields) {
     fields.readOnly(WIDE("original"), pair.second);
 };
 
-static JsonValue encode(const EntityPair& pair, JsonAllocator& allocator)
+template <class Value>
+static bool decode(const Value& value, std::vector<EntityPair>& field)
 {
-    return encode(record(pair, describePair), allocator);
-}
-
-void ExcMappingData::readObject(const JsonValue& value)
-{
-    kolt::trace();
-    if (!isArray(value, "ExcMappingData"))
-    {
-        return;
-    }
-    m_mapping.reserve(m_mapping.size() + value.Size());
-    for (const JsonValue& element : value.GetArray())
+    field.reserve(field.size() + value.expectedCount());
+    for (const Value element : value.elements())
     {
         EntityPair pair;
         if (decode(element, record(pair, describePair)))
         {
-            m_mapping.push_back(std::move(pair));
+            field.push_back(std::move(pair));
         }
         else
         {
             kolt::log(kolt::kError, "ExcMappingData JSON array should have objects as items.");
         }
     }
+    return true;
+}
+
+template <class Out>
+static void encode(Out& out, const EntityPair& pair)
+{
+    encode(out, record(pair, describePair));
+}
+
+template <class Self, class Fields>
+void ExcMappingData::describe(Self& self, Fields& fields)
+{
+    fields.whole(self.m_mapping);
+}
+template struct Described<ExcMappingData>;
+
+void ExcMappingData::readObject(const JsonValue& value)
+{
+    readArray(*this, value, "ExcMappingData");
 }
 
 void ExcMappingData::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeElements(m_mapping, value, allocator);
+    writeWhole(*this, value, allocator);
 }
 
 void ExcMappingData::add(const std::shared_ptr<ExcEntity>& imported, const std::shared_ptr<ExcEntity>& original)

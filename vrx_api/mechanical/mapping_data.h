@@ -29,6 +29,10 @@ public:
     void add(const std::shared_ptr<ExcEntity>& imported, const std::shared_ptr<ExcEntity>& original);
 
 private:
+    friend struct Described<ExcMappingData>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     std::vector<std::pair<std::shared_ptr<ExcEntity>, std::shared_ptr<ExcEntity>>> m_mapping;
 };
 

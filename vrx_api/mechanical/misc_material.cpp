@@ -42,7 +42,8 @@ struct Entry
 template <class Map>
 Entry(Map&, EProperty) -> Entry<Map>;
 
-bool decode(const JsonValue& value, const Entry<Properties>& field)
+template <class Value>
+bool decode(const Value& value, const Entry<Properties>& field)
 {
     return decode(value, field.properties[field.id]);
 }
@@ -58,9 +59,10 @@ bool isEmpty(const Entry<const Properties>& field)
     return propertyOf(field.properties, field.id) == nullptr;
 }
 
-JsonValue encode(const Entry<const Properties>& field, JsonAllocator& allocator)
+template <class Out>
+void encode(Out& out, const Entry<const Properties>& field)
 {
-    return encode(propertyOf(field.properties, field.id), allocator);
+    encode(out, propertyOf(field.properties, field.id));
 }
 
 } // namespace

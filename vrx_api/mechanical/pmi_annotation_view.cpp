@@ -30,8 +30,8 @@ void enterBehind(std::size_t count, const Indexed<Annotations, Index>& field)
     }
 }
 
-template <class Annotations, class Index>
-bool decode(const JsonValue& value, const Indexed<Annotations, Index>& field)
+template <class Value, class Annotations, class Index>
+bool decode(const Value& value, const Indexed<Annotations, Index>& field)
 {
     const std::size_t count = field.annotations.size();
     const bool taken = decode(value, field.annotations);
@@ -39,10 +39,10 @@ bool decode(const JsonValue& value, const Indexed<Annotations, Index>& field)
     return taken;
 }
 
-template <class Annotations, class Index>
-JsonValue encode(const Indexed<Annotations, Index>& field, JsonAllocator& allocator)
+template <class Out, class Annotations, class Index>
+void encode(Out& out, const Indexed<Annotations, Index>& field)
 {
-    return encode(field.annotations, allocator);
+    encode(out, field.annotations);
 }
 
 template <class Annotations, class Index>

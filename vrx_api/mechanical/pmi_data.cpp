@@ -1,19 +1,26 @@
 #include "vrx_api/mechanical/pmi_data.h"
 
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/elements.h"
+#include "vrx_api/json/fields.h"
 
 namespace vrx
 {
 
+template <class Self, class Fields>
+void ExcPMIData::describe(Self& self, Fields& fields)
+{
+    fields.whole(self.m_annotationSets);
+}
+template struct Described<ExcPMIData>;
+
 void ExcPMIData::readObject(const JsonValue& value)
 {
-    readElements(m_annotationSets, value, "ExcPMIData");
+    readArray(*this, value, "ExcPMIData");
 }
 
 void ExcPMIData::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeElements(m_annotationSets, value, allocator);
+    writeWhole(*this, value, allocator);
 }
 
 void ExcPMIData::addAnnotationSet(const std::shared_ptr<ExcPMIAnnotationSet>& set)

@@ -23,6 +23,10 @@ public:
     void addAnnotationSet(const std::shared_ptr<ExcPMIAnnotationSet>& set);
 
 private:
+    friend struct Described<ExcPMIData>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     std::vector<std::shared_ptr<ExcPMIAnnotationSet>> m_annotationSets;
 };
 

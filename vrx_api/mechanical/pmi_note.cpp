@@ -32,19 +32,19 @@ struct TrueWhenThere
 template <class Flag>
 TrueWhenThere(Flag&) -> TrueWhenThere<Flag>;
 
-bool decode(const JsonValue& value, const TrueWhenThere<bool>& field)
+template <class Value>
+bool decode(const Value& value, const TrueWhenThere<bool>& field)
 {
-    if (!value.IsBool())
-    {
-        return false;
-    }
-    field.flag = true;
-    return true;
+    bool there = false;
+    const bool taken = vrx::decode(value, there);
+    field.flag = taken || field.flag;
+    return taken;
 }
 
-JsonValue encode(const TrueWhenThere<const bool>& field, JsonAllocator&)
+template <class Out>
+void encode(Out& out, const TrueWhenThere<const bool>& field)
 {
-    return JsonValue(field.flag);
+    out.scalar(field.flag);
 }
 
 } // namespace

@@ -13,6 +13,45 @@ namespace vrx
 const wstring ExcProductStructure::s_objectName = WIDE("exc_product_structure");
 static const StaticExchangeObject<ExcProductStructure> s_prototype;
 
+namespace
+{
+
+// Blocks that are entered into the index as they come, under the ids that they have then. The last one of an id wins.
+template <class Blocks, class Index>
+struct Indexed
+{
+    Blocks& blocks;
+    Index& index;
+};
+template <class Blocks, class Index>
+Indexed(Blocks&, Index&) -> Indexed<Blocks, Index>;
+
+template <class Value, class Blocks, class Index>
+bool decode(const Value& value, const Indexed<Blocks, Index>& field)
+{
+    const std::size_t firstRead = field.blocks.size();
+    const bool taken = decode(value, field.blocks);
+    for (std::size_t i = firstRead; i < field.blocks.size(); ++i)
+    {
+        field.index[field.blocks[i]->id()] = field.blocks[i];
+    }
+    return taken;
+}
+
+template <class Out, class Blocks, class Index>
+void encode(Out& out, const Indexed<Blocks, Index>& field)
+{
+    encode(out, field.blocks);
+}
+
+template <class Blocks, class Index>
+bool isEmpty(const Indexed<Blocks, Index>& field)
+{
+    return field.blocks.empty();
+}
+
+} // namespace
+
 template <class Self, class Fields>
 void ExcProductStructure::describe(Self& self, Fields& fields)
 {
@@ -21,19 +60,14 @@ void ExcProductStructure::describe(Self& self, Fields& fields)
     fields.filled(WIDE("misc_data"), self.m_miscData);
     fields.always(WIDE("units"), self.m_units);
     fields.always(WIDE("world_orientation"), self.m_worldOrientation);
-    fields.filled(WIDE("blocks"), self.m_blocks);
+    fields.filled(WIDE("blocks"), Indexed{self.m_blocks, self.m_blockIndex});
     fields.filled(WIDE("root_block_references"), self.m_rootBlockReferences);
 }
 template struct Described<ExcProductStructure>;
 
 void ExcProductStructure::readObject(const JsonValue& value)
 {
-    const std::size_t firstRead = m_blocks.size();
     readFields(*this, value, "ExcProductStructure");
-    for (std::size_t i = firstRead; i < m_blocks.size(); ++i)
-    {
-        m_blockIndex[m_blocks[i]->id()] = m_blocks[i];
-    }
 }
 
 void ExcProductStructure::writeObject(JsonValue& value, JsonAllocator& allocator) const

@@ -8,11 +8,14 @@ namespace vrx
 template <class Self, class Fields>
 void ExcClippingPlane::describe(Self& self, Fields& fields)
 {
-    fields.flagged(WIDE("origin"), self.m_hasPlane, self.m_origin);
-    fields.flagged(WIDE("u"), self.m_hasPlane, self.m_vectorU);
-    // The reader takes "v" into the U vector as well, where it wins over "u"; the V vector is never read.
-    fields.flagged(WIDE("v"), self.m_hasPlane, inOut(self.m_vectorU, self.m_vectorV));
-    fields.flagged(WIDE("plane_coefficients"), self.m_hasCoefficients, self.m_coefficients);
+    const auto describeMembers = [](auto& plane, auto& members) {
+        members.flagged(WIDE("origin"), plane.m_hasPlane, plane.m_origin);
+        members.flagged(WIDE("u"), plane.m_hasPlane, plane.m_vectorU);
+        // The reader takes "v" into the U vector as well, where it wins over "u"; the V vector is never read.
+        members.flagged(WIDE("v"), plane.m_hasPlane, inOut(plane.m_vectorU, plane.m_vectorV));
+        members.flagged(WIDE("plane_coefficients"), plane.m_hasCoefficients, plane.m_coefficients);
+    };
+    fields.whole(orNull(!self.m_hasPlane && !self.m_hasCoefficients, record(self, describeMembers)));
 }
 template struct Described<ExcClippingPlane>;
 
@@ -23,11 +26,7 @@ void ExcClippingPlane::readObject(const JsonValue& value)
 
 void ExcClippingPlane::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeFields(*this, value, allocator);
-    if (!m_hasPlane && !m_hasCoefficients)
-    {
-        value.SetNull();
-    }
+    writeWhole(*this, value, allocator);
 }
 
 ExcClippingPlane& ExcClippingPlane::setCoefficient(ECoefficient coefficient, double value)

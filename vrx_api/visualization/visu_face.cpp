@@ -10,23 +10,21 @@ namespace vrx
 
 using Polygon = ExcVisuFace::Polygon;
 
-static constexpr Key kType = WIDE("type");
-static constexpr Key kIndices = WIDE("indices");
-
 static constexpr auto describePolygon = [](auto& polygon, auto& fields) {
-    fields.always(kType, polygon.type);
-    fields.filled(kIndices, places(polygon.indices));
+    fields.always(WIDE("type"), polygon.type);
+    fields.filled(WIDE("indices"), places(polygon.indices));
 };
 
 // An element that is no object adds no polygon.
-static bool decode(const JsonValue& value, std::vector<Polygon>& field)
+template <class Value>
+static bool decode(const Value& value, std::vector<Polygon>& field)
 {
-    if (!value.IsArray())
+    if (!value.isArray())
     {
         return false;
     }
-    field.reserve(field.size() + value.Size());
-    for (const JsonValue& element : value.GetArray())
+    field.reserve(field.size() + value.expectedCount());
+    for (const Value element : value.elements())
     {
         Polygon polygon;
         if (decode(element, record(polygon, describePolygon)))
@@ -41,46 +39,10 @@ static bool decode(const JsonValue& value, std::vector<Polygon>& field)
     return true;
 }
 
-static void putKey(JsonDocument& document, Key key)
+template <class Out>
+static void encode(Out& out, const Polygon& polygon)
 {
-    document.Key(key.text, static_cast<rapidjson::SizeType>(key.size), false);
-}
-
-static void put(JsonDocument& document, const Polygon& polygon)
-{
-    document.StartObject();
-    putKey(document, kType);
-    document.Int(polygon.type);
-    if (!polygon.indices.empty())
-    {
-        putKey(document, kIndices);
-        document.StartArray();
-        for (const std::int32_t index : polygon.indices)
-        {
-            document.Int(index);
-        }
-        document.EndArray(static_cast<rapidjson::SizeType>(polygon.indices.size()));
-    }
-    document.EndObject(polygon.indices.empty() ? 1 : 2);
-}
-
-// Polygons come by the million. A document that is populated by events allocates each of these small objects exactly,
-// at a fraction of the cost of adding the members one by one.
-static JsonValue encode(const std::vector<Polygon>& field, JsonAllocator& allocator)
-{
-    auto putAll = [&field](JsonDocument& document) {
-        document.StartArray();
-        for (const Polygon& polygon : field)
-        {
-            put(document, polygon);
-        }
-        return document.EndArray(static_cast<rapidjson::SizeType>(field.size()));
-    };
-    JsonDocument document(&allocator);
-    document.Populate(putAll);
-    JsonValue array;
-    array.Swap(static_cast<JsonValue&>(document));
-    return array;
+    encode(out, record(polygon, describePolygon));
 }
 
 template <class Self, class Fields>

@@ -38,7 +38,7 @@ static constexpr const auto& enumTable(ETextureType)
 }
 
 // Red, green, blue and alpha, all of them doubles on the wire: an integer leaves its channel at zero.
-constexpr rapidjson::SizeType kColorNumbers = 4;
+constexpr std::size_t kColorNumbers = 4;
 
 // Truncated toward zero and cut to 16 bits as an integer is; a number that is not finite gives zero.
 static std::uint16_t toChannel(double number)
@@ -47,26 +47,30 @@ static std::uint16_t toChannel(double number)
     return std::isfinite(number) ? static_cast<std::uint16_t>(static_cast<std::int32_t>(std::fmod(number, kRange))) : 0;
 }
 
-static Color toColor(const JsonValue& array)
+template <class Value>
+static Color toColor(const Value& array)
 {
     std::array<double, kColorNumbers> numbers{};
-    for (rapidjson::SizeType i = 0; i < kColorNumbers; ++i)
+    auto element = array.elements().begin();
+    for (double& number : numbers)
     {
-        decode(array[i], numbers[i]);
+        decode(*element, number);
+        ++element;
     }
     return {toChannel(numbers[0]), toChannel(numbers[1]), toChannel(numbers[2]), numbers[3]};
 }
 
 // An entry is replaced as a whole.
-static bool decode(const JsonValue& value, ExcVisuMaterial::Colors& field)
+template <class Value>
+static bool decode(const Value& value, ExcVisuMaterial::Colors& field)
 {
-    if (!value.IsObject())
+    if (!value.isObject())
     {
         return false;
     }
-    for (const auto& member : value.GetObject())
+    for (const auto member : value.members())
     {
-        if (!member.name.IsString() || !member.value.IsArray() || member.value.Size() < kColorNumbers)
+        if (!member.name.isString() || !member.value.isArray() || member.value.elements().count() < kColorNumbers)
         {
             kolt::log(kolt::kWarning, "ExcVisuMaterial: !colorType.IsString() || !colorValue.IsArray() || "
                                       "colorValue.GetArray().Size() < 4");
@@ -77,30 +81,30 @@ static bool decode(const JsonValue& value, ExcVisuMaterial::Colors& field)
     return true;
 }
 
-static JsonValue encode(const Color& color, JsonAllocator& allocator)
+template <class Out>
+static void encode(Out& out, const Color& color)
 {
     const auto number = [](std::uint16_t channel) -> double { return channel; };
-    const std::array<double, kColorNumbers> numbers{number(color.red), number(color.green), number(color.blue),
-                                                    color.alpha};
-    return encode(numbers, allocator);
+    encode(out, std::array{number(color.red), number(color.green), number(color.blue), color.alpha});
 }
 
 // The textures of a kind are appended to. An empty array makes no entry, and a member that is no array is an error,
 // where among the colours it is a warning.
-static bool decode(const JsonValue& value, ExcVisuMaterial::Textures& field)
+template <class Value>
+static bool decode(const Value& value, ExcVisuMaterial::Textures& field)
 {
-    if (!value.IsObject())
+    if (!value.isObject())
     {
         return false;
     }
-    for (const auto& member : value.GetObject())
+    for (const auto member : value.members())
     {
-        if (!member.name.IsString() || !member.value.IsArray())
+        if (!member.name.isString() || !member.value.isArray())
         {
             kolt::log(kolt::kError, "ExcVisuMaterial: !textureType.IsString() || !textureArray.IsArray()");
             continue;
         }
-        if (!member.value.Empty())
+        if (member.value.elements().count() != 0)
         {
             decode(member.value, field[enumValue<ETextureType>(textOf(member.name))]);
         }
@@ -109,26 +113,28 @@ static bool decode(const JsonValue& value, ExcVisuMaterial::Textures& field)
 }
 
 // One member an entry, under the name of its kind.
-template <class Entries>
-static JsonValue encodeByType(const Entries& entries, JsonAllocator& allocator)
+template <class Out, class Entries>
+static void encodeByType(Out& out, const Entries& entries)
 {
-    JsonValue object;
-    setObject(object, static_cast<rapidjson::SizeType>(entries.size()), allocator);
+    const auto begin = out.beginObject();
     for (const auto& [type, entry] : entries)
     {
-        addMember(object, Key(enumName(type)), encode(entry, allocator), allocator);
+        out.key(Key(enumName(type)));
+        encode(out, entry);
     }
-    return object;
+    out.endObject(begin);
 }
 
-static JsonValue encode(const ExcVisuMaterial::Colors& field, JsonAllocator& allocator)
+template <class Out>
+static void encode(Out& out, const ExcVisuMaterial::Colors& field)
 {
-    return encodeByType(field, allocator);
+    encodeByType(out, field);
 }
 
-static JsonValue encode(const ExcVisuMaterial::Textures& field, JsonAllocator& allocator)
+template <class Out>
+static void encode(Out& out, const ExcVisuMaterial::Textures& field)
 {
-    return encodeByType(field, allocator);
+    encodeByType(out, field);
 }
 
 template <class Self, class Fields>

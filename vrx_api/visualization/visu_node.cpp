@@ -15,47 +15,27 @@ static constexpr Key kChildNodes = WIDE("child_nodes");
 namespace
 {
 
-// The description only makes the places of the children, in the node or in its JSON. They are filled by a walk over the
-// tree that keeps a stack of its own, since a tree may be deeper than the thread's stack allows.
-template <class Nodes>
+// A tree may be deeper than the thread's stack allows: the description only makes places for the children that are
+// read, and walks that keep a stack of their own fill them and write them.
 struct ChildPlaces
 {
-    Nodes& nodes;
+    std::vector<std::shared_ptr<ExcVisuNode>>& nodes;
 };
-template <class Nodes>
-ChildPlaces(Nodes&) -> ChildPlaces<Nodes>;
 
-template <class Nodes>
-bool isEmpty(const ChildPlaces<Nodes>& field)
+template <class Value>
+bool decode(const Value& value, const ChildPlaces& field)
 {
-    return field.nodes.empty();
-}
-
-template <class Nodes>
-bool decode(const JsonValue& value, const ChildPlaces<Nodes>& field)
-{
-    if (!value.IsArray())
+    if (!value.isArray())
     {
         return false;
     }
-    field.nodes.reserve(field.nodes.size() + value.Size());
-    for (rapidjson::SizeType i = 0; i < value.Size(); ++i)
+    const std::size_t count = field.nodes.size() + value.elements().count();
+    field.nodes.reserve(count);
+    while (field.nodes.size() < count)
     {
         field.nodes.push_back(std::make_shared<ExcVisuNode>());
     }
     return true;
-}
-
-template <class Nodes>
-JsonValue encode(const ChildPlaces<Nodes>& field, JsonAllocator& allocator)
-{
-    JsonValue array(rapidjson::kArrayType);
-    array.Reserve(static_cast<rapidjson::SizeType>(field.nodes.size()), allocator);
-    for (std::size_t i = 0; i < field.nodes.size(); ++i)
-    {
-        array.PushBack(JsonValue(), allocator);
-    }
-    return array;
 }
 
 } // namespace
@@ -63,8 +43,6 @@ JsonValue encode(const ChildPlaces<Nodes>& field, JsonAllocator& allocator)
 template <class Self, class Fields>
 void ExcVisuNode::describe(Self& self, Fields& fields)
 {
-    const ChildPlaces childPlaces{self.m_childNodes};
-
     fields.always(WIDE("is_leaf"), self.m_leaf);
     fields.filled(WIDE("attributes"), self.m_attributes);
     fields.filled(WIDE("transformation"), self.m_transformation);
@@ -74,72 +52,121 @@ void ExcVisuNode::describe(Self& self, Fields& fields)
     fields.filled(WIDE("point_set"), self.m_pointSet);
     fields.always(WIDE("type"), self.m_type);
     fields.always(WIDE("group_name"), self.m_groupName);
-    fields.filled(kChildNodes, childPlaces);
+    if constexpr (Fields::kReads)
+    {
+        fields.readOnly(kChildNodes, ChildPlaces{self.m_childNodes});
+    }
 }
 template struct Described<ExcVisuNode>;
 
 namespace
 {
 
-// The children of one node that are still to come, each beside its place in the JSON.
-template <class Child, class Json>
-struct Level
+template <class Value>
+void readNodes(ExcVisuNode& root, const Value& rootValue)
 {
-    Child* child;
-    Json* json;
-    Json* end;
-};
-
-// Visits a node and all below it, in the order of the document. `visit` takes a node and its JSON, and returns the
-// level of its children.
-template <class Child, class Json, class Node, class Visit>
-void walk(Node& root, Json& json, const Visit& visit)
-{
-    std::vector<Level<Child, Json>> open{visit(root, json)};
+    using Place = decltype(rootValue.elements().begin());
+    struct Level
+    {
+        const std::shared_ptr<ExcVisuNode>* child;
+        Place value;
+        Place end;
+    };
+    std::vector<Level> open;
+    const auto visit = [&open](ExcVisuNode& node, const Value& value) {
+        kolt::trace();
+        const std::size_t firstRead = node.childNodes().size();
+        if (isObject(value, "ExcVisuNode"))
+        {
+            readDescribed(node, value);
+        }
+        if (node.childNodes().size() != firstRead)
+        {
+            const auto children = findMember(value, kChildNodes)->elements();
+            open.push_back({&node.childNodes()[firstRead], children.begin(), children.end()});
+        }
+    };
+    visit(root, rootValue);
     while (!open.empty())
     {
-        Level<Child, Json>& level = open.back();
-        if (level.json == level.end)
+        Level& level = open.back();
+        if (level.value == level.end)
         {
             open.pop_back();
             continue;
         }
-        Node& child = **level.child++;
-        open.push_back(visit(child, *level.json++));
+        ExcVisuNode& child = **level.child++;
+        const Value value = *level.value;
+        ++level.value;
+        visit(child, value);
     }
 }
+
+template <class Out>
+void writeNodes(const ExcVisuNode& root, Out& out)
+{
+    struct Level
+    {
+        const ExcVisuNode& node;
+        typename Out::Mark object;
+        typename Out::Mark children;
+        std::size_t written;
+    };
+    std::vector<Level> open;
+    const auto visit = [&](const ExcVisuNode& node) {
+        kolt::trace();
+        Level level{node, out.beginObject(), {}, 0};
+        FieldWriter<Out> fields(out);
+        Described<ExcVisuNode>::walk(node, fields);
+        if (!node.childNodes().empty())
+        {
+            out.key(kChildNodes);
+            level.children = out.beginArray();
+        }
+        open.push_back(level);
+    };
+    visit(root);
+    while (!open.empty())
+    {
+        Level& level = open.back();
+        const auto& children = level.node.childNodes();
+        if (level.written != children.size())
+        {
+            visit(*children[level.written++]);
+            continue;
+        }
+        if (!children.empty())
+        {
+            out.endArray(level.children);
+        }
+        out.endObject(level.object);
+        open.pop_back();
+    }
+}
+
+template <class Out>
+void writeNode(const IJsonObject& object, Out& out)
+{
+    writeNodes(static_cast<const ExcVisuNode&>(object), out);
+}
+
+const bool s_reads = enterReader(typeid(ExcVisuNode), [](IJsonObject& object, BinaryValue value) {
+    readNodes(static_cast<ExcVisuNode&>(object), value);
+});
+const bool s_writes = enterWriter(typeid(ExcVisuNode), &writeNode<SizeWriter>, &writeNode<ByteWriter>);
 
 } // namespace
 
 void ExcVisuNode::readObject(const JsonValue& value)
 {
-    using Child = std::shared_ptr<ExcVisuNode>;
-    const auto visit = [](ExcVisuNode& node, const JsonValue& json) -> Level<Child, const JsonValue> {
-        const std::size_t firstRead = node.m_childNodes.size();
-        readFields(node, json, "ExcVisuNode");
-        if (node.m_childNodes.size() == firstRead)
-        {
-            return {nullptr, nullptr, nullptr};
-        }
-        const JsonValue& children = *find(json, kChildNodes);
-        return {&node.m_childNodes[firstRead], children.Begin(), children.End()};
-    };
-    walk<Child, const JsonValue>(*this, value, visit);
+    readNodes(*this, TreeValue(&value));
 }
 
 void ExcVisuNode::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    using Child = const std::shared_ptr<ExcVisuNode>;
-    const auto visit = [&allocator](const ExcVisuNode& node, JsonValue& json) -> Level<Child, JsonValue> {
-        writeFields(node, json, allocator);
-        if (node.m_childNodes.empty())
-        {
-            return {nullptr, nullptr, nullptr};
-        }
-        JsonValue& children = (json.MemberEnd() - 1)->value;
-        return {node.m_childNodes.data(), children.Begin(), children.End()};
-    };
-    walk<Child, JsonValue>(*this, value, visit);
+    TreeWriter out(allocator);
+    writeNodes(*this, out);
+    value = out.take();
 }
 
 // Nodes that only this tree holds lose their children before they end, so that no end waits for another.

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "vrx_api/json/json_fwd.h"
+
+#include <cstddef>
 #include <cstdint>
 
 namespace vrx
@@ -20,5 +23,8 @@ enum class BinaryTag : std::uint32_t
     Uint64 = 9,
     Double = 10,
 };
+
+constexpr std::size_t kTagSize = sizeof(BinaryTag);
+constexpr std::size_t kSizeSize = sizeof(std::uint64_t);
 
 } // namespace vrx
