@@ -38,14 +38,14 @@ std::shared_ptr<JsonDocument> decodeTree(const Road& road)
 Bytes encode(const Road& road)
 {
     Bytes bytes;
-    vrx::JsonBinaryIO::write(bytes, *makeTree(road));
+    vrx::JsonBinaryIO::write(bytes, *road.object);
     return bytes;
 }
 
 std::shared_ptr<vrx::IExchangeObject> decode(const Road& road)
 {
     auto object = road.object->clone();
-    object->readObject(*decodeTree(road));
+    vrx::JsonBinaryIO::read(road.binary.data(), road.binary.size(), *object);
     return object;
 }
 
