@@ -59,10 +59,12 @@ std::shared_ptr<vrx::ExcBlockReference> makeReference(std::uint64_t blockId, std
 constexpr std::size_t kAround = 50;
 constexpr std::size_t kAlong = 100;
 
-std::vector<vrx::ExcVisuFace::Polygon> makeTriangles()
+using Polygon = vrx::ExcVisuFace::Polygon;
+
+std::vector<Polygon> makeTriangles()
 {
     constexpr std::int32_t kTriangle = 4;
-    std::vector<vrx::ExcVisuFace::Polygon> triangles;
+    std::vector<Polygon> triangles;
     triangles.reserve(2 * kAround * kAlong);
     const auto point = [](std::size_t around, std::size_t along) {
         return static_cast<std::int32_t>((along % kAlong) * kAround + around % kAround);
@@ -80,7 +82,24 @@ std::vector<vrx::ExcVisuFace::Polygon> makeTriangles()
     return triangles;
 }
 
-std::shared_ptr<vrx::ExcVisuFace> makeFace(std::size_t number, Noise& noise)
+Polygon joined(const std::vector<Polygon>& triangles)
+{
+    Polygon polygon{triangles.front().type, {}};
+    polygon.indices.reserve(3 * triangles.size());
+    for (const Polygon& triangle : triangles)
+    {
+        polygon.indices.insert(polygon.indices.end(), triangle.indices.begin(), triangle.indices.end());
+    }
+    return polygon;
+}
+
+std::vector<Polygon> makePolygons(EPolygon polygon)
+{
+    std::vector<Polygon> triangles = makeTriangles();
+    return polygon == EPolygon::Triangle ? triangles : std::vector<Polygon>{joined(triangles)};
+}
+
+std::shared_ptr<vrx::ExcVisuFace> makeFace(EPolygon polygon, std::size_t number, Noise& noise)
 {
     std::vector<float> vertices;
     std::vector<float> normals;
@@ -108,7 +127,7 @@ std::shared_ptr<vrx::ExcVisuFace> makeFace(std::size_t number, Noise& noise)
     auto face = std::make_shared<vrx::ExcVisuFace>();
     face->setVertices(std::move(vertices));
     face->setNormals(std::move(normals));
-    face->setPolygons(makeTriangles());
+    face->setPolygons(makePolygons(polygon));
     face->setColor({128, 128, 140});
     face->setId(numbered("face_", number));
     face->setMechanicalId(numbered("", number));
@@ -144,15 +163,14 @@ std::shared_ptr<vrx::IExchangeObject> makeStructure()
     return structure;
 }
 
-std::shared_ptr<vrx::IExchangeObject> makeScene()
+std::shared_ptr<vrx::IExchangeObject> makeScene(EPolygon polygon, std::size_t faces)
 {
-    constexpr std::size_t kFaces = 200;
     Noise noise;
     const auto mesh = std::make_shared<vrx::ExcVisuMesh>();
     mesh->setGeometryType(vrx::EVisuGeometryType::Part);
-    for (std::size_t i = 0; i < kFaces; ++i)
+    for (std::size_t i = 0; i < faces; ++i)
     {
-        mesh->addFace(makeFace(i, noise));
+        mesh->addFace(makeFace(polygon, i, noise));
     }
     const auto node = std::make_shared<vrx::ExcVisuNode>();
     node->setType(vrx::ExcVisuNode::EType::MESH);

@@ -1,38 +1,14 @@
 #pragma once
 
-#include "bench/road.h"
-
-#include <benchmark/benchmark.h>
-
-#include <map>
-#include <string>
+#include "bench/times.h"
 
 namespace bench
 {
 
-/// Shows the runs as they come and keeps the shortest time of each benchmark.
-class ShortestTimes : public benchmark::ConsoleReporter
-{
-public:
-    void ReportRuns(const std::vector<Run>& runs) override;
+/// Prints the steps of a road beside their floors.
+void printSteps(const RoadTimes& times);
 
-    double seconds(const Road& road, const char* step) const;
-
-private:
-    std::map<std::string, double> m_seconds;
-};
-
-/// What is wanted of a road, and reached; a line whose wanted value is 0 is left out.
-struct Wanted
-{
-    double treeAndEncodeNanoseconds = 0; // a byte of the binary form
-    double writeToDeflate = 0;
-    double readToInflate = 0;
-    double writeMilliseconds = 0;
-    double peakToBinary = 0; // of a whole write and of a whole read, model objects included
-};
-
-/// Prints a road's steps beside their floors, and what is wanted of it.
-void printTable(const Road& road, const ShortestTimes& times, const Wanted& wanted);
+/// Prints the whole writes and reads of a small and of a large model, per byte.
+void printGrowth(const RoadTimes& small, const RoadTimes& large);
 
 } // namespace bench
