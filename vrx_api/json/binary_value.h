@@ -3,6 +3,7 @@
 #include "vrx_api/json/binary_tag.h"
 #include "vrx_api/json/value_range.h"
 
+#include <array>
 #include <cstring>
 #include <type_traits>
 
@@ -24,23 +25,11 @@ public:
     const char* place() const { return m_at; }
     const char* next() const
     {
-        switch (tag())
-        {
-        case BinaryTag::Null:
-        case BinaryTag::False:
-        case BinaryTag::True:
-            return m_at + kTagSize;
-        case BinaryTag::Int:
-        case BinaryTag::Uint:
-            return m_at + kTagSize + sizeof(std::uint32_t);
-        case BinaryTag::Object:
-        case BinaryTag::Array:
-            return content() + size();
-        case BinaryTag::String:
-            return content() + size() * sizeof(wchar);
-        default:
-            return m_at + kTagSize + sizeof(std::uint64_t);
-        }
+        constexpr std::array<std::uint8_t, 11> kSizes{4, 4, 4, 12, 12, 12, 8, 8, 12, 12, 12};
+        const BinaryTag own = tag();
+        const char* const behind = m_at + kSizes[static_cast<std::size_t>(own)];
+        const bool sized = own >= BinaryTag::Object && own <= BinaryTag::String;
+        return !sized ? behind : own == BinaryTag::String ? behind + size() * sizeof(wchar) : behind + size();
     }
 
     bool isObject() const { return tag() == BinaryTag::Object; }
