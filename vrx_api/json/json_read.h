@@ -153,7 +153,7 @@ bool decode(const Value& value, std::vector<T>& field)
     {
         return false;
     }
-    field.reserve(field.size() + value.expectedCount());
+    field.reserve(field.size() + value.elements().count());
     for (const Value element : value.elements())
     {
         T object;
