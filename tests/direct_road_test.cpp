@@ -3,6 +3,7 @@
 #include "tests/support/helpers.h"
 #include "tests/support/json_text.h"
 #include "tests/support/two_roads.h"
+#include "vrx_api/common/misc_data.h"
 #include "vrx_api/common/vector.h"
 #include "vrx_api/exchange/exchange_object.h"
 #include "vrx_api/visualization/visu_mesh.h"
@@ -288,6 +289,16 @@ TEST(DirectRoadOfOwnClasses, PassesTheirErrorsOn)
     FailingFace direct;
     const std::string form = formOf("{}");
     EXPECT_EQ(accountOf(kDirectRoad, direct, form), accountOf(kTreeRoad, byTree, form));
+}
+
+// A number before a long text must not be taken for the first of many.
+TEST(DirectRoadOfArrays, ReservesForWhatIsThere)
+{
+    const std::string form = formOf("[7,\"" + std::string(10000, 'x') + "\"]");
+    ExcMiscData data;
+    kDirectRoad.read(data, form.data(), form.size());
+    EXPECT_EQ(data.properties().size(), 2U);
+    EXPECT_LE(data.properties().capacity(), 4U);
 }
 
 TEST(DirectRoadOfNodes, IsAsDeepAsTheTreeOfNodes)
