@@ -36,6 +36,13 @@ JsonValue emptyObject(std::size_t room, JsonAllocator& allocator)
 
 } // namespace
 
+TreeWriter::TreeWriter(JsonAllocator& allocator)
+    : m_allocator(allocator)
+{
+    constexpr std::size_t kUsual = 32;
+    m_values.reserve(kUsual);
+}
+
 void TreeWriter::text(wstring_view text)
 {
     m_values.emplace_back(text.data(), static_cast<rapidjson::SizeType>(text.size()), m_allocator);
