@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     requireCrossed(input);
     // Again as a part of data that is large enough for the fast way.
     std::string larger = input;
-    while (larger.size() < 1100)
+    while (larger.size() < 4200)
     {
         larger += input + static_cast<char>(larger.size());
     }

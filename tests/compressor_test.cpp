@@ -132,7 +132,7 @@ TEST(Compressor, ADamagedStreamThrowsTheTextOfZlib)
 
 TEST(Compressor, WritesWhatZlibReads)
 {
-    for (const std::size_t size : {0U, 1U, 1023U, 1024U, 200000U})
+    for (const std::size_t size : {0U, 1U, 4095U, 4096U, 200000U})
     {
         for (const std::string& data : {modelLike(size), sample(size), std::string(size, '\0')})
         {
@@ -166,7 +166,7 @@ TEST(Compressor, ReadsWhatZlibWrites)
 TEST(Compressor, TakesADamagedStreamAsZlibDoes)
 {
     const std::string data = modelLike(1500);
-    for (const std::string& stream : {compressed(data), test::plainDeflate(data, 1)})
+    for (const std::string& stream : {test::plainDeflate(data, 6), test::plainDeflate(data, 1)})
     {
         for (std::size_t size = 1; size < stream.size(); ++size)
         {
@@ -225,7 +225,7 @@ TEST(Compressor, ASizeThatLiesCostsNoMemory)
 {
     const std::string data = sample(400000);
     const std::string stream = compressed(data);
-    for (const unsigned long told : {0UL, 1UL, 399999UL, 400001UL, 10000000UL, 100000000UL, 4294967295UL})
+    for (const std::uint64_t told : {0U, 1U, 399999U, 400001U, 10000000U, 100000000U, 4294967295U})
     {
         const std::string lie = stream.substr(0, stream.size() - 4) + test::littleEndian(told);
         expectAsZlib(lie, std::to_string(told));

@@ -3,6 +3,7 @@
 #include <zlib.h>
 
 #include <array>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 
@@ -57,7 +58,7 @@ inline std::string plainDeflate(const std::string& data, int level, int window =
         throw std::runtime_error("deflateInit2 failed");
     }
     std::string input = data;
-    std::string out(deflateBound(&zlib, data.size()), '\0');
+    std::string out(deflateBound(&zlib, static_cast<uLong>(data.size())), '\0');
     zlib.next_in = reinterpret_cast<Bytef*>(input.data()); // NOLINT: zlib's bytes are unsigned
     zlib.avail_in = static_cast<uInt>(input.size());
     zlib.next_out = reinterpret_cast<Bytef*>(out.data()); // NOLINT
@@ -68,7 +69,7 @@ inline std::string plainDeflate(const std::string& data, int level, int window =
     return out;
 }
 
-inline std::string littleEndian(unsigned long number)
+inline std::string littleEndian(std::uint64_t number)
 {
     std::string bytes;
     for (const unsigned shift : {0U, 8U, 16U, 24U})
