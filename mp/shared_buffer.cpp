@@ -60,8 +60,8 @@ void reserveMemory(ipc::shared_memory_object& object, ipc::offset_t size)
 #endif
 }
 
-// Has the system map all pages at once, which costs a fifth less than one by one as they are written. Where it can't,
-// they come one by one.
+// Has the system map all pages at once, which is cheaper than one by one as they are written. Where it can't, they
+// come one by one.
 void mapAllPages(const ipc::mapped_region& region)
 {
 #ifdef MADV_POPULATE_WRITE

@@ -19,13 +19,15 @@ class shared_memory_object;
 namespace mp
 {
 
-/// The content of a shared buffer, to be read where it lies. It stays when the buffer is closed or removed, but nobody
-/// may shorten the buffer meanwhile.
+template <class T>
+class SharedBuffer;
+
+/// The content of a shared buffer, to be read where it lies. A view is let go before its buffer is written again,
+/// cleared or destroyed.
 class VRX_API SharedView
 {
 public:
     SharedView();
-    explicit SharedView(std::unique_ptr<boost::interprocess::mapped_region> region);
     SharedView(SharedView&& other) noexcept;
     SharedView& operator=(SharedView&& other) noexcept;
     ~SharedView();
@@ -34,11 +36,11 @@ public:
     std::uint64_t size() const;
 
 private:
+    friend class SharedBuffer<char>;
+    explicit SharedView(std::unique_ptr<boost::interprocess::mapped_region> region);
+
     std::unique_ptr<boost::interprocess::mapped_region> m_region;
 };
-
-template <class T>
-class SharedBuffer;
 
 /// A named block of bytes that outlives the process that made it: one process writes it, another reads and removes it.
 /// The content is exactly the bytes given to `write`; the size of the object is the length of the data.
@@ -60,14 +62,14 @@ public:
     /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.
     void write(const char* data, std::uint64_t size);
 
-    /// The same for content that is made where it stays: `make` gets the memory, all of which it writes. An exception
-    /// of it passes, and leaves the object empty.
+    /// The same with content that is made in place: `make` gets the memory and writes all of it. An exception that it
+    /// throws passes, and leaves the object empty.
     void fill(std::uint64_t size, const std::function<void(char*)>& make);
 
     /// Replaces `out` by the content.
     void read(std::vector<char>& out) const;
 
-    /// The content without a copy. Only of an object in which another program left out pages, the others are copied.
+    /// The content in place. An object for which another program left out pages is copied, with zeros in their stead.
     SharedView view() const;
 
     /// Makes the content empty.

@@ -193,13 +193,13 @@ TEST(EnumRule, AnUnlistedNameIsTheLowestByCodeUnit)
 template <class T, class = void>
 constexpr bool isWritten = false;
 template <class T>
-constexpr bool isWritten<T, std::void_t<decltype(encode(std::declval<const T&>(), std::declval<JsonAllocator&>()))>> =
+constexpr bool isWritten<T, std::void_t<decltype(encode(std::declval<ByteWriter&>(), std::declval<const T&>()))>> =
     true;
 
 template <class T, class = void>
 constexpr bool isRead = false;
 template <class T>
-constexpr bool isRead<T, std::void_t<decltype(decode(std::declval<const JsonValue&>(), std::declval<T>()))>> = true;
+constexpr bool isRead<T, std::void_t<decltype(decode(std::declval<const TreeValue&>(), std::declval<T>()))>> = true;
 
 template <class T, class = void>
 constexpr bool canBeEmpty = false;

@@ -114,19 +114,20 @@ TEST(SharedBuffer, IsSeenThroughTwoHandlesAndCleared)
     EXPECT_TRUE(bytes.empty());
 }
 
-TEST(SharedBuffer, IsFilledAndSeenWhereItLies)
+TEST(SharedBuffer, IsFilledAndSeenInPlace)
 {
-    SharedView view;
-    {
-        Buffer buffer;
-        buffer.open(vrx::IExchangeObject::generateUUID(), true);
-        EXPECT_EQ(buffer.view().size(), 0U);
-        buffer.fill(6, [](char* out) { std::memcpy(out, "filled", 6); });
-        view = buffer.view();
-        buffer.fill(6, [](char* out) { std::memcpy(out, "FILLED", 6); });
-        EXPECT_EQ(textOf(view), "FILLED");
-    }
-    EXPECT_EQ(textOf(view), "FILLED");
+    Buffer buffer;
+    buffer.open(vrx::IExchangeObject::generateUUID(), true);
+    EXPECT_EQ(buffer.view().size(), 0U);
+    SharedView seen;
+    buffer.fill(6, [&](char* out) {
+        std::memcpy(out, "filled", 6);
+        seen = buffer.view();
+        std::memcpy(out, "FILL", 4);
+    });
+    EXPECT_EQ(textOf(seen), "FILLed");
+    const SharedView moved = std::move(seen);
+    EXPECT_EQ(textOf(moved), "FILLed");
 }
 
 TEST(SharedBuffer, ThatCanNotBeFilledIsLeftEmpty)

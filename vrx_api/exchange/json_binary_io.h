@@ -33,8 +33,8 @@ public:
     /// Decodes the value at the front of the bytes; throws as the reading of a stream does.
     static void read(const char* data, std::uint64_t size, JsonValue& value, JsonAllocator& allocator);
 
-    /// Replaces the bytes by the binary form of an object, as its `writeObject` and the function above make it together,
-    /// but without a tree in between. Throws what `writeObject` throws.
+    /// Replaces the bytes by the binary form of an object, as its `writeObject` and the function above make it
+    /// together, but without a tree in between. Throws what `writeObject` throws.
     static void write(Bytes& bytes, const IJsonObject& object);
 
     /// Has an object read its binary form, in the same way. The bytes are checked as a whole before the object takes

@@ -8,7 +8,8 @@
 namespace vrx
 {
 
-/// The content of a shared memory buffer, decompressed if it says that it is compressed, and otherwise where it lies.
+/// The content of a shared memory buffer, decompressed if it says that it is compressed, and otherwise in place. It is
+/// let go before the buffer.
 class PlainContent
 {
 public:

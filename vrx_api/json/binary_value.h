@@ -9,8 +9,8 @@
 namespace vrx
 {
 
-/// A value in the binary form, read where it lies. The bytes have been checked as a whole by `checkBinary`, and begin at
-/// an even address. Its counterpart is TreeValue, which tells what the operations do.
+/// A value in the binary form, read where it lies. The bytes have been checked as a whole by `checkBinary`, and begin
+/// at an even address. Its counterpart is TreeValue, which tells what the operations do.
 class BinaryValue
 {
 public:

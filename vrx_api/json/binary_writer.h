@@ -17,7 +17,8 @@ namespace vrx
 // once, and then with a ByteWriter, which writes them. Values are stored as the machine holds them, which is
 // little-endian on all platforms.
 
-/// The trees of objects that have no direct way, in the order of the walk: each object is asked once, by the first walk.
+/// The trees of objects that have no direct way, in the order of the walk: each object is asked once, by the first
+/// walk.
 using ObjectTrees = std::vector<std::unique_ptr<JsonDocument>>;
 
 /// The smallest of the integers' forms that holds the value.

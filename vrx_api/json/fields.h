@@ -4,6 +4,7 @@
 #include "vrx_api/json/json_read.h"
 #include "vrx_api/json/json_write.h"
 #include "vrx_api/json/kind.h"
+#include "vrx_api/json/member_finder.h"
 
 #include <stdexcept>
 #include <type_traits>
@@ -25,7 +26,7 @@ public:
 
     explicit FieldReader(const Value& value)
         : m_value(value)
-        , m_left(value.isObject() ? value.members() : decltype(value.members()){})
+        , m_members(value)
     {
     }
 
@@ -91,26 +92,12 @@ private:
     template <class T>
     bool take(Key key, T&& field)
     {
-        for (auto member = m_left.begin(); member != m_left.end(); ++member)
-        {
-            if (!isNamed<Value>(*member, key))
-            {
-                continue;
-            }
-            if (member == m_left.begin())
-            {
-                m_left.dropFirst();
-            }
-            return decode((*member).value, std::forward<T>(field));
-        }
-        return false;
+        const std::optional<Value> value = m_members.find(key);
+        return value && decode(*value, std::forward<T>(field));
     }
 
     const Value m_value;
-
-    // As a rule the members come in the order of the description, and each is left behind as it is taken. A description
-    // names a key once, so that nobody asks for that one again, and the first member of a name still wins.
-    decltype(std::declval<Value>().members()) m_left;
+    MemberFinder<Value> m_members;
 };
 
 /// Writes the fields of a description: the members of an object, or the whole of a value.
@@ -342,8 +329,8 @@ public:
 };
 
 template <class T, Form kForm>
-const bool RegularWriter<T, kForm>::s_entered =
-    enterWriter(typeid(T), &RegularWriter::template write<SizeWriter>, &RegularWriter::template write<ByteWriter>);
+const bool RegularWriter<T, kForm>::s_entered = enterWriter(typeid(T), &RegularWriter::template write<SizeWriter>,
+                                                            &RegularWriter::template write<ByteWriter>);
 
 /// Enters a class that inherits the regular operations of its base, by the line `template struct Inherits<...>;`.
 template <class T, class Base, Form kForm = Form::Object>
@@ -357,9 +344,9 @@ template <class T, class Base, Form kForm>
 const bool Inherits<T, Base, kForm>::s_reader = enterReader(typeid(T), &RegularReader<Base, kForm>::read);
 
 template <class T, class Base, Form kForm>
-const bool Inherits<T, Base, kForm>::s_writer =
-    enterWriter(typeid(T), &RegularWriter<Base, kForm>::template write<SizeWriter>,
-                &RegularWriter<Base, kForm>::template write<ByteWriter>);
+const bool Inherits<T, Base, kForm>::s_writer = enterWriter(typeid(T),
+                                                            &RegularWriter<Base, kForm>::template write<SizeWriter>,
+                                                            &RegularWriter<Base, kForm>::template write<ByteWriter>);
 
 /// The regular `readObject` of an object: the trace line, the kind test with its message, the fields. The class has no
 /// other statement there.

@@ -4,6 +4,7 @@
 #include "vrx_api/json/enum_table.h"
 #include "vrx_api/json/json_object.h"
 #include "vrx_api/json/key.h"
+#include "vrx_api/json/member_finder.h"
 #include "vrx_api/json/scalar.h"
 #include "vrx_api/json/tree_value.h"
 
@@ -38,12 +39,6 @@ wstring_view textOf(const Value& string)
     return units.substr(0, units.find(wchar{}));
 }
 
-template <class Value>
-bool isNamed(const typename Value::Member& member, Key key)
-{
-    return member.name.isString() && member.name.units() == wstring_view(key.text, key.size);
-}
-
 /// Has a tree of the value used, for what is known to be read from trees alone.
 template <class Use>
 void withTree(const TreeValue& value, const Use& use)
@@ -59,18 +54,11 @@ void withTree(const BinaryValue& value, const Use& use)
     use(document);
 }
 
-/// The value of the first member of this name, if there is one.
+/// The value of the first member of this name, if there is one. For several names a MemberFinder is faster.
 template <class Value>
 std::optional<Value> findMember(const Value& object, Key key)
 {
-    for (const auto member : object.members())
-    {
-        if (isNamed<Value>(member, key))
-        {
-            return member.value;
-        }
-    }
-    return std::nullopt;
+    return MemberFinder<Value>(object).find(key);
 }
 
 // What a field takes from a value: true when the value is of the field's kind. A value of another kind leaves the field

@@ -17,13 +17,16 @@ namespace
 
 // A tree may be deeper than the thread's stack allows: the description only makes places for the children that are
 // read, and walks that keep a stack of their own fill them and write them.
+template <class Nodes>
 struct ChildPlaces
 {
-    std::vector<std::shared_ptr<ExcVisuNode>>& nodes;
+    Nodes& nodes;
 };
+template <class Nodes>
+ChildPlaces(Nodes&) -> ChildPlaces<Nodes>;
 
-template <class Value>
-bool decode(const Value& value, const ChildPlaces& field)
+template <class Value, class Nodes>
+bool decode(const Value& value, const ChildPlaces<Nodes>& field)
 {
     if (!value.isArray())
     {
@@ -52,120 +55,117 @@ void ExcVisuNode::describe(Self& self, Fields& fields)
     fields.filled(WIDE("point_set"), self.m_pointSet);
     fields.always(WIDE("type"), self.m_type);
     fields.always(WIDE("group_name"), self.m_groupName);
-    if constexpr (Fields::kReads)
-    {
-        fields.readOnly(kChildNodes, ChildPlaces{self.m_childNodes});
-    }
+    fields.readOnly(kChildNodes, ChildPlaces{self.m_childNodes});
 }
 template struct Described<ExcVisuNode>;
 
-namespace
+// The walks over a node and all below it, in the order of the document.
+struct VisuTree
 {
+    template <class Value>
+    static void read(ExcVisuNode& root, const Value& rootValue)
+    {
+        using Place = decltype(rootValue.elements().begin());
+        struct Level
+        {
+            std::shared_ptr<ExcVisuNode>* child;
+            Place value;
+            Place end;
+        };
+        std::vector<Level> open;
+        const auto visit = [&open](ExcVisuNode& node, const Value& value) {
+            kolt::trace();
+            const std::size_t firstRead = node.m_childNodes.size();
+            if (isObject(value, "ExcVisuNode"))
+            {
+                readDescribed(node, value);
+            }
+            if (node.m_childNodes.size() != firstRead)
+            {
+                const auto children = findMember(value, kChildNodes)->elements();
+                open.push_back({&node.m_childNodes[firstRead], children.begin(), children.end()});
+            }
+        };
+        visit(root, rootValue);
+        while (!open.empty())
+        {
+            Level& level = open.back();
+            if (level.value == level.end)
+            {
+                open.pop_back();
+                continue;
+            }
+            ExcVisuNode& child = **level.child++;
+            const Value value = *level.value;
+            ++level.value;
+            visit(child, value);
+        }
+    }
 
-template <class Value>
-void readNodes(ExcVisuNode& root, const Value& rootValue)
-{
-    using Place = decltype(rootValue.elements().begin());
-    struct Level
+    template <class Out>
+    static void write(const ExcVisuNode& root, Out& out)
     {
-        const std::shared_ptr<ExcVisuNode>* child;
-        Place value;
-        Place end;
-    };
-    std::vector<Level> open;
-    const auto visit = [&open](ExcVisuNode& node, const Value& value) {
-        kolt::trace();
-        const std::size_t firstRead = node.childNodes().size();
-        if (isObject(value, "ExcVisuNode"))
+        struct Level
         {
-            readDescribed(node, value);
-        }
-        if (node.childNodes().size() != firstRead)
+            const ExcVisuNode& node;
+            typename Out::Mark object;
+            typename Out::Mark children;
+            std::size_t written;
+        };
+        std::vector<Level> open;
+        const auto visit = [&](const ExcVisuNode& node) {
+            kolt::trace();
+            Level level{node, out.beginObject(), {}, 0};
+            FieldWriter<Out> fields(out);
+            Described<ExcVisuNode>::walk(node, fields);
+            if (!node.m_childNodes.empty())
+            {
+                out.key(kChildNodes);
+                level.children = out.beginArray();
+            }
+            open.push_back(level);
+        };
+        visit(root);
+        while (!open.empty())
         {
-            const auto children = findMember(value, kChildNodes)->elements();
-            open.push_back({&node.childNodes()[firstRead], children.begin(), children.end()});
-        }
-    };
-    visit(root, rootValue);
-    while (!open.empty())
-    {
-        Level& level = open.back();
-        if (level.value == level.end)
-        {
+            Level& level = open.back();
+            const auto& children = level.node.m_childNodes;
+            if (level.written != children.size())
+            {
+                visit(*children[level.written++]);
+                continue;
+            }
+            if (!children.empty())
+            {
+                out.endArray(level.children);
+            }
+            out.endObject(level.object);
             open.pop_back();
-            continue;
         }
-        ExcVisuNode& child = **level.child++;
-        const Value value = *level.value;
-        ++level.value;
-        visit(child, value);
     }
-}
 
-template <class Out>
-void writeNodes(const ExcVisuNode& root, Out& out)
-{
-    struct Level
+    static void readDirectly(IJsonObject& object, BinaryValue value) { read(static_cast<ExcVisuNode&>(object), value); }
+
+    template <class Out>
+    static void writeDirectly(const IJsonObject& object, Out& out)
     {
-        const ExcVisuNode& node;
-        typename Out::Mark object;
-        typename Out::Mark children;
-        std::size_t written;
-    };
-    std::vector<Level> open;
-    const auto visit = [&](const ExcVisuNode& node) {
-        kolt::trace();
-        Level level{node, out.beginObject(), {}, 0};
-        FieldWriter<Out> fields(out);
-        Described<ExcVisuNode>::walk(node, fields);
-        if (!node.childNodes().empty())
-        {
-            out.key(kChildNodes);
-            level.children = out.beginArray();
-        }
-        open.push_back(level);
-    };
-    visit(root);
-    while (!open.empty())
-    {
-        Level& level = open.back();
-        const auto& children = level.node.childNodes();
-        if (level.written != children.size())
-        {
-            visit(*children[level.written++]);
-            continue;
-        }
-        if (!children.empty())
-        {
-            out.endArray(level.children);
-        }
-        out.endObject(level.object);
-        open.pop_back();
+        write(static_cast<const ExcVisuNode&>(object), out);
     }
-}
+};
 
-template <class Out>
-void writeNode(const IJsonObject& object, Out& out)
-{
-    writeNodes(static_cast<const ExcVisuNode&>(object), out);
-}
-
-const bool s_reads = enterReader(typeid(ExcVisuNode), [](IJsonObject& object, BinaryValue value) {
-    readNodes(static_cast<ExcVisuNode&>(object), value);
-});
-const bool s_writes = enterWriter(typeid(ExcVisuNode), &writeNode<SizeWriter>, &writeNode<ByteWriter>);
-
-} // namespace
+static const bool s_reads = enterReader(typeid(ExcVisuNode), &VisuTree::readDirectly);
+static const bool s_writes =
+    enterWriter(typeid(ExcVisuNode), &VisuTree::writeDirectly<SizeWriter>, &VisuTree::writeDirectly<ByteWriter>);
 
 void ExcVisuNode::readObject(const JsonValue& value)
 {
-    readNodes(*this, TreeValue(&value));
+    VisuTree::read(*this, TreeValue(&value));
 }
 
 void ExcVisuNode::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     TreeWriter out(allocator);
-    writeNodes(*this, out);
+    VisuTree::write(*this, out);
     value = out.take();
 }
 

@@ -133,6 +133,7 @@ public:
 
 private:
     friend struct Described<ExcVisuNode>;
+    friend struct VisuTree;
     template <class Self, class Fields>
     static void describe(Self& self, Fields& fields);
 
