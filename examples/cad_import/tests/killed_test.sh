@@ -70,6 +70,7 @@ $(declare -f buffers_told_of)
 scratch=$scratch
 rm "/dev/shm/\$(buffers_told_of | head -n 1)"
 cat "$scratch/frames"
+cat >/dev/null # the host's commands
 END
 expect 4 "What the translator sent can not be loaded" "$host" --translator "$recorder" "$vise"
 none_is_left "after an object that can not be loaded"
