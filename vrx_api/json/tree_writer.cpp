@@ -26,7 +26,8 @@ JsonValue emptyObject(std::size_t room, JsonAllocator& allocator)
         }
         return handler.EndObject(static_cast<rapidjson::SizeType>(room));
     };
-    JsonDocument document(&allocator, sizeof(JsonValue) * (2 * room + 1));
+    rapidjson::CrtAllocator stackAllocator;
+    JsonDocument document(&allocator, sizeof(JsonValue) * (2 * room + 1), &stackAllocator);
     document.Populate(fill);
     document.RemoveAllMembers();
     JsonValue object;
