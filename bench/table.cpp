@@ -61,7 +61,7 @@ void printSteps(const RoadTimes& times)
             continue;
         }
         std::printf("  %-34s %10.3f ms %8.3f ns/byte", line.step, milliseconds, times.nanosecondsPerByte(line.step));
-        if (line.floor != nullptr)
+        if (line.floor != nullptr && !std::isnan(times.milliseconds(line.floor)))
         {
             std::printf("  %8.2f x %s", times.ratio(line.step, line.floor), line.floor);
         }

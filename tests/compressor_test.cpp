@@ -1,10 +1,12 @@
 #include "tests/support/helpers.h"
+#include "tests/support/plain_zlib.h"
 #include "vrx_api/exchange/compressor.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
 #include <stdexcept>
+#include <vector>
 
 using vrx::Compressor;
 
@@ -41,6 +43,37 @@ std::string sample(std::size_t size)
         data.push_back(static_cast<char>(random() & 0xFFU));
     }
     return data;
+}
+
+// Bytes as a model has them: names over and over, numbers that change little.
+std::string modelLike(std::size_t size)
+{
+    std::string data;
+    for (unsigned number = 0; data.size() < size; ++number)
+    {
+        data += "\x04guid" + std::to_string(1000 + number) + "\x05point";
+        for (const unsigned factor : {7U, 77U, 7919U})
+        {
+            data += test::littleEndian(number * factor);
+        }
+    }
+    data.resize(size);
+    return data;
+}
+
+// Whether the library makes of a stream what zlib makes of it, data or error.
+void expectAsZlib(const std::string& stream, const std::string& what)
+{
+    test::Inflated ours;
+    try
+    {
+        ours.data = decompressed(stream);
+    }
+    catch (const std::runtime_error& error)
+    {
+        ours.error = error.what();
+    }
+    EXPECT_TRUE(test::isAsZlib(ours, test::plainInflate(stream), stream)) << what << ": " << ours.error;
 }
 
 TEST(Compressor, ReadsBothWrappers)
@@ -95,6 +128,111 @@ TEST(Compressor, ADamagedStreamThrowsTheTextOfZlib)
     EXPECT_EQ(damaged(kGzip, 22), "incorrect length check");
     EXPECT_EQ(damaged(kGzip, 25), "incorrect length check");
     EXPECT_EQ(damaged(kZlib, 7), "incorrect data check");
+}
+
+TEST(Compressor, WritesWhatZlibReads)
+{
+    for (const std::size_t size : {0U, 1U, 4095U, 4096U, 200000U})
+    {
+        for (const std::string& data : {modelLike(size), sample(size), std::string(size, '\0')})
+        {
+            for (const int level : {-1, 1, 6, 9})
+            {
+                const std::string stream = compressed(data, level);
+                const test::Inflated plain = test::plainInflate(stream);
+                EXPECT_EQ(plain.error, "") << size << ", level " << level;
+                EXPECT_TRUE(plain.data == data) << size << ", level " << level;
+                EXPECT_LE(stream.size(), test::plainDeflate(data, level).size() * 5 / 4 + 32) << level;
+            }
+        }
+    }
+}
+
+TEST(Compressor, ReadsWhatZlibWrites)
+{
+    for (const std::size_t size : {1U, 1023U, 1024U, 200000U})
+    {
+        for (const std::string& data : {modelLike(size), sample(size), std::string(size, '\0')})
+        {
+            for (const int level : {0, 1, 6, 9})
+            {
+                EXPECT_TRUE(decompressed(test::plainDeflate(data, level)) == data) << size << ", level " << level;
+                EXPECT_TRUE(decompressed(test::plainDeflate(data, level, test::kZlibWindow)) == data) << size;
+            }
+        }
+    }
+}
+
+TEST(Compressor, TakesADamagedStreamAsZlibDoes)
+{
+    const std::string data = modelLike(1500);
+    for (const std::string& stream : {test::plainDeflate(data, 6), test::plainDeflate(data, 1)})
+    {
+        for (std::size_t size = 1; size < stream.size(); ++size)
+        {
+            expectAsZlib(stream.substr(0, size), "cut at " + std::to_string(size));
+        }
+        for (std::size_t bit = 0; bit < stream.size() * 8; ++bit)
+        {
+            std::string damaged = stream;
+            damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ (1 << bit % 8));
+            expectAsZlib(damaged, "bit " + std::to_string(bit));
+        }
+    }
+}
+
+TEST(Compressor, TakesAnUnusualStreamAsZlibDoes)
+{
+    const std::string data = modelLike(1500);
+    const std::string raw = test::plainDeflate(data, 6, test::kRawWindow);
+    const std::string trailer = test::gzipTrailer(data);
+    const std::string whole = test::bytes("1F8B0800000000000003") + raw + trailer;
+    expectAsZlib(whole, "as it should be");
+    for (const char* const behind : {"b", "bytes behind it", "12345678"})
+    {
+        expectAsZlib(whole + behind, behind);
+    }
+    expectAsZlib(whole + whole, "two members");
+    expectAsZlib(whole + test::plainDeflate("another", 6), "two members of their own");
+    expectAsZlib(whole + trailer, "the trailer twice");
+
+    const struct
+    {
+        const char* what;
+        const char* header;
+    } headers[] = {
+        {"text flag", "1F8B0801000000000003"},
+        {"header checksum", "1F8B0802000000000003A777"},
+        {"wrong header checksum", "1F8B0802000000000003A877"},
+        {"extra field", "1F8B0804000000000003 0300 414243"},
+        {"extra field that reaches behind the end", "1F8B0804000000000003 FFFF 414243"},
+        {"name", "1F8B0808000000000003 414200"},
+        {"name without end", "1F8B0808000000000003 4142"},
+        {"comment", "1F8B0810000000000003 414200"},
+        {"all fields", "1F8B081F000000000003 0100 41 4200 4300 0000"},
+        {"reserved flag", "1F8B0820000000000003"},
+        {"another method", "1F8B0900000000000003"},
+        {"other time, flags of the method and system", "1F8B080012345678FFFF"},
+        {"zlib's dictionary", "78BB 00000001"},
+    };
+    for (const auto& [what, header] : headers)
+    {
+        expectAsZlib(test::bytes(header) + raw + trailer, what);
+    }
+}
+
+TEST(Compressor, ASizeThatLiesCostsNoMemory)
+{
+    const std::string data = sample(400000);
+    const std::string stream = compressed(data);
+    for (const std::uint64_t told : {0U, 1U, 399999U, 400001U, 10000000U, 100000000U, 4294967295U})
+    {
+        const std::string lie = stream.substr(0, stream.size() - 4) + test::littleEndian(told);
+        expectAsZlib(lie, std::to_string(told));
+        vrx::Bytes out;
+        EXPECT_THROW(Compressor::decompress(out, lie.data(), lie.size()), std::runtime_error);
+        EXPECT_LE(out.capacity(), stream.size() * 64) << told;
+    }
 }
 
 TEST(Compressor, RefusesWhatItCanNotDo)

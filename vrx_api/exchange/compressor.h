@@ -19,6 +19,7 @@ class VRX_API Compressor
 public:
     Compressor() = delete;
 
+    /// The limit of a reader that takes whatever comes.
     static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
 
     /// Replaces `out` by the gzip stream of the data; level -1 is zlib's default. Throws `std::runtime_error`.

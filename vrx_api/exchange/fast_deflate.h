@@ -15,8 +15,9 @@ bool deflateByLibdeflate(Bytes& out, const char* data, std::uint64_t size, int l
 /// data, other wrappers, optional fields in the header, and all that is not one whole and sound stream. `out` then has
 /// its size still, but unset content.
 ///
-/// With the right checksum and size, libdeflate takes a few streams that zlib refuses: unused codes of RFC 1951 as
-/// their neighbours, and codes that are incomplete. No compressor makes them, and no damage does but by chance.
+/// When the checksum and the size are right, libdeflate takes some streams that zlib refuses for the tables of their
+/// codes: repeats of lengths beyond the last code, incomplete codes, and codes that RFC 1951 leaves unused. A flipped
+/// bit that changes none of the data can make such a stream.
 bool inflateByLibdeflate(Bytes& out, const char* data, std::uint64_t size);
 
 } // namespace vrx

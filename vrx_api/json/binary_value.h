@@ -66,12 +66,22 @@ public:
         return {reinterpret_cast<const wchar*>(content()), size()}; // NOLINT
     }
 
-    /// As many are expected as there are when all are of one size, as in bulk data.
+    /// Numbers are expected to be of one size, as in bulk data; all else is counted.
     ValueRange<BinaryValue, const char*> elements() const { return {content(), content() + size()}; }
     std::size_t expectedCount() const
     {
-        const std::size_t all = size();
-        return all == 0 ? 0 : all / static_cast<std::size_t>(BinaryValue(content()).next() - content());
+        switch (size() == 0 ? BinaryTag::Null : BinaryValue(content()).tag())
+        {
+        case BinaryTag::Int:
+        case BinaryTag::Uint:
+            return size() / (kTagSize + sizeof(std::uint32_t));
+        case BinaryTag::Int64:
+        case BinaryTag::Uint64:
+        case BinaryTag::Double:
+            return size() / (kTagSize + sizeof(std::uint64_t));
+        default:
+            return elements().count();
+        }
     }
 
     ValueRange<Member, const char*> members() const;

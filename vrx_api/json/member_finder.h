@@ -2,9 +2,10 @@
 
 #include "vrx_api/json/key.h"
 
-#include <cstdint>
+#include <bitset>
 #include <cstring>
 #include <optional>
+#include <utility>
 
 namespace vrx
 {
@@ -28,7 +29,7 @@ public:
     /// The value of the first member of this name, which has not been asked for before.
     std::optional<Value> find(Key key)
     {
-        if (m_left.begin() == m_left.end() || !isNamed(*m_left.begin(), key) || (m_passed != 0 && mayBe(m_passed, key)))
+        if (m_left.begin() == m_left.end() || !isNamed(*m_left.begin(), key) || (m_passed && m_passed->mayHold(key)))
         {
             return findAnywhere(key);
         }
@@ -40,7 +41,32 @@ public:
 private:
     using Members = decltype(std::declval<Value>().members());
     using Member = typename Value::Member;
-    using Marks = std::uint64_t;
+
+    // What is known of the names of a set of members.
+    class Marks
+    {
+    public:
+        void add(const Member& member)
+        {
+            if (member.name.isString())
+            {
+                m_marks.set(markOf(member.name.units()));
+            }
+        }
+
+        bool mayHold(Key key) const { return m_marks.test(markOf({key.text, key.size})); }
+
+    private:
+        static constexpr std::size_t kCount = 256;
+
+        static std::size_t markOf(wstring_view name)
+        {
+            const std::size_t size = name.size();
+            return size == 0 ? 0 : (size + 3U * name.front() + 5U * name.back() + 7U * name[size / 2]) % kCount;
+        }
+
+        std::bitset<kCount> m_marks;
+    };
 
     static bool isNamed(const Member& member, Key key)
     {
@@ -52,27 +78,17 @@ private:
         return name.size() == key.size && std::memcmp(name.data(), key.text, key.size * sizeof(wchar)) == 0;
     }
 
-    static Marks markOf(wstring_view name)
-    {
-        constexpr unsigned kMarks = 64;
-        return name.empty()
-                   ? 1
-                   : Marks{1} << (name.size() + 3U * name.front() + 5U * name.back() + 7U * name[name.size() / 2]) %
-                                     kMarks;
-    }
-    static Marks markOf(const Member& member) { return member.name.isString() ? markOf(member.name.units()) : 0; }
-    static bool mayBe(Marks marks, Key key) { return (marks & markOf({key.text, key.size})) != 0; }
-
     std::optional<Value> findAnywhere(Key key)
     {
-        if (m_names == 0)
+        if (!m_names)
         {
+            m_names.emplace();
             for (const Member member : m_all)
             {
-                m_names |= markOf(member);
+                m_names->add(member);
             }
         }
-        if (!mayBe(m_names, key))
+        if (!m_names->mayHold(key))
         {
             return std::nullopt;
         }
@@ -92,10 +108,10 @@ private:
     void pass(Place found)
     {
         Members left = m_left;
-        Marks passed = m_passed;
+        Marks passed = m_passed.value_or(Marks());
         for (; left.begin() != left.end() && left.begin() != found; left.dropFirst())
         {
-            passed |= markOf(*left.begin());
+            passed.add(*left.begin());
         }
         if (left.begin() != left.end())
         {
@@ -107,8 +123,8 @@ private:
 
     Members m_all;
     Members m_left;
-    Marks m_names = 0;
-    Marks m_passed = 0;
+    std::optional<Marks> m_names;
+    std::optional<Marks> m_passed;
 };
 
 } // namespace vrx

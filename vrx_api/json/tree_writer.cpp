@@ -26,7 +26,8 @@ JsonValue emptyObject(std::size_t room, JsonAllocator& allocator)
         }
         return handler.EndObject(static_cast<rapidjson::SizeType>(room));
     };
-    JsonDocument document(&allocator, sizeof(JsonValue) * (2 * room + 1));
+    rapidjson::CrtAllocator stackAllocator;
+    JsonDocument document(&allocator, sizeof(JsonValue) * (2 * room + 1), &stackAllocator);
     document.Populate(fill);
     document.RemoveAllMembers();
     JsonValue object;
@@ -35,6 +36,13 @@ JsonValue emptyObject(std::size_t room, JsonAllocator& allocator)
 }
 
 } // namespace
+
+TreeWriter::TreeWriter(JsonAllocator& allocator)
+    : m_allocator(allocator)
+{
+    constexpr std::size_t kUsual = 32;
+    m_values.reserve(kUsual);
+}
 
 void TreeWriter::text(wstring_view text)
 {

@@ -19,10 +19,7 @@ public:
     /// What `begin...` gives and the matching `end...` takes.
     using Mark = std::size_t;
 
-    explicit TreeWriter(JsonAllocator& allocator)
-        : m_allocator(allocator)
-    {
-    }
+    explicit TreeWriter(JsonAllocator& allocator);
 
     void null() { m_values.emplace_back(); }
 

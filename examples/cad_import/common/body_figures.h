@@ -19,7 +19,7 @@ struct BodyFigures
     std::array<double, 3> high{};
 };
 
-/// A box takes as long as all the rest.
+/// A box takes as long as all the rest where a body has faces of free form.
 enum class EBox
 {
     Without,

@@ -16,8 +16,9 @@
 namespace scene_conventions
 {
 
-/// The only type of a face's polygons: one triangle, three indices of vertices, counter-clockwise seen from outside.
-inline const std::int32_t kTriangle = 1;
+/// The only type of a face's polygons: triangles, three indices of vertices for each, counter-clockwise seen from
+/// outside. A face has all its triangles in one polygon.
+inline const std::int32_t kTriangles = 1;
 
 // Cameras: the orthographic zoom factor is the height of the picture in the scene's units, the perspective view angle
 // the one from its bottom to its top in degrees; 0 in either says nothing.

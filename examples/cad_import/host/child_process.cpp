@@ -16,7 +16,8 @@ namespace
 volatile sig_atomic_t interrupted = 0;
 volatile pid_t interruptee = -1;
 
-const unsigned kGrace = 2; // seconds
+const unsigned kGrace = 2;         // seconds
+const int kPipeSize = 1024 * 1024; // bytes: messages enough for a translator that is much faster than the host
 
 // The child may be about to tell of shared memory that it has made: it is asked to end, and killed when it does not.
 extern "C" void onInterrupt(int)
@@ -109,6 +110,7 @@ ChildProcess::ChildProcess(const std::string& program)
     }
     // A write to a dead child is an error, not a signal.
     signal(SIGPIPE, SIG_IGN);
+    ::fcntl(output.readEnd, F_SETPIPE_SZ, kPipeSize); // a smaller one does too
     m_input = Pipe::release(input.writeEnd);
     m_output = Pipe::release(output.readEnd);
 }
@@ -116,6 +118,20 @@ ChildProcess::ChildProcess(const std::string& program)
 ChildProcess::~ChildProcess()
 {
     end();
+}
+
+void ChildProcess::closeInput()
+{
+    Pipe::closeEnd(m_input);
+}
+
+void ChildProcess::terminate() const
+{
+    if (m_process > 0)
+    {
+        kill(-m_process, SIGTERM);
+        alarm(kGrace);
+    }
 }
 
 std::string ChildProcess::end()
@@ -130,11 +146,11 @@ std::string ChildProcess::end()
     // The closed pipes end a healthy child. One that is stuck gets a second and is killed.
     for (int tries = 0; waitpid(m_process, &status, WNOHANG) == 0; ++tries)
     {
-        if (tries == 100)
+        if (tries == 1000)
         {
             kill(-m_process, SIGKILL);
         }
-        ::usleep(10000);
+        ::usleep(1000);
     }
     interruptee = -1;
     m_process = -1;

@@ -20,6 +20,12 @@ public:
     int input() const { return m_input; }
     int output() const { return m_output; }
 
+    /// The child reads the end of its input then, which ends a healthy one.
+    void closeInput();
+
+    /// Asks the child to end, by SIGTERM, and soon after kills it, so that its output comes to an end.
+    void terminate() const;
+
     /// Kills the child, if it still runs, and tells in words how it ended.
     std::string end();
 

@@ -65,11 +65,13 @@ void ImportCollector::onObject(const std::shared_ptr<vrx::IExchangeObject>& obje
     else if (const auto bodies = std::dynamic_pointer_cast<vrx::ExcBlockGeometry>(object))
     {
         m_model.bodies.add(*bodies);
+        measure(bodies->blockId(), nullptr);
     }
     else if (const auto block = std::dynamic_pointer_cast<vrx::ExcBlockMechanicalData>(object))
     {
         m_model.pmi.add(*block);
         m_model.mechanical.push_back(block);
+        measure(block->blockId(), block->miscData().get());
     }
     else if (const auto root = std::dynamic_pointer_cast<vrx::ExcRootMechanicalData>(object))
     {
@@ -91,6 +93,21 @@ bool ImportCollector::wants(const vrx::IExchangeObject& object)
     const bool isLook =
         name == vrx::ExcBlockVisualization::objName() || name == vrx::ExcRootAssemblyVisualization::objName();
     return !isLook || m_arguments.makesPage();
+}
+
+// As soon as it is known that the figures are needed, while the translator draws the parts.
+void ImportCollector::measure(std::uint64_t id, const vrx::ExcMechanicalMiscData* data)
+{
+    if (m_arguments.bodies)
+    {
+        m_model.bodies.measure(id, EBox::With);
+        return;
+    }
+    const auto block = m_model.structure ? m_model.structure->getBlockById(id) : nullptr;
+    if (block && needsFigures(*block, data, m_model.bodies, m_model.structure->units()))
+    {
+        m_model.bodies.measure(id);
+    }
 }
 
 void ImportCollector::print(const std::string& text)

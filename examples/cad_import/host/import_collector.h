@@ -11,6 +11,7 @@
 #include "translator_session.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -46,6 +47,8 @@ public:
     void print(const std::string& text);
 
 private:
+    void measure(std::uint64_t id, const vrx::ExcMechanicalMiscData* data);
+
     const Arguments& m_arguments;
     ReceivedModel& m_model;
     ProgressBar m_bar;

@@ -124,10 +124,6 @@ void show(const ReceivedModel& model, const MechanicalModel& mechanical, const A
 // Tells of the model that arrived. Throws TranslatorFailure when its bodies are not what they should be.
 void tell(ReceivedModel& model, const Arguments& arguments)
 {
-    if (arguments.bodies)
-    {
-        model.bodies.measureAll();
-    }
     const MechanicalModel mechanical(*model.structure, model.mechanical, model.bodies);
     print(model, mechanical, arguments);
     show(model, mechanical, arguments);
@@ -159,6 +155,7 @@ int import(const Arguments& arguments)
     {
         ImportCollector collector(arguments, model);
         const vrx::Result result = session.import(options, collector);
+        session.finish();
         if (ChildProcess::wasInterrupted())
         {
             throw TranslatorFailure("The import was interrupted.");

@@ -59,14 +59,6 @@ void ReceivedBodies::measure(std::uint64_t block, EBox box)
     found->second.restored = nullptr;
 }
 
-void ReceivedBodies::measureAll()
-{
-    for (const std::uint64_t block : blocks())
-    {
-        measure(block, EBox::With);
-    }
-}
-
 const std::vector<ReceivedBodies::Body>& ReceivedBodies::of(std::uint64_t block) const
 {
     static const std::vector<Body> kNone;

@@ -47,10 +47,8 @@ public:
     /// Throws TranslatorFailure when the bodies can't be restored.
     void add(const vrx::ExcBlockGeometry& geometry);
 
-    /// Fills in the figures of the bodies of a block, the first time that it is asked to; of all blocks with their
-    /// boxes. Throws TranslatorFailure.
+    /// Fills in the figures of the bodies of a block, the first time that it is asked to. Throws TranslatorFailure.
     void measure(std::uint64_t block, EBox box = EBox::Without);
-    void measureAll();
 
     /// The bodies of a block in their order; none for a block of which none came.
     const std::vector<Body>& of(std::uint64_t block) const;

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <cstdint>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -109,36 +110,40 @@ void appendSegments(std::vector<float>& segments, const Edges& edges, const Plac
     }
 }
 
-bool isTriangle(const vrx::ExcVisuFace::Polygon& polygon, std::size_t vertices)
-{
-    return polygon.type == scene_conventions::kTriangle && polygon.indices.size() == 3 &&
-           std::all_of(polygon.indices.begin(), polygon.indices.end(), [vertices](std::int32_t index) {
-               return index >= 0 && static_cast<std::size_t>(index) < vertices;
-           });
-}
-
 // The triangles of faces, on the points of them all.
 struct Triangles
 {
     // Returns how many triangles the face has.
     unsigned append(const vrx::ExcVisuFace& face, const Placement& placement)
     {
-        const auto before = static_cast<std::uint32_t>(positions.size() / 3);
-        const std::size_t count = face.vertices().size() / 3;
+        const auto firstVertex = static_cast<std::uint32_t>(positions.size() / 3);
+        const std::size_t firstIndex = indices.size();
         placement.appendPoints(positions, face.vertices());
-        unsigned triangles = 0;
         for (const vrx::ExcVisuFace::Polygon& polygon : face.polygons())
         {
-            if (isTriangle(polygon, count))
+            if (polygon.type == scene_conventions::kTriangles)
             {
-                for (const std::int32_t index : polygon.indices)
-                {
-                    indices.push_back(before + static_cast<std::uint32_t>(index));
-                }
-                ++triangles;
+                append(polygon.indices, firstVertex, face.vertices().size() / 3);
             }
         }
-        return triangles;
+        return static_cast<unsigned>((indices.size() - firstIndex) / 3);
+    }
+
+    // The triangles among these whose corners all are vertices of their face.
+    void append(const std::vector<std::int32_t>& corners, std::uint32_t firstVertex, std::size_t vertices)
+    {
+        for (std::size_t i = 0; i + 3 <= corners.size(); i += 3)
+        {
+            const std::int32_t* const triangle = &corners[i];
+            if (std::all_of(triangle, triangle + 3, [vertices](std::int32_t index) {
+                    return index >= 0 && static_cast<std::size_t>(index) < vertices;
+                }))
+            {
+                std::transform(triangle, triangle + 3, std::back_inserter(indices), [firstVertex](std::int32_t index) {
+                    return firstVertex + static_cast<std::uint32_t>(index);
+                });
+            }
+        }
     }
 
     void write(PageJson& json) const

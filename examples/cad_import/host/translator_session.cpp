@@ -48,59 +48,41 @@ void handOn(const std::shared_ptr<vrx::IExchangeObject>& object, ImportListener&
     }
 }
 
-std::shared_ptr<vrx::IExchangeObject> loadFirst(ReceivedObjects& waiting)
+void load(vrx::IExchangeObject& object, const mp::wstring& buffer)
 {
     try
     {
-        return waiting.loadFirst();
+        object.load();
     }
     catch (const std::exception& failure)
     {
+        shared_buffers::remove(buffer);
         throw TranslatorFailure(std::string("What the translator sent can not be loaded: ") + failure.what());
     }
 }
 
-// One after the other, so that no more than one of the large objects is in memory that the listener doesn't keep.
-void loadAll(ReceivedObjects& waiting, ImportListener& listener)
-{
-    waiting.keep([&listener](const vrx::IExchangeObject& object) { return listener.wants(object); });
-    vrx::ExcProgress progress;
-    progress.setStage(WIDE("Taking over the model"));
-    progress.setProgressMax(static_cast<std::int32_t>(waiting.count()));
-    for (std::int32_t done = 0; waiting.count() > 0; ++done)
-    {
-        if (ChildProcess::wasInterrupted())
-        {
-            throw TranslatorFailure("The import was interrupted.");
-        }
-        progress.setProgress(done);
-        listener.onProgress(progress);
-        handOn(loadFirst(waiting), listener);
-    }
-}
-
-void open(const mp::wstring& envelope, ReceivedObjects& waiting, ImportListener& listener)
+// Hands on what an envelope holds. Loading removes the buffer of a large object.
+void take(const mp::wstring& envelope, ImportListener& listener)
 {
     vrx::ExchangeObjectWrapper wrapper;
     wrapper.setDelayedLoading(true);
     framing::fromText(envelope, wrapper);
 
+    const std::shared_ptr<vrx::IExchangeObject>& object = wrapper.get();
     const mp::wstring buffer = shared_buffers::nameIn(envelope);
-    if (!wrapper.get())
+    // A newer translator may send what we do not know.
+    const bool isWanted = object && (buffer.empty() || listener.wants(*object));
+    if (isWanted && !buffer.empty())
     {
-        // A newer translator may send what we do not know.
-        if (!buffer.empty())
-        {
-            shared_buffers::remove(buffer);
-        }
+        load(*object, buffer);
     }
-    else if (buffer.empty())
+    if (isWanted)
     {
-        handOn(wrapper.get(), listener);
+        handOn(object, listener);
     }
-    else
+    else if (!buffer.empty())
     {
-        waiting.add(wrapper.get(), buffer);
+        shared_buffers::remove(buffer);
     }
 }
 
@@ -158,19 +140,51 @@ vrx::Result TranslatorSession::import(const std::shared_ptr<vrx::ImportOptions>&
     }
     send(command);
 
-    ReceivedObjects waiting;
-    mp::wstring text = receive();
-    while (isEnvelope(text))
+    try
     {
-        open(text, waiting, listener);
-        text = receive();
+        mp::wstring text = receive();
+        while (isEnvelope(text))
+        {
+            if (ChildProcess::wasInterrupted())
+            {
+                throw TranslatorFailure("The import was interrupted.");
+            }
+            take(text, listener);
+            text = receive();
+        }
+        return parsed<vrx::Result>(text, "result");
     }
-    auto result = parsed<vrx::Result>(text, "result");
-    if (result.code() == vrx::Result::ECode::Ok || result.code() == vrx::Result::ECode::Warning)
+    catch (...)
     {
-        loadAll(waiting, listener);
+        dropRest();
+        throw;
     }
-    return result;
+}
+
+void TranslatorSession::finish()
+{
+    m_translator.closeInput();
+}
+
+// Ends the translator, and takes what it has told of out of the system.
+void TranslatorSession::dropRest() noexcept
+{
+    try
+    {
+        m_translator.terminate();
+        while (const std::optional<mp::wstring> text = framing::read(m_translator.output()))
+        {
+            const mp::wstring buffer = shared_buffers::nameIn(*text);
+            if (!buffer.empty())
+            {
+                shared_buffers::remove(buffer);
+            }
+        }
+    }
+    catch (const std::exception&)
+    {
+        // What is left on the pipe can't be read.
+    }
 }
 
 void TranslatorSession::send(const vrx::Command& command)

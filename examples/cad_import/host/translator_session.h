@@ -2,7 +2,6 @@
 
 #include "child_process.h"
 #include "mp/serializable.h"
-#include "received_objects.h"
 #include "vrx_api/vrx_api_command.h"
 #include "vrx_api/vrx_api_exchange_common.h"
 #include "vrx_api/vrx_api_exchange_object.h"
@@ -33,8 +32,7 @@ public:
     virtual void onStage(vrx::ExcStageFinished::EStage stage) = 0;
     virtual void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) = 0;
 
-    /// Whether an object in shared memory is worth loading; the others are dropped. Asked once all have come, from the
-    /// last to the first: what is said of a block comes after the bodies, which may only be worth it then.
+    /// Whether an object in shared memory, of which only the name is known, is worth loading; the others are dropped.
     virtual bool wants(const vrx::IExchangeObject&) { return true; }
 };
 
@@ -48,12 +46,17 @@ public:
     vrx::FerrantInfo info();
     vrx::Result ping();
 
-    /// The options say by which interface. The translator's result. When that is no error, the listener has got all
-    /// objects by then: those in shared memory are loaded when the result has come.
+    /// The options say by which interface. The translator's result. The listener gets each object when it comes, while
+    /// the translator works on the next one: when the result is an error, or what the listener throws ends the import,
+    /// it has got those before.
     vrx::Result import(const std::shared_ptr<vrx::ImportOptions>& options, ImportListener& listener);
+
+    /// Lets the translator end while the host goes on: there will be no more commands.
+    void finish();
 
 private:
     void send(const vrx::Command& command);
+    void dropRest() noexcept;
     mp::wstring receive();
 
     ChildProcess m_translator;

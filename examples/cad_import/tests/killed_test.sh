@@ -57,6 +57,24 @@ wait "$process" || result=$?
 grep -qF "interrupted" "$scratch/err" || fail "the host does not say that it was interrupted"
 none_is_left "interrupted"
 
+# A host that ends the import since it can't load an object. What comes after that one is on the pipe by then.
+cat >"$recorder" <<END
+#!/bin/sh
+tee "$scratch/command" | "$translator"
+END
+"$host" --quiet --translator "$recorder" "$vise" >"$scratch/out"
+cat >"$recorder" <<END
+#!/bin/bash
+"$translator" <"$scratch/command" >"$scratch/frames"
+$(declare -f buffers_told_of)
+scratch=$scratch
+rm "/dev/shm/\$(buffers_told_of | head -n 1)"
+cat "$scratch/frames"
+cat >/dev/null # the host's commands
+END
+expect 4 "What the translator sent can not be loaded" "$host" --translator "$recorder" "$vise"
+none_is_left "after an object that can not be loaded"
+
 # A host that is gone while the translator still sends: the translator removes what it has told of.
 cat >"$recorder" <<END
 #!/bin/sh

@@ -49,12 +49,11 @@ vrx::ExcVisualizationData sceneOf(const std::shared_ptr<vrx::ExcVisuNode>& root)
 
 TEST(Scene, LeavesOutWhatDoesNotFitTogether)
 {
-    const std::int32_t triangle = scene_conventions::kTriangle;
-    const auto root = meshNode({{triangle, {0, 1, 2}},
-                                {triangle, {0, 1, 3}},
-                                {triangle, {0, -1, 2}},
-                                {triangle, {0, 1}},
-                                {triangle + 1, {0, 1, 2}}});
+    const std::int32_t triangles = scene_conventions::kTriangles;
+    const auto root = meshNode({{triangles, {0, 1, 3, 0, 1, 2, 0, -1, 2, 2, 1, 0, 0, 1}},
+                                {triangles, {0, 1}},
+                                {triangles + 1, {0, 1, 2}},
+                                {triangles, {1, 2, 0}}});
     const auto edge = std::make_shared<vrx::ExcVisuEdge>();
     edge->setPoints(std::vector<float>{0, 0, 0, 1, 0, 0});
     edge->setLineIndices(std::vector<std::int32_t>{0, 7});
@@ -62,8 +61,9 @@ TEST(Scene, LeavesOutWhatDoesNotFitTogether)
     root->mesh()->addEdge(edge);
 
     const rapidjson::Document shape = parsed(scene_json::shape(sceneOf(root)));
-    EXPECT_EQ(shape["faces"][0]["triangles"].GetInt(), 1);
-    EXPECT_STREQ(shape["triangles"].GetString(), "AAAAAAEAAAACAAAA"); // 0, 1, 2
+    EXPECT_EQ(shape["faces"][0]["triangles"].GetInt(), 3);
+    // (0, 1, 2), (2, 1, 0), (1, 2, 0)
+    EXPECT_STREQ(shape["triangles"].GetString(), "AAAAAAEAAAACAAAAAgAAAAEAAAAAAAAAAQAAAAIAAAAAAAAA");
     EXPECT_STREQ(shape["segments"].GetString(), "");
 }
 
@@ -95,7 +95,7 @@ TEST(Scene, PlacesAndColoursByTheNodesAbove)
 
 TEST(Scene, FillsALetterWhereItsAnnotationIsPlaced)
 {
-    const auto note = meshNode({{scene_conventions::kTriangle, {0, 1, 2}}});
+    const auto note = meshNode({{scene_conventions::kTriangles, {0, 1, 2}}});
     note->setTransformation(std::make_shared<vrx::ExcTransformation>());
     note->transformation()->translation().set(1, 0, 0);
     note->mesh()->faces().front()->setColor({std::uint16_t{1}, std::uint16_t{2}, std::uint16_t{3}});
@@ -129,7 +129,24 @@ TEST(Scene, ShowsACaptureInsteadOfItsView)
     EXPECT_EQ(views[1]["camera"]["eye"][2].GetDouble(), 1); // before the plane
 }
 
-double triangleNormalDotVertexNormal(const vrx::ExcVisuFace& face, const vrx::ExcVisuFace::Polygon& triangle)
+using Triangle = std::array<std::size_t, 3>;
+
+// Of a face with all its triangles in one polygon.
+std::vector<Triangle> trianglesOf(const vrx::ExcVisuFace& face)
+{
+    EXPECT_EQ(face.polygons().size(), 1U);
+    EXPECT_EQ(face.polygons().at(0).type, scene_conventions::kTriangles);
+    const std::vector<std::int32_t>& corners = face.polygons().at(0).indices;
+    EXPECT_EQ(corners.size() % 3, 0U);
+    std::vector<Triangle> triangles(corners.size() / 3);
+    for (std::size_t i = 0; i < triangles.size() * 3; ++i)
+    {
+        triangles[i / 3][i % 3] = static_cast<std::size_t>(corners[i]);
+    }
+    return triangles;
+}
+
+double triangleNormalDotVertexNormal(const vrx::ExcVisuFace& face, const Triangle& triangle)
 {
     std::array<std::array<double, 3>, 3> points{};
     double product = 0;
@@ -137,8 +154,7 @@ double triangleNormalDotVertexNormal(const vrx::ExcVisuFace& face, const vrx::Ex
     {
         for (std::size_t i = 0; i < 3; ++i)
         {
-            points[corner][i] =
-                static_cast<double>(face.vertices()[static_cast<std::size_t>(triangle.indices[corner]) * 3 + i]);
+            points[corner][i] = static_cast<double>(face.vertices().at(triangle[corner] * 3 + i));
         }
     }
     for (std::size_t i = 0; i < 3; ++i)
@@ -147,7 +163,7 @@ double triangleNormalDotVertexNormal(const vrx::ExcVisuFace& face, const vrx::Ex
         const std::size_t k = (i + 2) % 3;
         const double normal = (points[1][j] - points[0][j]) * (points[2][k] - points[0][k]) -
                               (points[1][k] - points[0][k]) * (points[2][j] - points[0][j]);
-        product += normal * static_cast<double>(face.normals()[static_cast<std::size_t>(triangle.indices[0]) * 3 + i]);
+        product += normal * static_cast<double>(face.normals()[triangle[0] * 3 + i]);
     }
     return product;
 }
@@ -174,12 +190,13 @@ TEST(Scene, EachPartOfTheAssemblyHasFacesThatTheModelCanPointAt)
         {
             EXPECT_EQ(mp::toNarrow(face->id()), "f" + std::to_string(position++));
             ASSERT_EQ(face->normals().size(), face->vertices().size());
+            const std::vector<Triangle> triangles = trianglesOf(*face);
             int turned = 0;
-            for (const vrx::ExcVisuFace::Polygon& triangle : face->polygons())
+            for (const Triangle& triangle : triangles)
             {
                 turned += triangleNormalDotVertexNormal(*face, triangle) < -1e-6 ? 1 : 0;
             }
-            EXPECT_EQ(turned, 0) << "of " << face->polygons().size() << " triangles of "
+            EXPECT_EQ(turned, 0) << "of " << triangles.size() << " triangles of "
                                  << mp::toNarrow(block->name() + WIDE(" ") + face->id());
         }
     }
@@ -230,9 +247,7 @@ TEST(Scene, DrawsANoteOfSeveralSetsWhereItIsMovedTo)
     ASSERT_NE(node.mesh(), nullptr);
     const vrx::ExcVisuFace& face = *node.mesh()->faces().at(0);
     EXPECT_THAT(face.vertices(), inches({4, 2, 3, 5, 2, 3, 4, 2, 4, 5, 2, 4}));
-    ASSERT_EQ(face.polygons().size(), 2U);
-    EXPECT_THAT(face.polygons()[0].indices, testing::ElementsAre(0, 2, 1));
-    EXPECT_THAT(face.polygons()[1].indices, testing::ElementsAre(2, 3, 1));
+    EXPECT_THAT(trianglesOf(face), testing::ElementsAre(Triangle{0, 2, 1}, Triangle{2, 3, 1}));
     EXPECT_THAT(std::vector<float>(face.normals().begin(), face.normals().begin() + 3), testing::ElementsAre(0, 1, 0));
 
     // The file's side of the view is y < 0, that of the note is y > 0.
@@ -253,7 +268,7 @@ TEST(Scene, DrawsCurvesAndFillsAreasButForTheirHoles)
             const vrx::ExcVisuFace& face = *node->mesh()->faces().at(0);
             EXPECT_EQ(face.color()[vrx::ExcColor::ChannelRed], 255);
             double area = 0;
-            for (const vrx::ExcVisuFace::Polygon& triangle : face.polygons())
+            for (const Triangle& triangle : trianglesOf(face))
             {
                 area += std::abs(triangleNormalDotVertexNormal(face, triangle)) / 2;
             }

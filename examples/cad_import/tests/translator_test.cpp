@@ -1,10 +1,18 @@
 #include "common/framing.h"
 #include "host/translator_session.h"
+#include "mp/narrow.h"
+#include "vrx_api/vrx_api_exchange_mechanical.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -68,6 +76,39 @@ TEST(Translator, EndsWhenItsInputIsClosed)
     ChildProcess translator(CAD_TRANSLATOR);
     EXPECT_EQ(answer(translator, WIDE("{\"command\":\"ping\"}")).code(), vrx::Result::ECode::Ok);
     EXPECT_EQ(translator.end(), "it exited with code 0");
+}
+
+class NameKeeper : public ImportListener
+{
+public:
+    void onProgress(const vrx::ExcProgress&) override {}
+    void onMessage(const mp::wstring&) override {}
+    void onLog(const mp::wstring&) override {}
+    void onStage(vrx::ExcStageFinished::EStage) override {}
+    void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
+    {
+        names.push_back(object->objectName());
+        const auto structure = std::dynamic_pointer_cast<vrx::ExcProductStructure>(object);
+        blocks += structure ? structure->blocks().size() : 0;
+    }
+
+    std::vector<mp::wstring> names;
+    std::size_t blocks = 0;
+};
+
+TEST(Translator, HandsOnWhatItSendsBeforeItDies)
+{
+    const std::string program = testing::TempDir() + "dying_translator";
+    std::ofstream(program) << "#!/bin/sh\nexec '" CAD_TRANSLATOR "_dying' exc_block_geometry\n";
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+    const auto options = vrx::Command::newImportOptions();
+    options->setFile(mp::toWide(PIN));
+    NameKeeper keeper;
+    EXPECT_THROW(TranslatorSession(program).import(options, keeper), TranslatorFailure);
+    EXPECT_THAT(keeper.names,
+                testing::ElementsAre(vrx::ExcProductStructure::objName(), vrx::ExcBlockGeometry::objName()));
+    EXPECT_GT(keeper.blocks, 0U);
+    std::filesystem::remove(program);
 }
 
 } // namespace

@@ -48,6 +48,9 @@ void HostChannel::send(const std::shared_ptr<vrx::IExchangeObject>& object)
 {
     vrx::ExchangeObjectWrapper envelope;
     envelope.set(object);
+    // The buffers stay on this machine, and only until the host has loaded them: packing and unpacking them takes
+    // longer than the memory that it saves is worth.
+    envelope.setCompression(vrx::ECompression::None);
     const mp::wstring text = framing::toText(envelope);
     const mp::wstring buffer = shared_buffers::nameIn(text);
     if (!buffer.empty())

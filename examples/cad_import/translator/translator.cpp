@@ -98,7 +98,7 @@ void Translator::answer(const mp::wstring& text)
         m_channel.send(result(vrx::Result::ECode::Ok, ""));
         break;
     case vrx::Command::EType::Import:
-        m_channel.send(import(command));
+        import(command);
         break;
     case vrx::Command::EType::Export:
         m_channel.send(error("This translator does not export."));
@@ -130,36 +130,43 @@ void Translator::sendInfo()
     m_channel.send(info);
 }
 
-vrx::Result Translator::import(const vrx::Command& command)
+void Translator::import(const vrx::Command& command)
 {
     const DelayedTermination termination;
+    std::string failed;
+    m_isAnswered = false;
     try
     {
         // Damaged files do crash the kernel: its signals become exceptions here.
         OCC_CATCH_SIGNALS
-        return translate(command.internalInterface() == vrx::EFerrantInterface::Legacy
-                             ? settingsOf(*command.legacyImportOptions())
-                             : settingsOf(*command.importOptions()));
+        translate(command.internalInterface() == vrx::EFerrantInterface::Legacy
+                      ? settingsOf(*command.legacyImportOptions())
+                      : settingsOf(*command.importOptions()));
     }
     catch (const Standard_Failure& failure)
     {
         // The kernel turns its crashes into such failures too, with nothing cleared up on the way: the answer is the
         // last thing that this process does.
         m_kernelIsIntact = false;
-        return error(std::string("The file is damaged, or too much for the modelling kernel: ") +
-                     failure.GetMessageString());
+        failed =
+            std::string("The file is damaged, or too much for the modelling kernel: ") + failure.GetMessageString();
     }
     catch (const std::bad_alloc&)
     {
-        return error("There is not enough memory for this file.");
+        failed = "There is not enough memory for this file.";
     }
     catch (const std::exception& failure)
     {
-        return error(DelayedTermination::isDue() ? "The translator was told to end." : failure.what());
+        failed = DelayedTermination::isDue() ? "The translator was told to end." : failure.what();
+    }
+    if (!m_isAnswered)
+    {
+        m_channel.send(error(failed));
     }
 }
 
-vrx::Result Translator::translate(const ImportSettings& settings)
+// Answers before it clears the model away, which takes a while.
+void Translator::translate(const ImportSettings& settings)
 {
     ImportProgress progress(m_channel);
     const CadModel model = readModel(settings, m_channel, progress);
@@ -204,7 +211,8 @@ vrx::Result Translator::translate(const ImportSettings& settings)
     sendMechanical(mechanical);
     const VisualizationBuilder scenes(settings, *structure, builder, hidden);
     sendVisualization(scenes, drawn ? scenes.root(*drawn, drawnIds) : nullptr, *structure, progress);
-    return importResult(model);
+    m_channel.send(importResult(model));
+    m_isAnswered = true;
 }
 
 void Translator::sendBodies(BlockBodies& bodies, const vrx::ExcProductStructure& structure,

@@ -28,8 +28,8 @@ public:
 private:
     void answer(const mp::wstring& text);
     void sendInfo();
-    vrx::Result import(const vrx::Command& command);
-    vrx::Result translate(const ImportSettings& settings);
+    void import(const vrx::Command& command);
+    void translate(const ImportSettings& settings);
     void sendBodies(BlockBodies& bodies, const vrx::ExcProductStructure& structure,
                     const ProductStructureBuilder& builder, ImportProgress& progress);
     void sendMechanical(const MechanicalData& data);
@@ -38,5 +38,6 @@ private:
                            const vrx::ExcProductStructure& structure, ImportProgress& progress);
 
     HostChannel& m_channel;
+    bool m_isAnswered = false; // the running import
     bool m_kernelIsIntact = true;
 };

@@ -99,6 +99,13 @@ std::map<std::uint64_t, std::vector<StatedFigure>> statedOfAssemblies(const vrx:
 
 } // namespace
 
+bool needsFigures(const vrx::ExcBlock& block, const vrx::ExcMechanicalMiscData* data, const ReceivedBodies& bodies,
+                  vrx::ELengthUnitType unit)
+{
+    return statesFigures(block.miscData(), data) ||
+           (data != nullptr && hasDensity(partMaterials(*data, block.id(), bodies, unit)));
+}
+
 MechanicalModel::MechanicalModel(const vrx::ExcProductStructure& structure, const SentMechanicalData& sent,
                                  ReceivedBodies& bodies)
 {

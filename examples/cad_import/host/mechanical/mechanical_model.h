@@ -30,6 +30,11 @@ struct MechanicalPart
 /// The mechanical data that a translator sends, by block.
 using SentMechanicalData = std::vector<std::shared_ptr<const vrx::ExcBlockMechanicalData>>;
 
+/// Whether the bodies of a part are to be measured: it states figures, or has a density. The data is null as long as
+/// it has not come.
+bool needsFigures(const vrx::ExcBlock& block, const vrx::ExcMechanicalMiscData* data, const ReceivedBodies& bodies,
+                  vrx::ELengthUnitType unit);
+
 /// The mechanical data of a product, by the rules of `mechanical_conventions`. What does not fit together is left out.
 struct MechanicalModel
 {

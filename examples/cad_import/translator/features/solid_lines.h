@@ -1,10 +1,12 @@
 #pragma once
 
+#include <BRepTopAdaptor_FClass2d.hxx>
 #include <Bnd_Box.hxx>
 #include <IntCurvesFace_Intersector.hxx>
 #include <TopoDS_Face.hxx>
 #include <TopoDS_Shape.hxx>
 #include <gp_Ax1.hxx>
+#include <gp_Lin.hxx>
 
 #include <memory>
 #include <vector>
@@ -33,8 +35,12 @@ private:
     {
         TopoDS_Face face;
         Bnd_Box box;
-        std::unique_ptr<IntCurvesFace_Intersector> intersector; // made when needed
+        // One of these is made when it is needed.
+        std::unique_ptr<IntCurvesFace_Intersector> intersector;
+        std::unique_ptr<BRepTopAdaptor_FClass2d> outline; // of a plane
     };
+
+    static std::vector<double> placesOn(Face& face, const gp_Lin& line, double from, double to);
 
     mutable std::vector<Face> m_faces;
 };

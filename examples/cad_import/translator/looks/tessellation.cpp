@@ -104,16 +104,18 @@ std::vector<float> normalsOf(const TopoDS_Face& face, const Poly_Triangulation& 
     return numbers;
 }
 
-std::vector<vrx::ExcVisuFace::Polygon> trianglesOf(const Poly_Triangulation& triangulation, bool reversed)
+vrx::ExcVisuFace::Polygon trianglesOf(const Poly_Triangulation& triangulation, bool reversed)
 {
-    std::vector<vrx::ExcVisuFace::Polygon> polygons;
-    polygons.reserve(static_cast<std::size_t>(triangulation.NbTriangles()));
+    vrx::ExcVisuFace::Polygon triangles{scene_conventions::kTriangles, {}};
+    triangles.indices.reserve(static_cast<std::size_t>(triangulation.NbTriangles()) * 3);
     for (int i = 1; i <= triangulation.NbTriangles(); ++i)
     {
-        const std::array<int, 3> nodes = nodesOf(triangulation, i, reversed);
-        polygons.push_back({scene_conventions::kTriangle, {nodes[0] - 1, nodes[1] - 1, nodes[2] - 1}});
+        for (const int node : nodesOf(triangulation, i, reversed))
+        {
+            triangles.indices.push_back(node - 1);
+        }
     }
-    return polygons;
+    return triangles;
 }
 
 // Where a face meets itself, as along a cylinder, the kernel has an edge that nobody else takes for one.
@@ -197,7 +199,7 @@ std::shared_ptr<vrx::ExcVisuFace> face(const TopoDS_Face& face)
     auto result = std::make_shared<vrx::ExcVisuFace>();
     result->setVertices(std::move(vertices));
     result->setNormals(normalsOf(face, *triangulation, location));
-    result->setPolygons(trianglesOf(*triangulation, face.Orientation() == TopAbs_REVERSED));
+    result->setPolygons({trianglesOf(*triangulation, face.Orientation() == TopAbs_REVERSED)});
     return result;
 }
 

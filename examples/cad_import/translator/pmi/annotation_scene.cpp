@@ -69,20 +69,19 @@ std::shared_ptr<vrx::ExcVisuMesh> meshOf(const DrawnAnnotation& annotation)
         append(vertices, vertex.XYZ());
         append(normals, normal);
     }
-    std::vector<vrx::ExcVisuFace::Polygon> triangles;
-    for (const auto& corners : annotation.drawing.triangles)
+    vrx::ExcVisuFace::Polygon triangles{scene_conventions::kTriangles, {}};
+    for (std::array<std::size_t, 3> corners : annotation.drawing.triangles)
     {
-        std::vector<std::int32_t> indices(corners.begin(), corners.end());
         if (normalOf(annotation.drawing, corners).Dot(normal) < 0)
         {
-            std::swap(indices[1], indices[2]);
+            std::swap(corners[1], corners[2]);
         }
-        triangles.push_back({scene_conventions::kTriangle, std::move(indices)});
+        triangles.indices.insert(triangles.indices.end(), corners.begin(), corners.end());
     }
     const auto face = std::make_shared<vrx::ExcVisuFace>();
     face->setVertices(std::move(vertices));
     face->setNormals(std::move(normals));
-    face->setPolygons(std::move(triangles));
+    face->setPolygons({std::move(triangles)});
     face->setColor(annotation.color);
     auto mesh = std::make_shared<vrx::ExcVisuMesh>();
     mesh->addFace(face);

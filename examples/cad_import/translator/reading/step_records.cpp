@@ -4,11 +4,14 @@
 
 #include <Interface_Check.hxx>
 #include <Interface_FileParameter.hxx>
+#include <Interface_GeneralLib.hxx>
 #include <Interface_ReaderLib.hxx>
 #include <StepAP214.hxx>
 #include <StepAP214_Protocol.hxx>
+#include <StepData_GeneralModule.hxx>
 #include <StepData_Protocol.hxx>
 #include <StepData_ReadWriteModule.hxx>
+#include <StepData_UndefinedEntity.hxx>
 
 #include <algorithm>
 #include <cctype>
@@ -20,6 +23,7 @@ namespace
 {
 
 const int kUnknown = 0; // the number of an entity that a module does not know
+const int kKept = 1;    // that of one that is only kept here
 const int kDeepest = 8; // lists within lists: more than any schema has
 
 // Geometry, and how it is styled.
@@ -75,6 +79,15 @@ bool isLeftToKernel(const StepData_StepReaderData& data, int number)
     const TCollection_AsciiString& first = data.RecordType(number);
     return isLeftToKernel(first) ||
            (data.IsComplex(number) && (first == "BOUNDED_CURVE" || first == "BOUNDED_SURFACE"));
+}
+
+// What filled areas are drawn of. The kernel has no class for it, and would keep its lists as texts in a form that
+// takes time by the square of their length.
+bool isKeptHereOnly(const StepData_StepReaderData& data, int number)
+{
+    const TCollection_AsciiString& type = data.RecordType(number);
+    return !data.IsComplex(number) &&
+           (type == "COMPLEX_TRIANGULATED_SURFACE_SET" || type == "TRIANGULATED_SURFACE_SET");
 }
 
 bool isNumeric(const StepData_StepReaderData& data, int number)
@@ -168,6 +181,39 @@ StepParameter listOf(const StepData_StepReaderData& data, int number, int depth)
     return result;
 }
 
+// Stands in the kernel's model for a record that is only kept here.
+class KeptEntity : public StepData_UndefinedEntity
+{
+    DEFINE_STANDARD_RTTI_INLINE(KeptEntity, StepData_UndefinedEntity)
+};
+
+class KeptEntities : public StepData_GeneralModule
+{
+public:
+    Standard_Boolean NewVoid(int /*number*/, Handle(Standard_Transient) & entity) const override
+    {
+        entity = new KeptEntity;
+        return true;
+    }
+    void FillSharedCase(int /*number*/, const Handle(Standard_Transient) & /*entity*/,
+                        Interface_EntityIterator& /*shared*/) const override
+    {
+    }
+    void CheckCase(int /*number*/, const Handle(Standard_Transient) & /*entity*/, const Interface_ShareTool& /*shares*/,
+                   Handle(Interface_Check) &
+                   /*check*/) const override
+    {
+    }
+    void CopyCase(int /*number*/, const Handle(Standard_Transient) & /*from*/,
+                  const Handle(Standard_Transient) &
+                  /*to*/,
+                  Interface_CopyTool& /*tool*/) const override
+    {
+    }
+
+    DEFINE_STANDARD_RTTI_INLINE(KeptEntities, StepData_GeneralModule)
+};
+
 // Keeps records while they are recognised, which is once for each, and before the kernel reads any of them.
 class Recognition : public StepData_ReadWriteModule
 {
@@ -178,14 +224,16 @@ public:
     {
         if (records != nullptr)
         {
-            records->add(*Handle(StepData_StepReaderData)::DownCast(data), number);
+            const auto all = Handle(StepData_StepReaderData)::DownCast(data);
+            records->add(*all, number);
+            return isKeptHereOnly(*all, number) ? kKept : kUnknown;
         }
         return kUnknown;
     }
 
     int CaseStep(const TCollection_AsciiString& /*type*/) const override { return kUnknown; }
 
-    // Nothing is read or written by this module: the kernel's own ones come after it.
+    // Nothing else is read or written by this module: the kernel's own ones come after it.
     void ReadStep(int /*number*/, const Handle(StepData_StepReaderData) & /*data*/, int /*record*/,
                   Handle(Interface_Check) & /*check*/, const Handle(Standard_Transient) &
                   /*entity*/) const override
@@ -210,7 +258,10 @@ public:
     int NbResources() const override { return 1; }
     Handle(Interface_Protocol) Resource(int /*number*/) const override { return StepAP214::Protocol(); }
     Standard_CString SchemaName() const override { return StepAP214::Protocol()->SchemaName(); }
-    int TypeNumber(const Handle(Standard_Type) & /*type*/) const override { return kUnknown; }
+    int TypeNumber(const Handle(Standard_Type) & type) const override
+    {
+        return type == STANDARD_TYPE(KeptEntity) ? kKept : kUnknown;
+    }
 
     DEFINE_STANDARD_RTTI_INLINE(Protocol, StepData_Protocol)
 };
@@ -220,7 +271,11 @@ struct Keeping
     Handle(Protocol) protocol = new Protocol;
     Handle(Recognition) recognition = new Recognition;
 
-    Keeping() { Interface_ReaderLib::SetGlobal(recognition, protocol); }
+    Keeping()
+    {
+        Interface_ReaderLib::SetGlobal(recognition, protocol);
+        Interface_GeneralLib::SetGlobal(new KeptEntities, protocol);
+    }
 };
 
 Keeping& keeping()
