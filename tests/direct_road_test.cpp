@@ -6,6 +6,7 @@
 #include "vrx_api/common/misc_data.h"
 #include "vrx_api/common/vector.h"
 #include "vrx_api/exchange/exchange_object.h"
+#include "vrx_api/json/direct.h"
 #include "vrx_api/visualization/visu_mesh.h"
 #include "vrx_api/visualization/visu_node.h"
 
@@ -128,6 +129,23 @@ std::vector<FullRow> rows()
         }
     }
     return rows;
+}
+
+// What never stands in a binary object has no way without a tree, and needs none.
+bool travelsAsText(const IJsonObject& object, const std::string& title)
+{
+    const auto* const exchanged = dynamic_cast<const IExchangeObject*>(&object);
+    const bool isOption = title.find("Option") != std::string::npos;
+    return isOption || (exchanged != nullptr && !exchanged->binary());
+}
+
+TEST_P(DirectRoad, IsThereForWhatIsBinary)
+{
+    const auto object = GetParam().make();
+    const IJsonObject& known = *object;
+    const DirectWay& way = directWay(typeid(known));
+    const bool direct = way.read != nullptr && way.size != nullptr && way.write != nullptr;
+    EXPECT_TRUE(direct || travelsAsText(known, GetParam().title)) << GetParam().title;
 }
 
 std::string nameOf(const testing::TestParamInfo<FullRow>& info)

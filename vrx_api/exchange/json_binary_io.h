@@ -34,7 +34,8 @@ public:
     static void read(const char* data, std::uint64_t size, JsonValue& value, JsonAllocator& allocator);
 
     /// Replaces the bytes by the binary form of an object, as its `writeObject` and the function above make it
-    /// together, but without a tree in between. Throws what `writeObject` throws.
+    /// together, but without a tree in between. The object and all within it must not change meanwhile, not by a
+    /// `writeObject` either. Throws what `writeObject` throws.
     static void write(Bytes& bytes, const IJsonObject& object);
 
     /// Has an object read its binary form, in the same way. The bytes are checked as a whole before the object takes

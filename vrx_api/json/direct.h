@@ -24,8 +24,8 @@ bool enterWriter(const std::type_info& type, void (*size)(const IJsonObject&, Si
                  void (*write)(const IJsonObject&, ByteWriter&));
 
 /// The way of the objects of just this class. A class outside this library has none, even when it is derived from one
-/// that has: it may override the virtual operations.
-const DirectWay& directWay(const std::type_info& type);
+/// that has: it may override the virtual operations. Exported for the tests.
+VRX_API const DirectWay& directWay(const std::type_info& type);
 
 template <class T>
 const DirectWay& directWay(const T& object)
