@@ -8,7 +8,7 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
-#include <boost/interprocess/anonymous_shared_memory.hpp>
+#include <boost/interprocess/file_mapping.hpp>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -96,10 +96,12 @@ void readData(int file, char* out, off_t begin, off_t end)
 }
 
 // A copy of the pages that the object has, between zeros for those that it lacks. Where they are mapped, the first look
-// at a missing page makes it, and kills the process if the file system is full.
+// at a missing page makes it, and kills the process if the file system is full. Private zeros take no memory before
+// they are written.
 Region copyOfPages(int file, off_t size)
 {
-    auto copy = std::make_unique<ipc::mapped_region>(ipc::anonymous_shared_memory(static_cast<std::size_t>(size)));
+    const ipc::file_mapping zeros("/dev/zero", ipc::read_only);
+    auto copy = std::make_unique<ipc::mapped_region>(zeros, ipc::copy_on_write, 0, static_cast<std::size_t>(size));
     off_t hole = 0;
     for (off_t data = lseek(file, 0, SEEK_DATA); data >= 0 && data < size; data = lseek(file, hole, SEEK_DATA))
     {

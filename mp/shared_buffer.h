@@ -23,7 +23,7 @@ template <class T>
 class SharedBuffer;
 
 /// The content of a shared buffer, to be read where it lies. A view is let go before its buffer is written again,
-/// cleared or destroyed.
+/// cleared or destroyed. What another program writes into the buffer meanwhile is seen in the view.
 class VRX_API SharedView
 {
 public:

@@ -18,7 +18,7 @@ namespace
 
 using namespace binary_failure;
 
-// What is left of the innermost open container, passed by value as the encoder's positions are.
+// What is left of the innermost open container, passed by value so that it stays in registers.
 struct Cursor
 {
     const char* next;
@@ -327,15 +327,14 @@ std::istream& JsonBinaryIO::read(std::istream& stream, JsonValue& value, JsonAll
 
 void JsonBinaryIO::read(const char* data, std::uint64_t size, IJsonObject& object)
 {
+    if (reinterpret_cast<std::uintptr_t>(data) % alignof(wchar) != 0) // NOLINT: the address itself is asked for
+    {
+        const Bytes aligned(data, data + size);
+        read(aligned.data(), aligned.size(), object);
+        return;
+    }
     const BinaryValue value = checkBinary(data, size);
-    if (kolt::LoggerHolder::levelEnabled(kolt::kTrace))
-    {
-        readByTree(object, value);
-    }
-    else
-    {
-        readDirectly(object, value);
-    }
+    kolt::LoggerHolder::levelEnabled(kolt::kTrace) ? readByTree(object, value) : readDirectly(object, value);
 }
 
 } // namespace vrx

@@ -121,10 +121,13 @@ void encodeInto(Buffer& bytes, const JsonValue& value)
 
 void SizeWriter::tree(const IJsonObject& object)
 {
-    auto tree = std::make_unique<JsonDocument>();
-    object.writeObject(*tree, tree->GetAllocator());
-    encodeTree(*this, *tree);
-    m_trees.push_back(std::move(tree));
+    if (m_nextTree == m_trees.size())
+    {
+        auto tree = std::make_unique<JsonDocument>();
+        object.writeObject(*tree, tree->GetAllocator());
+        m_trees.push_back(std::move(tree));
+    }
+    encodeTree(*this, *m_trees[m_nextTree++]);
 }
 
 void ByteWriter::tree(const IJsonObject&)
@@ -136,17 +139,23 @@ BinaryForm::BinaryForm(const IJsonObject& object)
     : m_object(object)
     , m_byTree(kolt::LoggerHolder::levelEnabled(kolt::kTrace))
 {
-    SizeWriter out(m_trees);
-    m_byTree ? out.tree(object) : writeDirectly(object, out);
-    m_size = out.size();
+    m_size = walk(SizeWriter(m_trees)).size();
+    // An object that was asked may have changed one that was counted before.
+    m_size = m_trees.empty() ? m_size : walk(SizeWriter(m_trees)).size();
 }
 
 BinaryForm::~BinaryForm() = default;
 
 void BinaryForm::write(char* bytes) const
 {
-    ByteWriter out(bytes, m_trees);
+    walk(ByteWriter(bytes, m_trees));
+}
+
+template <class Out>
+Out BinaryForm::walk(Out out) const
+{
     m_byTree ? out.tree(m_object) : writeDirectly(m_object, out);
+    return out;
 }
 
 void JsonBinaryIO::write(Bytes& bytes, const JsonValue& value)

@@ -24,6 +24,9 @@ public:
     void write(char* bytes) const;
 
 private:
+    template <class Out>
+    Out walk(Out out) const;
+
     const IJsonObject& m_object;
     ObjectTrees m_trees;
     std::size_t m_size = 0;

@@ -101,7 +101,10 @@ void ExchangeObjectWrapper::readObject(wistream& stream)
     {
         return;
     }
-    m_pObject->setSizeLimit(m_sizeLimit);
+    if (m_sizeLimit != Compressor::kNoLimit)
+    {
+        m_pObject->setSizeLimit(m_sizeLimit);
+    }
     const JsonValue* const data = find(document, kData);
     if (data == nullptr)
     {

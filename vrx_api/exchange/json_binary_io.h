@@ -39,7 +39,7 @@ public:
     static void write(Bytes& bytes, const IJsonObject& object);
 
     /// Has an object read its binary form, in the same way. The bytes are checked as a whole before the object takes
-    /// anything. They begin at an even address, as all memory does that is allocated or mapped.
+    /// anything.
     static void read(const char* data, std::uint64_t size, IJsonObject& object);
 };
 

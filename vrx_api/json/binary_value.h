@@ -3,6 +3,7 @@
 #include "vrx_api/json/binary_tag.h"
 #include "vrx_api/json/value_range.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <type_traits>
@@ -25,7 +26,7 @@ public:
     const char* place() const { return m_at; }
     const char* next() const
     {
-        constexpr std::array<std::uint8_t, 11> kSizes{4, 4, 4, 12, 12, 12, 8, 8, 12, 12, 12};
+        static constexpr std::array<std::uint8_t, 11> kSizes{4, 4, 4, 12, 12, 12, 8, 8, 12, 12, 12};
         const BinaryTag own = tag();
         const char* const behind = m_at + kSizes[static_cast<std::size_t>(own)];
         const bool sized = own >= BinaryTag::Object && own <= BinaryTag::String;
@@ -66,22 +67,15 @@ public:
         return {reinterpret_cast<const wchar*>(content()), size()}; // NOLINT
     }
 
-    /// Numbers are expected to be of one size, as in bulk data; all else is counted.
     ValueRange<BinaryValue, const char*> elements() const { return {content(), content() + size()}; }
+
+    /// As many as there are when all are of one size, as in bulk data; but never more than take the room of the bytes.
+    template <class T>
     std::size_t expectedCount() const
     {
-        switch (size() == 0 ? BinaryTag::Null : BinaryValue(content()).tag())
-        {
-        case BinaryTag::Int:
-        case BinaryTag::Uint:
-            return size() / (kTagSize + sizeof(std::uint32_t));
-        case BinaryTag::Int64:
-        case BinaryTag::Uint64:
-        case BinaryTag::Double:
-            return size() / (kTagSize + sizeof(std::uint64_t));
-        default:
-            return elements().count();
-        }
+        const std::size_t all = size();
+        const std::size_t first = all == 0 ? 1 : static_cast<std::size_t>(BinaryValue(content()).next() - content());
+        return all / std::max(first, sizeof(T));
     }
 
     ValueRange<Member, const char*> members() const;

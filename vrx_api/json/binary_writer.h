@@ -17,8 +17,8 @@ namespace vrx
 // once, and then with a ByteWriter, which writes them. Values are stored as the machine holds them, which is
 // little-endian on all platforms.
 
-/// The trees of objects that have no direct way, in the order of the walk: each object is asked once, by the first
-/// walk.
+/// The trees of objects that have no direct way, in the order of the walk. Each object is asked once, by the first
+/// walk; what that changed in other objects is counted again, by another one.
 using ObjectTrees = std::vector<std::unique_ptr<JsonDocument>>;
 
 /// The smallest of the integers' forms that holds the value.
@@ -50,6 +50,7 @@ public:
     {
     };
 
+    /// Takes the trees that are there, in their order, and adds those that are missing.
     explicit SizeWriter(ObjectTrees& trees)
         : m_trees(trees)
     {
@@ -94,6 +95,7 @@ private:
 
     std::size_t m_size = 0;
     ObjectTrees& m_trees;
+    std::size_t m_nextTree = 0;
 };
 
 class ByteWriter

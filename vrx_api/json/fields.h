@@ -297,7 +297,7 @@ class RegularReader
 public:
     static const bool s_entered;
 
-    // A value of another form goes to the operation itself, which knows what to say of it.
+    // The operation itself knows what to say of a value of another form, as null always is.
     static void read(IJsonObject& object, BinaryValue value)
     {
         if (hasForm<kForm>(value))
@@ -306,7 +306,7 @@ public:
         }
         else
         {
-            readByTree(object, value);
+            object.readObject(JsonValue());
         }
     }
 };

@@ -39,7 +39,7 @@ wstring_view textOf(const Value& string)
     return units.substr(0, units.find(wchar{}));
 }
 
-/// Has a tree of the value used, for what is known to be read from trees alone.
+/// Gives the value as a tree to a rule that reads trees only.
 template <class Use>
 void withTree(const TreeValue& value, const Use& use)
 {
@@ -153,7 +153,7 @@ bool decode(const Value& value, std::vector<T>& field)
     {
         return false;
     }
-    field.reserve(field.size() + value.elements().count());
+    field.reserve(field.size() + value.template expectedCount<T>());
     for (const Value element : value.elements())
     {
         T object;

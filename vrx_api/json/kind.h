@@ -8,7 +8,7 @@ namespace vrx
 /// Given in place of a text: nothing is logged.
 constexpr const char* kSilently = nullptr;
 
-/// Passes on whether a class's value is an object; logs that it should be one.
+/// Returns whether a class's value is an object, which is given, and logs when it is not.
 bool expectObject(bool isObject, const char* className);
 
 /// True for an object; otherwise logs that the class's value should be one.

@@ -26,7 +26,7 @@ public:
     {
     }
 
-    /// The value of the first member of this name, which has not been asked for before.
+    /// The value of the first member of this name. A name may be asked for once only.
     std::optional<Value> find(Key key)
     {
         if (m_left.begin() == m_left.end() || !isNamed(*m_left.begin(), key) || (m_passed && m_passed->mayHold(key)))

@@ -107,7 +107,7 @@ bool decode(const Value& value, const Values<KeepsPlaces, Elements>& field)
     }
     if constexpr (KeepsPlaces)
     {
-        field.elements.reserve(field.elements.size() + value.expectedCount());
+        field.elements.reserve(field.elements.size() + value.template expectedCount<typename Elements::value_type>());
     }
     for (const Value json : value.elements())
     {

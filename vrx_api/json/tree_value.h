@@ -47,9 +47,13 @@ public:
     /// All units of a string.
     wstring_view units() const { return {m_json->GetString(), m_json->GetStringLength()}; }
 
-    /// The elements of an array, and how many are expected.
+    /// The elements of an array, and how many are expected where each becomes a T.
     ValueRange<TreeValue, const JsonValue*> elements() const { return {m_json->Begin(), m_json->End()}; }
-    std::size_t expectedCount() const { return m_json->Size(); }
+    template <class T>
+    std::size_t expectedCount() const
+    {
+        return m_json->Size();
+    }
 
     /// The members of an object.
     ValueRange<Member, JsonValue::ConstMemberIterator> members() const;

@@ -30,7 +30,7 @@ bool decode(const Value& value, const IndexPairs<Pairs>& field)
     {
         return false;
     }
-    field.pairs.reserve(field.pairs.size() + value.expectedCount());
+    field.pairs.reserve(field.pairs.size() + value.template expectedCount<typename Pairs::value_type>());
     for (const Value element : value.elements())
     {
         if (!element.isArray() || element.elements().count() < 2)

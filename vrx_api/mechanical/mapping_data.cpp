@@ -15,7 +15,7 @@ static constexpr auto describePair = [](auto& pair, auto& fields) {
 template <class Value>
 static bool decode(const Value& value, std::vector<EntityPair>& field)
 {
-    field.reserve(field.size() + value.elements().count());
+    field.reserve(field.size() + value.template expectedCount<EntityPair>());
     for (const Value element : value.elements())
     {
         EntityPair pair;

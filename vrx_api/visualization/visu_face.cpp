@@ -23,7 +23,7 @@ static bool decode(const Value& value, std::vector<Polygon>& field)
     {
         return false;
     }
-    field.reserve(field.size() + value.elements().count());
+    field.reserve(field.size() + value.template expectedCount<Polygon>());
     for (const Value element : value.elements())
     {
         Polygon polygon;

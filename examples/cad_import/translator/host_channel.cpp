@@ -48,9 +48,8 @@ void HostChannel::send(const std::shared_ptr<vrx::IExchangeObject>& object)
 {
     vrx::ExchangeObjectWrapper envelope;
     envelope.set(object);
-    // The buffers stay on this machine, and only until the host has loaded them: packing and unpacking them takes
-    // longer than the memory that it saves is worth.
-    envelope.setCompression(vrx::ECompression::None);
+    // The buffers live only until the host has loaded them, but a large model must not fill a small shared memory.
+    envelope.setCompression(vrx::ECompression::Fast);
     const mp::wstring text = framing::toText(envelope);
     const mp::wstring buffer = shared_buffers::nameIn(text);
     if (!buffer.empty())
