@@ -1,6 +1,7 @@
 #include "tests/support/corpus.h"
 #include "tests/support/envelope.h"
 #include "tests/support/helpers.h"
+#include "tests/support/json_text.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/shared_memory.h"
 #include "vrx_api/exchange/compressor.h"
@@ -11,6 +12,8 @@
 #include "vrx_api/vrx_api_exchange_object.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 #include "vrx_api/vrx_api_exchange_visualization.h"
+
+#include <gtest/gtest.h>
 
 #include <iterator>
 #include <regex>
@@ -24,6 +27,8 @@ using test::wide;
 
 namespace
 {
+
+const char* const kDefaultProgress = R"({"progress":0,"progress_max":100,"stage":""})";
 
 const ExchangeObjectRegistry& registry()
 {

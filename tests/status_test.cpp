@@ -2,6 +2,7 @@
 #include "tests/support/helpers.h"
 #include "tests/support/log_capture.h"
 #include "tests/support/model_row.h"
+#include "vrx_api/vrx_api_exchange_common.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 
 using namespace vrx;
