@@ -55,14 +55,14 @@ bool decodeRGB(const Value& value, Channels& channels)
 template <class Value>
 bool decode(const Value& value, const Parts<bool, Channels>& parts)
 {
-    const std::optional<Value> rgb = value.isObject() ? findMember(value, kRGB) : std::nullopt;
-    parts.hasRGB = rgb && rgb->isArray();
-    if (parts.hasRGB && !decodeRGB(*rgb, parts.channels))
+    const Value rgb = value.isObject() ? findMember(value, kRGB) : Value(nullptr);
+    parts.hasRGB = rgb.isThere() && rgb.isArray();
+    if (parts.hasRGB && !decodeRGB(rgb, parts.channels))
     {
         return true;
     }
-    const std::optional<Value> alpha = value.isObject() ? findMember(value, kAlpha) : std::nullopt;
-    parts.hasAlpha = alpha && decodeChannel(*alpha, parts.channels[ExcColor::ChannelAlpha]);
+    const Value alpha = value.isObject() ? findMember(value, kAlpha) : Value(nullptr);
+    parts.hasAlpha = alpha.isThere() && decodeChannel(alpha, parts.channels[ExcColor::ChannelAlpha]);
     return true;
 }
 

@@ -13,26 +13,28 @@ namespace vrx
 namespace
 {
 
-constexpr std::uint64_t kMost = std::numeric_limits<std::uint32_t>::max();
+// RapidJSON's most units of a string.
+constexpr std::uint64_t kMostUnits = std::numeric_limits<std::uint32_t>::max();
 
 // Goes over one value and all within it. Positions go by value, so that they stay in registers.
 class Checker
 {
 public:
     Checker(const char* data, std::size_t size)
-        : m_innermost{data + size, 0, false}
+        : m_data(data)
+        , m_end(data + size)
     {
     }
 
-    void check(const char* next)
+    void check()
     {
-        next = checkValue(next);
+        const char* next = checkValue(m_data);
         while (!m_outer.empty())
         {
             // A name stands before a value, even when the object ends behind it.
-            if (next != m_innermost.end || (m_innermost.object && m_innermost.count % 2 != 0))
+            if (next != m_end || m_nameAlone)
             {
-                ++m_innermost.count;
+                m_nameAlone = m_object && !m_nameAlone;
                 next = checkValue(next);
             }
             else
@@ -43,14 +45,7 @@ public:
     }
 
 private:
-    struct Container
-    {
-        const char* end;
-        std::uint64_t count; // children, an object's names among them
-        bool object;
-    };
-
-    std::size_t remaining(const char* next) const { return static_cast<std::size_t>(m_innermost.end - next); }
+    std::size_t remaining(const char* next) const { return static_cast<std::size_t>(m_end - next); }
 
     template <class T>
     T load(const char* next, const char* failure) const
@@ -97,17 +92,12 @@ private:
     {
         load<T>(next, binary_failure::kNoNumber);
         next += sizeof(T);
-        if (m_outer.empty() || m_innermost.object)
-        {
-            return next;
-        }
-        const char* const first = next;
         constexpr std::size_t kStep = kTagSize + sizeof(T);
-        for (std::size_t left = remaining(next) / kStep; left != 0 && isTag(next, tag); --left)
+        const bool inArray = !m_object && !m_outer.empty();
+        for (std::size_t left = inArray ? remaining(next) / kStep : 0; left != 0 && isTag(next, tag); --left)
         {
             next += kStep;
         }
-        m_innermost.count += static_cast<std::size_t>(next - first) / kStep;
         return next;
     }
 
@@ -117,7 +107,7 @@ private:
     {
         const auto count = load<std::uint64_t>(next, binary_failure::kNoNumber);
         next += kSizeSize;
-        if (count > remaining(next) / sizeof(wchar) || count > kMost)
+        if (count > remaining(next) / sizeof(wchar) || count > kMostUnits)
         {
             throw std::length_error(binary_failure::kNoString);
         }
@@ -132,30 +122,36 @@ private:
         {
             throw std::length_error(binary_failure::kNoArray);
         }
-        m_outer.push_back(m_innermost);
-        m_innermost = {next + size, 0, object};
+        // One word a container.
+        m_outer.push_back(static_cast<std::uint64_t>(m_end - m_data) << 2U | (m_object ? 2U : 0U) |
+                          (m_nameAlone ? 1U : 0U));
+        m_end = next + size;
+        m_object = object;
+        m_nameAlone = false;
         return next;
     }
 
     void close()
     {
-        if ((m_innermost.object ? m_innermost.count / 2 : m_innermost.count) > kMost)
-        {
-            throw std::length_error(binary_failure::kTooMany);
-        }
-        m_innermost = m_outer.back();
+        const std::uint64_t container = m_outer.back();
         m_outer.pop_back();
+        m_end = m_data + (container >> 2U);
+        m_object = (container & 2U) != 0;
+        m_nameAlone = (container & 1U) != 0;
     }
 
-    Container m_innermost;
-    std::vector<Container> m_outer;
+    const char* m_data;
+    const char* m_end;
+    bool m_object = false;
+    bool m_nameAlone = false;
+    std::vector<std::uint64_t> m_outer;
 };
 
 } // namespace
 
 BinaryValue checkBinary(const char* data, std::uint64_t size)
 {
-    Checker(data, static_cast<std::size_t>(size)).check(data);
+    Checker(data, static_cast<std::size_t>(size)).check();
     return BinaryValue(data);
 }
 

@@ -15,11 +15,10 @@ constexpr const char* kUnknownType = "Unknown value type";
 constexpr const char* kNoNumber = "Failed to read all the number of bytes";
 constexpr const char* kNoString = "Failed to read all the bytes of string";
 constexpr const char* kNoArray = "Failed to read all the bytes of array";
-constexpr const char* kTooMany = "Too many values in one array or object";
 } // namespace binary_failure
 
-/// The value at the front of the bytes, which is whole, as is all within it. Throws as `JsonBinaryIO::read` does. The
-/// bytes begin at an even address.
+/// The value at the front of the bytes, which is whole, as is all within it. Throws as `JsonBinaryIO::read` does, but
+/// for the most children that a tree can have: nothing is counted here. The bytes begin at an even address.
 BinaryValue checkBinary(const char* data, std::uint64_t size);
 
 } // namespace vrx

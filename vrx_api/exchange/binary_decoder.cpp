@@ -185,7 +185,7 @@ private:
         const std::uint64_t children = container.object ? container.count / 2 : container.count;
         if (children > std::numeric_limits<rapidjson::SizeType>::max())
         {
-            throw std::length_error(kTooMany);
+            throw std::length_error("Too many values in one array or object");
         }
         const auto count = static_cast<rapidjson::SizeType>(children);
         container.object ? m_document->EndObject(count) : m_document->EndArray(count);

@@ -139,9 +139,13 @@ BinaryForm::BinaryForm(const IJsonObject& object)
     : m_object(object)
     , m_byTree(kolt::LoggerHolder::levelEnabled(kolt::kTrace))
 {
-    m_size = walk(SizeWriter(m_trees)).size();
-    // An object that was asked may have changed one that was counted before.
-    m_size = m_trees.empty() ? m_size : walk(SizeWriter(m_trees)).size();
+    // An object that is asked for its tree may change others that were counted before: until nobody was asked.
+    std::size_t asked = 0;
+    do
+    {
+        asked = m_trees.size();
+        m_size = walk(SizeWriter(m_trees)).size();
+    } while (m_trees.size() != asked);
 }
 
 BinaryForm::~BinaryForm() = default;

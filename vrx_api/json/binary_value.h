@@ -23,6 +23,8 @@ public:
     {
     }
 
+    bool isThere() const { return m_at != nullptr; }
+
     const char* place() const { return m_at; }
     const char* next() const
     {

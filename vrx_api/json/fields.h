@@ -92,8 +92,8 @@ private:
     template <class T>
     bool take(Key key, T&& field)
     {
-        const std::optional<Value> value = m_members.find(key);
-        return value && decode(*value, std::forward<T>(field));
+        const Value value = m_members.find(key);
+        return value.isThere() && decode(value, std::forward<T>(field));
     }
 
     const Value m_value;

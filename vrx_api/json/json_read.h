@@ -54,9 +54,9 @@ void withTree(const BinaryValue& value, const Use& use)
     use(document);
 }
 
-/// The value of the first member of this name, if there is one. For several names a MemberFinder is faster.
+/// The value of the first member of this name, or one that is not there. For several names a MemberFinder is faster.
 template <class Value>
-std::optional<Value> findMember(const Value& object, Key key)
+Value findMember(const Value& object, Key key)
 {
     return MemberFinder<Value>(object).find(key);
 }

@@ -21,26 +21,27 @@ class MemberFinder
 public:
     /// A value that is no object has no members.
     explicit MemberFinder(const Value& value)
-        : m_all(value.isObject() ? value.members() : Members())
-        , m_left(m_all)
+        : m_begin(value.isObject() ? value.members().begin() : Place())
+        , m_next(m_begin)
+        , m_end(value.isObject() ? value.members().end() : Place())
     {
     }
 
-    /// The value of the first member of this name. A name may be asked for once only.
-    std::optional<Value> find(Key key)
+    /// The value of the first member of this name, or one that is not there. A name may be asked for once only.
+    Value find(Key key)
     {
-        if (m_left.begin() == m_left.end() || !isNamed(*m_left.begin(), key) || (m_passed && m_passed->mayHold(key)))
+        if (m_next == m_end || !isNamed(*m_next, key) || (m_passed && m_passed->mayHold(key)))
         {
             return findAnywhere(key);
         }
-        const Value value = (*m_left.begin()).value;
-        m_left.dropFirst();
+        const Value value = (*m_next).value;
+        ++m_next;
         return value;
     }
 
 private:
-    using Members = decltype(std::declval<Value>().members());
     using Member = typename Value::Member;
+    using Place = decltype(std::declval<Value>().members().begin());
 
     // What is known of the names of a set of members.
     class Marks
@@ -78,51 +79,48 @@ private:
         return name.size() == key.size && std::memcmp(name.data(), key.text, key.size * sizeof(wchar)) == 0;
     }
 
-    std::optional<Value> findAnywhere(Key key)
+    Value findAnywhere(Key key)
     {
         if (!m_names)
         {
             m_names.emplace();
-            for (const Member member : m_all)
+            for (Place member = m_begin; member != m_end; ++member)
             {
-                m_names->add(member);
+                m_names->add(*member);
             }
         }
-        if (!m_names->mayHold(key))
+        Place member = m_names->mayHold(key) ? m_begin : m_end;
+        while (member != m_end && !isNamed(*member, key))
         {
-            return std::nullopt;
+            ++member;
         }
-        for (auto member = m_all.begin(); member != m_all.end(); ++member)
+        if (member == m_end)
         {
-            if (isNamed(*member, key))
-            {
-                pass(member);
-                return (*member).value;
-            }
+            return Value(nullptr);
         }
-        return std::nullopt;
+        pass(member);
+        return (*member).value;
     }
 
     // The members before one that stands further on are not asked for in their order any more.
-    template <class Place>
     void pass(Place found)
     {
-        Members left = m_left;
         Marks passed = m_passed.value_or(Marks());
-        for (; left.begin() != left.end() && left.begin() != found; left.dropFirst())
+        Place left = m_next;
+        for (; left != m_end && left != found; ++left)
         {
-            passed.add(*left.begin());
+            passed.add(*left);
         }
-        if (left.begin() != left.end())
+        if (left != m_end)
         {
-            left.dropFirst();
-            m_left = left;
+            m_next = ++left;
             m_passed = passed;
         }
     }
 
-    Members m_all;
-    Members m_left;
+    Place m_begin;
+    Place m_next;
+    Place m_end;
     std::optional<Marks> m_names;
     std::optional<Marks> m_passed;
 };

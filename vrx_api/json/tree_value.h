@@ -17,10 +17,13 @@ class TreeValue
 public:
     struct Member;
 
+    /// A value that is not there has no place.
     explicit TreeValue(const JsonValue* json)
         : m_json(json)
     {
     }
+
+    bool isThere() const { return m_json != nullptr; }
 
     const JsonValue& json() const { return *m_json; }
     const JsonValue* next() const { return m_json + 1; }

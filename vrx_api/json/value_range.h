@@ -13,6 +13,7 @@ public:
     class Iterator
     {
     public:
+        Iterator() = default;
         explicit Iterator(Place place)
             : m_place(place)
         {
@@ -28,10 +29,9 @@ public:
         bool operator!=(const Iterator& other) const { return m_place != other.m_place; }
 
     private:
-        Place m_place;
+        Place m_place{};
     };
 
-    ValueRange() = default;
     ValueRange(Place begin, Place end)
         : m_begin(begin)
         , m_end(end)
@@ -51,11 +51,9 @@ public:
         return count;
     }
 
-    void dropFirst() { m_begin = Item(m_begin).next(); }
-
 private:
-    Place m_begin{};
-    Place m_end{};
+    Place m_begin;
+    Place m_end;
 };
 
 } // namespace vrx

@@ -19,11 +19,15 @@ void readEntries(const Value& array, Key dataKey, const Take& take)
 {
     for (const Value element : array.elements())
     {
-        const std::optional<Value> handleValue = element.isObject() ? findMember(element, kHandleKey) : std::nullopt;
-        const std::optional<Value> dataValue = element.isObject() ? findMember(element, dataKey) : std::nullopt;
+        if (!element.isObject())
+        {
+            continue;
+        }
+        const Value handleValue = findMember(element, kHandleKey);
+        const Value dataValue = findMember(element, dataKey);
         std::uint64_t handle = 0;
         T data;
-        if (handleValue && dataValue && decode(*handleValue, handle) && decode(*dataValue, data))
+        if (handleValue.isThere() && dataValue.isThere() && decode(handleValue, handle) && decode(dataValue, data))
         {
             take(handle, data);
         }

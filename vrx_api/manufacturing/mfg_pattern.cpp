@@ -56,13 +56,13 @@ static std::shared_ptr<ExcMfgPattern> readByType(const Value& value)
     {
         return nullptr;
     }
-    const std::optional<Value> type = findMember(value, kType);
-    if (!type || !type->isString())
+    const Value type = findMember(value, kType);
+    if (!type.isThere() || !type.isString())
     {
         kolt::log(kolt::kError, "ExcMfgPattern should have a type.");
         return nullptr;
     }
-    switch (enumValue<EType>(textOf(*type)))
+    switch (enumValue<EType>(textOf(type)))
     {
     case EType::Rectangular:
         return readNew<ExcMfgPatternRectangular>(value);

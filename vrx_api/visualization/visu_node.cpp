@@ -82,7 +82,7 @@ struct VisuTree
             }
             if (node.m_childNodes.size() != firstRead)
             {
-                const auto children = findMember(value, kChildNodes)->elements();
+                const auto children = findMember(value, kChildNodes).elements();
                 open.push_back({&node.m_childNodes[firstRead], children.begin(), children.end()});
             }
         };
