@@ -52,7 +52,7 @@ std::string modelLike(std::size_t size)
     for (unsigned number = 0; data.size() < size; ++number)
     {
         data += "\x04guid" + std::to_string(1000 + number) + "\x05point";
-        for (const unsigned factor : {7U, 77U, 7919U})
+        for (const std::uint64_t factor : {7U, 77U, 7919U})
         {
             data += test::littleEndian(number * factor);
         }
@@ -217,7 +217,8 @@ TEST(Compressor, TakesAnUnusualStreamAsZlibDoes)
     };
     for (const auto& [what, header] : headers)
     {
-        expectAsZlib(test::bytes(header) + raw + trailer, what);
+        std::string stream = test::bytes(header);
+        expectAsZlib(stream.append(raw).append(trailer), what);
     }
 }
 

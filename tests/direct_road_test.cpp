@@ -47,7 +47,7 @@ protected:
     static std::string fullForm() { return formOf(GetParam().in); }
 
     // False after the first difference, so that one fault does not fill the screen.
-    bool compare(const std::string& form) const
+    static bool compare(const std::string& form)
     {
         const auto byTree = accountOf(kTreeRoad, *GetParam().make(), form);
         const auto direct = accountOf(kDirectRoad, *GetParam().make(), form);
@@ -235,7 +235,7 @@ public:
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override
     {
         value.SetObject();
-        const auto add = [&](JsonValue::StringRefType name, const IJsonObject& object) {
+        const auto add = [&](const JsonValue::StringRefType& name, const IJsonObject& object) {
             JsonValue member;
             object.writeObject(member, allocator);
             value.AddMember(name, member, allocator);
@@ -265,7 +265,7 @@ std::shared_ptr<ExcVisuNode> nodeWith(const std::shared_ptr<ExcVisuFace>& face)
     mesh->addFaces({std::make_shared<ExcVisuFace>(), face, std::make_shared<ExcVisuFace>()});
     const auto node = std::make_shared<ExcVisuNode>();
     node->setMesh(mesh);
-    const auto root = std::make_shared<ExcVisuNode>();
+    auto root = std::make_shared<ExcVisuNode>();
     root->setChildNodes({std::make_shared<ExcVisuNode>(), node});
     return root;
 }

@@ -20,30 +20,38 @@ struct BinaryRoad
     std::string (*write)(const vrx::IJsonObject& object);
 };
 
-/// By a tree, which the object's virtual operations read and write.
-inline const BinaryRoad kTreeRoad = {
-    [](vrx::IJsonObject& object, const char* form, std::size_t size) {
-        vrx::JsonDocument document;
-        vrx::JsonBinaryIO::read(form, size, document, document.GetAllocator());
-        object.readObject(document);
-    },
-    [](const vrx::IJsonObject& object) {
-        vrx::JsonDocument document;
-        object.writeObject(document, document.GetAllocator());
-        std::vector<char> form;
-        vrx::JsonBinaryIO::write(form, document);
-        return std::string(form.data(), form.size());
-    },
-};
+inline void readByTree(vrx::IJsonObject& object, const char* form, std::size_t size)
+{
+    vrx::JsonDocument document;
+    vrx::JsonBinaryIO::read(form, size, document, document.GetAllocator());
+    object.readObject(document);
+}
 
-inline const BinaryRoad kDirectRoad = {
-    [](vrx::IJsonObject& object, const char* form, std::size_t size) { vrx::JsonBinaryIO::read(form, size, object); },
-    [](const vrx::IJsonObject& object) {
-        vrx::Bytes form;
-        vrx::JsonBinaryIO::write(form, object);
-        return std::string(form.data(), form.size());
-    },
-};
+inline std::string writeByTree(const vrx::IJsonObject& object)
+{
+    vrx::JsonDocument document;
+    object.writeObject(document, document.GetAllocator());
+    std::vector<char> form;
+    vrx::JsonBinaryIO::write(form, document);
+    return {form.data(), form.size()};
+}
+
+inline void readDirectly(vrx::IJsonObject& object, const char* form, std::size_t size)
+{
+    vrx::JsonBinaryIO::read(form, size, object);
+}
+
+inline std::string writeDirectly(const vrx::IJsonObject& object)
+{
+    vrx::Bytes form;
+    vrx::JsonBinaryIO::write(form, object);
+    return {form.data(), form.size()};
+}
+
+/// By a tree, which the object's virtual operations read and write.
+inline constexpr BinaryRoad kTreeRoad{readByTree, writeByTree};
+
+inline constexpr BinaryRoad kDirectRoad{readDirectly, writeDirectly};
 
 /// The type and the text of the error that an operation throws; empty for none.
 template <class Operation>

@@ -160,7 +160,7 @@ private:
     Mark begin(BinaryTag tag)
     {
         put(tag);
-        const Mark begin = m_at;
+        char* const begin = m_at;
         m_at += kSizeSize;
         return begin;
     }

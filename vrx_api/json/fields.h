@@ -237,18 +237,18 @@ enum class Form
     Any,
 };
 
-template <Form kForm, class Value>
+template <Form Kind, class Value>
 bool hasForm(const Value& value)
 {
-    return kForm == Form::Any || (kForm == Form::Object ? value.isObject() : value.isArray());
+    return Kind == Form::Any || (Kind == Form::Object ? value.isObject() : value.isArray());
 }
 
 /// Writes what is described.
-template <Form kForm, class T, class Out>
+template <Form Kind, class T, class Out>
 void writeDescribed(const T& object, Out& out)
 {
     FieldWriter<Out> fields(out);
-    if constexpr (kForm == Form::Object)
+    if constexpr (Kind == Form::Object)
     {
         const auto begin = out.beginObject();
         Described<T>::walk(object, fields);
@@ -291,7 +291,7 @@ void addMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
 }
 
 /// Enters a class whose `readObject` is a regular one among those that need no tree.
-template <class T, Form kForm>
+template <class T, Form Kind>
 class RegularReader
 {
 public:
@@ -300,7 +300,7 @@ public:
     // The operation itself knows what to say of a value of another form, as null always is.
     static void read(IJsonObject& object, BinaryValue value)
     {
-        if (hasForm<kForm>(value))
+        if (hasForm<Kind>(value))
         {
             readDescribed(static_cast<T&>(object), value);
         }
@@ -311,11 +311,11 @@ public:
     }
 };
 
-template <class T, Form kForm>
-const bool RegularReader<T, kForm>::s_entered = enterReader(typeid(T), &RegularReader::read);
+template <class T, Form Kind>
+const bool RegularReader<T, Kind>::s_entered = enterReader(typeid(T), &RegularReader::read);
 
 /// The same of a regular `writeObject`.
-template <class T, Form kForm>
+template <class T, Form Kind>
 class RegularWriter
 {
 public:
@@ -324,29 +324,29 @@ public:
     template <class Out>
     static void write(const IJsonObject& object, Out& out)
     {
-        writeDescribed<kForm>(static_cast<const T&>(object), out);
+        writeDescribed<Kind>(static_cast<const T&>(object), out);
     }
 };
 
-template <class T, Form kForm>
-const bool RegularWriter<T, kForm>::s_entered = enterWriter(typeid(T), &RegularWriter::template write<SizeWriter>,
-                                                            &RegularWriter::template write<ByteWriter>);
+template <class T, Form Kind>
+const bool RegularWriter<T, Kind>::s_entered = enterWriter(typeid(T), &RegularWriter::template write<SizeWriter>,
+                                                           &RegularWriter::template write<ByteWriter>);
 
 /// Enters a class that inherits the regular operations of its base, by the line `template struct Inherits<...>;`.
-template <class T, class Base, Form kForm = Form::Object>
+template <class T, class Base, Form Kind = Form::Object>
 struct Inherits
 {
     static const bool s_reader;
     static const bool s_writer;
 };
 
-template <class T, class Base, Form kForm>
-const bool Inherits<T, Base, kForm>::s_reader = enterReader(typeid(T), &RegularReader<Base, kForm>::read);
+template <class T, class Base, Form Kind>
+const bool Inherits<T, Base, Kind>::s_reader = enterReader(typeid(T), &RegularReader<Base, Kind>::read);
 
-template <class T, class Base, Form kForm>
-const bool Inherits<T, Base, kForm>::s_writer = enterWriter(typeid(T),
-                                                            &RegularWriter<Base, kForm>::template write<SizeWriter>,
-                                                            &RegularWriter<Base, kForm>::template write<ByteWriter>);
+template <class T, class Base, Form Kind>
+const bool Inherits<T, Base, Kind>::s_writer = enterWriter(typeid(T),
+                                                           &RegularWriter<Base, Kind>::template write<SizeWriter>,
+                                                           &RegularWriter<Base, Kind>::template write<ByteWriter>);
 
 /// The regular `readObject` of an object: the trace line, the kind test with its message, the fields. The class has no
 /// other statement there.

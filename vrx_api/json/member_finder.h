@@ -62,8 +62,9 @@ private:
 
         static std::size_t markOf(wstring_view name)
         {
+            const auto unitOf = [name](std::size_t at) { return std::size_t{name[at]}; };
             const std::size_t size = name.size();
-            return size == 0 ? 0 : (size + 3U * name.front() + 5U * name.back() + 7U * name[size / 2]) % kCount;
+            return size == 0 ? 0 : (size + 3 * unitOf(0) + 5 * unitOf(size - 1) + 7 * unitOf(size / 2)) % kCount;
         }
 
         std::bitset<kCount> m_marks;
