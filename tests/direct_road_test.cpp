@@ -67,7 +67,7 @@ TEST_P(DirectRoad, TakesTheFullText)
 
 // A row is tried with as many forms as make about so many bytes, in even steps through all that there are: the large
 // rows are made of classes that have rows of their own.
-constexpr std::size_t kBytesOfARow = 250000;
+constexpr std::size_t kBytesOfARow = 100000;
 
 std::size_t stepThrough(std::size_t forms, const std::string& form)
 {
