@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <optional>
 #include <type_traits>
 #include <utility>
 #include <vector>

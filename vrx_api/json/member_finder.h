@@ -90,33 +90,32 @@ private:
                 m_names->add(*member);
             }
         }
-        Place member = m_names->mayHold(key) ? m_begin : m_end;
-        while (member != m_end && !isNamed(*member, key))
-        {
-            ++member;
-        }
-        if (member == m_end)
+        if (!m_names->mayHold(key))
         {
             return Value(nullptr);
         }
-        pass(member);
-        return (*member).value;
-    }
-
-    // The members before one that stands further on are not asked for in their order any more.
-    void pass(Place found)
-    {
+        // Members that are passed on the way to one further on are not next any more.
         Marks passed = m_passed.value_or(Marks());
-        Place left = m_next;
-        for (; left != m_end && left != found; ++left)
+        bool isFurther = false;
+        for (Place member = m_begin; member != m_end; ++member)
         {
-            passed.add(*left);
+            isFurther = isFurther || member == m_next;
+            if (isNamed(*member, key))
+            {
+                const Value value = (*member).value;
+                if (isFurther)
+                {
+                    m_next = ++member;
+                    m_passed = passed;
+                }
+                return value;
+            }
+            if (isFurther)
+            {
+                passed.add(*member);
+            }
         }
-        if (left != m_end)
-        {
-            m_next = ++left;
-            m_passed = passed;
-        }
+        return Value(nullptr);
     }
 
     Place m_begin;

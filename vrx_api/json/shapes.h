@@ -168,6 +168,44 @@ void encode(Out& out, const Record<T, Describe>& field)
     out.endObject(begin);
 }
 
+/// An array of objects, each of which `enter` takes when it has been read: into an index, for one.
+template <class Elements, class Enter>
+struct Entered
+{
+    Elements& elements;
+    Enter enter;
+};
+
+template <class Elements, class Enter>
+Entered<Elements, Enter> entered(Elements& elements, const Enter& enter)
+{
+    return {elements, enter};
+}
+
+template <class Value, class Elements, class Enter>
+bool decode(const Value& value, const Entered<Elements, Enter>& field)
+{
+    const std::size_t count = field.elements.size();
+    const bool taken = decode(value, field.elements);
+    for (std::size_t i = count; i < field.elements.size(); ++i)
+    {
+        field.enter(field.elements[i]);
+    }
+    return taken;
+}
+
+template <class Out, class Elements, class Enter>
+void encode(Out& out, const Entered<Elements, Enter>& field)
+{
+    encode(out, field.elements);
+}
+
+template <class Elements, class Enter>
+bool isEmpty(const Entered<Elements, Enter>& field)
+{
+    return field.elements.empty();
+}
+
 /// A field in whose place JSON null is written under the condition.
 template <class Field>
 struct OrNull

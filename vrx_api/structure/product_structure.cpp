@@ -3,7 +3,7 @@
 #include "vrx_api/common/unit_tables.h"
 #include "vrx_api/exchange/static_exchange_object.h"
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 #include <algorithm>
 
@@ -13,54 +13,18 @@ namespace vrx
 const wstring ExcProductStructure::s_objectName = WIDE("exc_product_structure");
 static const StaticExchangeObject<ExcProductStructure> s_prototype;
 
-namespace
-{
-
-// Blocks that are entered into the index as they come, under the ids that they have then. The last one of an id wins.
-template <class Blocks, class Index>
-struct Indexed
-{
-    Blocks& blocks;
-    Index& index;
-};
-template <class Blocks, class Index>
-Indexed(Blocks&, Index&) -> Indexed<Blocks, Index>;
-
-template <class Value, class Blocks, class Index>
-bool decode(const Value& value, const Indexed<Blocks, Index>& field)
-{
-    const std::size_t firstRead = field.blocks.size();
-    const bool taken = decode(value, field.blocks);
-    for (std::size_t i = firstRead; i < field.blocks.size(); ++i)
-    {
-        field.index[field.blocks[i]->id()] = field.blocks[i];
-    }
-    return taken;
-}
-
-template <class Out, class Blocks, class Index>
-void encode(Out& out, const Indexed<Blocks, Index>& field)
-{
-    encode(out, field.blocks);
-}
-
-template <class Blocks, class Index>
-bool isEmpty(const Indexed<Blocks, Index>& field)
-{
-    return field.blocks.empty();
-}
-
-} // namespace
-
 template <class Self, class Fields>
 void ExcProductStructure::describe(Self& self, Fields& fields)
 {
+    // Under the ids that they have then; the last one of an id wins.
+    const auto enter = [&self](const auto& block) { self.m_blockIndex[block->id()] = block; };
+
     fields.always(WIDE("product_name"), self.m_productName);
     fields.always(WIDE("product_configuration_name"), self.m_productConfigurationName);
     fields.filled(WIDE("misc_data"), self.m_miscData);
     fields.always(WIDE("units"), self.m_units);
     fields.always(WIDE("world_orientation"), self.m_worldOrientation);
-    fields.filled(WIDE("blocks"), Indexed{self.m_blocks, self.m_blockIndex});
+    fields.filled(WIDE("blocks"), entered(self.m_blocks, enter));
     fields.filled(WIDE("root_block_references"), self.m_rootBlockReferences);
 }
 template struct Described<ExcProductStructure>;
