@@ -17,6 +17,7 @@
 #endif
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <utility>
 
@@ -155,7 +156,25 @@ void withTurnedErrors(Operation operation)
     }
 }
 
+std::string usableName(const wstring& name)
+{
+    if (name.empty())
+    {
+        throw SharedMemoryException(WIDE("Shared variable name mustn't be empty"));
+    }
+    std::string narrowName = toNarrow(name);
+    withTurnedErrors([&] { refusePath(narrowName); });
+    return narrowName;
+}
+
+std::atomic<SharedBufferWatcher> sharedBufferWatcher = nullptr;
+
 } // namespace
+
+void setSharedBufferWatcher(SharedBufferWatcher watcher)
+{
+    sharedBufferWatcher = watcher;
+}
 
 SharedView::SharedView() = default;
 
@@ -197,20 +216,48 @@ SharedBuffer<char>::~SharedBuffer()
 
 void SharedBuffer<char>::open(const wstring& name, bool removeOnClose)
 {
-    if (name.empty())
-    {
-        throw SharedMemoryException(WIDE("Shared variable name mustn't be empty"));
-    }
+    std::string narrowName = usableName(name);
     wstring wideName = name;
-    std::string narrowName = toNarrow(name);
+    if (const SharedBufferWatcher watcher = sharedBufferWatcher)
+    {
+        watcher(name);
+    }
     withTurnedErrors([&] {
-        refusePath(narrowName);
         m_object = std::make_unique<ipc::shared_memory_object>(ipc::open_or_create, narrowName.c_str(), ipc::read_write,
                                                                ownerOnly());
     });
     m_removeOnClose = removeOnClose;
     m_name = std::move(wideName);
     m_narrowName = std::move(narrowName);
+}
+
+bool SharedBuffer<char>::openExisting(const wstring& name)
+{
+    std::string narrowName = usableName(name);
+    wstring wideName = name;
+    auto existing = std::make_unique<ipc::shared_memory_object>();
+    try
+    {
+        *existing = ipc::shared_memory_object(ipc::open_only, narrowName.c_str(), ipc::read_write);
+    }
+    catch (const ipc::interprocess_exception& error)
+    {
+        if (error.get_error_code() == ipc::not_found_error)
+        {
+            return false;
+        }
+        throw SharedMemoryException(toWide(error.what()));
+    }
+    m_object = std::move(existing);
+    m_removeOnClose = false;
+    m_name = std::move(wideName);
+    m_narrowName = std::move(narrowName);
+    return true;
+}
+
+bool SharedBuffer<char>::remove(const wstring& name)
+{
+    return ipc::shared_memory_object::remove(usableName(name).c_str());
 }
 
 void SharedBuffer<char>::write(const char* data, std::uint64_t size)

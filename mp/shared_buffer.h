@@ -59,6 +59,12 @@ public:
     /// Opens the object of this name, which is created empty when it does not exist.
     void open(const wstring& name, bool removeOnClose);
 
+    /// Opens the object of this name only if it exists, and tells whether it does. It is not removed on close.
+    bool openExisting(const wstring& name);
+
+    /// Takes the object of this name out of the system, and tells whether there was one.
+    static bool remove(const wstring& name);
+
     /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.
     void write(const char* data, std::uint64_t size);
 
@@ -87,5 +93,12 @@ private:
     std::string m_narrowName;
     bool m_removeOnClose = false;
 };
+
+/// Hears the name of a shared buffer before `open` opens or makes it, so that someone else can remove the buffer when
+/// this process dies before it has told of it. What it throws passes through `open`.
+using SharedBufferWatcher = void (*)(const wstring& name);
+
+/// There is one watcher in a process, or none: null.
+VRX_API void setSharedBufferWatcher(SharedBufferWatcher watcher);
 
 } // namespace mp

@@ -8,6 +8,7 @@
 #include "vrx_api/exchange/exchange_object_wrapper.h"
 #include "vrx_api/exchange/json_binary_io.h"
 #include "vrx_api/exchange/message_object.h"
+#include "vrx_api/exchange/peek_envelope.h"
 #include "vrx_api/exchange/progress.h"
 #include "vrx_api/exchange/static_exchange_object.h"
 #include "vrx_api/json/described.h"

@@ -4,6 +4,7 @@
 #include "mp/shared_buffer.h"
 #include "vrx_api/exchange/binary_form.h"
 #include "vrx_api/exchange/compressor.h"
+#include "vrx_api/exchange/envelope_keys.h"
 #include "vrx_api/exchange/exchange_object_registry.h"
 #include "vrx_api/exchange/json_binary_io.h"
 #include "vrx_api/json/json_read.h"
@@ -21,10 +22,6 @@ namespace vrx
 
 namespace
 {
-
-constexpr Key kName = WIDE("exchange_object_name");
-constexpr Key kBinary = WIDE("binary");
-constexpr Key kData = WIDE("exchange_object_data");
 
 Bytes compressedForm(const IExchangeObject& object, int level)
 {
@@ -71,15 +68,15 @@ void ExchangeObjectWrapper::writeObject(wostream& stream) const
     }
     JsonDocument document(rapidjson::kObjectType);
     JsonAllocator& allocator = document.GetAllocator();
-    addMember(document, kName, treeOf(m_pObject->objectName(), allocator), allocator);
+    addMember(document, kEnvelopeName, treeOf(m_pObject->objectName(), allocator), allocator);
     if (m_pObject->binary())
     {
-        addMember(document, kBinary, JsonValue(true), allocator);
-        addMember(document, kData, treeOf(share(*m_pObject, m_compression), allocator), allocator);
+        addMember(document, kEnvelopeBinary, JsonValue(true), allocator);
+        addMember(document, kEnvelopeData, treeOf(share(*m_pObject, m_compression), allocator), allocator);
     }
     else
     {
-        addMember(document, kData, treeOf(*m_pObject, allocator), allocator);
+        addMember(document, kEnvelopeData, treeOf(*m_pObject, allocator), allocator);
     }
     JsonTextIO::write(stream, document, true);
 }
@@ -90,7 +87,7 @@ void ExchangeObjectWrapper::readObject(wistream& stream)
     JsonDocument document;
     readMessage(stream, document);
 
-    const JsonValue* const name = find(document, kName);
+    const JsonValue* const name = find(document, kEnvelopeName);
     if (name == nullptr || !name->IsString())
     {
         m_pObject.reset();
@@ -105,13 +102,13 @@ void ExchangeObjectWrapper::readObject(wistream& stream)
     {
         m_pObject->setSizeLimit(m_sizeLimit);
     }
-    const JsonValue* const data = find(document, kData);
+    const JsonValue* const data = find(document, kEnvelopeData);
     if (data == nullptr)
     {
         kolt::log(kolt::kError, "ExchangeObjectWrapper JSON object has no Exchange Object data.");
         return;
     }
-    const JsonValue* const binary = find(document, kBinary);
+    const JsonValue* const binary = find(document, kEnvelopeBinary);
     if (binary == nullptr || !binary->IsTrue())
     {
         m_pObject->readObject(*data);

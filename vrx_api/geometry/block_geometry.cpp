@@ -2,6 +2,7 @@
 
 #include "kolt/log.h"
 #include "mp/exception.h"
+#include "vrx_api/exchange/envelope_keys.h"
 #include "vrx_api/exchange/static_exchange_object.h"
 #include "vrx_api/geometry/acis_call.h"
 #include "vrx_api/geometry/shared_acis_buffer.h"
@@ -16,7 +17,6 @@ const wstring ExcBlockGeometry::s_objectName = WIDE("exc_block_geometry");
 static const StaticExchangeObject<ExcBlockGeometry> s_prototype;
 
 static constexpr Key kBlockId = WIDE("block_id");
-static constexpr Key kBufferName = WIDE("shared_acis_buffer_name");
 static constexpr Key kBodyIds = WIDE("acis_body_ids");
 
 void ExcBlockGeometry::readObject(const JsonValue& value)
@@ -35,7 +35,7 @@ void ExcBlockGeometry::readObject(const JsonValue& value)
     {
         kolt::log(kolt::kError, "ExcBlockGeometry: Failed to read block Id from JSON object.");
     }
-    const JsonValue* const name = find(value, kBufferName);
+    const JsonValue* const name = find(value, kObjectBufferName);
     if (name != nullptr && name->IsString())
     {
         m_source = textOf(*name);
@@ -66,11 +66,11 @@ void ExcBlockGeometry::writeObject(JsonValue& value, JsonAllocator& allocator) c
     addMember(value, kBlockId, treeOf(m_blockId, allocator), allocator);
     if (m_buffer != nullptr)
     {
-        addMember(value, kBufferName, treeOf(m_buffer->name(), allocator), allocator);
+        addMember(value, kObjectBufferName, treeOf(m_buffer->name(), allocator), allocator);
     }
     else
     {
-        addMember(value, kBufferName, JsonValue(), allocator);
+        addMember(value, kObjectBufferName, JsonValue(), allocator);
         kolt::log(kolt::kError, "ExcBlockGeometry: ACIS buffer was not initialized in shared memory.");
     }
     addMember(value, kBodyIds, treeOf(m_bodyIds, allocator), allocator);

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "bridge/bridge_export.h"
+#include "mp/wide.h"
+
+#include <set>
+
+namespace vrx::bridge
+{
+
+/// The shared memory of which one side has told the other, and which nobody has loaded yet. What is still on the list
+/// when it ends is removed from the system.
+class VRX_BRIDGE UndeliveredBuffers
+{
+public:
+    UndeliveredBuffers() = default;
+    UndeliveredBuffers(const UndeliveredBuffers&) = delete;
+    UndeliveredBuffers& operator=(const UndeliveredBuffers&) = delete;
+    ~UndeliveredBuffers();
+
+    /// An empty name is passed over, so that the name in any message's head can be given.
+    void add(const mp::wstring& name);
+
+    /// The buffer is the affair of the one who loaded it.
+    void delivered(const mp::wstring& name);
+
+    /// Removes those that are left from the system. What can't be removed is logged.
+    void removeAll() noexcept;
+
+private:
+    std::set<mp::wstring> m_names;
+};
+
+} // namespace vrx::bridge

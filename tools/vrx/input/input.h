@@ -1,0 +1,62 @@
+#pragma once
+
+#include "mp/wide.h"
+#include "vrx_api/exchange/peek_envelope.h"
+#include "vrx_api/json/json_value.h"
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// What the commands look at: a capture, a message's text, a binary form, a buffer in shared memory, standard input.
+namespace input
+{
+
+/// Who sent a message; nobody is known for one that stands alone.
+enum class ESender
+{
+    Unknown,
+    Host,
+    Translator,
+};
+
+/// What became of the shared memory that a message names.
+enum class EBuffer
+{
+    None,    ///< It names none.
+    Present, ///< The content is here.
+    Missing, ///< There was none of this name.
+    Damaged, ///< The content can't be read; `damage` tells why.
+};
+
+/// One message, or one object without a message around it.
+struct Item
+{
+    std::size_t number = 0; ///< Counts from 1 within the input.
+    ESender sender = ESender::Unknown;
+    std::chrono::microseconds time{0}; ///< Since the start of the recording.
+
+    vrx::MessageHead head;
+    mp::wstring text;          ///< Of a message, as it crossed; empty for an object alone.
+    vrx::JsonDocument message; ///< Of a message; null where its text is no JSON, and for an object alone.
+
+    EBuffer buffer = EBuffer::None;
+    std::string damage;
+    std::vector<char> content;             ///< The bytes of the buffer, or of an object alone, as they were found.
+    bool isCompressed = false;             ///< Whether they are.
+    std::uint64_t plainSize = 0;           ///< The size of the binary form.
+    std::optional<vrx::JsonDocument> form; ///< The tree of a binary form; none for the bodies of a block.
+    bool wasUnloaded = false;              ///< Nobody had loaded the buffer when the recording ended.
+
+    /// The exchange object's own JSON, from the message or from the buffer; null for a message that has none.
+    const vrx::JsonValue* object() const;
+};
+
+/// Gives each item of an input in its order. `what` is a file, the name of a buffer, or "-" for standard input. Throws
+/// tool::InputError for what cannot be read at all. Memory holds one item at a time.
+void readItems(const std::string& what, const std::function<void(const Item&)>& take);
+
+} // namespace input
