@@ -24,7 +24,7 @@ std::uint32_t byteAt(const std::string& bytes, std::size_t place)
 // False at the end of the stream. Memory grows with what really arrives.
 bool FrameReader::fill(std::size_t size, const Wait& wait)
 {
-    std::array<char, 16384> piece;
+    std::array<char, 16384> piece{};
     while (m_bytes.size() < size)
     {
         const std::size_t count = m_stream.readSome(piece.data(), std::min(size - m_bytes.size(), piece.size()), wait);

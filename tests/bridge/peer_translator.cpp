@@ -24,7 +24,7 @@ Result resultOf(Result::ECode code)
 
 std::shared_ptr<ExcProductStructure> structure(const std::string& name)
 {
-    const auto structure = std::make_shared<ExcProductStructure>();
+    auto structure = std::make_shared<ExcProductStructure>();
     structure->setProductName(mp::toWide(name));
     return structure;
 }
