@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <ostream>
 #include <thread>
 
 using testing::HasSubstr;
@@ -18,6 +19,11 @@ struct SessionCase
     const char* told; // behind the translator's name; up to how the process ended, which the systems tell in their ways
     std::size_t made; // at least
 };
+
+void PrintTo(const SessionCase& row, std::ostream* stream)
+{
+    *stream << row.name;
+}
 
 const SessionCase kCases[] = {
     {"WholeImport",
