@@ -26,6 +26,8 @@ struct Command
 };
 
 extern const Command kHelp;
+extern const Command kRecord;
+extern const Command kReplay;
 
 /// In the order of the help.
 const std::vector<const Command*>& allCommands();

@@ -39,7 +39,11 @@ const Command kHelp = {"help", "tells of a command", "usage: vrx help [COMMAND]\
 
 const std::vector<const Command*>& allCommands()
 {
-    static const std::vector<const Command*> commands = {&kHelp};
+    static const std::vector<const Command*> commands = {
+        &kHelp,
+        &kRecord,
+        &kReplay,
+    };
     return commands;
 }
 
