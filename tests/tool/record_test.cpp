@@ -5,6 +5,7 @@
 #include "capture/capture_reader.h"
 #include "mp/narrow.h"
 #include "mp/shared_buffer.h"
+#include "replay/buffer_name.h"
 #include "vrx_api/exchange/exchange_object.h"
 #include "vrx_api/exchange/peek_envelope.h"
 
@@ -161,6 +162,19 @@ std::vector<EFrame> kindsOf(const std::vector<capture::Frame>& frames)
 }
 
 } // namespace
+
+TEST(BufferName, IsReplacedWhereItNamesTheBuffer)
+{
+    const auto replaced = [](const mp::wstring& message) {
+        return mp::toNarrow(replay::withBufferName(message, WIDE("old"), WIDE("new")));
+    };
+    EXPECT_EQ(replaced(WIDE("{\"x\":\"old\",  \"exchange_object_data\" : \"old\", \"y\":\"old\"}")),
+              "{\"x\":\"old\",  \"exchange_object_data\" : \"new\", \"y\":\"old\"}");
+    EXPECT_EQ(
+        replaced(WIDE("{\"exchange_object_data\":{\"a\":\"\\\"old\",\"shared_acis_buffer_name\":\"\\u006fld\"}}")),
+        "{\"exchange_object_data\":{\"a\":\"\\\"old\",\"shared_acis_buffer_name\":\"new\"}}");
+    EXPECT_EQ(replaced(WIDE("{\"exchange_object_data\": \"ol")), "{\"exchange_object_data\": \"ol");
+}
 
 TEST_F(RecordTest, PassesAllOnAndReplaysIt)
 {
