@@ -137,7 +137,7 @@ bool exists(const mp::wstring& name)
 
 mp::wstring madeBuffer(const std::string& content)
 {
-    const mp::wstring name = vrx::IExchangeObject::generateUUID();
+    mp::wstring name = vrx::IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, false);
     buffer.write(content.data(), content.size());

@@ -26,13 +26,16 @@ using std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kLongestPause{20};
 
-const vrx::bridge::Wait untilEnd{std::nullopt, &tool::isToEnd};
+vrx::bridge::Wait untilEnd()
+{
+    return {std::nullopt, &tool::isToEnd};
+}
 
 void sleepUntil(steady_clock::time_point end)
 {
     for (auto now = steady_clock::now(); now < end; now = steady_clock::now())
     {
-        untilEnd.check();
+        untilEnd().check();
         std::this_thread::sleep_for(std::min<steady_clock::duration>(end - now, kLongestPause));
     }
 }
@@ -81,7 +84,7 @@ int Replayer::run()
 // False when a command has no answer.
 bool Replayer::answerAll()
 {
-    while (const std::optional<mp::wstring> message = m_messages.read(untilEnd))
+    while (const std::optional<mp::wstring> message = m_messages.read(untilEnd()))
     {
         const vrx::MessageHead head = vrx::peekEnvelope(*message);
         if (head.kind != vrx::EMessageKind::Command && head.kind != vrx::EMessageKind::Unknown)
@@ -132,7 +135,7 @@ void Replayer::dropObjects()
     vrx::MessageHead head;
     do
     {
-        message = m_messages.read(untilEnd);
+        message = m_messages.read(untilEnd());
         head = message ? vrx::peekEnvelope(*message) : vrx::MessageHead();
         remove(head.bufferName);
     } while (message && head.kind != vrx::EMessageKind::Result);
@@ -159,7 +162,7 @@ void Replayer::play(const Exchange& exchange)
         {
             sleepUntil(begin + (frame.time - exchange.begin));
         }
-        untilEnd.check();
+        untilEnd().check();
         if (buffer && buffer->kind == capture::EFrame::Buffer)
         {
             const mp::wstring name = vrx::IExchangeObject::generateUUID();
