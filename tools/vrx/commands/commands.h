@@ -26,6 +26,7 @@ struct Command
 };
 
 extern const Command kClean;
+extern const Command kDiff;
 extern const Command kHelp;
 extern const Command kList;
 extern const Command kShow;

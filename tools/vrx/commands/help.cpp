@@ -40,10 +40,7 @@ const Command kHelp = {"help", "tells of a command", "usage: vrx help [COMMAND]\
 const std::vector<const Command*>& allCommands()
 {
     static const std::vector<const Command*> commands = {
-        &kClean,
-        &kHelp,
-        &kList,
-        &kShow,
+        &kClean, &kDiff, &kHelp, &kList, &kShow,
     };
     return commands;
 }
