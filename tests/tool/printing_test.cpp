@@ -7,7 +7,7 @@
 #include "tests/support/helpers.h"
 #include "tests/support/json_text.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <limits>
 #include <sstream>
@@ -66,8 +66,7 @@ TEST(JsonPrinter, ShortensWhatIsLongUnlessAllIsWanted)
     {
         objects.PushBack(vrx::JsonValue(i == 15), objects.GetAllocator());
     }
-    const std::string lines = printed(objects, false);
-    EXPECT_EQ(lines.substr(lines.size() - 29), "  false,\n  true,\n  ... 2 more\n]\n");
+    EXPECT_THAT(printed(objects, false), testing::EndsWith("  false,\n  true,\n  ... 2 more\n]\n"));
 }
 
 TEST(JsonPrinter, LetsNothingThroughThatATerminalObeys)
