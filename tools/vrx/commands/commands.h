@@ -29,6 +29,8 @@ extern const Command kClean;
 extern const Command kDiff;
 extern const Command kHelp;
 extern const Command kList;
+extern const Command kRecord;
+extern const Command kReplay;
 extern const Command kShow;
 
 /// In the order of the help.
