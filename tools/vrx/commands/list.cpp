@@ -14,7 +14,7 @@ namespace tool
 namespace
 {
 
-std::string padded(std::string text, std::size_t width, bool toTheRight)
+std::string padded(const std::string& text, std::size_t width, bool toTheRight)
 {
     const std::string blanks(width - std::min(width, text.size()), ' ');
     return toTheRight ? blanks + text : text + blanks;
