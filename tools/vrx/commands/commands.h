@@ -26,6 +26,7 @@ struct Command
 };
 
 extern const Command kHelp;
+extern const Command kShow;
 
 /// In the order of the help.
 const std::vector<const Command*>& allCommands();

@@ -1,0 +1,85 @@
+#include "measures.h"
+
+#include "arguments.h"
+
+#include <cstdlib>
+
+namespace tool
+{
+
+namespace
+{
+
+// The number at the front of a text, and what follows.
+double numberAndUnit(const std::string& text, std::string& unit)
+{
+    char* end = nullptr;
+    const double number = std::strtod(text.c_str(), &end);
+    constexpr double kMost = 1e15;
+    // "nan" and "inf" are numbers for strtod, too.
+    if (text.find_first_of("0123456789") != 0 || !(number >= 0 && number <= kMost))
+    {
+        throw UsageError("no number: " + text);
+    }
+    unit = end;
+    return number;
+}
+
+} // namespace
+
+std::uint64_t sizeOf(const std::string& text)
+{
+    std::string unit;
+    const double number = numberAndUnit(text, unit);
+    const std::string units = "KMGT";
+    const std::size_t place = unit.empty() ? 0 : units.find(unit) + 1;
+    if (unit.size() > 1 || (!unit.empty() && place == 0))
+    {
+        throw UsageError("no size: " + text + "; 1000, 64K, 20M, 4G are some");
+    }
+    constexpr unsigned kBits = 10;
+    constexpr double kMost = 1e19;
+    const double bytes = number * static_cast<double>(std::uint64_t{1} << kBits * place);
+    return static_cast<std::uint64_t>(bytes < kMost ? bytes : kMost);
+}
+
+std::chrono::seconds durationOf(const std::string& text)
+{
+    std::string unit;
+    const double number = numberAndUnit(text, unit);
+    const double seconds = unit == "s" ? 1 : unit == "m" ? 60 : unit == "h" ? 3600 : unit == "d" ? 86400 : 0;
+    if (seconds == 0)
+    {
+        throw UsageError("no time: " + text + "; 90s, 15m, 1h, 2d are some");
+    }
+    constexpr double kMost = 1e12;
+    const double time = number * seconds;
+    return std::chrono::seconds(static_cast<std::chrono::seconds::rep>(time < kMost ? time : kMost));
+}
+
+std::string counted(std::uint64_t number)
+{
+    constexpr std::size_t kGroup = 3;
+    std::string digits = std::to_string(number);
+    for (std::size_t i = digits.size(); i > kGroup; i -= kGroup)
+    {
+        digits.insert(i - kGroup, 1, ',');
+    }
+    return digits;
+}
+
+std::string roughly(std::chrono::seconds time)
+{
+    const auto seconds = time.count();
+    if (seconds < 120)
+    {
+        return std::to_string(seconds) + " s";
+    }
+    if (seconds < 120 * 60)
+    {
+        return std::to_string(seconds / 60) + " min";
+    }
+    return seconds < 48 * 3600 ? std::to_string(seconds / 3600) + " h" : std::to_string(seconds / 86400) + " d";
+}
+
+} // namespace tool
