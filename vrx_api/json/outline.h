@@ -42,9 +42,9 @@ public:
     }
 
     template <class T>
-    void expected(Key key, const char*, const T& field)
+    void expected(Key key, const char* complaint, const T& field)
     {
-        always(key, field);
+        required(key, complaint, field);
     }
 
     template <class T>

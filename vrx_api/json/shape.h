@@ -92,7 +92,7 @@ struct FieldShape
     bool isRead = false;          ///< A reader looks at it.
     bool isWritten = false;       ///< A writer may write it.
     bool isAlwaysWritten = false; ///< A writer does in any case.
-    bool isRequired = false;      ///< A reader refuses an object without it.
+    bool isRequired = false;      ///< A reader refuses an object without it, or complains of it.
 };
 
 /// A class of the library that crosses.

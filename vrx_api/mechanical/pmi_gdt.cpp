@@ -105,7 +105,7 @@ void ExcPMIGDT::DatumRef::writeObject(JsonValue& value, JsonAllocator& allocator
 template <class Self, class Fields>
 void ExcPMIGDT::Frame::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("label"), reference(EIdSpace::Datum, self.m_label));
+    fields.always(WIDE("label"), self.m_label);
     fields.always(WIDE("datum_refs"), self.m_datumRefs);
 }
 template struct Described<ExcPMIGDT::Frame>;
