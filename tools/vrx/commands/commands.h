@@ -25,7 +25,9 @@ struct Command
     int (*run)(Arguments& arguments);
 };
 
+extern const Command kCheck;
 extern const Command kHelp;
+extern const Command kSchema;
 extern const Command kShow;
 
 /// In the order of the help.

@@ -40,7 +40,9 @@ const Command kHelp = {"help", "tells of a command", "usage: vrx help [COMMAND]\
 const std::vector<const Command*>& allCommands()
 {
     static const std::vector<const Command*> commands = {
+        &kCheck,
         &kHelp,
+        &kSchema,
         &kShow,
     };
     return commands;
