@@ -73,9 +73,11 @@ void ExcBlockGeometry::readObject(const JsonValue& value)
     readFields(*this, value, "ExcBlockGeometry");
 }
 
+// Bodies cross as text. Two walks into bytes would log a missing buffer twice.
 void ExcBlockGeometry::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
-    writeFields(*this, value, allocator);
+    kolt::trace();
+    writeMembers(*this, value, allocator);
 }
 
 const wstring& ExcBlockGeometry::objectName() const

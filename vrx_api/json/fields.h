@@ -101,6 +101,8 @@ public:
     {
     }
 
+    bool goesOn(bool condition) const { return condition; }
+
 private:
     /// True when the key is there, with a value of the field's kind. The field is a member of the class, or a rule
     /// around members; a temporary number or object, which would be read in vain, does not compile.
@@ -194,6 +196,8 @@ public:
     void apart(Key, const T&)
     {
     }
+
+    bool goesOn(bool condition) const { return condition; }
 
 private:
     Out& m_out;

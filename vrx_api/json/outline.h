@@ -89,6 +89,8 @@ public:
         filled(key, field);
     }
 
+    bool goesOn(bool) const { return true; }
+
     /// The fields of a base that the class writes and does not read.
     void addUnread(FieldLister&& base);
 
