@@ -2,6 +2,7 @@
 
 #include "arguments.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace tool
@@ -13,15 +14,15 @@ namespace
 // The number at the front of a text, and what follows.
 double numberAndUnit(const std::string& text, std::string& unit)
 {
-    char* end = nullptr;
-    const double number = std::strtod(text.c_str(), &end);
-    constexpr double kMost = 1e15;
-    // "nan" and "inf" are numbers for strtod, too.
-    if (text.find_first_of("0123456789") != 0 || !(number >= 0 && number <= kMost))
+    const std::size_t end = std::min(text.find_first_not_of("0123456789."), text.size());
+    const std::string digits = text.substr(0, end);
+    char* behind = nullptr;
+    const double number = std::strtod(digits.c_str(), &behind);
+    if (digits.empty() || *behind != '\0')
     {
         throw UsageError("no number: " + text);
     }
-    unit = end;
+    unit = text.substr(end);
     return number;
 }
 

@@ -2,6 +2,7 @@
 
 #include "json/member.h"
 
+#include <algorithm>
 #include <array>
 
 namespace input
@@ -33,19 +34,28 @@ constexpr std::array<Guess, 8> kGuesses = {{
     {WIDE("entity_data"), kMechanical, {}},
 }};
 
+template <class HasKey>
+mp::wstring_view guessed(const HasKey& hasKey)
+{
+    const auto found =
+        std::find_if(kGuesses.begin(), kGuesses.end(), [&hasKey](const Guess& guess) { return hasKey(guess.key); });
+    if (found == kGuesses.end())
+    {
+        return {};
+    }
+    return hasKey(WIDE("block_id")) ? found->inBlock : found->alone;
+}
+
 } // namespace
 
 mp::wstring_view guessedClass(const vrx::JsonValue& object)
 {
-    const bool isInBlock = json::member(object, WIDE("block_id")) != nullptr;
-    for (const Guess& guess : kGuesses)
-    {
-        if (json::member(object, guess.key) != nullptr)
-        {
-            return isInBlock ? guess.inBlock : guess.alone;
-        }
-    }
-    return {};
+    return guessed([&object](mp::wstring_view key) { return json::member(object, key) != nullptr; });
+}
+
+mp::wstring_view guessedClass(const std::vector<mp::wstring>& keys)
+{
+    return guessed([&keys](mp::wstring_view key) { return std::find(keys.begin(), keys.end(), key) != keys.end(); });
 }
 
 } // namespace input

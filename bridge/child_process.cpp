@@ -1,0 +1,45 @@
+#include "bridge/child_process.h"
+
+#include <algorithm>
+#include <thread>
+
+namespace vrx::bridge
+{
+
+ChildProcess::~ChildProcess()
+{
+    end(std::chrono::milliseconds(0));
+}
+
+bool ChildProcess::wait(std::chrono::milliseconds limit)
+{
+    using std::chrono::milliseconds;
+    constexpr milliseconds kLongestPause{20};
+    const auto begin = std::chrono::steady_clock::now();
+    milliseconds pause{1};
+    while (!hasEnded())
+    {
+        const auto waited = std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - begin);
+        if (waited >= limit)
+        {
+            return false;
+        }
+        std::this_thread::sleep_for(std::min(pause, limit - waited));
+        pause = std::min(pause * 2, kLongestPause);
+    }
+    return true;
+}
+
+std::string ChildProcess::end(std::chrono::milliseconds grace)
+{
+    m_input.close();
+    m_output.close();
+    if (!wait(grace))
+    {
+        kill();
+        wait(std::chrono::hours(1)); // for the system to clear it away
+    }
+    return endInWords();
+}
+
+} // namespace vrx::bridge

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "bridge/handle.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What the system does for the journals. The environment of a child tells which of its open files are journals, by
+// their handles and by what the system calls the files: a program in between may have closed a file and opened another.
+namespace vrx::bridge
+{
+
+constexpr const char* kJournalsVariable = "VRX_BUFFER_JOURNALS";
+
+/// A new file without a name, or with one that goes with the file; `inherited` is another handle of it, to which
+/// writing only appends.
+Handle makeJournalFile(Handle& inherited);
+
+std::string contentOf(const Handle& file);
+
+/// In one piece, whoever else writes.
+void append(NativeHandle file, std::string_view bytes);
+
+/// What the system calls an open file, in words without spaces; empty if there is no such.
+std::string identityOf(NativeHandle file);
+
+/// The environment's value for a child that gets these journals.
+std::string journalsText(const std::vector<NativeHandle>& journals);
+
+/// Those that this process was started with and that are still open.
+std::vector<NativeHandle> inheritedJournals();
+
+} // namespace vrx::bridge

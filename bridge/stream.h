@@ -1,0 +1,55 @@
+#pragma once
+
+#include "bridge/handle.h"
+#include "bridge/stream_error.h"
+#include "bridge/wait.h"
+
+#include <cstddef>
+
+namespace vrx::bridge
+{
+
+struct Pipe;
+
+/// One end of a pipe, or an open file. Programs that this one starts do not inherit it. All operations throw
+/// StreamError.
+class VRX_BRIDGE Stream
+{
+public:
+    Stream() = default;
+    explicit Stream(Handle handle)
+        : m_handle(std::move(handle))
+    {
+    }
+
+    /// Both ends of a new pipe.
+    static Pipe pipe();
+
+    /// Streams of their own on what this process has as its standard input and output.
+    static Stream standardInput();
+    static Stream standardOutput();
+
+    bool isOpen() const { return m_handle.isOpen(); }
+    void close() noexcept { m_handle.close(); }
+    const Handle& handle() const { return m_handle; }
+
+    /// Waits for the first bytes and reads those that are there; none at the end of the stream. Throws TimedOut and
+    /// Cancelled, too.
+    std::size_t readSome(char* bytes, std::size_t size, const Wait& wait = {}) const;
+
+    /// A partner who is gone is an error, and no signal. Throws TimedOut and Cancelled, too; on Windows the wait is
+    /// looked at only before the bytes are written.
+    void writeAll(const char* bytes, std::size_t size, const Wait& wait = {}) const;
+
+private:
+    Handle m_handle;
+};
+
+/// What is written to the one end is read from the other.
+struct Pipe
+{
+    Stream readEnd;
+    Stream writeEnd;
+};
+
+} // namespace vrx::bridge

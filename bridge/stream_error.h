@@ -1,0 +1,31 @@
+#pragma once
+
+#include "bridge/bridge_export.h"
+
+#include <stdexcept>
+
+namespace vrx::bridge
+{
+
+/// A stream cannot be read or written, or what stands on it is no message.
+class VRX_BRIDGE StreamError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// The deadline of a wait is over.
+class VRX_BRIDGE TimedOut : public StreamError
+{
+public:
+    using StreamError::StreamError;
+};
+
+/// The flag of a wait was set.
+class VRX_BRIDGE Cancelled : public StreamError
+{
+public:
+    using StreamError::StreamError;
+};
+
+} // namespace vrx::bridge

@@ -1,0 +1,124 @@
+#include "bridge/stream.h"
+#include "bridge/windows_handle.h"
+
+#include <algorithm>
+
+namespace vrx::bridge
+{
+
+namespace
+{
+
+constexpr DWORD kPipeSize = 1024 * 1024; // bytes: messages enough for a translator that is much faster than its host
+constexpr DWORD kLongestPause = 15;      // milliseconds
+constexpr std::size_t kPiece = 1U << 20;
+
+[[noreturn]] void fail(const char* what)
+{
+    throw StreamError(lastErrorText(what));
+}
+
+Handle ownCopy(HANDLE handle)
+{
+    HANDLE copy = nullptr;
+    const HANDLE process = GetCurrentProcess();
+    if (DuplicateHandle(process, handle, process, &copy, 0, FALSE, DUPLICATE_SAME_ACCESS) == 0)
+    {
+        fail("cannot open a stream");
+    }
+    return ownHandle(copy);
+}
+
+// Comes back when there is something to read, an error and the end of a pipe included. The system can't wait for an
+// anonymous pipe, so it is looked at again and again, with growing pauses.
+void waitForBytes(HANDLE pipe, const Wait& wait)
+{
+    for (DWORD pause = 0;; pause = std::min(pause + 1, kLongestPause))
+    {
+        wait.check();
+        DWORD available = 0;
+        if (PeekNamedPipe(pipe, nullptr, 0, nullptr, &available, nullptr) == 0 || available > 0)
+        {
+            return;
+        }
+        Sleep(pause);
+    }
+}
+
+bool isEnd(DWORD error)
+{
+    return error == ERROR_BROKEN_PIPE || error == ERROR_HANDLE_EOF || error == ERROR_PIPE_NOT_CONNECTED;
+}
+
+} // namespace
+
+void Handle::close() noexcept
+{
+    if (m_native != kNoHandle)
+    {
+        CloseHandle(windowsHandle(std::exchange(m_native, kNoHandle)));
+    }
+}
+
+Pipe Stream::pipe()
+{
+    HANDLE readEnd = nullptr;
+    HANDLE writeEnd = nullptr;
+    if (CreatePipe(&readEnd, &writeEnd, nullptr, kPipeSize) == 0)
+    {
+        fail("cannot make a pipe");
+    }
+    return {Stream(ownHandle(readEnd)), Stream(ownHandle(writeEnd))};
+}
+
+Stream Stream::standardInput()
+{
+    return Stream(ownCopy(GetStdHandle(STD_INPUT_HANDLE)));
+}
+
+Stream Stream::standardOutput()
+{
+    return Stream(ownCopy(GetStdHandle(STD_OUTPUT_HANDLE)));
+}
+
+std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) const
+{
+    const HANDLE handle = windowsHandle(m_handle);
+    DWORD count = 0;
+    bool goesOn = true;
+    while (goesOn)
+    {
+        if (!wait.isEndless())
+        {
+            waitForBytes(handle, wait);
+        }
+        if (ReadFile(handle, bytes, static_cast<DWORD>(std::min(size, kPiece)), &count, nullptr) == 0)
+        {
+            if (!isEnd(GetLastError()))
+            {
+                fail("cannot read from the pipe");
+            }
+            return 0;
+        }
+        // Nothing was read where the other side wrote nothing, which is no end of a pipe.
+        goesOn = count == 0 && GetFileType(handle) == FILE_TYPE_PIPE;
+    }
+    return count;
+}
+
+void Stream::writeAll(const char* bytes, std::size_t size, const Wait& wait) const
+{
+    while (size > 0)
+    {
+        wait.check();
+        DWORD count = 0;
+        if (WriteFile(windowsHandle(m_handle), bytes, static_cast<DWORD>(std::min(size, kPiece)), &count, nullptr) == 0)
+        {
+            fail("cannot write to the pipe");
+        }
+        bytes += count;
+        size -= count;
+    }
+}
+
+} // namespace vrx::bridge
