@@ -133,6 +133,22 @@ Stream Stream::standardOutput()
     return Stream(ownCopy(STDOUT_FILENO));
 }
 
+Stream Stream::takeStandardOutput()
+{
+    Stream output = standardOutput();
+    if (::dup2(STDERR_FILENO, STDOUT_FILENO) < 0)
+    {
+        fail("cannot take standard output");
+    }
+    return output;
+}
+
+bool Stream::isReady() const
+{
+    pollfd polled = {descriptorOf(m_handle), POLLIN, 0};
+    return ::poll(&polled, 1, 0) > 0;
+}
+
 std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) const
 {
     const int descriptor = descriptorOf(m_handle);
