@@ -1,0 +1,119 @@
+#include "comparison/pairs.h"
+
+#include "json/member.h"
+#include "printing/scalar_text.h"
+
+#include <algorithm>
+#include <map>
+#include <string>
+
+namespace comparison
+{
+
+namespace
+{
+
+// Those of A in their order, and behind them those that only B has.
+std::vector<Pair> membersOf(const vrx::JsonValue& a, const vrx::JsonValue& b)
+{
+    std::vector<Pair> pairs;
+    std::map<mp::wstring_view, std::size_t> places;
+    const auto add = [&](const vrx::JsonValue& object, const vrx::JsonValue* Pair::*side) {
+        for (auto member = object.MemberBegin(); member != object.MemberEnd(); ++member)
+        {
+            // No reader takes a member whose name is no string.
+            if (!member->name.IsString())
+            {
+                continue;
+            }
+            const auto [entry, isNew] = places.emplace(json::textOf(member->name), pairs.size());
+            if (isNew)
+            {
+                pairs.emplace_back();
+                pairs.back().name = entry->first;
+            }
+            const vrx::JsonValue*& value = pairs[entry->second].*side;
+            value = value == nullptr ? &member->value : value;
+        }
+    };
+    add(a, &Pair::a);
+    add(b, &Pair::b);
+    return pairs;
+}
+
+using Ids = std::map<std::string, std::size_t>;
+
+const vrx::JsonValue* idOf(const vrx::JsonValue& element)
+{
+    const vrx::JsonValue* const id = json::member(element, WIDE("id"));
+    return id != nullptr && (id->IsString() || id->IsInt64() || id->IsUint64()) ? id : nullptr;
+}
+
+// The places of the elements by their ids; false when one has none, or two have the same.
+bool readIds(const vrx::JsonValue& array, Ids& ids)
+{
+    return std::all_of(array.Begin(), array.End(), [&ids](const vrx::JsonValue& element) {
+        const vrx::JsonValue* const id = idOf(element);
+        return id != nullptr && ids.emplace(printing::scalarText(*id), ids.size()).second;
+    });
+}
+
+const vrx::JsonValue& at(const vrx::JsonValue& array, std::size_t place)
+{
+    return array[static_cast<rapidjson::SizeType>(place)];
+}
+
+// None when the elements have no ids.
+std::vector<Pair> elementsById(const vrx::JsonValue& a, const vrx::JsonValue& b)
+{
+    Ids inA;
+    Ids inB;
+    if (a.Empty() || b.Empty() || !readIds(a, inA) || !readIds(b, inB))
+    {
+        return {};
+    }
+    std::vector<Pair> pairs;
+    for (const vrx::JsonValue& element : a.GetArray())
+    {
+        const vrx::JsonValue* const id = idOf(element);
+        const auto found = inB.find(printing::scalarText(*id));
+        pairs.push_back({{}, pairs.size(), &element, found == inB.end() ? nullptr : &at(b, found->second), id});
+    }
+    for (std::size_t place = 0; place < b.Size(); ++place)
+    {
+        const vrx::JsonValue* const id = idOf(at(b, place));
+        if (inA.count(printing::scalarText(*id)) == 0)
+        {
+            pairs.push_back({{}, place, nullptr, &at(b, place), id});
+        }
+    }
+    return pairs;
+}
+
+} // namespace
+
+Pairs::Pairs(const vrx::JsonValue& a, const vrx::JsonValue& b)
+    : m_a(&a)
+    , m_b(&b)
+    , m_pairs(a.IsObject() ? membersOf(a, b) : elementsById(a, b))
+    , m_count(a.IsObject() || !m_pairs.empty() ? m_pairs.size() : std::max<std::size_t>(a.Size(), b.Size()))
+{
+}
+
+Pair Pairs::next()
+{
+    const std::size_t place = m_next++;
+    if (!m_pairs.empty())
+    {
+        m_current = m_pairs[place];
+    }
+    else
+    {
+        m_current.place = place;
+        m_current.a = place < m_a->Size() ? &at(*m_a, place) : nullptr;
+        m_current.b = place < m_b->Size() ? &at(*m_b, place) : nullptr;
+    }
+    return m_current;
+}
+
+} // namespace comparison
