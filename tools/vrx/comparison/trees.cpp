@@ -67,8 +67,7 @@ public:
                 continue;
             }
             const Pair pair = level.pairs.next();
-            const bool isLeftOut = m_open.size() == 1 && level.pairs.isObject() && pair.name == m_rules.leftOut;
-            if (!isLeftOut)
+            if (!level.pairs.isObject() || m_rules.ignoredKeys.count(pair.name) == 0)
             {
                 take(pair);
             }
