@@ -50,7 +50,9 @@ constexpr std::array<mp::wstring_view, 3> kIdKeys = {WIDE("id"), WIDE("persisten
 const vrx::JsonValue* idOf(const vrx::JsonValue& element, mp::wstring_view key)
 {
     const vrx::JsonValue* const id = json::member(element, key);
-    return id != nullptr && (id->IsString() || id->IsInt64() || id->IsUint64()) ? id : nullptr;
+    const bool isId =
+        id != nullptr && (id->IsInt64() || id->IsUint64() || (id->IsString() && id->GetStringLength() != 0));
+    return isId ? id : nullptr;
 }
 
 // The places of the elements by their ids; false when one has none, or two have the same.
