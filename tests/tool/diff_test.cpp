@@ -53,6 +53,7 @@ TEST(Diff, PairsMembersByNameAndElementsByIdOrPlace)
     EXPECT_THAT(textDifferences(R"([{"guid":"x","persistent_id":"1","n":1},{"guid":"y","persistent_id":"2","n":1}])",
                                 R"([{"guid":"z","persistent_id":"2","n":1},{"guid":"x","persistent_id":"1","n":1}])"),
                 ElementsAre(R"(|/1/guid "y" "z")"));
+    EXPECT_THAT(textDifferences(R"([{"guid":"x"}])", R"([{"guid":"y"}])"), ElementsAre(R"(|/0/guid "x" "y")"));
     EXPECT_THAT(textDifferences(R"([{"id":1},{"id":1}])", R"([{"id":1},{"id":2}])"), ElementsAre("|/1/id 1 2"));
     EXPECT_THAT(textDifferences("[1]", "{}"), ElementsAre("| [...] {}"));
 }

@@ -65,6 +65,12 @@ bool readIds(const vrx::JsonValue& array, mp::wstring_view key, Ids& ids)
     });
 }
 
+// Ids that are made anew each time have none in common, and pair nothing.
+bool haveCommon(const Ids& inA, const Ids& inB)
+{
+    return std::any_of(inA.begin(), inA.end(), [&inB](const auto& id) { return inB.count(id.first) != 0; });
+}
+
 const vrx::JsonValue& at(const vrx::JsonValue& array, std::size_t place)
 {
     return array[static_cast<rapidjson::SizeType>(place)];
@@ -76,7 +82,7 @@ std::vector<Pair> elementsById(const vrx::JsonValue& a, const vrx::JsonValue& b)
     Ids inA;
     Ids inB;
     const auto key = std::find_if(kIdKeys.begin(), kIdKeys.end(), [&](mp::wstring_view tried) {
-        return !a.Empty() && !b.Empty() && readIds(a, tried, inA) && readIds(b, tried, inB);
+        return readIds(a, tried, inA) && readIds(b, tried, inB) && haveCommon(inA, inB);
     });
     if (key == kIdKeys.end())
     {

@@ -31,7 +31,8 @@ struct Difference
 };
 
 /// Reports where two trees differ. Members are compared by name, the first of a name like readers take it; elements by
-/// id where all of both arrays are objects with an id of their own, and by place otherwise. Keeps its own stack.
+/// id where all of both arrays are objects with an id of their own and some ids are in both, and by place otherwise.
+/// Keeps its own stack.
 void compareTrees(const vrx::JsonValue& a, const vrx::JsonValue& b, const Rules& rules,
                   const std::function<void(const Difference&)>& report);
 
