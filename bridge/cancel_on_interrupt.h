@@ -15,6 +15,9 @@ public:
     CancelOnInterrupt(const CancelOnInterrupt&) = delete;
     CancelOnInterrupt& operator=(const CancelOnInterrupt&) = delete;
     ~CancelOnInterrupt();
+
+    /// Whether an interrupt has come. Stays true once it is.
+    static bool wasInterrupted();
 };
 
 } // namespace vrx::bridge

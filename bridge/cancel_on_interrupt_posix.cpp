@@ -15,10 +15,12 @@ constexpr std::array<int, 3> kInterrupts = {SIGINT, SIGTERM, SIGHUP};
 
 std::array<struct sigaction, kInterrupts.size()> actionsBefore = {};
 std::atomic<HostSession*> cancelledSession = nullptr;
+std::atomic<bool> interrupted = false;
 static_assert(std::atomic<HostSession*>::is_always_lock_free, "a signal handler reads it");
 
 extern "C" void cancelSession(int)
 {
+    interrupted = true;
     if (HostSession* const session = cancelledSession)
     {
         session->cancel();
@@ -47,6 +49,11 @@ CancelOnInterrupt::~CancelOnInterrupt()
         sigaction(kInterrupts[i], &actionsBefore[i], nullptr);
     }
     cancelledSession = nullptr;
+}
+
+bool CancelOnInterrupt::wasInterrupted()
+{
+    return interrupted;
 }
 
 } // namespace vrx::bridge

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <mutex>
 
 namespace vrx::bridge
@@ -14,9 +15,11 @@ constexpr DWORD kTimeToEnd = 10000; // milliseconds: more than the system gives
 
 std::mutex mutex; // the system calls the handler in a thread of its own
 HostSession* cancelledSession = nullptr;
+std::atomic<bool> interrupted = false;
 
 BOOL WINAPI cancelSession(DWORD event)
 {
+    interrupted = true;
     {
         const std::lock_guard<std::mutex> lock(mutex);
         if (cancelledSession != nullptr)
@@ -45,6 +48,11 @@ CancelOnInterrupt::~CancelOnInterrupt()
     SetConsoleCtrlHandler(cancelSession, FALSE);
     const std::lock_guard<std::mutex> lock(mutex);
     cancelledSession = nullptr;
+}
+
+bool CancelOnInterrupt::wasInterrupted()
+{
+    return interrupted;
 }
 
 } // namespace vrx::bridge

@@ -17,7 +17,7 @@ class VRX_BRIDGE Stream
 {
 public:
     Stream() = default;
-    explicit Stream(Handle handle)
+    explicit Stream(OwnedHandle handle)
         : m_handle(std::move(handle))
     {
     }
@@ -35,7 +35,7 @@ public:
 
     bool isOpen() const { return m_handle.isOpen(); }
     void close() noexcept { m_handle.close(); }
-    const Handle& handle() const { return m_handle; }
+    const OwnedHandle& handle() const { return m_handle; }
 
     /// Waits for the first bytes and reads those that are there; none at the end of the stream. Throws TimedOut and
     /// Cancelled, too.
@@ -49,7 +49,7 @@ public:
     void writeAll(const char* bytes, std::size_t size, const Wait& wait = {}) const;
 
 private:
-    Handle m_handle;
+    OwnedHandle m_handle;
 };
 
 /// What is written to the one end is read from the other.

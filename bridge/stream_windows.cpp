@@ -21,7 +21,7 @@ constexpr std::size_t kPiece = 1U << 20;
     throw StreamError(lastErrorText(what));
 }
 
-Handle ownCopy(HANDLE handle)
+OwnedHandle ownCopy(HANDLE handle)
 {
     HANDLE copy = nullptr;
     const HANDLE process = GetCurrentProcess();
@@ -56,7 +56,7 @@ bool isEnd(DWORD error)
 
 } // namespace
 
-void Handle::close() noexcept
+void OwnedHandle::close() noexcept
 {
     if (m_native != kNoHandle)
     {

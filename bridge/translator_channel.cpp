@@ -5,7 +5,7 @@
 #include "mp/narrow.h"
 #include "vrx_api/exchange/peek_envelope.h"
 
-#include <exception>
+#include <utility>
 
 namespace vrx::bridge
 {
@@ -28,7 +28,7 @@ std::optional<Command> TranslatorChannel::receive()
     }
     // A host that goes on has loaded most of what it was told of.
     m_undelivered.forgetLoaded();
-    while (const std::optional<mp::wstring> text = receiveText())
+    while (const std::optional<mp::wstring> text = m_next ? std::exchange(m_next, std::nullopt) : receiveText())
     {
         try
         {
@@ -84,6 +84,10 @@ std::optional<mp::wstring> TranslatorChannel::receiveObjectText()
     const MessageHead head = peekEnvelope(*text);
     m_undelivered.add(head.bufferName);
     m_hasObjectsToCome = head.kind == EMessageKind::Envelope;
+    if (head.kind == EMessageKind::Command)
+    {
+        m_next = text; // from a host that does not tell the end
+    }
     return m_hasObjectsToCome ? text : std::nullopt;
 }
 

@@ -65,8 +65,9 @@ private:
     FrameReader m_messages{m_input};
     std::unique_ptr<DelayedTermination> m_termination;
     ECompression m_compression = ECompression::Fast;
-    UndeliveredBuffers m_undelivered; // either way
-    bool m_hasObjectsToCome = false;  // of an export
+    UndeliveredBuffers m_undelivered;  // either way
+    bool m_hasObjectsToCome = false;   // of an export
+    std::optional<mp::wstring> m_next; // a command that has come already
 };
 
 } // namespace vrx::bridge
