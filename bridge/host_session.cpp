@@ -277,6 +277,7 @@ void HostSession::parse(const mp::wstring& text, mp::ISerializable& message, con
 void HostSession::takeObject(const mp::wstring& text, const MessageHead& head, Listener& listener)
 {
     m_undelivered.add(head.bufferName);
+    listener.onHead(head);
     ExchangeObjectWrapper envelope;
     envelope.setDelayedLoading(true);
     envelope.setSizeLimit(m_sizeLimit);

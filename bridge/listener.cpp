@@ -5,6 +5,10 @@ namespace vrx::bridge
 
 Listener::~Listener() = default;
 
+void Listener::onHead(const MessageHead& /*head*/)
+{
+}
+
 void Listener::onProgress(const ExcProgress& /*progress*/)
 {
 }

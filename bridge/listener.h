@@ -2,6 +2,7 @@
 
 #include "bridge/bridge_export.h"
 #include "mp/wide.h"
+#include "vrx_api/exchange/peek_envelope.h"
 #include "vrx_api/vrx_api_exchange_common.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 
@@ -19,6 +20,9 @@ public:
     Listener(const Listener&) = delete;
     Listener& operator=(const Listener&) = delete;
     virtual ~Listener();
+
+    /// What the message of the next object says of it, before anything is loaded.
+    virtual void onHead(const MessageHead& head);
 
     virtual void onProgress(const ExcProgress& progress);
     virtual void onMessage(const mp::wstring& text);

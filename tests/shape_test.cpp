@@ -38,7 +38,7 @@ TEST(Shapes, TellTheKeysOfEveryClass)
     for (const FullRow& row : test::allFullRows())
     {
         const auto object = row.make();
-        const ClassShape* const found = ClassShape::find(typeid(*object));
+        const ClassShape* const found = ClassShape::find(typeOf(*object));
         if (found == nullptr)
         {
             untold.push_back(row.title);
@@ -95,7 +95,7 @@ TEST(Shapes, NameOnlyClassesThatAreTold)
     for (const wstring& name : ExchangeObjectRegistry::instance().names())
     {
         const auto object = ExchangeObjectRegistry::instance().get(name);
-        EXPECT_NE(ClassShape::find(typeid(*object)), nullptr) << mp::toNarrow(name);
+        EXPECT_NE(ClassShape::find(typeOf(*object)), nullptr) << mp::toNarrow(name);
     }
     for (const char* const name : {"Command", "Result", "FerrantInfo", "ExcPMINote::Text", "imp::OptionsSTEP",
                                    "ExcUnitComponent<EMassUnitType>", "ExcMfgFeatureHoleType<ExcMfgSimpleHole>"})

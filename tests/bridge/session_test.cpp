@@ -50,7 +50,7 @@ const SessionCase kCases[] = {
     {"AnotherMessage", "loads", {"command"}, "failure 3 The translator sent neither an object nor a result.\n", 0},
     {"MissingBuffer",
      "loads",
-     {"missing", "one"},
+     {"untold", "missing", "one"},
      "failure 4 What the translator sent can not be loaded: Failed to parse all bytes of type\n",
      1},
     {"SizeLimit", "limits", {"one", "two"}, "message now one\nfailure 4 What the translator sent can not", 1},

@@ -3,6 +3,7 @@
 #include "bridge/bridge.h"
 #include "mp/narrow.h"
 #include "mp/shared_buffer.h"
+#include "tests/support/child_process.h"
 
 #include <algorithm>
 #include <string>
@@ -10,18 +11,6 @@
 
 namespace test
 {
-
-/// All that comes up to the end of a stream.
-inline std::string readAll(const vrx::bridge::Stream& stream)
-{
-    std::string all;
-    char bytes[4096];
-    while (const std::size_t count = stream.readSome(bytes, sizeof(bytes)))
-    {
-        all.append(bytes, count);
-    }
-    return all;
-}
 
 /// How many of the buffers in a journal are still in the system.
 inline std::size_t countOfLeft(const std::vector<mp::wstring>& names)

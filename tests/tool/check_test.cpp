@@ -7,7 +7,6 @@
 
 #include <set>
 #include <string>
-#include <typeinfo>
 #include <vector>
 
 using checking::ECode;
@@ -66,7 +65,7 @@ std::vector<std::string> check(const std::string& className, std::string_view te
 const ClassShape* shapeOf(const test::FullRow& row)
 {
     const auto object = row.make();
-    const ClassShape* const own = ClassShape::find(typeid(*object)); // NOLINT: the object's own class is wanted
+    const ClassShape* const own = ClassShape::find(vrx::typeOf(*object));
     return own != nullptr ? own : ClassShape::find(row.title);
 }
 

@@ -2,7 +2,6 @@
 #include "vrx_api/json/shape.h"
 
 #include <iostream>
-#include <typeinfo>
 
 // Prints the full texts of the classes for validate_rows.py: one JSON object on a line.
 int main()
@@ -10,8 +9,7 @@ int main()
     for (const test::FullRow& row : test::allFullRows())
     {
         const auto object = row.make();
-        const vrx::IJsonObject& own = *object;
-        const vrx::ClassShape* shape = vrx::ClassShape::find(typeid(own));
+        const vrx::ClassShape* shape = vrx::ClassShape::find(vrx::typeOf(*object));
         shape = shape != nullptr ? shape : vrx::ClassShape::find(row.title);
         if (shape != nullptr)
         {

@@ -66,7 +66,7 @@ void encode(Out& out, const SettingsForFile<const FormatOptionsMap>& settings)
 inline const std::type_info* classOfSettings(const JsonValue& value, const JsonValue&)
 {
     const std::shared_ptr<IFormatOptions> options = IFormatOptions::readOptions(value);
-    return options == nullptr ? nullptr : &typeid(*options);
+    return options == nullptr ? nullptr : &typeOf(*options);
 }
 
 template <class Map>

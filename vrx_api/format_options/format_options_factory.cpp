@@ -58,7 +58,7 @@ std::vector<const std::type_info*> importOptionClasses()
     {
         if (const std::shared_ptr<IFormatOptions> options = newImportOptions(format.value))
         {
-            classes.push_back(&typeid(*options));
+            classes.push_back(&typeOf(*options));
         }
     }
     return classes;

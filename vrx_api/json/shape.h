@@ -60,6 +60,13 @@ enum class ERole
 struct FieldShape;
 class ClassShape;
 
+/// The class of an object, which may be behind a pointer: a compiler warns of `typeid` with a dereference in it.
+template <class T>
+const std::type_info& typeOf(const T& object)
+{
+    return typeid(object);
+}
+
 /// What may stand in one place of a message.
 struct Shape
 {

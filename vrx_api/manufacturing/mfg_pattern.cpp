@@ -92,7 +92,7 @@ std::shared_ptr<ExcMfgPattern> readPattern(const BinaryValue& value)
 static const std::type_info* patternClass(const JsonValue& value, const JsonValue&)
 {
     const std::shared_ptr<ExcMfgPattern> pattern = readPattern(TreeValue(&value));
-    return pattern == nullptr ? nullptr : &typeid(*pattern);
+    return pattern == nullptr ? nullptr : &typeOf(*pattern);
 }
 
 void outlinePattern(Shape& shape)

@@ -3,20 +3,13 @@
 #include "mp/narrow.h"
 #include "vrx_api/exchange/exchange_object_registry.h"
 
-#include <typeinfo>
-
 namespace classes
 {
 
 const vrx::ClassShape* ofObject(const mp::wstring& wireName)
 {
     const auto object = vrx::ExchangeObjectRegistry::instance().get(wireName);
-    if (object == nullptr)
-    {
-        return nullptr;
-    }
-    const vrx::IExchangeObject& known = *object;
-    return vrx::ClassShape::find(typeid(known));
+    return object == nullptr ? nullptr : vrx::ClassShape::find(vrx::typeOf(*object));
 }
 
 const vrx::ClassShape* named(const std::string& name)

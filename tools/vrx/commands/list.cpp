@@ -1,6 +1,6 @@
 #include "buffers/buffers.h"
 #include "commands/commands.h"
-#include "json/utf.h"
+#include "console/console.h"
 #include "measures.h"
 #include "mp/narrow.h"
 #include "printing/escaped.h"
@@ -80,6 +80,7 @@ int list(Arguments& arguments)
     const bool asJson = arguments.takeFlag("--json");
     const bool ofAllUsers = arguments.takeFlag("--all-users");
     arguments.end();
+    console::setBinaryOutput();
     const std::vector<buffers::Buffer> found = buffers::all(ofAllUsers);
     asJson ? printJson(found) : printTable(found);
     return kSuccess;

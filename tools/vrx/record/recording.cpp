@@ -3,6 +3,7 @@
 #include "mp/exception.h"
 #include "mp/narrow.h"
 #include "mp/shared_buffer.h"
+#include "printing/escaped.h"
 #include "vrx_api/json/json_value.h"
 
 #include <rapidjson/stringbuffer.h>
@@ -197,8 +198,9 @@ void Recording::print(const char* sender, const vrx::MessageHead& head, std::siz
 {
     if (m_isVerbose)
     {
-        std::cerr << sender << nameOf(head.kind) << ' ' << mp::toNarrow(head.objectName) << ", " << units << " units"
-                  << (head.bufferName.empty() ? "" : ", buffer ") << mp::toNarrow(head.bufferName) << '\n';
+        std::cerr << sender << nameOf(head.kind) << ' ' << printing::escaped(head.objectName) << ", " << units
+                  << " units" << (head.bufferName.empty() ? "" : ", buffer ") << printing::escaped(head.bufferName)
+                  << '\n';
     }
 }
 
