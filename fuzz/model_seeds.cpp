@@ -7,7 +7,7 @@
 #include <fstream>
 #include <iostream>
 
-// Writes the full text of each exchange class as a seed of the fuzz targets "model" and "roads".
+// Writes the full text of each exchange class as a seed of the fuzz targets "check", "model" and "roads".
 int main(int argc, char** argv)
 {
     if (argc != 2)

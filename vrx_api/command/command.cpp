@@ -15,6 +15,8 @@
 namespace vrx
 {
 
+static constexpr Key kInterface = WIDE("ferrant_interface");
+static constexpr Key kCommand = WIDE("command");
 static constexpr Key kOptions = WIDE("options");
 
 static constexpr EnumName<Command::EType> kTypes[] = {
@@ -31,16 +33,57 @@ static constexpr Command::EType enumFallback(Command::EType)
     return Command::EType::Unknown;
 }
 
+namespace
+{
+
+// The options depend on the type and the interface; the operations of the command read and write them.
+struct OptionsOfAnyKind
+{
+};
+
+const std::type_info* optionsClass(const JsonValue&, const JsonValue& command);
+
+void outline(Shape& shape, const OptionsOfAnyKind&)
+{
+    shape.kind = EShape::OneOf;
+    shape.classes = {&typeid(ImportOptionsImpl), &typeid(ExportOptionsImpl), &typeid(LegacyImportOptionsImpl),
+                     &typeid(LegacyExportOptionsImpl)};
+    shape.choose = &optionsClass;
+}
+
+} // namespace
+
 template <class Self, class Fields>
 void Command::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("ferrant_interface"), self.m_internalInterface);
-    fields.required(WIDE("command"), "Json document has no command type.", self.m_type);
+    fields.always(kInterface, self.m_internalInterface);
+    fields.required(kCommand, "Json document has no command type.", self.m_type);
+    fields.apart(kOptions, OptionsOfAnyKind());
 }
 template struct Described<Command>;
+template struct Listed<Command>;
 
 namespace
 {
+
+const std::type_info* optionsClass(const JsonValue&, const JsonValue& command)
+{
+    Command::EType type = Command::EType::Unknown;
+    EFerrantInterface interface = Command().internalInterface();
+    FieldReader fields{TreeValue(&command)};
+    fields.always(kInterface, interface);
+    fields.always(kCommand, type);
+    const bool isLegacy = interface == EFerrantInterface::Legacy;
+    switch (type)
+    {
+    case Command::EType::Import:
+        return isLegacy ? &typeid(LegacyImportOptionsImpl) : &typeid(ImportOptionsImpl);
+    case Command::EType::Export:
+        return isLegacy ? &typeid(LegacyExportOptionsImpl) : &typeid(ExportOptionsImpl);
+    default:
+        return nullptr;
+    }
+}
 
 // The options if they are of this library's make; otherwise throws.
 template <class Impl, class Options>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "vrx_api/format_options/format_options.h"
+#include "vrx_api/format_options/option_fields.h"
 #include "vrx_api/json/fields.h"
 
 #include <map>
@@ -61,6 +61,22 @@ template <class Out>
 void encode(Out& out, const SettingsForFile<const FormatOptionsMap>& settings)
 {
     encode(out, settings.options.all());
+}
+
+inline const std::type_info* classOfSettings(const JsonValue& value, const JsonValue&)
+{
+    const std::shared_ptr<IFormatOptions> options = IFormatOptions::readOptions(value);
+    return options == nullptr ? nullptr : &typeOf(*options);
+}
+
+template <class Map>
+void outline(Shape& shape, const SettingsForFile<Map>&)
+{
+    shape.kind = EShape::List;
+    Shape& settings = shape.parts.emplace_back();
+    settings.kind = EShape::OneOf;
+    settings.classes = importOptionClasses();
+    settings.choose = &classOfSettings;
 }
 
 template <class Map>

@@ -33,6 +33,7 @@ void logReading(const Fields&, const Parts&... parts)
 template <class T>
 void readOptions(T& options, const JsonValue& value, kolt::SourcePlace place = kolt::SourcePlace::current())
 {
+    static_cast<void>(&Listed<T>::s_entered);
     kolt::trace(place);
     requireObject(value, "!object.IsObject()");
     readMembers(options, value);

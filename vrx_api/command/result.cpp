@@ -27,6 +27,7 @@ void Result::describe(Self& self, Fields& fields)
     fields.always(WIDE("is_finished"), self.m_finished);
 }
 template struct Described<Result>;
+template struct Listed<Result>;
 
 void Result::writeObject(wostream& stream) const
 {

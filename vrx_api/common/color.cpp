@@ -93,6 +93,15 @@ void encode(Out& out, const Parts<const bool, const Channels>& parts)
     out.endObject(object);
 }
 
+void outline(Shape& shape, const Parts<const bool, const Channels>&)
+{
+    FieldLister fields;
+    fields.filled(kRGB, std::array<std::uint32_t, 3>());
+    fields.filled(kAlpha, std::uint32_t());
+    shape = fields.take();
+    shape.mayBeNull = true;
+}
+
 } // namespace
 
 template <class Self, class Fields>

@@ -8,8 +8,8 @@ namespace vrx
 template <class Self, class Fields>
 void ExcFullSubentPath::describe(Self& self, Fields& fields)
 {
-    fields.filled(WIDE("block_references"), valid(self.m_refs));
-    fields.always(WIDE("body_id"), self.m_bodyId);
+    fields.filled(WIDE("block_references"), reference(EIdSpace::BlockReference, valid(self.m_refs)));
+    fields.always(WIDE("body_id"), reference(EIdSpace::Body, self.m_bodyId));
     fields.always(WIDE("subent_id"), self.m_subentId);
 }
 template struct Described<ExcFullSubentPath>;

@@ -7,9 +7,8 @@
 #include "vrx_api/exchange/envelope_keys.h"
 #include "vrx_api/exchange/exchange_object_registry.h"
 #include "vrx_api/exchange/json_binary_io.h"
-#include "vrx_api/json/json_read.h"
+#include "vrx_api/json/fields.h"
 #include "vrx_api/json/json_text_io.h"
-#include "vrx_api/json/json_write.h"
 #include "vrx_api/json/message.h"
 
 #include <algorithm>
@@ -57,7 +56,29 @@ wstring share(const IExchangeObject& object, ECompression compression)
     return leave(bytes.size(), [&bytes](char* content) { std::copy(bytes.begin(), bytes.end(), content); });
 }
 
+// The object itself, or the name of its buffer.
+struct ObjectOrName
+{
+};
+
+void outline(Shape&, const ObjectOrName&)
+{
+    // Any value: the class under the name tells.
+}
+
+Shape outlineOfEnvelope()
+{
+    FieldLister fields;
+    fields.required(kEnvelopeName, kSilently, wstring());
+    fields.filled(kEnvelopeBinary, bool());
+    fields.required(kEnvelopeData, kSilently, ObjectOrName());
+    return fields.take();
+}
+
 } // namespace
+
+static const bool s_entered =
+    enterShape(typeid(ExchangeObjectWrapper), signatureWith<ExchangeObjectWrapper>(), &outlineOfEnvelope);
 
 void ExchangeObjectWrapper::writeObject(wostream& stream) const
 {

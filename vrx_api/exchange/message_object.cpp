@@ -18,6 +18,8 @@ void ExcMessageBase::describe(Self& self, Fields& fields)
     fields.always(WIDE("message"), self.m_message);
 }
 template struct Described<ExcMessageBase>;
+template struct Listed<ExcMessage, ExcMessageBase>;
+template struct Listed<ExcLog, ExcMessageBase>;
 
 // The status objects travel often: they write no trace line, and pass over a wrong kind without a word.
 void ExcMessageBase::readObject(const JsonValue& value)

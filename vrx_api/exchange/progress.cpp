@@ -17,6 +17,7 @@ void ExcProgress::describe(Self& self, Fields& fields)
     fields.always(WIDE("stage"), self.m_stage);
 }
 template struct Described<ExcProgress>;
+template struct Listed<ExcProgress>;
 
 // Like the other status objects: no trace line, and not a word about a wrong kind.
 void ExcProgress::readObject(const JsonValue& value)

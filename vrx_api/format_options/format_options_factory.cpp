@@ -4,6 +4,7 @@
 #include "vrx_api/format_options/format_type_tables.h"
 #include "vrx_api/format_options/native_options.h"
 #include "vrx_api/format_options/neutral_options.h"
+#include "vrx_api/format_options/option_fields.h"
 #include "vrx_api/format_options/solidworks_options.h"
 #include "vrx_api/json/json_read.h"
 #include "vrx_api/json/kind.h"
@@ -48,6 +49,19 @@ static std::shared_ptr<IFormatOptions> newImportOptions(EFormatType format)
     default:
         return nullptr;
     }
+}
+
+std::vector<const std::type_info*> importOptionClasses()
+{
+    std::vector<const std::type_info*> classes;
+    for (const EnumName<EFormatType>& format : tableOf<EFormatType>())
+    {
+        if (const std::shared_ptr<IFormatOptions> options = newImportOptions(format.value))
+        {
+            classes.push_back(&typeOf(*options));
+        }
+    }
+    return classes;
 }
 
 std::shared_ptr<IFormatOptions> IFormatOptions::readOptions(const JsonValue& value)

@@ -3,6 +3,9 @@
 #include "vrx_api/format_options/format_options.h"
 #include "vrx_api/json/fields.h"
 
+#include <typeinfo>
+#include <vector>
+
 namespace vrx
 {
 
@@ -10,6 +13,7 @@ namespace vrx
 template <class T>
 void readOptionFields(T& options, const JsonValue& value, const char* className)
 {
+    static_cast<void>(&Listed<T>::s_entered);
     if (isObject(value, className))
     {
         // A wrong operation or format is only logged.
@@ -17,5 +21,8 @@ void readOptionFields(T& options, const JsonValue& value, const char* className)
         readMembers(options, value);
     }
 }
+
+/// The classes of all settings for an import.
+std::vector<const std::type_info*> importOptionClasses();
 
 } // namespace vrx

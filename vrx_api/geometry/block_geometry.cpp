@@ -6,9 +6,7 @@
 #include "vrx_api/exchange/static_exchange_object.h"
 #include "vrx_api/geometry/acis_call.h"
 #include "vrx_api/geometry/shared_acis_buffer.h"
-#include "vrx_api/json/json_read.h"
-#include "vrx_api/json/json_write.h"
-#include "vrx_api/json/kind.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -16,64 +14,70 @@ namespace vrx
 const wstring ExcBlockGeometry::s_objectName = WIDE("exc_block_geometry");
 static const StaticExchangeObject<ExcBlockGeometry> s_prototype;
 
-static constexpr Key kBlockId = WIDE("block_id");
-static constexpr Key kBodyIds = WIDE("acis_body_ids");
+namespace
+{
+
+// The buffer of the bodies: its name is where a reader finds them, and a writer has filled it before.
+template <class Source, class Flag, class Buffer>
+struct BufferName
+{
+    Source& source;
+    Flag& isLoaded;
+    Buffer& buffer;
+};
+template <class Source, class Flag, class Buffer>
+BufferName(Source&, Flag&, Buffer&) -> BufferName<Source, Flag, Buffer>;
+
+template <class Value, class Buffer>
+bool decode(const Value& value, const BufferName<wstring, bool, Buffer>& field)
+{
+    const bool taken = decode(value, field.source);
+    field.isLoaded = field.isLoaded && !taken;
+    return taken;
+}
+
+template <class Out, class Buffer>
+void encode(Out& out, const BufferName<const wstring, const bool, Buffer>& field)
+{
+    if (field.buffer == nullptr)
+    {
+        kolt::log(kolt::kError, "ExcBlockGeometry: ACIS buffer was not initialized in shared memory.");
+        out.null();
+        return;
+    }
+    encode(out, field.buffer->name());
+}
+
+template <class Buffer>
+void outline(Shape& shape, const BufferName<const wstring, const bool, Buffer>& field)
+{
+    outline(shape, field.source);
+    shape.mayBeNull = true;
+}
+
+} // namespace
+
+template <class Self, class Fields>
+void ExcBlockGeometry::describe(Self& self, Fields& fields)
+{
+    fields.expected(WIDE("block_id"), "ExcBlockGeometry: Failed to read block Id from JSON object.",
+                    reference(EIdSpace::Block, self.m_blockId));
+    fields.expected(kObjectBufferName, "ExcBlockGeometry: Failed to read shared memory buffer name.",
+                    BufferName{self.m_source, self.m_loaded, self.m_buffer});
+    fields.always(WIDE("acis_body_ids"), identity(EIdSpace::Body, replaced(self.m_bodyIds)));
+}
+template struct Described<ExcBlockGeometry>;
 
 void ExcBlockGeometry::readObject(const JsonValue& value)
 {
-    kolt::trace();
-    if (!isObject(value, "ExcBlockGeometry"))
-    {
-        return;
-    }
-    const JsonValue* const blockId = find(value, kBlockId);
-    if (blockId != nullptr && blockId->IsUint64())
-    {
-        m_blockId = blockId->GetUint64();
-    }
-    else
-    {
-        kolt::log(kolt::kError, "ExcBlockGeometry: Failed to read block Id from JSON object.");
-    }
-    const JsonValue* const name = find(value, kObjectBufferName);
-    if (name != nullptr && name->IsString())
-    {
-        m_source = textOf(*name);
-        m_loaded = false;
-    }
-    else
-    {
-        kolt::log(kolt::kError, "ExcBlockGeometry: Failed to read shared memory buffer name.");
-    }
-    const JsonValue* const bodyIds = find(value, kBodyIds);
-    if (bodyIds != nullptr && bodyIds->IsArray())
-    {
-        m_bodyIds.clear();
-        for (const JsonValue& id : bodyIds->GetArray())
-        {
-            if (id.IsUint64())
-            {
-                m_bodyIds.push_back(id.GetUint64());
-            }
-        }
-    }
+    readFields(*this, value, "ExcBlockGeometry");
 }
 
+// Bodies cross as text. Two walks into bytes would log a missing buffer twice.
 void ExcBlockGeometry::writeObject(JsonValue& value, JsonAllocator& allocator) const
 {
     kolt::trace();
-    value.SetObject();
-    addMember(value, kBlockId, treeOf(m_blockId, allocator), allocator);
-    if (m_buffer != nullptr)
-    {
-        addMember(value, kObjectBufferName, treeOf(m_buffer->name(), allocator), allocator);
-    }
-    else
-    {
-        addMember(value, kObjectBufferName, JsonValue(), allocator);
-        kolt::log(kolt::kError, "ExcBlockGeometry: ACIS buffer was not initialized in shared memory.");
-    }
-    addMember(value, kBodyIds, treeOf(m_bodyIds, allocator), allocator);
+    writeMembers(*this, value, allocator);
 }
 
 const wstring& ExcBlockGeometry::objectName() const

@@ -53,6 +53,10 @@ public:
     static std::uint64_t getEntityId(ENTITY* entity);
 
 private:
+    friend struct Described<ExcBlockGeometry>;
+    template <class Self, class Fields>
+    static void describe(Self& self, Fields& fields);
+
     bool m_own = false;
     std::uint64_t m_blockId = 0;
     std::shared_ptr<ExcSharedAcisBuffer> m_buffer;

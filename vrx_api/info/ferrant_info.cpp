@@ -33,6 +33,7 @@ void FerrantInfo::describe(Self& self, Fields& fields)
     fields.filled(WIDE("export_formats"), self.m_exportFormats);
 }
 template struct Described<FerrantInfo>;
+template struct Listed<FerrantInfo>;
 
 void FerrantInfo::writeObject(wostream& stream) const
 {

@@ -93,6 +93,7 @@ void Format::describe(Self& self, Fields& fields)
     fields.always(WIDE("filters"), valid(self.m_filterExtensions));
 }
 template struct Described<Format>;
+template struct Listed<Format>;
 
 void Format::readObject(const JsonValue& value)
 {

@@ -13,6 +13,7 @@ void ThirdpartyCore::describe(Self& self, Fields& fields)
     fields.always(WIDE("version"), self.m_version);
 }
 template struct Described<ThirdpartyCore>;
+template struct Listed<ThirdpartyCore>;
 
 void ThirdpartyCore::readObject(const JsonValue& value)
 {

@@ -5,6 +5,7 @@ namespace vrx
 
 class BinaryValue;
 class ByteWriter;
+class FieldLister;
 class SizeWriter;
 class TreeValue;
 class TreeWriter;
@@ -32,6 +33,7 @@ struct Described
     static void walk(const T& object, FieldWriter<TreeWriter>& fields);
     static void walk(const T& object, FieldWriter<SizeWriter>& fields);
     static void walk(const T& object, FieldWriter<ByteWriter>& fields);
+    static void walk(const T& object, FieldLister& fields);
 };
 
 } // namespace vrx

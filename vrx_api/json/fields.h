@@ -5,6 +5,7 @@
 #include "vrx_api/json/json_write.h"
 #include "vrx_api/json/kind.h"
 #include "vrx_api/json/member_finder.h"
+#include "vrx_api/json/outline.h"
 
 #include <stdexcept>
 #include <type_traits>
@@ -52,6 +53,15 @@ public:
     }
 
     template <class T>
+    void expected(Key key, const char* complaint, T&& field)
+    {
+        if (!take(key, std::forward<T>(field)))
+        {
+            kolt::log(kolt::kError, complaint);
+        }
+    }
+
+    template <class T>
     void filled(Key key, T&& field)
     {
         take(key, std::forward<T>(field));
@@ -85,6 +95,13 @@ public:
     void writeOnly(bool, Key, const T&)
     {
     }
+
+    template <class T>
+    void apart(Key, const T&)
+    {
+    }
+
+    bool goesOn(bool condition) const { return condition; }
 
 private:
     /// True when the key is there, with a value of the field's kind. The field is a member of the class, or a rule
@@ -131,6 +148,12 @@ public:
     }
 
     template <class T>
+    void expected(Key key, const char*, const T& field)
+    {
+        when(true, key, field);
+    }
+
+    template <class T>
     void filled(Key key, const T& field)
     {
         when(!isEmpty(field), key, field);
@@ -169,6 +192,13 @@ public:
         when(written, key, field);
     }
 
+    template <class T>
+    void apart(Key, const T&)
+    {
+    }
+
+    bool goesOn(bool condition) const { return condition; }
+
 private:
     Out& m_out;
 };
@@ -203,6 +233,12 @@ void Described<T>::walk(const T& object, FieldWriter<ByteWriter>& fields)
     T::describe(object, fields);
 }
 
+template <class T>
+void Described<T>::walk(const T& object, FieldLister& fields)
+{
+    T::describe(object, fields);
+}
+
 /// The first line of a description whose class has a described base: the keys of the base.
 template <class Base, class Self, class Fields>
 void describeBase(Self& self, Fields& fields)
@@ -219,6 +255,14 @@ void describeBaseForWriting(Self& self, Fields& fields)
     {
         describeBase<Base>(self, fields);
     }
+}
+
+template <class Base, class Self>
+void describeBaseForWriting(Self& self, FieldLister& fields)
+{
+    FieldLister base;
+    describeBase<Base>(self, base);
+    fields.addUnread(std::move(base));
 }
 
 /// Takes what is described from a value of the right kind.
@@ -290,6 +334,17 @@ void addMembers(const T& object, JsonValue& value, JsonAllocator& allocator)
     out.addTo(value);
 }
 
+/// Enters a class among those of which the shape is known; the regular operations do so by themselves. For the others
+/// their sources have the line `template struct Listed<...>;`.
+template <class T, class Base = T>
+struct Listed
+{
+    static const bool s_entered;
+};
+
+template <class T, class Base>
+const bool Listed<T, Base>::s_entered = enterShape<T, Base>();
+
 /// Enters a class whose `readObject` is a regular one among those that need no tree.
 template <class T, Form Kind>
 class RegularReader
@@ -336,9 +391,13 @@ const bool RegularWriter<T, Kind>::s_entered = enterWriter(typeid(T), &RegularWr
 template <class T, class Base, Form Kind = Form::Object>
 struct Inherits
 {
+    static const bool s_shape;
     static const bool s_reader;
     static const bool s_writer;
 };
+
+template <class T, class Base, Form Kind>
+const bool Inherits<T, Base, Kind>::s_shape = enterShape<T, Base>();
 
 template <class T, class Base, Form Kind>
 const bool Inherits<T, Base, Kind>::s_reader = enterReader(typeid(T), &RegularReader<Base, Kind>::read);
@@ -354,6 +413,7 @@ template <class T>
 void readFields(T& object, const JsonValue& value, const char* className,
                 kolt::SourcePlace place = kolt::SourcePlace::current())
 {
+    static_cast<void>(&Listed<T>::s_entered);
     static_cast<void>(&RegularReader<T, Form::Object>::s_entered);
     kolt::trace(place);
     if (isObject(value, className))
@@ -367,6 +427,7 @@ template <class T>
 void readArray(T& object, const JsonValue& value, const char* className,
                kolt::SourcePlace place = kolt::SourcePlace::current())
 {
+    static_cast<void>(&Listed<T>::s_entered);
     static_cast<void>(&RegularReader<T, Form::Array>::s_entered);
     kolt::trace(place);
     if (isArray(value, className))
@@ -379,6 +440,7 @@ void readArray(T& object, const JsonValue& value, const char* className,
 template <class T>
 void readWhole(T& object, const JsonValue& value, kolt::SourcePlace place = kolt::SourcePlace::current())
 {
+    static_cast<void>(&Listed<T>::s_entered);
     static_cast<void>(&RegularReader<T, Form::Any>::s_entered);
     kolt::trace(place);
     readDescribed(object, TreeValue(&value));

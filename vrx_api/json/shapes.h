@@ -78,6 +78,13 @@ void encode(Out& out, const Exactly<Resets, Fields...>& field)
     out.endArray(begin);
 }
 
+template <bool Resets, class... Fields>
+void outline(Shape& shape, const Exactly<Resets, Fields...>& field)
+{
+    shape.kind = EShape::Tuple;
+    std::apply([&](const auto&... each) { (outline(shape.parts.emplace_back(), each), ...); }, field.fields);
+}
+
 /// An array of scalars, strings or names, which appends. An element of another kind is passed over, or keeps its place
 /// as a zero or an empty string.
 template <bool KeepsPlaces, class Elements>
@@ -127,9 +134,51 @@ void encode(Out& out, const Values<KeepsPlaces, Elements>& field)
 }
 
 template <bool KeepsPlaces, class Elements>
+void outline(Shape& shape, const Values<KeepsPlaces, Elements>&)
+{
+    outlineElements<typename std::remove_const_t<Elements>::value_type>(shape);
+}
+
+template <bool KeepsPlaces, class Elements>
 bool isEmpty(const Values<KeepsPlaces, Elements>& field)
 {
     return field.elements.empty();
+}
+
+/// An array of valid elements that replaces what was there.
+template <class Elements>
+struct Replaced
+{
+    Elements& elements;
+};
+
+template <class Elements>
+Replaced<Elements> replaced(Elements& elements)
+{
+    return {elements};
+}
+
+template <class Value, class Elements>
+bool decode(const Value& value, const Replaced<Elements>& field)
+{
+    if (!value.isArray())
+    {
+        return false;
+    }
+    field.elements.clear();
+    return decode(value, valid(field.elements));
+}
+
+template <class Out, class Elements>
+void encode(Out& out, const Replaced<Elements>& field)
+{
+    encodeElements(out, field.elements);
+}
+
+template <class Elements>
+void outline(Shape& shape, const Replaced<Elements>& field)
+{
+    outline(shape, valid(field.elements));
 }
 
 /// An object that is no class of its own, with a description: a function of the object and the walk. A value of another
@@ -168,6 +217,14 @@ void encode(Out& out, const Record<T, Describe>& field)
     out.endObject(begin);
 }
 
+template <class T, class Describe>
+void outline(Shape& shape, const Record<T, Describe>& field)
+{
+    FieldLister fields;
+    field.describe(field.object, fields);
+    shape = fields.take();
+}
+
 /// An array of objects, each of which `enter` takes when it has been read: into an index, for one.
 template <class Elements, class Enter>
 struct Entered
@@ -198,6 +255,12 @@ template <class Out, class Elements, class Enter>
 void encode(Out& out, const Entered<Elements, Enter>& field)
 {
     encode(out, field.elements);
+}
+
+template <class Elements, class Enter>
+void outline(Shape& shape, const Entered<Elements, Enter>& field)
+{
+    outline(shape, field.elements);
 }
 
 template <class Elements, class Enter>
@@ -232,6 +295,13 @@ void encode(Out& out, const OrNull<Field>& field)
     field.isNull ? out.null() : encode(out, field.field);
 }
 
+template <class Field>
+void outline(Shape& shape, const OrNull<Field>& field)
+{
+    outline(shape, field.field);
+    shape.mayBeNull = true;
+}
+
 /// A value that is read into one field and written from another.
 template <class In, class Out>
 struct InOut
@@ -256,6 +326,72 @@ template <class Writer, class In, class Out>
 void encode(Writer& writer, const InOut<In, Out>& field)
 {
     encode(writer, field.out);
+}
+
+template <class In, class Out>
+void outline(Shape& shape, const InOut<In, Out>& field)
+{
+    outline(shape, field.out);
+}
+
+/// What a field says of other objects, around the field: it reads and writes as the field does.
+template <class Field>
+struct Tied
+{
+    ERole role;
+    EIdSpace space;
+    wstring_view indexed;
+    std::size_t indexWidth;
+    Field field;
+};
+
+/// The id by which the object is named elsewhere.
+template <class Field>
+Tied<Field> identity(EIdSpace space, Field&& field)
+{
+    return {ERole::Identity, space, {}, 1, std::forward<Field>(field)};
+}
+
+/// The id of another object, or a list of them.
+template <class Field>
+Tied<Field> reference(EIdSpace space, Field&& field)
+{
+    return {ERole::Reference, space, {}, 1, std::forward<Field>(field)};
+}
+
+/// Positions in the list under another key, of which as many numbers make one of what is counted.
+template <class Field>
+Tied<Field> indices(Key indexed, std::size_t width, Field&& field)
+{
+    return {ERole::Index, EIdSpace::None, {indexed.text, indexed.size}, width, std::forward<Field>(field)};
+}
+
+template <class Value, class Field>
+bool decode(const Value& value, const Tied<Field>& field)
+{
+    return decode(value, field.field);
+}
+
+template <class Out, class Field>
+void encode(Out& out, const Tied<Field>& field)
+{
+    encode(out, field.field);
+}
+
+template <class Field>
+void outline(Shape& shape, const Tied<Field>& field)
+{
+    outline(shape, field.field);
+    shape.role = field.role;
+    shape.space = field.space;
+    shape.indexed = field.indexed;
+    shape.indexWidth = field.indexWidth;
+}
+
+template <class Field>
+bool isEmpty(const Tied<Field>& field)
+{
+    return isEmpty(field.field);
 }
 
 } // namespace vrx

@@ -12,6 +12,15 @@ static const StaticExchangeObject<LegacyComponentInstanceNames> s_prototype;
 
 static constexpr Key kNameKey = WIDE("component_name");
 
+static Shape outlineOfNames()
+{
+    Shape shape;
+    outlineEntries(shape, kNameKey, wstring());
+    return shape;
+}
+static const bool s_entered =
+    enterShape(typeid(LegacyComponentInstanceNames), signatureWith<LegacyComponentInstanceNames>(), &outlineOfNames);
+
 void LegacyComponentInstanceNames::readObject(const JsonValue& value)
 {
     requireArray(value, "LegacyComponentInstanceNames::readObject(): Input json object is not an array");

@@ -65,6 +65,12 @@ void encode(Out& out, const ComponentNames<const std::map<std::uint64_t, wstring
 }
 
 template <class Map>
+void outline(Shape& shape, const ComponentNames<Map>&)
+{
+    outlineEntries(shape, kNameKey, wstring());
+}
+
+template <class Map>
 bool isEmpty(const ComponentNames<Map>& field)
 {
     return field.names.empty();

@@ -2,6 +2,7 @@
 
 #include "vrx_api/json/json_read.h"
 #include "vrx_api/json/json_write.h"
+#include "vrx_api/json/outline.h"
 
 #include <cstdint>
 
@@ -48,6 +49,17 @@ void encodeEntries(Out& out, const Map& map, Key dataKey)
         out.endObject(entry);
     }
     out.endArray(array);
+}
+
+/// `data` is like that of each entry.
+template <class T>
+void outlineEntries(Shape& shape, Key dataKey, const T& data)
+{
+    FieldLister entry;
+    entry.always(kHandleKey, std::uint64_t());
+    entry.always(dataKey, data);
+    shape.kind = EShape::List;
+    shape.parts.push_back(entry.take());
 }
 
 } // namespace vrx

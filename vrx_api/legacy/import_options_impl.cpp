@@ -150,6 +150,13 @@ void encode(Out& out, const SearchPaths<const std::map<wstring, wstring>>& field
 }
 
 template <class Map>
+void outline(Shape& shape, const SearchPaths<Map>&)
+{
+    shape.kind = EShape::Map;
+    outline(shape.parts.emplace_back(), wstring());
+}
+
+template <class Map>
 bool isEmpty(const SearchPaths<Map>& field)
 {
     return field.paths.empty();

@@ -30,6 +30,16 @@ static void encode(TreeWriter& out, const LegacyMaterialMap::Material& material)
     encode(out, record(material, describeMaterial));
 }
 
+static Shape outlineOfMaterials()
+{
+    const LegacyMaterialMap::Material material;
+    Shape shape;
+    outlineEntries(shape, kMaterialKey, record(material, describeMaterial));
+    return shape;
+}
+static const bool s_entered =
+    enterShape(typeid(LegacyMaterialMap), signatureWith<LegacyMaterialMap>(), &outlineOfMaterials);
+
 void LegacyMaterialMap::readObject(const JsonValue& value)
 {
     requireArray(value, "LegacyMaterialMap::readObject(): Input json object is not an array");

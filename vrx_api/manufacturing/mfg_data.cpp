@@ -10,7 +10,7 @@ template <class Self, class Fields>
 void ExcMfgData::describe(Self& self, Fields& fields)
 {
     fields.always(WIDE("has_data"), self.m_hasData);
-    if (!self.m_hasData)
+    if (!fields.goesOn(self.m_hasData))
     {
         return;
     }

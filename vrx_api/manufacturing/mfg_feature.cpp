@@ -14,6 +14,11 @@ static bool decode(const Value& value, std::shared_ptr<ExcMfgPattern>& field)
     return true;
 }
 
+static void outline(Shape& shape, const std::shared_ptr<ExcMfgPattern>&)
+{
+    outlinePattern(shape);
+}
+
 template <class Self, class Fields>
 void ExcMfgFeature::describe(Self& self, Fields& fields)
 {

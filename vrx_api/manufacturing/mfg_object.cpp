@@ -1,7 +1,7 @@
 #include "vrx_api/manufacturing/mfg_object.h"
 
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -9,7 +9,7 @@ namespace vrx
 template <class Self, class Fields>
 void ExcMfgObject::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::None, self.m_id));
     fields.filled(WIDE("linked_elements"), self.m_linkedElements);
 }
 template struct Described<ExcMfgObject>;

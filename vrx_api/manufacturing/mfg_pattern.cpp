@@ -89,6 +89,20 @@ std::shared_ptr<ExcMfgPattern> readPattern(const BinaryValue& value)
     return readByType(value);
 }
 
+static const std::type_info* patternClass(const JsonValue& value, const JsonValue&)
+{
+    const std::shared_ptr<ExcMfgPattern> pattern = readPattern(TreeValue(&value));
+    return pattern == nullptr ? nullptr : &typeOf(*pattern);
+}
+
+void outlinePattern(Shape& shape)
+{
+    shape.kind = EShape::OneOf;
+    shape.classes = {&typeid(ExcMfgPatternRectangular), &typeid(ExcMfgPatternCircular),
+                     &typeid(ExcMfgPatternUserDefined)};
+    shape.choose = &patternClass;
+}
+
 std::shared_ptr<ExcMfgPattern> ExcMfgPattern::readPattern(const JsonValue& value)
 {
     return readByType(TreeValue(&value));

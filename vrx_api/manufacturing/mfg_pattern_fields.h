@@ -63,9 +63,16 @@ bool isEmpty(const IndexPairs<Pairs>& field)
     return field.pairs.empty();
 }
 
+template <class Pairs>
+void outline(Shape& shape, const IndexPairs<Pairs>&)
+{
+    outlineList(shape, std::array<std::int32_t, 2>());
+}
+
 /// The pattern of a class that the value itself tells; null when it tells none.
 std::shared_ptr<ExcMfgPattern> readPattern(const TreeValue& value);
 std::shared_ptr<ExcMfgPattern> readPattern(const BinaryValue& value);
+void outlinePattern(Shape& shape);
 
 /// The `writeObject` of a pattern: a value that is an object already keeps its members.
 template <class T>

@@ -1,7 +1,7 @@
 #include "vrx_api/mechanical/block_mechanical_data.h"
 
 #include "vrx_api/exchange/static_exchange_object.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -12,7 +12,7 @@ static const StaticExchangeObject<ExcBlockMechanicalData> s_prototype;
 template <class Self, class Fields>
 void ExcBlockMechanicalData::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("block_id"), self.m_blockId);
+    fields.always(WIDE("block_id"), reference(EIdSpace::Block, self.m_blockId));
     fields.filled(WIDE("log_file"), self.m_logFile);
     fields.filled(WIDE("pmi_data"), self.m_pmiData);
     fields.filled(WIDE("misc_data"), self.m_miscData);

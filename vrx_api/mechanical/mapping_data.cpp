@@ -37,6 +37,11 @@ static void encode(Out& out, const EntityPair& pair)
     encode(out, record(pair, describePair));
 }
 
+static void outline(Shape& shape, const EntityPair& pair)
+{
+    outline(shape, record(pair, describePair));
+}
+
 template <class Self, class Fields>
 void ExcMappingData::describe(Self& self, Fields& fields)
 {

@@ -1,7 +1,7 @@
 #include "vrx_api/mechanical/misc_layer.h"
 
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -9,7 +9,7 @@ namespace vrx
 template <class Self, class Fields>
 void ExcMiscLayer::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::Layer, self.m_id));
     fields.always(WIDE("name"), self.m_name);
     fields.always(WIDE("color"), self.m_color);
     fields.always(WIDE("current"), self.m_current);

@@ -21,7 +21,7 @@ void ExcMiscLayerFilter::describe(Self& self, Fields& fields)
     fields.always(WIDE("name"), self.m_name);
     fields.always(WIDE("type"), self.m_type);
     fields.always(WIDE("current"), self.m_current);
-    fields.filled(WIDE("layer_id"), valid(self.m_layerIds));
+    fields.filled(WIDE("layer_id"), reference(EIdSpace::Layer, valid(self.m_layerIds)));
 }
 template struct Described<ExcMiscLayerFilter>;
 

@@ -65,6 +65,11 @@ void encode(Out& out, const Entry<const Properties>& field)
     encode(out, propertyOf(field.properties, field.id));
 }
 
+void outline(Shape& shape, const Entry<const Properties>& field)
+{
+    outline(shape, propertyOf(field.properties, field.id));
+}
+
 } // namespace
 
 template <class Self, class Fields>

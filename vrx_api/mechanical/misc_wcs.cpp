@@ -1,6 +1,6 @@
 #include "vrx_api/mechanical/misc_wcs.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -14,10 +14,10 @@ void ExcMiscWCS::describe(Self& self, Fields& fields)
     fields.always(WIDE("z"), self.m_z);
     fields.always(WIDE("color"), self.m_color);
     fields.always(WIDE("active"), self.m_active);
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::None, self.m_id));
     fields.always(WIDE("name"), self.m_name);
     fields.always(WIDE("shown"), self.m_shown);
-    fields.always(WIDE("layer_id"), self.m_layerId);
+    fields.always(WIDE("layer_id"), reference(EIdSpace::Layer, self.m_layerId));
 }
 template struct Described<ExcMiscWCS>;
 

@@ -1,7 +1,7 @@
 #include "vrx_api/mechanical/pmi_annotation_set.h"
 
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -9,7 +9,7 @@ namespace vrx
 template <class Self, class Fields>
 void ExcPMIAnnotationSet::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("block_id"), self.m_blockId);
+    fields.always(WIDE("block_id"), reference(EIdSpace::Block, self.m_blockId));
     fields.always(WIDE("name"), self.m_name);
     fields.always(WIDE("hidden"), self.m_hidden);
     fields.always(WIDE("standart"), self.m_standart);

@@ -9,7 +9,7 @@ template <class Self, class Fields>
 void ExcPMIDatum::describe(Self& self, Fields& fields)
 {
     describeBaseForWriting<ExcPMIAnnotation>(self, fields);
-    fields.always(WIDE("label"), self.m_label);
+    fields.always(WIDE("label"), identity(EIdSpace::Datum, self.m_label));
     fields.always(WIDE("target_ids"), valid(self.m_targetIds));
 }
 template struct Described<ExcPMIDatum>;

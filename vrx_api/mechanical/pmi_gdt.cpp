@@ -87,7 +87,7 @@ void ExcPMIGDT::ModifiedDatum::writeObject(JsonValue& value, JsonAllocator& allo
 template <class Self, class Fields>
 void ExcPMIGDT::DatumRef::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("label"), self.m_label);
+    fields.always(WIDE("label"), reference(EIdSpace::Datum, self.m_label));
     fields.always(WIDE("modified_datums"), self.m_modifiedDatums);
 }
 template struct Described<ExcPMIGDT::DatumRef>;

@@ -47,6 +47,11 @@ void encode(Out& out, const TrueWhenThere<const bool>& field)
     out.scalar(field.flag);
 }
 
+void outline(Shape& shape, const TrueWhenThere<const bool>& field)
+{
+    outline(shape, field.flag);
+}
+
 } // namespace
 
 template <class Self, class Fields>

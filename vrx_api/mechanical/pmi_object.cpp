@@ -1,6 +1,6 @@
 #include "vrx_api/mechanical/pmi_object.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -9,7 +9,7 @@ template <class Self, class Fields>
 void ExcPMIObject::describe(Self& self, Fields& fields)
 {
     fields.always(WIDE("name"), self.m_name);
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::None, self.m_id));
     fields.always(WIDE("hidden"), self.m_hidden);
 }
 template struct Described<ExcPMIObject>;

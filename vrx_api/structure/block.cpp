@@ -2,7 +2,7 @@
 
 #include "vrx_api/common/unit_tables.h"
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -10,7 +10,7 @@ namespace vrx
 template <class Self, class Fields>
 void ExcBlock::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::Block, self.m_id));
     fields.filled(WIDE("name"), self.m_name);
     fields.filled(WIDE("storage_name"), self.m_storageName);
     fields.always(WIDE("world_orientation"), self.m_worldOrientation);

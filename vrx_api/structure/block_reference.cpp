@@ -1,6 +1,6 @@
 #include "vrx_api/structure/block_reference.h"
 
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -8,10 +8,10 @@ namespace vrx
 template <class Self, class Fields>
 void ExcBlockReference::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("guid"), self.m_guid);
-    fields.always(WIDE("persistent_id"), self.m_persistentId);
+    fields.always(WIDE("guid"), identity(EIdSpace::BlockReference, self.m_guid));
+    fields.always(WIDE("persistent_id"), identity(EIdSpace::BlockReference, self.m_persistentId));
     fields.always(WIDE("persistent_name"), self.m_persistentName);
-    fields.always(WIDE("block_id"), self.m_blockId);
+    fields.always(WIDE("block_id"), reference(EIdSpace::Block, self.m_blockId));
     fields.always(WIDE("name"), self.m_name);
     fields.always(WIDE("transformation"), self.m_transformation);
     fields.always(WIDE("color"), self.m_color);

@@ -1,7 +1,7 @@
 #include "vrx_api/visualization/block_visualization.h"
 
 #include "vrx_api/exchange/static_exchange_object.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -12,7 +12,7 @@ static const StaticExchangeObject<ExcBlockVisualization> s_prototype;
 template <class Self, class Fields>
 void ExcBlockVisualization::describe(Self& self, Fields& fields)
 {
-    fields.always(WIDE("block_id"), self.m_blockId);
+    fields.always(WIDE("block_id"), reference(EIdSpace::Block, self.m_blockId));
     fields.filled(WIDE("visualization_data"), self.m_visualizationData);
 }
 template struct Described<ExcBlockVisualization>;

@@ -11,14 +11,14 @@ template <class Self, class Fields>
 void ExcVisuCapture::describe(Self& self, Fields& fields)
 {
     fields.always(WIDE("display_name"), self.m_displayName);
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::None, self.m_id));
     fields.always(WIDE("mechanical_id"), self.m_mechanicalId);
     fields.always(WIDE("hidden"), self.m_hidden);
     fields.always(WIDE("active"), self.m_active);
     fields.always(WIDE("hidden_text"), self.m_hiddenText);
     fields.always(WIDE("clipping_plane"), self.m_clippingPlane);
     fields.always(WIDE("camera"), self.m_camera);
-    fields.filled(WIDE("annotation_ids"), places(self.m_annotationIds));
+    fields.filled(WIDE("annotation_ids"), reference(EIdSpace::Annotation, places(self.m_annotationIds)));
     fields.filled(WIDE("fta_constructed_geometry_ids"), places(self.m_ftaConstructedGeometryIds));
     fields.filled(WIDE("bodies"), self.m_linkedElements);
 }

@@ -20,7 +20,7 @@ template <class Self, class Fields>
 void ExcVisuEdge::describe(Self& self, Fields& fields)
 {
     fields.filled(WIDE("points"), places(self.m_points));
-    fields.filled(WIDE("line_indices"), places(self.m_lineIndices));
+    fields.filled(WIDE("line_indices"), indices(WIDE("points"), 3, places(self.m_lineIndices)));
     fields.always(WIDE("line_type"), self.m_lineType);
     fields.always(WIDE("color"), self.m_color);
     fields.always(WIDE("mechanical_id"), self.m_mechanicalId);

@@ -12,7 +12,7 @@ using Polygon = ExcVisuFace::Polygon;
 
 static constexpr auto describePolygon = [](auto& polygon, auto& fields) {
     fields.always(WIDE("type"), polygon.type);
-    fields.filled(WIDE("indices"), places(polygon.indices));
+    fields.filled(WIDE("indices"), indices(WIDE("vertices"), 3, places(polygon.indices)));
 };
 
 // An element that is no object adds no polygon.
@@ -45,6 +45,11 @@ static void encode(Out& out, const Polygon& polygon)
     encode(out, record(polygon, describePolygon));
 }
 
+static void outline(Shape& shape, const Polygon& polygon)
+{
+    outline(shape, record(polygon, describePolygon));
+}
+
 template <class Self, class Fields>
 void ExcVisuFace::describe(Self& self, Fields& fields)
 {
@@ -53,7 +58,7 @@ void ExcVisuFace::describe(Self& self, Fields& fields)
     fields.filled(WIDE("polygons"), self.m_polygons);
     fields.always(WIDE("color"), self.m_color);
     fields.always(WIDE("mechanical_id"), self.m_mechanicalId);
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::None, self.m_id));
 }
 template struct Described<ExcVisuFace>;
 

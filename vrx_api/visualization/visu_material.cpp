@@ -137,13 +137,37 @@ static void encode(Out& out, const ExcVisuMaterial::Textures& field)
     encodeByType(out, field);
 }
 
+static void outline(Shape& shape, const Color&)
+{
+    outline(shape, std::array<double, kColorNumbers>());
+}
+
+// The names of the entries are those of their kinds.
+template <class Type, class Entry>
+static void outlineByType(Shape& shape)
+{
+    outline(shape, Type());
+    shape.kind = EShape::Map;
+    outline(shape.parts.emplace_back(), Entry());
+}
+
+static void outline(Shape& shape, const ExcVisuMaterial::Colors&)
+{
+    outlineByType<EColorType, Color>(shape);
+}
+
+static void outline(Shape& shape, const ExcVisuMaterial::Textures&)
+{
+    outlineByType<ETextureType, ExcVisuMaterial::Textures::mapped_type>(shape);
+}
+
 template <class Self, class Fields>
 void ExcVisuMaterial::describe(Self& self, Fields& fields)
 {
     auto& [x, y, z] = self.m_bump;
 
     fields.always(WIDE("name"), self.m_name);
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::None, self.m_id));
     fields.always(WIDE("colors"), self.m_colors);
     fields.always(WIDE("shininess"), self.m_shininess);
     fields.always(WIDE("bump"), exactly(kSilently, x, y, z));

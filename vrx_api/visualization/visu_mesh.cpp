@@ -1,7 +1,7 @@
 #include "vrx_api/visualization/visu_mesh.h"
 
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 #include "vrx_api/visualization/visu_geometry_type_table.h"
 
 namespace vrx
@@ -11,7 +11,7 @@ template <class Self, class Fields>
 void ExcVisuMesh::describe(Self& self, Fields& fields)
 {
     fields.always(WIDE("display_name"), self.m_displayName);
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::None, self.m_id));
     fields.always(WIDE("mechanical_id"), self.m_mechanicalId);
     fields.always(WIDE("geometry_type"), self.m_geometryType);
     fields.filled(WIDE("faces"), self.m_faces);

@@ -41,6 +41,12 @@ bool decode(const Value& value, const ChildPlaces<Nodes>& field)
     return true;
 }
 
+template <class Nodes>
+void outline(Shape& shape, const ChildPlaces<Nodes>& field)
+{
+    outline(shape, field.nodes);
+}
+
 } // namespace
 
 template <class Self, class Fields>
@@ -56,8 +62,10 @@ void ExcVisuNode::describe(Self& self, Fields& fields)
     fields.always(WIDE("type"), self.m_type);
     fields.always(WIDE("group_name"), self.m_groupName);
     fields.readOnly(kChildNodes, ChildPlaces{self.m_childNodes});
+    fields.apart(kChildNodes, ChildPlaces{self.m_childNodes});
 }
 template struct Described<ExcVisuNode>;
+template struct Listed<ExcVisuNode>;
 
 // The walks over a node and all below it, in the order of the document.
 struct VisuTree

@@ -1,7 +1,7 @@
 #include "vrx_api/visualization/visu_pmi.h"
 
 #include "vrx_api/json/add.h"
-#include "vrx_api/json/fields.h"
+#include "vrx_api/json/shapes.h"
 
 namespace vrx
 {
@@ -10,8 +10,8 @@ template <class Self, class Fields>
 void ExcVisuPMI::describe(Self& self, Fields& fields)
 {
     fields.always(WIDE("display_name"), self.m_displayName);
-    fields.always(WIDE("id"), self.m_id);
-    fields.always(WIDE("mechanical_id"), self.m_mechanicalId);
+    fields.always(WIDE("id"), identity(EIdSpace::Annotation, self.m_id));
+    fields.always(WIDE("mechanical_id"), identity(EIdSpace::Annotation, self.m_mechanicalId));
     fields.filled(WIDE("edges"), self.m_edges);
     fields.filled(WIDE("texts"), self.m_texts);
     fields.readOnly(WIDE("linked_elements"), self.m_linkedElements);

@@ -66,7 +66,7 @@ template <class Self, class Fields>
 void ExcVisuPoints::describe(Self& self, Fields& fields)
 {
     fields.filled(WIDE("points"), places(self.m_points));
-    fields.filled(WIDE("point_indices"), places(self.m_pointIndices));
+    fields.filled(WIDE("point_indices"), indices(WIDE("points"), 3, places(self.m_pointIndices)));
     fields.always(WIDE("marker_style"), self.m_markerStyle);
     fields.always(WIDE("color"), self.m_color);
 }

@@ -9,13 +9,13 @@ template <class Self, class Fields>
 void ExcVisuView::describe(Self& self, Fields& fields)
 {
     fields.always(WIDE("display_name"), self.m_displayName);
-    fields.always(WIDE("id"), self.m_id);
+    fields.always(WIDE("id"), identity(EIdSpace::None, self.m_id));
     fields.always(WIDE("mechanical_id"), self.m_mechanicalId);
     fields.always(WIDE("hidden"), self.m_hidden);
     fields.always(WIDE("origin"), self.m_origin);
     fields.always(WIDE("direction_u"), self.m_directionU);
     fields.always(WIDE("direction_v"), self.m_directionV);
-    fields.filled(WIDE("annotation_ids"), valid(self.m_annotationIds));
+    fields.filled(WIDE("annotation_ids"), reference(EIdSpace::Annotation, valid(self.m_annotationIds)));
 }
 template struct Described<ExcVisuView>;
 

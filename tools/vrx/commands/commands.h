@@ -25,7 +25,15 @@ struct Command
     int (*run)(Arguments& arguments);
 };
 
+extern const Command kCheck;
+extern const Command kClean;
+extern const Command kDiff;
 extern const Command kHelp;
+extern const Command kList;
+extern const Command kRecord;
+extern const Command kReplay;
+extern const Command kSchema;
+extern const Command kShow;
 
 /// In the order of the help.
 const std::vector<const Command*>& allCommands();

@@ -6,12 +6,14 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-/// What the commands look at: a capture, a message's text, a binary form, a buffer in shared memory, standard input.
+/// What the commands look at: a capture, a message's text, an object's text or binary form, a buffer in shared memory,
+/// standard input.
 namespace input
 {
 
@@ -39,24 +41,42 @@ struct Item
     ESender sender = ESender::Unknown;
     std::chrono::microseconds time{0}; ///< Since the start of the recording.
 
-    vrx::MessageHead head;
+    vrx::MessageHead head;     ///< Of a buffer that was named alone, its name only.
     mp::wstring text;          ///< Of a message, as it crossed; empty for an object alone.
     vrx::JsonDocument message; ///< Of a message; null where its text is no JSON, and for an object alone.
 
     EBuffer buffer = EBuffer::None;
-    std::string damage;
+    std::string damage;                    ///< Of the buffer, or of a message that is no JSON; empty for none.
     std::vector<char> content;             ///< The bytes of the buffer, or of an object alone, as they were found.
     bool isCompressed = false;             ///< Whether they are.
-    std::uint64_t plainSize = 0;           ///< The size of the binary form.
-    std::optional<vrx::JsonDocument> form; ///< The tree of a binary form; none for the bodies of a block.
+    std::uint64_t plainSize = 0;           ///< Of the content when it is not compressed.
+    std::optional<vrx::JsonDocument> form; ///< The tree of a binary form, or of the text of an object alone; none for
+                                           ///< the bodies of a block.
     bool wasUnloaded = false;              ///< Nobody had loaded the buffer when the recording ended.
 
     /// The exchange object's own JSON, from the message or from the buffer; null for a message that has none.
     const vrx::JsonValue* object() const;
+
+    /// The object, or for want of one the message. Null where there is no JSON at all.
+    const vrx::JsonValue* root() const;
 };
 
-/// Gives each item of an input in its order. `what` is a file, the name of a buffer, or "-" for standard input. Throws
-/// tool::InputError for what cannot be read at all. Memory holds one item at a time.
-void readItems(const std::string& what, const std::function<void(const Item&)>& take);
+/// What a capture tells beside its messages; empty for what is none.
+struct Recording
+{
+    bool isCapture = false;
+    bool isCut = false; ///< It ends within a frame, as that of a recorder that was killed may.
+    std::string start;  ///< What was started, and when: a JSON text in UTF-8.
+    std::string end;    ///< How the translator ended: the same; empty where the recording did not come to it.
+};
+
+/// The most bytes that a file, a message or a decompressed content may have, unless the user says otherwise.
+constexpr std::uint64_t kDefaultLimit = std::uint64_t{4} << 30U;
+
+/// Gives each item of an input in its order; `take` may move from it. `what` is a file, the name of a buffer, or "-"
+/// for standard input. Throws tool::InputError for what cannot be read at all; the items before a damaged place of a
+/// capture have been given then. Memory holds one item at a time.
+Recording readItems(const std::string& what, const std::function<void(Item&)>& take,
+                    std::uint64_t limit = kDefaultLimit);
 
 } // namespace input

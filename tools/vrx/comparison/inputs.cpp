@@ -1,0 +1,201 @@
+#include "comparison/inputs.h"
+
+#include "console/progress.h"
+#include "json/member.h"
+#include "measures.h"
+#include "printing/item_lines.h"
+#include "printing/scalar_text.h"
+#include "vrx_api/exchange/compressor.h"
+
+#include <algorithm>
+#include <deque>
+#include <map>
+#include <utility>
+
+namespace comparison
+{
+
+namespace
+{
+
+using input::Item;
+
+// What pairs two messages.
+std::string keyOf(const Item& item)
+{
+    const vrx::JsonValue* const object = item.object();
+    const vrx::JsonValue* const block = object == nullptr ? nullptr : json::member(*object, WIDE("block_id"));
+    return printing::className(item) + (block == nullptr ? "" : " of block " + printing::briefText(*block)) +
+           (item.sender == input::ESender::Host ? " from the host" : "");
+}
+
+// Bytes without a form are the bodies of a block, or unknown: they are the same only byte by byte.
+vrx::Bytes plainBytes(const Item& item, std::uint64_t limit)
+{
+    vrx::Bytes bytes;
+    if (item.isCompressed)
+    {
+        vrx::Compressor::decompress(bytes, item.content.data(), item.content.size(), limit);
+    }
+    else
+    {
+        bytes.assign(item.content.begin(), item.content.end());
+    }
+    return bytes;
+}
+
+const char* stateOf(const Item& item)
+{
+    switch (item.buffer)
+    {
+    case input::EBuffer::Missing:
+        return "missing";
+    case input::EBuffer::Damaged:
+        return "damaged";
+    default:
+        return "there";
+    }
+}
+
+class Inputs
+{
+public:
+    Inputs(const Rules& rules, std::uint64_t limit, const std::function<void(const Line&)>& report)
+        : m_rules(rules)
+        , m_limit(limit)
+        , m_report(report)
+    {
+        // A message that names the buffer of a block's bodies has the name in its object.
+        m_rules.ignoredKeys.insert(WIDE("shared_acis_buffer_name"));
+    }
+
+    void takeFirst(Item& item)
+    {
+        m_progress.step("first, message " + tool::counted(item.number));
+        if (isCompared(item))
+        {
+            const std::string key = keyOf(item);
+            m_items[key].push_back(std::move(item));
+        }
+    }
+
+    void takeSecond(const Item& item)
+    {
+        m_progress.step("second, message " + tool::counted(item.number));
+        if (!isCompared(item))
+        {
+            return;
+        }
+        const auto found = partnerOf(item);
+        if (found == m_items.end())
+        {
+            m_report({nameOf(item), nullptr, "only in B"});
+            return;
+        }
+        compare(found->second.front(), item);
+        found->second.pop_front();
+        if (found->second.empty())
+        {
+            m_items.erase(found);
+        }
+    }
+
+    void end() const
+    {
+        std::map<std::size_t, const Item*> left;
+        for (const auto& [key, items] : m_items)
+        {
+            for (const Item& item : items)
+            {
+                left.emplace(item.number, &item);
+            }
+        }
+        for (const auto& [number, item] : left)
+        {
+            m_report({nameOf(*item), nullptr, "only in A"});
+        }
+    }
+
+private:
+    using Items = std::map<std::string, std::deque<Item>>;
+
+    bool isCompared(const Item& item) const
+    {
+        const bool isPassing = item.head.objectName == WIDE("exc_progress") || item.head.objectName == WIDE("exc_log");
+        return m_rules.all || !isPassing;
+    }
+
+    Items::iterator partnerOf(const Item& item)
+    {
+        const bool isAlone = item.sender == input::ESender::Unknown && m_items.size() == 1 &&
+                             m_items.begin()->second.front().sender == input::ESender::Unknown;
+        return isAlone ? m_items.begin() : m_items.find(keyOf(item));
+    }
+
+    static std::string nameOf(const Item& item)
+    {
+        return item.sender == input::ESender::Unknown ? printing::className(item)
+                                                      : '#' + std::to_string(item.number) + ' ' + keyOf(item);
+    }
+
+    void compare(const Item& a, const Item& b)
+    {
+        const std::string name = a.sender == input::ESender::Unknown ? "" : nameOf(a);
+        const auto differ = [&](const std::string& text) { m_report({name, nullptr, text}); };
+        if (a.head.objectName != b.head.objectName && !a.text.empty() && !b.text.empty())
+        {
+            differ("class: " + printing::className(a) + " -> " + printing::className(b));
+        }
+        if (m_rules.all && a.time != b.time)
+        {
+            differ("time: " + std::to_string(a.time.count()) + " us -> " + std::to_string(b.time.count()) + " us");
+        }
+        if (std::string(stateOf(a)) != stateOf(b))
+        {
+            differ(std::string("buffer: ") + stateOf(a) + " -> " + stateOf(b));
+        }
+        const bool haveBytes = !a.content.empty() && !b.content.empty() && !a.form && !b.form;
+        if (haveBytes && plainBytes(a, m_limit) != plainBytes(b, m_limit))
+        {
+            differ("bytes of the buffer: " + tool::counted(a.plainSize) + " -> " + tool::counted(b.plainSize) +
+                   ", not the same");
+        }
+        const vrx::JsonValue* const treeOfA = treeOf(a);
+        const vrx::JsonValue* const treeOfB = treeOf(b);
+        if (treeOfA != nullptr && treeOfB != nullptr)
+        {
+            compareTrees(*treeOfA, *treeOfB, m_rules, [&](const Difference& found) { m_report({name, &found, ""}); });
+        }
+        else if (a.text != b.text && a.message.IsNull() && b.message.IsNull())
+        {
+            differ("the texts, which are no JSON");
+        }
+    }
+
+    // An envelope without its object says nothing but the name of its buffer.
+    static const vrx::JsonValue* treeOf(const Item& item)
+    {
+        return item.head.kind == vrx::EMessageKind::Envelope ? item.object() : item.root();
+    }
+
+    Rules m_rules;
+    std::uint64_t m_limit;
+    const std::function<void(const Line&)>& m_report;
+    Items m_items;
+    console::Progress m_progress;
+};
+
+} // namespace
+
+void compareInputs(const std::string& a, const std::string& b, const Rules& rules, std::uint64_t limit,
+                   const std::function<void(const Line&)>& report)
+{
+    Inputs inputs(rules, limit, report);
+    input::readItems(
+        a, [&inputs](Item& item) { inputs.takeFirst(item); }, limit);
+    input::readItems(
+        b, [&inputs](Item& item) { inputs.takeSecond(item); }, limit);
+    inputs.end();
+}
+
+} // namespace comparison

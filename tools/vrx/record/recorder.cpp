@@ -1,0 +1,148 @@
+#include "record/recorder.h"
+
+#include "bridge/frames.h"
+#include "bridge/undelivered_buffers.h"
+#include "end_request.h"
+#include "unloaded_buffers.h"
+
+#include <cstdio>
+#include <iostream>
+#include <optional>
+#include <thread>
+
+namespace record
+{
+
+namespace
+{
+
+using namespace std::chrono_literals;
+using vrx::bridge::StreamError;
+
+constexpr auto kGrace = 1500ms; // for a translator that was asked to end
+constexpr auto kPause = 10ms;
+
+} // namespace
+
+Recorder::Recorder(const std::vector<std::string>& command)
+    : m_translator(command, &m_journal)
+{
+}
+
+int Recorder::run(Recording& recording)
+{
+    m_recording = &recording;
+    tool::takeEndSignals();
+    std::thread commands([this] { passCommands(); });
+    passAnswers();
+    commands.join();
+    const std::string howItEnded = m_translator.end();
+    const std::optional<int> exitCode = m_translator.exitCode();
+    const std::set<mp::wstring> left = tool::unloadedBuffers(recording.told(), [this] { return isHostGone(); });
+    m_unloaded.insert(left.begin(), left.end());
+    recording.end(m_unloaded, exitCode, howItEnded);
+    removeBuffers();
+    if (!exitCode)
+    {
+        std::cerr << "vrx record: the translator died: " << howItEnded << '\n';
+    }
+    return exitCode.value_or(1);
+}
+
+// Ends with the translator's output. A host that is gone does not end it: what the translator tells of until its own
+// end is still to be removed.
+void Recorder::passAnswers()
+{
+    try
+    {
+        vrx::bridge::FrameReader answers(m_translator.output());
+        while (const std::optional<mp::wstring> message = answers.read())
+        {
+            m_recording->fromTranslator(*message);
+            try
+            {
+                vrx::bridge::writeFrame(m_toHost, *message);
+            }
+            catch (const StreamError&)
+            {
+                m_hostTakesNothing = true;
+                tool::isToEnd = true;
+            }
+        }
+    }
+    catch (const StreamError& failure)
+    {
+        std::cerr << "vrx record: the translator's output: " << failure.what() << '\n';
+        tool::isToEnd = true;
+    }
+    // The host hears of the end at once.
+    m_toHost.close();
+}
+
+// Is alone with the translator's input and with its end.
+void Recorder::passCommands()
+{
+    const vrx::bridge::Wait wait{std::nullopt, &tool::isToEnd};
+    try
+    {
+        vrx::bridge::FrameReader commands(m_fromHost);
+        while (const std::optional<mp::wstring> message = commands.read(wait))
+        {
+            m_recording->fromHost(*message);
+            vrx::bridge::writeFrame(m_translator.input(), *message, wait);
+        }
+    }
+    catch (const vrx::bridge::Cancelled&)
+    {
+        // The translator is ended below.
+    }
+    catch (const StreamError& failure)
+    {
+        std::cerr << "vrx record: the host's commands: " << failure.what() << '\n';
+    }
+    // A host that has all answers will load nothing any more, and the translator is about to remove what is left.
+    if (m_recording->isAnswered())
+    {
+        m_unloaded = tool::existingBuffers(m_recording->told());
+    }
+    m_translator.closeInput();
+    endTranslator();
+}
+
+// Waits for the end of the translator, and brings it about when that is asked for.
+void Recorder::endTranslator()
+{
+    while (!tool::isToEnd)
+    {
+        if (m_translator.wait(kPause))
+        {
+            return;
+        }
+    }
+    m_translator.terminate();
+    if (!m_translator.wait(kGrace))
+    {
+        m_translator.kill();
+    }
+}
+
+bool Recorder::isHostGone() const
+{
+    return m_hostTakesNothing || m_host.hasEnded();
+}
+
+// What a living host was told of is its own affair.
+void Recorder::removeBuffers() const
+{
+    vrx::bridge::UndeliveredBuffers undelivered;
+    for (const mp::wstring& name : m_journal.names())
+    {
+        undelivered.add(name);
+    }
+    for (const mp::wstring& name : m_recording->told())
+    {
+        isHostGone() ? undelivered.add(name) : undelivered.delivered(name);
+    }
+}
+
+} // namespace record

@@ -1,0 +1,125 @@
+#include "replay/recorded_exchanges.h"
+
+#include "vrx_api/exchange/peek_envelope.h"
+#include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/json_value.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace replay
+{
+
+namespace
+{
+
+using capture::EFrame;
+using vrx::EMessageKind;
+
+// Finds the commands and gives the answers to them: a translator answers one command after the other.
+class Exchanges
+{
+public:
+    explicit Exchanges(std::vector<Exchange>& exchanges)
+        : m_exchanges(exchanges)
+    {
+    }
+
+    void add(const capture::Frame& frame)
+    {
+        switch (frame.kind)
+        {
+        case EFrame::Buffer:
+        case EFrame::MissingBuffer:
+            m_buffers.push_back(frame.place);
+            break;
+        case EFrame::FromHost:
+            addFromHost(frame);
+            m_buffers.clear();
+            break;
+        case EFrame::FromTranslator:
+            m_buffers.push_back(frame.place);
+            addAnswer(vrx::peekEnvelope(frame.message).kind);
+            m_buffers.clear();
+            break;
+        case EFrame::Start:
+        case EFrame::UnloadedBuffers:
+        case EFrame::End:
+            break;
+        }
+    }
+
+private:
+    void addFromHost(const capture::Frame& frame)
+    {
+        const EMessageKind kind = vrx::peekEnvelope(frame.message).kind;
+        if (kind == EMessageKind::Command || kind == EMessageKind::Unknown)
+        {
+            m_exchanges.push_back({commandIn(frame.message), frame.time, {}, false, false});
+        }
+        else if (kind == EMessageKind::Result && !m_exchanges.empty())
+        {
+            m_exchanges.back().hasObjects = true;
+        }
+    }
+
+    void addAnswer(EMessageKind kind)
+    {
+        if (m_current == m_exchanges.size())
+        {
+            return; // Nobody asked.
+        }
+        Exchange& exchange = m_exchanges[m_current];
+        exchange.places.insert(exchange.places.end(), m_buffers.begin(), m_buffers.end());
+        if (kind == EMessageKind::Result || kind == EMessageKind::Info)
+        {
+            exchange.isAnswered = true;
+            ++m_current;
+        }
+    }
+
+    std::vector<Exchange>& m_exchanges;
+    std::size_t m_current = 0;
+    std::vector<std::uint64_t> m_buffers; // and the message that names them
+};
+
+} // namespace
+
+mp::wstring commandIn(const mp::wstring& message)
+{
+    mp::wstringstream stream(message);
+    vrx::JsonDocument document;
+    vrx::JsonTextIO::read(stream, document);
+    if (!document.IsObject())
+    {
+        return {};
+    }
+    const auto command = document.FindMember(WIDE("command"));
+    return command != document.MemberEnd() && command->value.IsString() ? command->value.GetString() : mp::wstring();
+}
+
+RecordedExchanges::RecordedExchanges(capture::CaptureReader& reader)
+{
+    Exchanges exchanges(m_exchanges);
+    for (capture::Frame frame; reader.next(frame);)
+    {
+        exchanges.add(frame);
+    }
+}
+
+const Exchange* RecordedExchanges::next(const mp::wstring& command)
+{
+    const auto isOfCommand = [&command](const Exchange& exchange) { return exchange.command == command; };
+    const auto last = m_last.find(command);
+    const std::size_t begin = last == m_last.end() ? 0 : last->second + 1;
+    const auto found =
+        std::find_if(m_exchanges.begin() + static_cast<std::ptrdiff_t>(begin), m_exchanges.end(), isOfCommand);
+    if (found != m_exchanges.end())
+    {
+        m_last[command] = static_cast<std::size_t>(std::distance(m_exchanges.begin(), found));
+        return &*found;
+    }
+    return last == m_last.end() ? nullptr : &m_exchanges[last->second];
+}
+
+} // namespace replay

@@ -1,0 +1,449 @@
+#include "schema/schema.h"
+
+#include "classes/class_named.h"
+#include "json/utf.h"
+#include "mp/narrow.h"
+#include "vrx_api/command/command.h"
+#include "vrx_api/command/result.h"
+#include "vrx_api/exchange/envelope_keys.h"
+#include "vrx_api/exchange/exchange_object_registry.h"
+#include "vrx_api/exchange/exchange_object_wrapper.h"
+#include "vrx_api/info/ferrant_info.h"
+#include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/json_value.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <set>
+#include <typeinfo>
+#include <utility>
+#include <vector>
+
+namespace schema
+{
+
+namespace
+{
+
+using mp::wstring;
+using mp::wstring_view;
+using vrx::ClassShape;
+using vrx::EIdSpace;
+using vrx::ERole;
+using vrx::EShape;
+using vrx::FieldShape;
+using vrx::JsonAllocator;
+using vrx::JsonDocument;
+using vrx::JsonValue;
+using vrx::Shape;
+
+// The name of a definition: a reference holds it as it is, but for the brackets of a template.
+std::string definitionName(const ClassShape& shape)
+{
+    std::string name = shape.name();
+    name.erase(std::remove(name.begin(), name.end(), '>'), name.end());
+    std::replace(name.begin(), name.end(), '<', '.');
+    return name;
+}
+
+const char* nameOf(EIdSpace space)
+{
+    switch (space)
+    {
+    case EIdSpace::Block:
+        return "a block";
+    case EIdSpace::BlockReference:
+        return "a reference to a block";
+    case EIdSpace::Body:
+        return "a body";
+    case EIdSpace::Layer:
+        return "a layer";
+    case EIdSpace::Annotation:
+        return "an annotation";
+    case EIdSpace::Datum:
+        return "a datum, or several as in A-B";
+    default:
+        return "the object";
+    }
+}
+
+std::string describe(const FieldShape& field)
+{
+    const Shape& shape = field.shape;
+    std::string text;
+    if (shape.role == ERole::Identity)
+    {
+        text = std::string("The id of ") + nameOf(shape.space) + ". ";
+    }
+    else if (shape.role == ERole::Reference)
+    {
+        text = std::string("Names ") + nameOf(shape.space) + " by its id. ";
+    }
+    else if (shape.role == ERole::Index)
+    {
+        text = "Positions in \"" + mp::toNarrow(wstring(shape.indexed)) + "\", where " +
+               std::to_string(shape.indexWidth) + " numbers make one. ";
+    }
+    text += field.isRead ? "" : "Written, and not read. ";
+    text += field.isWritten ? "" : "Read, and not written. ";
+    return text.substr(0, text.size() - (text.empty() ? 0 : 1));
+}
+
+class Maker
+{
+public:
+    Maker()
+    {
+        for (const wstring& name : vrx::ExchangeObjectRegistry::instance().names())
+        {
+            m_wireNames[classes::ofObject(name)] = name;
+        }
+    }
+
+    /// Begins the document.
+    void begin(const std::string& title)
+    {
+        m_root.SetObject();
+        add(m_root, WIDE("$schema"), text("https://json-schema.org/draft/2020-12/schema"));
+        add(m_root, WIDE("title"), text(title));
+        add(m_root, WIDE("$comment"),
+            text("A number whose type is \"number\" is written with a fraction, 1.0 for one, and an \"integer\" "
+                 "without: "
+                 "a reader passes over the other. Readers skip keys that they do not know, so that all objects are "
+                 "open. A description tells keys that are only read or only written."));
+    }
+
+    JsonValue reference(const ClassShape& shape)
+    {
+        m_needed.insert(&shape);
+        JsonValue made(rapidjson::kObjectType);
+        add(made, WIDE("$ref"), text("#/$defs/" + definitionName(shape)));
+        return made;
+    }
+
+    JsonDocument& root() { return m_root; }
+
+    void add(JsonValue& object, wstring_view key, JsonValue value)
+    {
+        JsonValue name(key.data(), static_cast<rapidjson::SizeType>(key.size()), allocator());
+        object.AddMember(name, value, allocator());
+    }
+
+    JsonAllocator& allocator() { return m_root.GetAllocator(); }
+
+    /// Ends the document with the definitions that were referred to.
+    std::string end()
+    {
+        std::map<std::string, JsonValue> made;
+        std::set<const ClassShape*> known;
+        for (std::vector<const ClassShape*> added = news(known); !added.empty(); added = news(known))
+        {
+            for (const ClassShape* const shape : added)
+            {
+                made.emplace(definitionName(*shape), definition(*shape));
+            }
+        }
+        JsonValue definitions(rapidjson::kObjectType);
+        for (auto& [name, value] : made)
+        {
+            add(definitions, mp::toWide(name), std::move(value));
+        }
+        add(m_root, WIDE("$defs"), std::move(definitions));
+        mp::wostringstream stream;
+        vrx::JsonTextIO::write(stream, m_root, true);
+        return json::toUtf8(stream.str());
+    }
+
+private:
+    JsonValue text(const std::string& characters)
+    {
+        const wstring wide = mp::toWide(characters);
+        return JsonValue(wide.data(), static_cast<rapidjson::SizeType>(wide.size()), allocator());
+    }
+
+    JsonValue text(wstring_view characters)
+    {
+        return JsonValue(characters.data(), static_cast<rapidjson::SizeType>(characters.size()), allocator());
+    }
+
+    /// The classes that are needed and not known, which become known.
+    std::vector<const ClassShape*> news(std::set<const ClassShape*>& known) const
+    {
+        std::vector<const ClassShape*> added;
+        for (const ClassShape* const shape : m_needed)
+        {
+            if (known.insert(shape).second)
+            {
+                added.push_back(shape);
+            }
+        }
+        return added;
+    }
+
+    JsonValue definition(const ClassShape& shape)
+    {
+        JsonValue made = ofShape(shape.shape());
+        const auto wireName = m_wireNames.find(&shape);
+        if (wireName != m_wireNames.end())
+        {
+            add(made, WIDE("description"), text("The exchange object " + mp::toNarrow(wireName->second) + "."));
+        }
+        if (&shape == ClassShape::find(typeid(vrx::ExchangeObjectWrapper)))
+        {
+            add(made, WIDE("allOf"), rulesOfEnvelope());
+        }
+        return made;
+    }
+
+    JsonValue ofType(const char* name)
+    {
+        JsonValue made(rapidjson::kObjectType);
+        add(made, WIDE("type"), text(std::string(name)));
+        return made;
+    }
+
+    template <class T>
+    JsonValue integer()
+    {
+        JsonValue made = ofType("integer");
+        add(made, WIDE("minimum"), JsonValue(std::numeric_limits<T>::min()));
+        add(made, WIDE("maximum"), JsonValue(std::numeric_limits<T>::max()));
+        return made;
+    }
+
+    JsonValue names(const std::vector<wstring_view>& all)
+    {
+        JsonValue list(rapidjson::kArrayType);
+        for (const wstring_view name : all)
+        {
+            list.PushBack(text(name), allocator());
+        }
+        JsonValue made(rapidjson::kObjectType);
+        add(made, WIDE("enum"), std::move(list));
+        return made;
+    }
+
+    void addSize(JsonValue& array, std::size_t size)
+    {
+        add(array, WIDE("minItems"), JsonValue(static_cast<std::uint64_t>(size)));
+        add(array, WIDE("maxItems"), JsonValue(static_cast<std::uint64_t>(size)));
+    }
+
+    JsonValue ofShape(const Shape& shape)
+    {
+        JsonValue made = withoutNull(shape);
+        if (!shape.mayBeNull)
+        {
+            return made;
+        }
+        JsonValue choice(rapidjson::kArrayType);
+        choice.PushBack(made, allocator());
+        choice.PushBack(ofType("null"), allocator());
+        JsonValue either(rapidjson::kObjectType);
+        add(either, WIDE("anyOf"), std::move(choice));
+        return either;
+    }
+
+    JsonValue withoutNull(const Shape& shape)
+    {
+        switch (shape.kind)
+        {
+        case EShape::Boolean:
+            return ofType("boolean");
+        case EShape::Int32:
+            return integer<std::int32_t>();
+        case EShape::Uint32:
+            return integer<std::uint32_t>();
+        case EShape::Uint64:
+            return integer<std::uint64_t>();
+        case EShape::Double:
+            return ofType("number");
+        case EShape::Text:
+            return ofType("string");
+        case EShape::Name:
+            return names(shape.names);
+        case EShape::Record:
+            return ofRecord(shape);
+        case EShape::Map:
+            return ofMap(shape);
+        case EShape::List:
+            return ofList(shape);
+        case EShape::Tuple:
+            return ofTuple(shape);
+        case EShape::Class:
+        case EShape::OneOf:
+            return ofClasses(shape);
+        default:
+            return JsonValue(rapidjson::kObjectType);
+        }
+    }
+
+    JsonValue ofRecord(const Shape& shape)
+    {
+        JsonValue properties(rapidjson::kObjectType);
+        JsonValue required(rapidjson::kArrayType);
+        for (const FieldShape& field : shape.fields)
+        {
+            JsonValue made = ofShape(field.shape);
+            const std::string description = describe(field);
+            if (!description.empty())
+            {
+                add(made, WIDE("description"), text(description));
+            }
+            add(properties, field.key, std::move(made));
+            if (field.isRequired)
+            {
+                required.PushBack(text(field.key), allocator());
+            }
+        }
+        JsonValue made = ofType("object");
+        add(made, WIDE("properties"), std::move(properties));
+        if (!required.Empty())
+        {
+            add(made, WIDE("required"), std::move(required));
+        }
+        return made;
+    }
+
+    JsonValue ofMap(const Shape& shape)
+    {
+        JsonValue made = ofType("object");
+        if (!shape.names.empty())
+        {
+            add(made, WIDE("propertyNames"), names(shape.names));
+        }
+        add(made, WIDE("additionalProperties"), ofShape(shape.parts.front()));
+        return made;
+    }
+
+    JsonValue ofList(const Shape& shape)
+    {
+        JsonValue made = ofType("array");
+        add(made, WIDE("items"), ofShape(shape.parts.front()));
+        if (shape.size != 0)
+        {
+            addSize(made, shape.size);
+        }
+        return made;
+    }
+
+    JsonValue ofTuple(const Shape& shape)
+    {
+        JsonValue items(rapidjson::kArrayType);
+        for (const Shape& part : shape.parts)
+        {
+            items.PushBack(ofShape(part), allocator());
+        }
+        JsonValue made = ofType("array");
+        add(made, WIDE("prefixItems"), std::move(items));
+        addSize(made, shape.parts.size());
+        return made;
+    }
+
+    JsonValue ofClasses(const Shape& shape)
+    {
+        std::vector<const ClassShape*> found;
+        for (const std::type_info* const type : shape.classes)
+        {
+            const ClassShape* const each = ClassShape::find(*type);
+            if (each != nullptr)
+            {
+                found.push_back(each);
+            }
+        }
+        if (found.size() == 1)
+        {
+            return reference(*found.front());
+        }
+        JsonValue choice(rapidjson::kArrayType);
+        for (const ClassShape* const each : found)
+        {
+            choice.PushBack(reference(*each), allocator());
+        }
+        JsonValue made(rapidjson::kObjectType);
+        add(made, WIDE("anyOf"), std::move(choice));
+        return made;
+    }
+
+    // An object of properties, for a condition.
+    JsonValue where(wstring_view key, JsonValue value)
+    {
+        JsonValue properties(rapidjson::kObjectType);
+        add(properties, key, std::move(value));
+        JsonValue made(rapidjson::kObjectType);
+        add(made, WIDE("properties"), std::move(properties));
+        return made;
+    }
+
+    JsonValue constant(JsonValue value)
+    {
+        JsonValue made(rapidjson::kObjectType);
+        add(made, WIDE("const"), std::move(value));
+        return made;
+    }
+
+    void addRule(JsonValue& rules, JsonValue condition, JsonValue data)
+    {
+        JsonValue rule(rapidjson::kObjectType);
+        add(rule, WIDE("if"), std::move(condition));
+        add(rule, WIDE("then"), where(keyOf(vrx::kEnvelopeData), std::move(data)));
+        rules.PushBack(rule, allocator());
+    }
+
+    static wstring_view keyOf(vrx::Key key) { return {key.text, key.size}; }
+
+    // The object itself stands in the message, or the name of its buffer.
+    JsonValue rulesOfEnvelope()
+    {
+        JsonValue rules(rapidjson::kArrayType);
+        JsonValue binary = where(keyOf(vrx::kEnvelopeBinary), constant(JsonValue(true)));
+        JsonValue wanted(rapidjson::kArrayType);
+        wanted.PushBack(text(keyOf(vrx::kEnvelopeBinary)), allocator());
+        add(binary, WIDE("required"), std::move(wanted));
+        addRule(rules, std::move(binary), ofType("string"));
+        for (const wstring& name : vrx::ExchangeObjectRegistry::instance().names())
+        {
+            JsonValue condition = where(keyOf(vrx::kEnvelopeName), constant(text(wstring_view(name))));
+            add(condition[WIDE("properties")], keyOf(vrx::kEnvelopeBinary), constant(JsonValue(false)));
+            addRule(rules, std::move(condition), reference(*classes::ofObject(name)));
+        }
+        return rules;
+    }
+
+    JsonDocument m_root;
+    std::map<const ClassShape*, wstring> m_wireNames;
+    std::set<const ClassShape*> m_needed;
+};
+
+} // namespace
+
+std::string ofMessages()
+{
+    Maker maker;
+    maker.begin("Messages between a host and a translator");
+    JsonValue choice(rapidjson::kArrayType);
+    for (const std::type_info* const type :
+         {&typeid(vrx::Command), &typeid(vrx::Result), &typeid(vrx::FerrantInfo), &typeid(vrx::ExchangeObjectWrapper)})
+    {
+        choice.PushBack(maker.reference(*ClassShape::find(*type)), maker.allocator());
+    }
+    maker.add(maker.root(), WIDE("anyOf"), std::move(choice));
+    for (const ClassShape* const shape : ClassShape::all())
+    {
+        maker.reference(*shape);
+    }
+    return maker.end();
+}
+
+std::string ofClass(const ClassShape& shape)
+{
+    Maker maker;
+    maker.begin(shape.name());
+    JsonValue own = maker.reference(shape);
+    maker.add(maker.root(), WIDE("$ref"), std::move(own[WIDE("$ref")]));
+    return maker.end();
+}
+
+} // namespace schema
