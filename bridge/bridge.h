@@ -1,10 +1,15 @@
 #pragma once
 
 #include "bridge/buffer_journal.h"
+#include "bridge/cancel_on_interrupt.h"
 #include "bridge/child_process.h"
 #include "bridge/frames.h"
 #include "bridge/handle.h"
+#include "bridge/host_session.h"
+#include "bridge/listener.h"
 #include "bridge/stream.h"
 #include "bridge/stream_error.h"
+#include "bridge/translator_channel.h"
+#include "bridge/translator_failure.h"
 #include "bridge/undelivered_buffers.h"
 #include "bridge/wait.h"

@@ -25,8 +25,8 @@ public:
     NativeHandle inherited() const { return m_inherited.get(); }
 
 private:
-    Handle m_inherited; // before the other one, which may lend it the file
-    Handle m_file;
+    OwnedHandle m_inherited; // before the other one, which may lend it the file
+    OwnedHandle m_file;
 };
 
 /// From now on this process notes its shared buffers in the journals that it was started with. Without one nothing

@@ -56,8 +56,8 @@ private:
     Stream m_input;
     Stream m_output;
 #ifdef _WIN32
-    Handle m_process;
-    Handle m_job;
+    OwnedHandle m_process;
+    OwnedHandle m_job;
     bool m_wasKilled = false; // by us
 #else
     NativeHandle m_process = kNoHandle;

@@ -85,7 +85,7 @@ std::wstring environmentWith(const std::vector<NativeHandle>& journals)
 }
 
 // A copy for the child. Without a standard error of ours it has none either.
-Handle inheritable(HANDLE handle)
+OwnedHandle inheritable(HANDLE handle)
 {
     HANDLE copy = nullptr;
     const HANDLE process = GetCurrentProcess();
@@ -127,9 +127,9 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command, const Buffer
 {
     Pipe input = Stream::pipe();
     Pipe output = Stream::pipe();
-    const Handle childInput = inheritable(windowsHandle(input.readEnd.handle()));
-    const Handle childOutput = inheritable(windowsHandle(output.writeEnd.handle()));
-    const Handle childError = inheritable(GetStdHandle(STD_ERROR_HANDLE));
+    const OwnedHandle childInput = inheritable(windowsHandle(input.readEnd.handle()));
+    const OwnedHandle childOutput = inheritable(windowsHandle(output.writeEnd.handle()));
+    const OwnedHandle childError = inheritable(GetStdHandle(STD_ERROR_HANDLE));
     std::vector<NativeHandle> journals = inheritedJournals();
     if (journal != nullptr)
     {
@@ -164,7 +164,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command, const Buffer
     {
         fail("cannot start " + command.at(0));
     }
-    const Handle thread = ownHandle(process.hThread);
+    const OwnedHandle thread = ownHandle(process.hThread);
     m_process = ownHandle(process.hProcess);
     m_job = ownHandle(CreateJobObjectW(nullptr, nullptr));
     AssignProcessToJobObject(windowsHandle(m_job), process.hProcess);

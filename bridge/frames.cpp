@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
 namespace vrx::bridge
 {
@@ -13,72 +12,68 @@ namespace
 {
 
 constexpr std::uint32_t kMaxUnits = 1U << 26; // bulk data travels in shared memory: a longer text is no message
-constexpr std::size_t kPiece = 1U << 20;
+constexpr std::size_t kHeadSize = 4;
 
-std::uint32_t byteAt(const char* bytes, std::size_t place)
+std::uint32_t byteAt(const std::string& bytes, std::size_t place)
 {
     return static_cast<unsigned char>(bytes[place]);
 }
 
-// The number of bytes that were there before the end of the stream.
-std::size_t readBytes(const Stream& stream, char* bytes, std::size_t size, const Wait& wait)
-{
-    std::size_t done = 0;
-    while (done < size)
-    {
-        const std::size_t count = stream.readSome(bytes + done, size - done, wait);
-        if (count == 0)
-        {
-            break;
-        }
-        done += count;
-    }
-    return done;
-}
-
-void requireWhole(std::size_t read, std::size_t wanted)
-{
-    if (read != wanted)
-    {
-        throw StreamError("the pipe ended within a message");
-    }
-}
-
 } // namespace
 
-std::optional<mp::wstring> readFrame(const Stream& stream, const Wait& wait)
+// False at the end of the stream. Memory grows with what really arrives.
+bool FrameReader::fill(std::size_t size, const Wait& wait)
 {
-    std::array<char, 4> head{};
-    const std::size_t headSize = readBytes(stream, head.data(), head.size(), wait);
-    if (headSize == 0)
+    std::array<char, 16384> piece;
+    while (m_bytes.size() < size)
+    {
+        const std::size_t count = m_stream.readSome(piece.data(), std::min(size - m_bytes.size(), piece.size()), wait);
+        if (count == 0)
+        {
+            return false;
+        }
+        m_bytes.append(piece.data(), count);
+    }
+    return true;
+}
+
+std::optional<mp::wstring> FrameReader::read(const Wait& wait)
+{
+    bool isWhole = fill(kHeadSize, wait);
+    if (m_bytes.empty())
     {
         return std::nullopt;
     }
-    requireWhole(headSize, head.size());
-
     std::uint32_t units = 0;
-    for (std::size_t i = 0; i < head.size(); ++i)
+    if (isWhole)
     {
-        units |= byteAt(head.data(), i) << (8 * i);
-    }
-    if (units > kMaxUnits)
-    {
-        throw StreamError("what stands on the pipe is no message");
-    }
-
-    // By pieces, so that memory grows with what really arrives.
-    mp::wstring text;
-    std::vector<char> bytes;
-    for (std::size_t left = std::size_t{units} * 2; left > 0; left -= bytes.size())
-    {
-        bytes.resize(std::min(left, kPiece));
-        requireWhole(readBytes(stream, bytes.data(), bytes.size(), wait), bytes.size());
-        for (std::size_t i = 0; i < bytes.size(); i += 2)
+        for (std::size_t i = 0; i < kHeadSize; ++i)
         {
-            text.push_back(static_cast<mp::wchar>(byteAt(bytes.data(), i) | byteAt(bytes.data(), i + 1) << 8));
+            units |= byteAt(m_bytes, i) << (8 * i);
         }
+        if (units > kMaxUnits)
+        {
+            throw NoMessage("what stands on the pipe is no message");
+        }
+        isWhole = fill(kHeadSize + std::size_t{units} * 2, wait);
     }
+    if (!isWhole)
+    {
+        throw StreamError("the pipe ended within a message");
+    }
+    mp::wstring text(units, mp::wchar());
+    for (std::size_t i = 0; i < text.size(); ++i)
+    {
+        const std::size_t place = kHeadSize + i * 2;
+        text[i] = static_cast<mp::wchar>(byteAt(m_bytes, place) | byteAt(m_bytes, place + 1) << 8);
+    }
+    m_bytes.clear();
     return text;
+}
+
+std::optional<mp::wstring> readFrame(const Stream& stream, const Wait& wait)
+{
+    return FrameReader(stream).read(wait);
 }
 
 void writeFrame(const Stream& stream, const mp::wstring& message, const Wait& wait)
@@ -87,9 +82,9 @@ void writeFrame(const Stream& stream, const mp::wstring& message, const Wait& wa
     {
         throw StreamError("a message is too long for the pipe");
     }
-    std::vector<char> bytes;
-    bytes.reserve(4 + message.size() * 2);
-    for (unsigned i = 0; i < 4; ++i)
+    std::string bytes;
+    bytes.reserve(kHeadSize + message.size() * 2);
+    for (unsigned i = 0; i < kHeadSize; ++i)
     {
         bytes.push_back(static_cast<char>(message.size() >> (8 * i) & 0xFF));
     }

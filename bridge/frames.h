@@ -4,7 +4,9 @@
 #include "mp/serializable.h"
 #include "mp/wide.h"
 
+#include <cstddef>
 #include <optional>
+#include <string>
 
 namespace vrx::bridge
 {
@@ -23,8 +25,29 @@ namespace vrx::bridge
 //   other       one `Result`, an error
 // It ends when its standard input is closed.
 
-/// The next message, or nothing when the other side has closed the pipe between two messages. Throws StreamError, also
-/// for a pipe that ends within a message, and for a count that no message has: 2^26 units are the most.
+/// Reads one message after the other.
+class VRX_BRIDGE FrameReader
+{
+public:
+    /// The stream lives longer than the reader.
+    explicit FrameReader(const Stream& stream)
+        : m_stream(stream)
+    {
+    }
+
+    /// The next message, or nothing when the other side has closed the pipe between two messages. Throws StreamError,
+    /// also for a pipe that ends within a message, and NoMessage for a count that no message has: 2^26 units are the
+    /// most. After TimedOut and Cancelled the next call goes on where this one was left.
+    std::optional<mp::wstring> read(const Wait& wait = {});
+
+private:
+    bool fill(std::size_t size, const Wait& wait);
+
+    const Stream& m_stream;
+    std::string m_bytes; // what has arrived of the message
+};
+
+/// One message, for those who read no second one after a wait that was given up.
 VRX_BRIDGE std::optional<mp::wstring> readFrame(const Stream& stream, const Wait& wait = {});
 
 /// Throws StreamError when the other side is gone.

@@ -13,25 +13,25 @@ using NativeHandle = std::intptr_t;
 
 constexpr NativeHandle kNoHandle = -1;
 
-/// Owns an open file or pipe, and closes it.
-class VRX_BRIDGE Handle
+/// Owns an open file or pipe, and closes it. (`Handle` is a macro of a modelling kernel that translators use.)
+class VRX_BRIDGE OwnedHandle
 {
 public:
-    Handle() = default;
-    explicit Handle(NativeHandle native)
+    OwnedHandle() = default;
+    explicit OwnedHandle(NativeHandle native)
         : m_native(native)
     {
     }
-    Handle(Handle&& other) noexcept
+    OwnedHandle(OwnedHandle&& other) noexcept
         : m_native(std::exchange(other.m_native, kNoHandle))
     {
     }
-    Handle& operator=(Handle&& other) noexcept
+    OwnedHandle& operator=(OwnedHandle&& other) noexcept
     {
         std::swap(m_native, other.m_native);
         return *this;
     }
-    ~Handle() { close(); }
+    ~OwnedHandle() { close(); }
 
     NativeHandle get() const { return m_native; }
     bool isOpen() const { return m_native != kNoHandle; }

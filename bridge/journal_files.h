@@ -15,9 +15,9 @@ constexpr const char* kJournalsVariable = "VRX_BUFFER_JOURNALS";
 
 /// A new file without a name, or with one that goes with the file; `inherited` is another handle of it, to which
 /// writing only appends.
-Handle makeJournalFile(Handle& inherited);
+OwnedHandle makeJournalFile(OwnedHandle& inherited);
 
-std::string contentOf(const Handle& file);
+std::string contentOf(const OwnedHandle& file);
 
 /// In one piece, whoever else writes.
 void append(NativeHandle file, std::string_view bytes);

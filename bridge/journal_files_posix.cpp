@@ -23,15 +23,15 @@ namespace
 } // namespace
 
 // The flag that appends is the file's, not the descriptor's, so that one descriptor does for both.
-Handle makeJournalFile(Handle& inherited)
+OwnedHandle makeJournalFile(OwnedHandle& inherited)
 {
     const int file = ::memfd_create("vrx buffer journal", MFD_CLOEXEC);
     if (file < 0)
     {
         fail("cannot make a journal of shared memory");
     }
-    Handle first(file);
-    inherited = Handle(::fcntl(file, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+    OwnedHandle first(file);
+    inherited = OwnedHandle(::fcntl(file, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
     if (!inherited.isOpen() || ::fcntl(file, F_SETFL, O_APPEND) != 0)
     {
         fail("cannot prepare a journal of shared memory");
@@ -39,7 +39,7 @@ Handle makeJournalFile(Handle& inherited)
     return first;
 }
 
-std::string contentOf(const Handle& file)
+std::string contentOf(const OwnedHandle& file)
 {
     std::string content;
     char bytes[4096];

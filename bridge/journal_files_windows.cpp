@@ -16,10 +16,10 @@ constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE
     throw std::runtime_error(lastErrorText(what));
 }
 
-Handle openFile(const wchar_t* path, DWORD access, DWORD flags, bool inherits)
+OwnedHandle openFile(const wchar_t* path, DWORD access, DWORD flags, bool inherits)
 {
     SECURITY_ATTRIBUTES attributes = {sizeof(SECURITY_ATTRIBUTES), nullptr, inherits ? TRUE : FALSE};
-    Handle file = ownHandle(CreateFileW(path, access, kShared, &attributes, OPEN_EXISTING, flags, nullptr));
+    OwnedHandle file = ownHandle(CreateFileW(path, access, kShared, &attributes, OPEN_EXISTING, flags, nullptr));
     if (!file.isOpen())
     {
         fail("cannot open a journal of shared memory");
@@ -30,7 +30,7 @@ Handle openFile(const wchar_t* path, DWORD access, DWORD flags, bool inherits)
 } // namespace
 
 // The file goes with its last handle.
-Handle makeJournalFile(Handle& inherited)
+OwnedHandle makeJournalFile(OwnedHandle& inherited)
 {
     wchar_t folder[MAX_PATH + 1];
     wchar_t path[MAX_PATH + 1];
@@ -38,12 +38,13 @@ Handle makeJournalFile(Handle& inherited)
     {
         fail("cannot make a journal of shared memory");
     }
-    Handle file = openFile(path, GENERIC_READ | DELETE, FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, false);
+    OwnedHandle file =
+        openFile(path, GENERIC_READ | DELETE, FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, false);
     inherited = openFile(path, FILE_APPEND_DATA | FILE_READ_ATTRIBUTES | SYNCHRONIZE, FILE_ATTRIBUTE_TEMPORARY, true);
     return file;
 }
 
-std::string contentOf(const Handle& file)
+std::string contentOf(const OwnedHandle& file)
 {
     if (SetFilePointer(windowsHandle(file), 0, nullptr, FILE_BEGIN) != 0)
     {

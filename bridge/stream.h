@@ -17,7 +17,7 @@ class VRX_BRIDGE Stream
 {
 public:
     Stream() = default;
-    explicit Stream(Handle handle)
+    explicit Stream(OwnedHandle handle)
         : m_handle(std::move(handle))
     {
     }
@@ -29,20 +29,27 @@ public:
     static Stream standardInput();
     static Stream standardOutput();
 
+    /// The standard output of this process, for the caller alone: what others print there goes to standard error from
+    /// now on, so that no stray line gets between two messages.
+    static Stream takeStandardOutput();
+
     bool isOpen() const { return m_handle.isOpen(); }
     void close() noexcept { m_handle.close(); }
-    const Handle& handle() const { return m_handle; }
+    const OwnedHandle& handle() const { return m_handle; }
 
     /// Waits for the first bytes and reads those that are there; none at the end of the stream. Throws TimedOut and
     /// Cancelled, too.
     std::size_t readSome(char* bytes, std::size_t size, const Wait& wait = {}) const;
+
+    /// Whether a read would not wait.
+    bool isReady() const;
 
     /// A partner who is gone is an error, and no signal. Throws TimedOut and Cancelled, too; on Windows the wait is
     /// looked at only before the bytes are written.
     void writeAll(const char* bytes, std::size_t size, const Wait& wait = {}) const;
 
 private:
-    Handle m_handle;
+    OwnedHandle m_handle;
 };
 
 /// What is written to the one end is read from the other.

@@ -7,11 +7,18 @@
 namespace vrx::bridge
 {
 
-/// A stream cannot be read or written, or what stands on it is no message.
+/// A stream cannot be read or written, or ends within a message.
 class VRX_BRIDGE StreamError : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
+};
+
+/// What stands on a stream is no message.
+class VRX_BRIDGE NoMessage : public StreamError
+{
+public:
+    using StreamError::StreamError;
 };
 
 /// The deadline of a wait is over.

@@ -22,7 +22,7 @@ using std::chrono::milliseconds;
 constexpr milliseconds kLookAtFlag{50};
 constexpr int kPipeSize = 1024 * 1024; // bytes: messages enough for a translator that is much faster than its host
 
-int descriptorOf(const Handle& handle)
+int descriptorOf(const OwnedHandle& handle)
 {
     return static_cast<int>(handle.get());
 }
@@ -34,9 +34,9 @@ int descriptorOf(const Handle& handle)
 
 // A descriptor that is none of the three standard ones, even where the program was started without them: a child's
 // standard streams are put in their places one after the other.
-Handle ownCopy(int descriptor)
+OwnedHandle ownCopy(int descriptor)
 {
-    Handle copy(::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+    OwnedHandle copy(::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
     if (!copy.isOpen())
     {
         fail("cannot open a stream");
@@ -102,7 +102,7 @@ private:
 
 } // namespace
 
-void Handle::close() noexcept
+void OwnedHandle::close() noexcept
 {
     if (m_native != kNoHandle)
     {
@@ -117,8 +117,8 @@ Pipe Stream::pipe()
     {
         fail("cannot make a pipe");
     }
-    const Handle readEnd(ends[0]);
-    const Handle writeEnd(ends[1]);
+    const OwnedHandle readEnd(ends[0]);
+    const OwnedHandle writeEnd(ends[1]);
     ::fcntl(ends[0], F_SETPIPE_SZ, kPipeSize); // a smaller one does too
     return {Stream(ownCopy(ends[0])), Stream(ownCopy(ends[1]))};
 }
@@ -131,6 +131,22 @@ Stream Stream::standardInput()
 Stream Stream::standardOutput()
 {
     return Stream(ownCopy(STDOUT_FILENO));
+}
+
+Stream Stream::takeStandardOutput()
+{
+    Stream output = standardOutput();
+    if (::dup2(STDERR_FILENO, STDOUT_FILENO) < 0)
+    {
+        fail("cannot take standard output");
+    }
+    return output;
+}
+
+bool Stream::isReady() const
+{
+    pollfd polled = {descriptorOf(m_handle), POLLIN, 0};
+    return ::poll(&polled, 1, 0) > 0;
 }
 
 std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) const

@@ -1,7 +1,10 @@
 #include "bridge/stream.h"
 #include "bridge/windows_handle.h"
 
+#include <io.h>
+
 #include <algorithm>
+#include <cstdio>
 
 namespace vrx::bridge
 {
@@ -18,7 +21,7 @@ constexpr std::size_t kPiece = 1U << 20;
     throw StreamError(lastErrorText(what));
 }
 
-Handle ownCopy(HANDLE handle)
+OwnedHandle ownCopy(HANDLE handle)
 {
     HANDLE copy = nullptr;
     const HANDLE process = GetCurrentProcess();
@@ -29,18 +32,19 @@ Handle ownCopy(HANDLE handle)
     return ownHandle(copy);
 }
 
-// Comes back when there is something to read, an error and the end of a pipe included. The system can't wait for an
+// Whether there is something to read, an error and the end of a pipe included.
+bool hasBytes(HANDLE pipe)
+{
+    DWORD available = 0;
+    return PeekNamedPipe(pipe, nullptr, 0, nullptr, &available, nullptr) == 0 || available > 0;
+}
+
+// Comes back when there is something to read. The system can't wait for an
 // anonymous pipe, so it is looked at again and again, with growing pauses.
 void waitForBytes(HANDLE pipe, const Wait& wait)
 {
-    for (DWORD pause = 0;; pause = std::min(pause + 1, kLongestPause))
+    for (DWORD pause = 0; wait.check(), !hasBytes(pipe); pause = std::min(pause + 1, kLongestPause))
     {
-        wait.check();
-        DWORD available = 0;
-        if (PeekNamedPipe(pipe, nullptr, 0, nullptr, &available, nullptr) == 0 || available > 0)
-        {
-            return;
-        }
         Sleep(pause);
     }
 }
@@ -52,7 +56,7 @@ bool isEnd(DWORD error)
 
 } // namespace
 
-void Handle::close() noexcept
+void OwnedHandle::close() noexcept
 {
     if (m_native != kNoHandle)
     {
@@ -79,6 +83,23 @@ Stream Stream::standardInput()
 Stream Stream::standardOutput()
 {
     return Stream(ownCopy(GetStdHandle(STD_OUTPUT_HANDLE)));
+}
+
+// The runtime of C gives the system's handle up with its own, of which this process has a copy by then.
+Stream Stream::takeStandardOutput()
+{
+    Stream output = standardOutput();
+    if (_dup2(_fileno(stderr), _fileno(stdout)) != 0 ||
+        SetStdHandle(STD_OUTPUT_HANDLE, GetStdHandle(STD_ERROR_HANDLE)) == 0)
+    {
+        fail("cannot take standard output");
+    }
+    return output;
+}
+
+bool Stream::isReady() const
+{
+    return hasBytes(windowsHandle(m_handle));
 }
 
 std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) const

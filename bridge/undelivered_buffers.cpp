@@ -4,6 +4,7 @@
 #include "mp/shared_buffer.h"
 
 #include <exception>
+#include <iterator>
 
 namespace vrx::bridge
 {
@@ -26,20 +27,37 @@ void UndeliveredBuffers::delivered(const mp::wstring& name)
     m_names.erase(name);
 }
 
+void UndeliveredBuffers::remove(const mp::wstring& name) noexcept
+{
+    if (name.empty())
+    {
+        return;
+    }
+    try
+    {
+        mp::SharedBuffer<char>::remove(name);
+    }
+    catch (const std::exception& failure)
+    {
+        kolt::log(kolt::kWarning, "An undelivered buffer cannot be removed: ", failure.what());
+    }
+    m_names.erase(name);
+}
+
+void UndeliveredBuffers::forgetLoaded()
+{
+    for (auto name = m_names.begin(); name != m_names.end();)
+    {
+        name = mp::SharedBuffer<char>().openExisting(*name) ? std::next(name) : m_names.erase(name);
+    }
+}
+
 void UndeliveredBuffers::removeAll() noexcept
 {
-    for (const mp::wstring& name : m_names)
+    while (!m_names.empty())
     {
-        try
-        {
-            mp::SharedBuffer<char>::remove(name);
-        }
-        catch (const std::exception& failure)
-        {
-            kolt::log(kolt::kWarning, "An undelivered buffer cannot be removed: ", failure.what());
-        }
+        remove(mp::wstring(*m_names.begin()));
     }
-    m_names.clear();
 }
 
 } // namespace vrx::bridge

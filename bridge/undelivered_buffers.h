@@ -24,6 +24,12 @@ public:
     /// The buffer is the affair of the one who loaded it.
     void delivered(const mp::wstring& name);
 
+    /// Removes this one from the system: nobody will load it. An empty name is passed over.
+    void remove(const mp::wstring& name) noexcept;
+
+    /// Forgets those that are no more in the system.
+    void forgetLoaded();
+
     /// Removes those that are left from the system. What can't be removed is logged.
     void removeAll() noexcept;
 

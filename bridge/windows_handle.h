@@ -13,15 +13,15 @@ inline HANDLE windowsHandle(NativeHandle native)
     return reinterpret_cast<HANDLE>(native); // NOLINT(performance-no-int-to-ptr): a number in the public headers
 }
 
-inline HANDLE windowsHandle(const Handle& handle)
+inline HANDLE windowsHandle(const OwnedHandle& handle)
 {
     return windowsHandle(handle.get());
 }
 
 /// Takes what a function of the system gave, which some mark as failed by null.
-inline Handle ownHandle(HANDLE handle)
+inline OwnedHandle ownHandle(HANDLE handle)
 {
-    return Handle(handle == nullptr ? kNoHandle : reinterpret_cast<NativeHandle>(handle));
+    return OwnedHandle(handle == nullptr ? kNoHandle : reinterpret_cast<NativeHandle>(handle));
 }
 
 inline std::string lastErrorText(const std::string& what)

@@ -6,6 +6,7 @@
 #include "tests/support/shared_memory.h"
 #include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/json_binary_io.h"
+#include "vrx_api/exchange/peek_envelope.h"
 #include "vrx_api/exchange/static_exchange_object.h"
 #include "vrx_api/vrx_api_exchange_common.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
@@ -298,6 +299,56 @@ TEST(Envelope, ThatNamesNothingUsableIsPassedOver)
         EXPECT_EQ(object == nullptr ? "none" : test::written(*object), one.object) << one.in;
         EXPECT_EQ(log.complaints(), one.log) << one.in;
     }
+}
+
+struct PeekRow
+{
+    const char* text;
+    EMessageKind kind;
+    const char* object = "";
+    const char* buffer = "";
+};
+
+TEST(Peek, TellsKindsAndNamesOfAnyText)
+{
+    const PeekRow rows[] = {
+        {"", EMessageKind::Unknown},
+        {"a stray line", EMessageKind::Unknown},
+        {R"(["command"])", EMessageKind::Unknown},
+        {"{}", EMessageKind::Unknown},
+        {R"({"name":"translator"})", EMessageKind::Unknown},
+        {R"({"command":"ping"})", EMessageKind::Command},
+        {R"({"code":"ok","is_finished":true})", EMessageKind::Result},
+        {R"({"name":"translator","version":"1"})", EMessageKind::Info},
+        {R"({"exchange_object_data":"b","binary":true})", EMessageKind::Unknown},
+        {R"({"exchange_object_name":"o"})", EMessageKind::Envelope, "o"},
+        {R"({"exchange_object_name":5,"code":"ok"})", EMessageKind::Envelope},
+        {R"({"exchange_object_name":"o","binary":true,"exchange_object_data":"b"})", EMessageKind::Envelope, "o", "b"},
+        {R"({"exchange_object_name":"o","binary":false,"exchange_object_data":"b"})", EMessageKind::Envelope, "o"},
+        {R"({"exchange_object_name":"o","binary":true,"exchange_object_data":5})", EMessageKind::Envelope, "o"},
+        {R"({"exchange_object_name":"o","exchange_object_data":{"shared_acis_buffer_name":"b"}})",
+         EMessageKind::Envelope, "o", "b"},
+        {R"({"exchange_object_name":"o","exchange_object_data":{"shared_acis_buffer_name":null}})",
+         EMessageKind::Envelope, "o"},
+        // Where the readers end a text, too.
+        {R"({"exchange_object_name":"o","binary":true,"exchange_object_data":"b\u0000c"})", EMessageKind::Envelope, "o",
+         "b"},
+    };
+    for (const PeekRow& row : rows)
+    {
+        const MessageHead head = peekEnvelope(wide(row.text));
+        EXPECT_EQ(head.kind, row.kind) << row.text;
+        EXPECT_TRUE(head.objectName == wide(row.object)) << row.text;
+        EXPECT_TRUE(head.bufferName == wide(row.buffer)) << row.text;
+    }
+}
+
+TEST(Peek, LeavesTheBufferInPlace)
+{
+    const std::string envelope = envelopeOf(std::make_shared<ExcProductStructure>());
+    const MessageHead head = peekEnvelope(test::unitsOf(envelope));
+    EXPECT_TRUE(head.objectName == ExcProductStructure::objName());
+    EXPECT_FALSE(test::takeBuffer(head.bufferName).empty());
 }
 
 TEST(Load, IsOnceAndLater)

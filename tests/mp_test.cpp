@@ -156,6 +156,45 @@ TEST(SharedBuffer, CanNotWriteNothing)
     EXPECT_TRUE(bytes.empty());
 }
 
+TEST(SharedBuffer, IsNotMadeByALook)
+{
+    Buffer buffer;
+    const wstring missing = vrx::IExchangeObject::generateUUID();
+    EXPECT_FALSE(buffer.openExisting(missing));
+    EXPECT_FALSE(buffer.openExisting(missing));
+    EXPECT_THROW(buffer.openExisting({}), SharedMemoryException);
+
+    const wstring name = test::leaveBuffer("left");
+    EXPECT_TRUE(buffer.openExisting(name));
+    EXPECT_EQ(textOf(buffer.view()), "left");
+    EXPECT_FALSE(buffer.openExisting(missing)); // which leaves open what is open
+    EXPECT_EQ(textOf(buffer.view()), "left");
+    EXPECT_EQ(test::takeBuffer(name), "left");
+}
+
+TEST(SharedBuffer, IsRemovedOnceByItsName)
+{
+    const wstring name = test::leaveBuffer("left");
+    EXPECT_TRUE(Buffer::remove(name));
+    EXPECT_FALSE(Buffer::remove(name));
+    EXPECT_THROW(Buffer::remove({}), SharedMemoryException);
+}
+
+TEST(SharedBuffer, IsToldOfBeforeItIsMade)
+{
+    const wstring name = vrx::IExchangeObject::generateUUID();
+    static wstring told;
+    setSharedBufferWatcher([](const wstring& text) {
+        told = text;
+        throw std::runtime_error(Buffer().openExisting(text) ? "it is there" : "not yet");
+    });
+    Buffer buffer;
+    EXPECT_EQ(test::thrownBy<std::runtime_error>([&] { buffer.open(name, true); }), "not yet");
+    setSharedBufferWatcher(nullptr);
+    EXPECT_TRUE(told == name);
+    EXPECT_FALSE(Buffer().openExisting(name));
+}
+
 TEST(SharedBuffer, TurnsTheErrorsOfTheSystem)
 {
     Buffer buffer;

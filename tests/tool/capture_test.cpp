@@ -231,7 +231,7 @@ TEST(CaptureWriter, WritesWhatTheReaderReads)
     const std::string large(3'000'000, 'z');
     {
         capture::CaptureWriter writer(file.path(), false);
-        writer.start("{\"recorder\": \"test\"}");
+        writer.start(R"({"recorder": "test"})");
         writer.fromHost(odd);
         writer.buffer(WIDE("b1"), large.data(), large.size());
         writer.buffer(WIDE(""), nullptr, 0);
@@ -251,7 +251,7 @@ TEST(CaptureWriter, WritesWhatTheReaderReads)
         frames.push_back(frame);
     }
     ASSERT_EQ(frames.size(), 8U);
-    EXPECT_EQ(frames[0].json, "{\"recorder\": \"test\"}");
+    EXPECT_EQ(frames[0].json, R"({"recorder": "test"})");
     EXPECT_EQ(frames[1].message, odd);
     EXPECT_EQ(frames[2].name, WIDE("b1"));
     EXPECT_EQ(std::string(frames[2].content.begin(), frames[2].content.end()), large);

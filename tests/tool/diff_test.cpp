@@ -26,13 +26,14 @@ Lines differences(const std::string& a, const std::string& b, bool all = false, 
     const auto text = [](const vrx::JsonValue* value) {
         return value == nullptr ? "nothing" : printing::briefText(*value);
     };
-    comparison::compareInputs(a, b, {tolerance, all, {}}, input::kDefaultLimit, [&](const comparison::Line& line) {
-        const comparison::Difference* const found = line.inTree;
-        lines.push_back(line.message + '|' +
-                        (found == nullptr   ? line.text
-                         : found->more != 0 ? found->pointer + " more " + std::to_string(found->more)
-                                            : found->pointer + ' ' + text(found->a) + ' ' + text(found->b)));
-    });
+    comparison::compareInputs(
+        a, b, {tolerance, all, {WIDE("passing")}}, input::kDefaultLimit, [&](const comparison::Line& line) {
+            const comparison::Difference* const found = line.inTree;
+            lines.push_back(line.message + '|' +
+                            (found == nullptr   ? line.text
+                             : found->more != 0 ? found->pointer + " more " + std::to_string(found->more)
+                                                : found->pointer + ' ' + text(found->a) + ' ' + text(found->b)));
+        });
     return lines;
 }
 
@@ -45,10 +46,14 @@ Lines textDifferences(std::string_view a, std::string_view b, bool all = false, 
 
 TEST(Diff, PairsMembersByNameAndElementsByIdOrPlace)
 {
-    EXPECT_THAT(textDifferences(R"({"a":1,"b":[{"id":1,"x":1},{"id":2,"x":2}],"c":[1,2]})",
+    EXPECT_THAT(textDifferences(R"({"a":1,"passing":1,"b":[{"id":1,"x":1},{"id":2,"x":2}],"c":[1,2]})",
                                 R"({"c":[1,3,4],"b":[{"id":2,"x":5},{"id":1,"x":1},{"id":9}],"d":null})"),
                 ElementsAre("|/a 1 nothing", "|/b/1/x 2 5", "|/b/2 nothing {...}", "|/c/1 2 3", "|/c/2 nothing 4",
                             "|/d nothing null"));
+    EXPECT_THAT(textDifferences(R"([{"guid":"x","persistent_id":"1","n":1},{"guid":"y","persistent_id":"2","n":1}])",
+                                R"([{"guid":"z","persistent_id":"2","n":1},{"guid":"x","persistent_id":"1","n":1}])"),
+                ElementsAre(R"(|/1/guid "y" "z")"));
+    EXPECT_THAT(textDifferences(R"([{"guid":"x"}])", R"([{"guid":"y"}])"), ElementsAre(R"(|/0/guid "x" "y")"));
     EXPECT_THAT(textDifferences(R"([{"id":1},{"id":1}])", R"([{"id":1},{"id":2}])"), ElementsAre("|/1/id 1 2"));
     EXPECT_THAT(textDifferences("[1]", "{}"), ElementsAre("| [...] {}"));
 }

@@ -170,7 +170,7 @@ TEST(Input, DepthIsNoDanger)
     const std::string text = std::string(kDeep, '[') + std::string(kDeep, ']');
     const TemporaryFile file(text);
     EXPECT_TRUE(readOne(file.name()).object()->IsArray());
-    EXPECT_EQ(refusal(std::string(10'000'001, '[')), "nested deeper than 10000000 levels");
+    EXPECT_EQ(refusal(std::string().append(10'000'001, '[')), "nested deeper than 10000000 levels");
 
     const auto deepForm = [](std::uint64_t levels) {
         std::string form;

@@ -49,10 +49,11 @@ none_is_left() {
     fail "shared memory is left, $1: $left"
 }
 
+# One that nobody waits for has ended, too.
 has_ended() {
     local process=$1
     for _ in $(seq 100); do
-        kill -0 "$process" 2>/dev/null || return 0
+        [[ $(ps -o state= -p "$process") == [!Z]* ]] || return 0
         sleep 0.1
     done
     return 1

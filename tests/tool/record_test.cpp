@@ -3,15 +3,19 @@
 #include "bridge/child_process.h"
 #include "bridge/frames.h"
 #include "capture/capture_reader.h"
+#include "capture/capture_writer.h"
 #include "mp/narrow.h"
 #include "mp/shared_buffer.h"
+#include "replay/buffer_name.h"
 #include "vrx_api/exchange/exchange_object.h"
 #include "vrx_api/exchange/peek_envelope.h"
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 using capture::EFrame;
 using testing::ElementsAre;
@@ -136,7 +140,7 @@ bool exists(const mp::wstring& name)
 
 mp::wstring madeBuffer(const std::string& content)
 {
-    const mp::wstring name = vrx::IExchangeObject::generateUUID();
+    mp::wstring name = vrx::IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, false);
     buffer.write(content.data(), content.size());
@@ -161,6 +165,19 @@ std::vector<EFrame> kindsOf(const std::vector<capture::Frame>& frames)
 }
 
 } // namespace
+
+TEST(BufferName, IsReplacedWhereItNamesTheBuffer)
+{
+    const auto replaced = [](const mp::wstring& message) {
+        return mp::toNarrow(replay::withBufferName(message, WIDE("old"), WIDE("new")));
+    };
+    EXPECT_EQ(replaced(WIDE("{\"x\":\"old\",  \"exchange_object_data\" : \"old\", \"y\":\"old\"}")),
+              "{\"x\":\"old\",  \"exchange_object_data\" : \"new\", \"y\":\"old\"}");
+    EXPECT_EQ(
+        replaced(WIDE("{\"exchange_object_data\":{\"a\":\"\\\"old\",\"shared_acis_buffer_name\":\"\\u006fld\"}}")),
+        "{\"exchange_object_data\":{\"a\":\"\\\"old\",\"shared_acis_buffer_name\":\"new\"}}");
+    EXPECT_EQ(replaced(WIDE("{\"exchange_object_data\": \"ol")), "{\"exchange_object_data\": \"ol");
+}
 
 TEST_F(RecordTest, PassesAllOnAndReplaysIt)
 {
@@ -189,6 +206,35 @@ TEST_F(RecordTest, PassesAllOnAndReplaysIt)
     ASSERT_EQ(none.messages.size(), 1U);
     EXPECT_THAT(mp::toNarrow(none.messages[0]), HasSubstr("The recording has no command export"));
     EXPECT_EQ(replayed.end(), 0);
+}
+
+TEST_F(RecordTest, KnowsTheAnswersOfCommandsThatCameTogether)
+{
+    Host host(recorder());
+    host.send(kImport);
+    host.send(kPing);
+    const Answer imported = host.receive();
+    const Answer pinged = host.receive();
+    EXPECT_EQ(imported.messages.size(), 3U);
+    EXPECT_EQ(host.end(), 0);
+    Host replayed(replayer());
+    EXPECT_EQ(replayed.ask(kPing), pinged);
+    EXPECT_EQ(replayed.ask(kImport), imported);
+}
+
+TEST_F(RecordTest, KeepsTheTimesWhenAsked)
+{
+    constexpr std::chrono::milliseconds kGap{200};
+    {
+        capture::CaptureWriter writer(m_path, false);
+        writer.fromHost(kPing);
+        std::this_thread::sleep_for(kGap);
+        writer.fromTranslator(kResult);
+    }
+    Host replayed({VRX_TOOL, "replay", "--real-time", m_path});
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_THAT(replayed.ask(kPing).messages, ElementsAre(kResult));
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, kGap);
 }
 
 TEST_F(RecordTest, KeepsBuffersBeforeTheirMessages)

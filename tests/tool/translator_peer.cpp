@@ -18,7 +18,7 @@ using vrx::bridge::Stream;
 
 mp::wstring makeBuffer(const std::string& content)
 {
-    const mp::wstring name = vrx::IExchangeObject::generateUUID();
+    mp::wstring name = vrx::IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, false);
     buffer.write(content.data(), content.size());

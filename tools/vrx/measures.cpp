@@ -71,16 +71,18 @@ std::string counted(std::uint64_t number)
 
 std::string roughly(std::chrono::seconds time)
 {
-    const auto seconds = time.count();
-    if (seconds < 120)
+    using std::chrono::hours;
+    using std::chrono::minutes;
+    constexpr hours kDay(24);
+    if (time < minutes(2))
     {
-        return std::to_string(seconds) + " s";
+        return std::to_string(time.count()) + " s";
     }
-    if (seconds < 120 * 60)
+    if (time < hours(2))
     {
-        return std::to_string(seconds / 60) + " min";
+        return std::to_string(time / minutes(1)) + " min";
     }
-    return seconds < 48 * 3600 ? std::to_string(seconds / 3600) + " h" : std::to_string(seconds / 86400) + " d";
+    return time < 2 * kDay ? std::to_string(time / hours(1)) + " h" : std::to_string(time / kDay) + " d";
 }
 
 } // namespace tool

@@ -12,7 +12,7 @@ public:
     ParentProcess();
     ParentProcess(const ParentProcess&) = delete;
     ParentProcess& operator=(const ParentProcess&) = delete;
-    ~ParentProcess();
+    ~ParentProcess(); // NOLINT(performance-trivially-destructible): not on Windows
 
     bool hasEnded() const;
 

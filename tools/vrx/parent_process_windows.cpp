@@ -1,7 +1,9 @@
 #include "parent_process.h"
 
+// clang-format off
+#include <windows.h> // which the next one needs
 #include <tlhelp32.h>
-#include <windows.h>
+// clang-format on
 
 namespace tool
 {

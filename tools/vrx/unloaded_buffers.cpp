@@ -16,7 +16,7 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr auto kTimeToLoad = 500ms;
+constexpr auto kTimeToLoad = 200ms;
 constexpr auto kPause = 10ms;
 
 bool exists(const mp::wstring& name)
@@ -33,19 +33,23 @@ bool exists(const mp::wstring& name)
 
 } // namespace
 
-std::vector<mp::wstring> unloadedBuffers(const std::set<mp::wstring>& told, const std::function<bool()>& isHostGone)
+std::set<mp::wstring> existingBuffers(const std::set<mp::wstring>& names)
+{
+    std::set<mp::wstring> existing;
+    std::copy_if(names.begin(), names.end(), std::inserter(existing, existing.end()), exists);
+    return existing;
+}
+
+std::set<mp::wstring> unloadedBuffers(const std::set<mp::wstring>& told, const std::function<bool()>& isHostGone)
 {
     const auto end = std::chrono::steady_clock::now() + kTimeToLoad;
-    for (;;)
+    std::set<mp::wstring> unloaded = existingBuffers(told);
+    while (!unloaded.empty() && !isHostGone() && std::chrono::steady_clock::now() < end)
     {
-        std::vector<mp::wstring> unloaded;
-        std::copy_if(told.begin(), told.end(), std::back_inserter(unloaded), exists);
-        if (unloaded.empty() || isHostGone() || std::chrono::steady_clock::now() >= end)
-        {
-            return unloaded;
-        }
         std::this_thread::sleep_for(kPause);
+        unloaded = existingBuffers(told);
     }
+    return unloaded;
 }
 
 } // namespace tool

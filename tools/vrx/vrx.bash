@@ -27,7 +27,7 @@ _vrx() {
     case $command in
         check) options='--all --class --ignore --json --known' ;;
         clean) options='--dry-run --json --older-than' ;;
-        diff) options='--all --json --limit --tolerance' ;;
+        diff) options='--all --ignore --json --limit --tolerance' ;;
         help) options='' ;;
         list) options='--all-users --json' ;;
         record) options='--force --verbose -o' ;;

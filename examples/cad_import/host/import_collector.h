@@ -1,6 +1,7 @@
 #pragma once
 
 #include "arguments.h"
+#include "bridge/listener.h"
 #include "component_data.h"
 #include "measured_body.h"
 #include "mechanical/mechanical_model.h"
@@ -8,7 +9,6 @@
 #include "progress_bar.h"
 #include "received_bodies.h"
 #include "scene_page.h"
-#include "translator_session.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <cstdint>
@@ -27,7 +27,7 @@ struct ReceivedModel
 };
 
 /// Takes over what an import brings, as far as the arguments ask for it, and shows on standard error how it goes.
-class ImportCollector : public ImportListener
+class ImportCollector : public vrx::bridge::Listener
 {
 public:
     ImportCollector(const Arguments& arguments, ReceivedModel& model);

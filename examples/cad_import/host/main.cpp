@@ -2,9 +2,11 @@
 
 #include "arguments.h"
 #include "body_report.h"
+#include "bridge/bridge.h"
 #include "common/pmi_conventions.h"
 #include "import_collector.h"
 #include "mechanical/hole_table.h"
+#include "model_failure.h"
 #include "mp/narrow.h"
 #include "page_picture.h"
 #include "pmi/pmi_json.h"
@@ -21,6 +23,9 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+
+using vrx::bridge::CancelOnInterrupt;
+using vrx::bridge::HostSession;
 
 namespace
 {
@@ -121,7 +126,7 @@ void show(const ReceivedModel& model, const MechanicalModel& mechanical, const A
     }
 }
 
-// Tells of the model that arrived. Throws TranslatorFailure when its bodies are not what they should be.
+// Tells of the model that arrived. Throws ModelFailure when its bodies are not what they should be.
 void tell(ReceivedModel& model, const Arguments& arguments)
 {
     const MechanicalModel mechanical(*model.structure, model.mechanical, model.bodies);
@@ -135,12 +140,9 @@ int import(const Arguments& arguments)
                                                             ? legacyImportOptions(arguments.file, arguments.settings)
                                                             : importOptions(arguments.file, arguments.settings);
 
-    TranslatorSession session(arguments.translator.empty() ? defaultTranslator() : arguments.translator);
+    HostSession session({arguments.translator.empty() ? defaultTranslator() : arguments.translator});
+    const CancelOnInterrupt interrupts(session);
     const vrx::FerrantInfo info = session.info();
-    if (info.name().empty())
-    {
-        throw TranslatorFailure("The translator does not say what it is.");
-    }
     if (arguments.verbose)
     {
         std::cerr << "translator: " << describe(info) << '\n';
@@ -154,11 +156,11 @@ int import(const Arguments& arguments)
     ReceivedModel model;
     {
         ImportCollector collector(arguments, model);
-        const vrx::Result result = session.import(options, collector);
+        const vrx::Result result = session.importFile(options, collector);
         session.finish();
-        if (ChildProcess::wasInterrupted())
+        if (session.isCancelled())
         {
-            throw TranslatorFailure("The import was interrupted.");
+            throw std::runtime_error("The import was interrupted.");
         }
         if (!result.message().empty())
         {
@@ -171,19 +173,19 @@ int import(const Arguments& arguments)
     }
     if (!model.structure)
     {
-        throw TranslatorFailure("The translator sent no product structure.");
+        throw ModelFailure("The translator sent no product structure.");
     }
     try
     {
         tell(model, arguments);
     }
-    catch (const TranslatorFailure&)
+    catch (const ModelFailure&)
     {
         throw;
     }
     catch (const std::exception& failure)
     {
-        if (ChildProcess::wasInterrupted())
+        if (CancelOnInterrupt::wasInterrupted())
         {
             throw;
         }
@@ -215,7 +217,7 @@ int main(int argc, char** argv)
     }
     catch (const std::exception& failure)
     {
-        if (ChildProcess::wasInterrupted())
+        if (CancelOnInterrupt::wasInterrupted())
         {
             std::cerr << "cad_host: interrupted\n";
             return kInterrupted;

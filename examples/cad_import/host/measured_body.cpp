@@ -1,6 +1,6 @@
 #include "measured_body.h"
 
-#include "translator_session.h"
+#include "model_failure.h"
 
 #include <BinTools.hxx>
 #include <OSD.hxx>
@@ -77,7 +77,7 @@ void checkNumbering(ENTITY& body, const TopoDS_Shape& shape)
     const Numbering vertices(body, shape, api_get_vertices, TopAbs_VERTEX);
     if (!areSameBelow(faces, edges) || !areSameBelow(edges, vertices))
     {
-        throw TranslatorFailure("The faces, edges and vertices of a body are not those of its B-rep.");
+        throw ModelFailure("The faces, edges and vertices of a body are not those of its B-rep.");
     }
 }
 
@@ -86,7 +86,7 @@ TopoDS_Shape shapeOf(const ENTITY& entity)
     const auto* const body = dynamic_cast<const BODY*>(&entity);
     if (body == nullptr)
     {
-        throw TranslatorFailure("The translator sent something that is no body.");
+        throw ModelFailure("The translator sent something that is no body.");
     }
     std::istringstream stream(std::string(body->payload().begin(), body->payload().end()), std::ios::binary);
     TopoDS_Shape shape;
@@ -100,7 +100,7 @@ TopoDS_Shape shapeOf(const ENTITY& entity)
 
 [[noreturn]] void fail(const std::string& reason)
 {
-    throw TranslatorFailure("The B-rep of a body can not be used: " + reason);
+    throw ModelFailure("The B-rep of a body can not be used: " + reason);
 }
 
 // Lets the kernel turn its crashes into failures. It takes signals of the user too: those stay with the host.

@@ -1,6 +1,6 @@
 #include "page_picture.h"
 
-#include "child_process.h"
+#include "bridge/cancel_on_interrupt.h"
 #include "write_text.h"
 
 #include <fcntl.h>
@@ -79,7 +79,7 @@ bool run(std::vector<std::string> words)
     int status = 0;
     for (int tenths = 0; ::waitpid(process, &status, WNOHANG) == 0; ++tenths)
     {
-        if (tenths == kPatience * 10 || ChildProcess::wasInterrupted())
+        if (tenths == kPatience * 10 || vrx::bridge::CancelOnInterrupt::wasInterrupted())
         {
             ::kill(-process, SIGKILL);
         }

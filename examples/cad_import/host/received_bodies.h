@@ -28,7 +28,7 @@ using Entities = std::vector<std::shared_ptr<vrx::ExcEntity>>;
 class ReceivedBodies
 {
 public:
-    /// Measures a restored body; throws TranslatorFailure for one that is not what it should be.
+    /// Measures a restored body; throws ModelFailure for one that is not what it should be.
     using Measurer = BodyFigures (*)(ENTITY& body, EBox box);
 
     struct Body
@@ -44,10 +44,10 @@ public:
     {
     }
 
-    /// Throws TranslatorFailure when the bodies can't be restored.
+    /// Throws ModelFailure when the bodies can't be restored.
     void add(const vrx::ExcBlockGeometry& geometry);
 
-    /// Fills in the figures of the bodies of a block, the first time that it is asked to. Throws TranslatorFailure.
+    /// Fills in the figures of the bodies of a block, the first time that it is asked to. Throws ModelFailure.
     void measure(std::uint64_t block, EBox box = EBox::Without);
 
     /// The bodies of a block in their order; none for a block of which none came.

@@ -1,6 +1,6 @@
 #include "restored_bodies.h"
 
-#include "translator_session.h"
+#include "model_failure.h"
 
 #include <string>
 
@@ -9,6 +9,6 @@ RestoredBodies::RestoredBodies(const vrx::ExcBlockGeometry& geometry)
     const bool restored = geometry.getGeometry(m_bodies.list(), m_ids);
     if (!restored || m_ids.size() != static_cast<std::size_t>(m_bodies.list().count()))
     {
-        throw TranslatorFailure("The bodies of block " + std::to_string(geometry.blockId()) + " can not be restored.");
+        throw ModelFailure("The bodies of block " + std::to_string(geometry.blockId()) + " can not be restored.");
     }
 }

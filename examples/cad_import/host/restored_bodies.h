@@ -11,7 +11,7 @@
 class RestoredBodies
 {
 public:
-    /// Throws TranslatorFailure when they can't be restored.
+    /// Throws ModelFailure when they can't be restored.
     explicit RestoredBodies(const vrx::ExcBlockGeometry& geometry);
 
     std::size_t count() const { return m_ids.size(); }

@@ -1,6 +1,6 @@
 // A translator that kills itself when it has sent an object: cad_translator_dying <name of the exchange object>
 
-#include "host_channel.h"
+#include "bridge/translator_channel.h"
 #include "mp/narrow.h"
 #include "translator.h"
 
@@ -11,7 +11,7 @@
 namespace
 {
 
-class DyingChannel : public HostChannel
+class DyingChannel : public vrx::bridge::TranslatorChannel
 {
 public:
     explicit DyingChannel(std::string lastObject)
@@ -19,10 +19,10 @@ public:
     {
     }
 
-    using HostChannel::send;
+    using vrx::bridge::TranslatorChannel::send;
     void send(const std::shared_ptr<vrx::IExchangeObject>& object) override
     {
-        HostChannel::send(object);
+        vrx::bridge::TranslatorChannel::send(object);
         if (mp::toNarrow(object->objectName()) == m_lastObject)
         {
             std::raise(SIGKILL);

@@ -1,6 +1,6 @@
 #include "imported.h"
 
-#include "host/translator_session.h"
+#include "bridge/host_session.h"
 #include "host/tree_output.h"
 #include "mp/narrow.h"
 
@@ -9,7 +9,7 @@
 namespace
 {
 
-class Keeper : public ImportListener
+class Keeper : public vrx::bridge::Listener
 {
 public:
     explicit Keeper(Imported& imported)
@@ -17,10 +17,8 @@ public:
     {
     }
 
-    void onProgress(const vrx::ExcProgress&) override {}
     void onMessage(const mp::wstring& text) override { m_imported.messages.push_back(text); }
     void onLog(const mp::wstring& text) override { m_imported.logs.push_back(text); }
-    void onStage(vrx::ExcStageFinished::EStage) override {}
     void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
     {
         m_imported.objects.push_back(object);
@@ -65,7 +63,7 @@ Imported importFile(const std::string& file, const std::shared_ptr<vrx::ImportOp
     options->setFile(mp::toWide(file));
     Imported imported;
     Keeper keeper(imported);
-    imported.result = TranslatorSession(CAD_TRANSLATOR).import(options, keeper);
+    imported.result = vrx::bridge::HostSession({CAD_TRANSLATOR}).importFile(options, keeper);
     return imported;
 }
 

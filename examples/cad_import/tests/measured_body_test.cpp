@@ -2,7 +2,7 @@
 #include "bodies/solid_body.h"
 #include "data/modelling.h"
 #include "host/measured_body.h"
-#include "host/translator_session.h"
+#include "host/model_failure.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ const int kTold = 4;
     {
         measuredBody(body, EBox::Without);
     }
-    catch (const TranslatorFailure& failure)
+    catch (const ModelFailure& failure)
     {
         std::cerr << failure.what() << '\n';
         std::raise(SIGINT);

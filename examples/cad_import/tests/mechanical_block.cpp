@@ -1,6 +1,6 @@
 #include "mechanical_block.h"
 
-#include "common/framing.h"
+#include "bridge/frames.h"
 #include "host/mechanical/mechanical_json.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 
@@ -85,7 +85,7 @@ MechanicalModel Block::received()
     vrx::ExchangeObjectWrapper sent;
     sent.set(data);
     vrx::ExchangeObjectWrapper got;
-    framing::fromText(framing::toText(sent), got);
+    vrx::bridge::fromText(vrx::bridge::toText(sent), got);
     return {structure, {std::dynamic_pointer_cast<vrx::ExcBlockMechanicalData>(got.get())}, m_bodies};
 }
 

@@ -1,5 +1,5 @@
 #include "acis_kernel/acis_kernel.h"
-#include "common/framing.h"
+#include "bridge/frames.h"
 #include "common/pmi_conventions.h"
 #include "host/pmi/pmi_json.h"
 #include "host/pmi/pmi_notation.h"
@@ -235,7 +235,7 @@ ReceivedPmi received()
     vrx::ExchangeObjectWrapper sent;
     sent.set(data);
     vrx::ExchangeObjectWrapper got;
-    framing::fromText(framing::toText(sent), got);
+    vrx::bridge::fromText(vrx::bridge::toText(sent), got);
     ReceivedPmi received;
     received.add(dynamic_cast<const vrx::ExcBlockMechanicalData&>(*got.get()));
     return received;

@@ -2,7 +2,7 @@
 // cad_translator_figures <file>
 
 #include "bodies/block_bodies.h"
-#include "host_channel.h"
+#include "bridge/translator_channel.h"
 #include "import_progress.h"
 #include "reading/cad_reader.h"
 #include "reading/import_settings.h"
@@ -15,10 +15,10 @@ namespace
 {
 
 // What is sent while a file is read is for no one here.
-class SilentChannel : public HostChannel
+class SilentChannel : public vrx::bridge::TranslatorChannel
 {
 public:
-    using HostChannel::send;
+    using vrx::bridge::TranslatorChannel::send;
     void send(const std::shared_ptr<vrx::IExchangeObject>&) override {}
 };
 

@@ -1,5 +1,4 @@
-#include "common/framing.h"
-#include "host/translator_session.h"
+#include "bridge/bridge.h"
 #include "mp/narrow.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
@@ -14,20 +13,22 @@
 #include <string>
 #include <vector>
 
+using namespace vrx::bridge;
+
 namespace
 {
 
 vrx::Result answer(ChildProcess& translator, const mp::wstring& command)
 {
-    framing::write(translator.input(), command);
+    writeFrame(translator.input(), command);
     vrx::Result result;
-    framing::fromText(framing::read(translator.output()).value(), result);
+    fromText(readFrame(translator.output()).value(), result);
     return result;
 }
 
 TEST(Translator, TellsWhatItReads)
 {
-    TranslatorSession session(CAD_TRANSLATOR);
+    HostSession session({CAD_TRANSLATOR});
     const vrx::FerrantInfo info = session.info();
     EXPECT_EQ(info.name(), WIDE("cad_translator"));
     EXPECT_EQ(info.requestedInterface(), vrx::EFerrantInterface::UConnect);
@@ -43,13 +44,13 @@ TEST(Translator, TellsWhatItReads)
 
 TEST(Translator, AnswersAPing)
 {
-    TranslatorSession session(CAD_TRANSLATOR);
+    HostSession session({CAD_TRANSLATOR});
     EXPECT_EQ(session.ping().code(), vrx::Result::ECode::Ok);
 }
 
 TEST(Translator, RefusesWhatItCannotDoAndGoesOn)
 {
-    ChildProcess translator(CAD_TRANSLATOR);
+    ChildProcess translator({CAD_TRANSLATOR});
     for (const mp::wchar* command :
          {WIDE("nonsense"), WIDE("{}"), WIDE("{\"command\":\"shutdown\"}"),
           WIDE("{\"command\":\"export\",\"options\":{\"file\":\"a.step\"}}"), WIDE("{\"command\":\"import\"}"),
@@ -57,13 +58,13 @@ TEST(Translator, RefusesWhatItCannotDoAndGoesOn)
           WIDE("{\"command\":\"import\",\"options\":{\"file\":\"\"}}")})
     {
         vrx::Result result;
-        framing::write(translator.input(), command);
-        mp::wstring text = framing::read(translator.output()).value();
+        writeFrame(translator.input(), command);
+        mp::wstring text = readFrame(translator.output()).value();
         while (text.find(WIDE("exchange_object_name")) != mp::wstring::npos)
         {
-            text = framing::read(translator.output()).value();
+            text = readFrame(translator.output()).value();
         }
-        framing::fromText(text, result);
+        fromText(text, result);
         EXPECT_EQ(result.code(), vrx::Result::ECode::Error) << std::string(command, command + 20);
         EXPECT_FALSE(result.message().empty());
         EXPECT_TRUE(result.isFinished());
@@ -73,18 +74,14 @@ TEST(Translator, RefusesWhatItCannotDoAndGoesOn)
 
 TEST(Translator, EndsWhenItsInputIsClosed)
 {
-    ChildProcess translator(CAD_TRANSLATOR);
+    ChildProcess translator({CAD_TRANSLATOR});
     EXPECT_EQ(answer(translator, WIDE("{\"command\":\"ping\"}")).code(), vrx::Result::ECode::Ok);
     EXPECT_EQ(translator.end(), "it exited with code 0");
 }
 
-class NameKeeper : public ImportListener
+class NameKeeper : public Listener
 {
 public:
-    void onProgress(const vrx::ExcProgress&) override {}
-    void onMessage(const mp::wstring&) override {}
-    void onLog(const mp::wstring&) override {}
-    void onStage(vrx::ExcStageFinished::EStage) override {}
     void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
     {
         names.push_back(object->objectName());
@@ -104,7 +101,7 @@ TEST(Translator, HandsOnWhatItSendsBeforeItDies)
     const auto options = vrx::Command::newImportOptions();
     options->setFile(mp::toWide(PIN));
     NameKeeper keeper;
-    EXPECT_THROW(TranslatorSession(program).import(options, keeper), TranslatorFailure);
+    EXPECT_THROW(HostSession({program}).importFile(options, keeper), TranslatorFailure);
     EXPECT_THAT(keeper.names,
                 testing::ElementsAre(vrx::ExcProductStructure::objName(), vrx::ExcBlockGeometry::objName()));
     EXPECT_GT(keeper.blocks, 0U);

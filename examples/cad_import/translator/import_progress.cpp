@@ -1,6 +1,6 @@
 #include "import_progress.h"
 
-#include "host_channel.h"
+#include "bridge/translator_channel.h"
 #include "mp/narrow.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 
@@ -8,7 +8,7 @@
 #include <memory>
 #include <stdexcept>
 
-ImportProgress::ImportProgress(HostChannel& channel)
+ImportProgress::ImportProgress(vrx::bridge::TranslatorChannel& channel)
     : m_channel(channel)
 {
 }

@@ -4,13 +4,16 @@
 
 #include <string>
 
-class HostChannel;
+namespace vrx::bridge
+{
+class TranslatorChannel;
+}
 
 /// The progress of one import, from 0 to 100 over all its stages; a message goes out only when a number has changed.
 class ImportProgress
 {
 public:
-    explicit ImportProgress(HostChannel& channel);
+    explicit ImportProgress(vrx::bridge::TranslatorChannel& channel);
 
     /// Begins a stage that takes the range up to `end`, in hundredths of the whole.
     void beginStage(const std::string& name, int end);
@@ -21,7 +24,7 @@ public:
 private:
     void send(int progress);
 
-    HostChannel& m_channel;
+    vrx::bridge::TranslatorChannel& m_channel;
     std::string m_stage;
     int m_begin = 0;
     int m_end = 0;

@@ -1,6 +1,6 @@
-// A translator for CAD files: reads commands on standard input, answers on standard output (see common/framing.h).
+// A translator for CAD files: reads commands on standard input, answers on standard output (see bridge/frames.h).
 
-#include "host_channel.h"
+#include "bridge/translator_channel.h"
 #include "translator.h"
 
 #include <exception>
@@ -10,7 +10,7 @@ int main()
 {
     try
     {
-        HostChannel channel;
+        vrx::bridge::TranslatorChannel channel;
         Translator(channel).run();
     }
     catch (const std::exception& failure)

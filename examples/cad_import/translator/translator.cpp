@@ -1,10 +1,8 @@
 #include "translator.h"
 
 #include "bodies/block_bodies.h"
-#include "common/framing.h"
-#include "delayed_termination.h"
+#include "bridge/translator_channel.h"
 #include "features/features.h"
-#include "host_channel.h"
 #include "import_progress.h"
 #include "looks/palette_colors.h"
 #include "looks/visualization_builder.h"
@@ -70,25 +68,14 @@ void Translator::run()
     {
         std::signal(number, SIG_DFL);
     }
-    std::optional<mp::wstring> text;
-    while (m_kernelIsIntact && !DelayedTermination::isDue() && (text = HostChannel::receive()))
+    while (const std::optional<vrx::Command> command = m_kernelIsIntact ? m_channel.receive() : std::nullopt)
     {
-        answer(*text);
+        answer(*command);
     }
 }
 
-void Translator::answer(const mp::wstring& text)
+void Translator::answer(const vrx::Command& command)
 {
-    vrx::Command command;
-    try
-    {
-        framing::fromText(text, command);
-    }
-    catch (const std::exception& failure)
-    {
-        m_channel.send(error(std::string("This is no command: ") + failure.what()));
-        return;
-    }
     switch (command.type())
     {
     case vrx::Command::EType::Info:
@@ -132,7 +119,6 @@ void Translator::sendInfo()
 
 void Translator::import(const vrx::Command& command)
 {
-    const DelayedTermination termination;
     std::string failed;
     m_isAnswered = false;
     try
@@ -157,7 +143,8 @@ void Translator::import(const vrx::Command& command)
     }
     catch (const std::exception& failure)
     {
-        failed = DelayedTermination::isDue() ? "The translator was told to end." : failure.what();
+        failed =
+            vrx::bridge::TranslatorChannel::isTerminationDue() ? "The translator was told to end." : failure.what();
     }
     if (!m_isAnswered)
     {

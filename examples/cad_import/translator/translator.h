@@ -6,8 +6,12 @@
 
 #include <memory>
 
+namespace vrx::bridge
+{
+class TranslatorChannel;
+}
+
 class BlockBodies;
-class HostChannel;
 class ImportProgress;
 class MechanicalData;
 class ProductStructureBuilder;
@@ -18,7 +22,7 @@ struct ImportSettings;
 class Translator
 {
 public:
-    explicit Translator(HostChannel& channel)
+    explicit Translator(vrx::bridge::TranslatorChannel& channel)
         : m_channel(channel)
     {
     }
@@ -26,7 +30,7 @@ public:
     void run();
 
 private:
-    void answer(const mp::wstring& text);
+    void answer(const vrx::Command& command);
     void sendInfo();
     void import(const vrx::Command& command);
     void translate(const ImportSettings& settings);
@@ -37,7 +41,7 @@ private:
                            const std::shared_ptr<vrx::ExcRootAssemblyVisualization>& root,
                            const vrx::ExcProductStructure& structure, ImportProgress& progress);
 
-    HostChannel& m_channel;
+    vrx::bridge::TranslatorChannel& m_channel;
     bool m_isAnswered = false; // the running import
     bool m_kernelIsIntact = true;
 };

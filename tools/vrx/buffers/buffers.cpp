@@ -1,6 +1,6 @@
 #include "buffers/buffers.h"
 
-#include "input/class_guess.h"
+#include "classes/class_guess.h"
 #include "json/parse.h"
 #include "printing/escaped.h"
 #include "vrx_api/exchange/compressor.h"
@@ -139,7 +139,7 @@ std::string guessedClass(const std::string& name)
     {
         return "bodies?";
     }
-    const mp::wstring_view guess = input::guessedClass(keysOf(bytes));
+    const mp::wstring guess = classes::guessed(keysOf(bytes));
     return guess.empty() ? "?" : printing::escaped(guess) + '?';
 }
 

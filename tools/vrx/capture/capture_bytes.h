@@ -30,7 +30,7 @@ void appendNumber(std::string& bytes, Number number)
     static_assert(std::is_unsigned_v<Number>);
     for (std::size_t i = 0; i < sizeof(Number); ++i)
     {
-        bytes.push_back(static_cast<char>(number >> 8 * i & 0xFFU));
+        bytes.push_back(static_cast<char>(std::uint64_t{number} >> 8 * i & 0xFFU));
     }
 }
 
@@ -39,13 +39,12 @@ template <class Number>
 Number numberAt(const char* bytes)
 {
     static_assert(std::is_unsigned_v<Number>);
-    Number number = 0;
+    std::uint64_t number = 0;
     for (std::size_t i = 0; i < sizeof(Number); ++i)
     {
-        const Number byte = static_cast<unsigned char>(bytes[i]);
-        number = static_cast<Number>(number | byte << 8 * i);
+        number |= std::uint64_t{static_cast<unsigned char>(bytes[i])} << 8 * i;
     }
-    return number;
+    return static_cast<Number>(number);
 }
 
 /// Goes on with a checksum, which begins with 0.

@@ -107,6 +107,20 @@ void decode(std::vector<char>& payload, Frame& frame)
     }
 }
 
+// Zero for a stream that cannot go to its end, such as a pipe.
+std::uint64_t sizeOf(std::istream& stream)
+{
+    stream.seekg(0, std::ios::end);
+    const std::streamoff size = stream.tellg();
+    stream.clear();
+    if (size < 0)
+    {
+        return 0;
+    }
+    stream.seekg(0);
+    return static_cast<std::uint64_t>(size);
+}
+
 bool isKnown(EFrame kind)
 {
     return kind >= EFrame::Start && kind <= EFrame::End;
@@ -116,6 +130,7 @@ bool isKnown(EFrame kind)
 
 CaptureReader::CaptureReader(std::istream& stream)
     : m_stream(stream)
+    , m_size(sizeOf(stream))
 {
     std::array<char, kHeaderSize> header{};
     if (!readBytes(header.data(), header.size()) || !std::equal(kMagic.begin(), kMagic.end(), header.begin()))
@@ -203,6 +218,10 @@ bool CaptureReader::readBytes(char* bytes, std::size_t size)
 bool CaptureReader::readPayload(std::uint64_t size)
 {
     m_payload.clear();
+    if (m_place <= m_size && size <= m_size - m_place)
+    {
+        m_payload.reserve(static_cast<std::size_t>(size));
+    }
     bool isWhole = true;
     while (isWhole && m_payload.size() < size)
     {

@@ -26,8 +26,8 @@ struct Frame
     std::vector<mp::wstring> names; ///< UnloadedBuffers.
 };
 
-/// Reads a capture from a stream that was opened for bytes. Nothing in it is believed: memory grows with what really
-/// comes. All operations throw CaptureError, with the place, for what is damaged.
+/// Reads a capture from a stream for bytes that stands at its beginning. Nothing in it is believed: memory grows with
+/// what really comes. All operations throw CaptureError, with the place, for what is damaged.
 class CaptureReader
 {
 public:
@@ -49,6 +49,7 @@ private:
     bool readPayload(std::uint64_t size);
 
     std::istream& m_stream;
+    std::uint64_t m_size; // of the whole capture, as the stream tells
     std::vector<char> m_payload;
     std::uint64_t m_place = 0;
     bool m_isCut = false;

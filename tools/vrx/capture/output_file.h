@@ -18,10 +18,10 @@ public:
     OutputFile& operator=(const OutputFile&) = delete;
     ~OutputFile();
 
-    void write(const char* data, std::size_t size);
+    void write(const char* data, std::size_t size) const;
 
     /// Takes away what stands behind this many bytes.
-    void cutTo(std::uint64_t size);
+    void cutTo(std::uint64_t size) const;
 
 private:
     // A descriptor on POSIX, a handle on Windows.

@@ -33,7 +33,7 @@ OutputFile::~OutputFile()
     ::close(static_cast<int>(m_file));
 }
 
-void OutputFile::write(const char* data, std::size_t size)
+void OutputFile::write(const char* data, std::size_t size) const
 {
     while (size > 0)
     {
@@ -48,7 +48,7 @@ void OutputFile::write(const char* data, std::size_t size)
     }
 }
 
-void OutputFile::cutTo(std::uint64_t size)
+void OutputFile::cutTo(std::uint64_t size) const
 {
     if (::ftruncate(static_cast<int>(m_file), static_cast<off_t>(size)) != 0)
     {

@@ -41,7 +41,7 @@ OutputFile::~OutputFile()
     CloseHandle(handleOf(m_file));
 }
 
-void OutputFile::write(const char* data, std::size_t size)
+void OutputFile::write(const char* data, std::size_t size) const
 {
     while (size > 0)
     {
@@ -55,7 +55,7 @@ void OutputFile::write(const char* data, std::size_t size)
     }
 }
 
-void OutputFile::cutTo(std::uint64_t size)
+void OutputFile::cutTo(std::uint64_t size) const
 {
     LARGE_INTEGER place = {};
     place.QuadPart = static_cast<LONGLONG>(size);

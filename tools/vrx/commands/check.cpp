@@ -1,7 +1,7 @@
 #include "checking/import_checker.h"
+#include "classes/class_guess.h"
 #include "classes/class_named.h"
 #include "commands/commands.h"
-#include "input/class_guess.h"
 #include "input/input.h"
 #include "json/utf.h"
 #include "mp/narrow.h"
@@ -64,7 +64,7 @@ const vrx::ClassShape* classAlone(const input::Item& item, const vrx::ClassShape
     {
         return told;
     }
-    const vrx::ClassShape* const guessed = classes::ofObject(mp::wstring(input::guessedClass(*item.object())));
+    const vrx::ClassShape* const guessed = classes::ofObject(classes::guessed(*item.object()));
     if (guessed == nullptr)
     {
         throw InputError("the class of the object is not known; --class NAME tells it");

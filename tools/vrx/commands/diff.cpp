@@ -1,6 +1,7 @@
 #include "commands/commands.h"
 #include "comparison/inputs.h"
 #include "console/console.h"
+#include "json/utf.h"
 #include "measures.h"
 #include "printing/escaped.h"
 #include "printing/scalar_text.h"
@@ -111,6 +112,10 @@ int diff(Arguments& arguments)
     comparison::Rules rules;
     rules.tolerance = toleranceOf(arguments.takeOption("--tolerance", kTolerance));
     rules.all = arguments.takeFlag("--all");
+    for (std::string key; !(key = arguments.takeOption("--ignore", "")).empty();)
+    {
+        rules.ignoredKeys.insert(json::fromUtf8(key));
+    }
     const bool asJson = arguments.takeFlag("--json");
     const std::uint64_t limit = sizeOf(arguments.takeOption("--limit", "4G"));
     const std::string a = arguments.takeOperand("A");
@@ -139,21 +144,21 @@ int diff(Arguments& arguments)
 
 } // namespace
 
-const Command kDiff = {
-    "diff", "tells what differs between two captures, messages or objects",
-    "usage: vrx diff [OPTION...] A B\n"
-    "Tells what differs between two captures, messages or objects, one difference on a line: the place as a JSON "
-    "pointer\n"
-    "in A, then what A and B have there. Messages of captures are paired by sender, class and block in their order.\n"
-    "Elements of an array are paired by their ids where all are objects with an id of their own, and by place "
-    "otherwise.\n"
-    "Names and compression of buffers are no difference, their content is. Integers must be equal; if one number is a\n"
-    "double, they are equal when they differ by no more than the tolerance, or by that part of the larger of the two.\n"
-    "The exit code is 1 when there are differences.\n\n"
-    "  --tolerance NUMBER  another tolerance than 1e-9\n"
-    "  --all               progress and log messages and the times of messages, too, and each element that differs\n"
-    "  --json              as a JSON array, for programs\n"
-    "  --limit SIZE        the most bytes that are read into memory or decompressed at once (4G)",
-    diff};
+const Command kDiff = {"diff", "tells what differs between two captures, messages or objects",
+                       R"(usage: vrx diff [OPTION...] A B
+Tells what differs between two captures, messages or objects, one difference on a line: the place as a JSON pointer in
+A, then what A and B have there. Messages of captures are paired by sender, class and block, in their order. Elements of
+an array are paired by their ids (id, persistent_id or guid) where all are objects with an id of their own, and by place
+otherwise. Names and compression of buffers are no difference, their content is. Integers must be equal; if one number
+is a double, they are equal when they differ by no more than the tolerance, or by that part of the larger of the two.
+The exit code is 1 when there are differences.
+
+  --tolerance NUMBER  another tolerance than 1e-9
+  --ignore KEY        members of this name are not compared, such as guid, which a translator may make anew each time;
+                      may be given again
+  --all               progress and log messages and the times of messages, too, and each element that differs
+  --json              as a JSON array, for programs
+  --limit SIZE        the most bytes that are read into memory or decompressed at once (4G))",
+                       diff};
 
 } // namespace tool

@@ -1,6 +1,6 @@
 #include "buffers/buffers.h"
 #include "commands/commands.h"
-#include "json/utf.h"
+#include "console/console.h"
 #include "measures.h"
 #include "mp/narrow.h"
 #include "printing/escaped.h"
@@ -14,7 +14,7 @@ namespace tool
 namespace
 {
 
-std::string padded(std::string text, std::size_t width, bool toTheRight)
+std::string padded(const std::string& text, std::size_t width, bool toTheRight)
 {
     const std::string blanks(width - std::min(width, text.size()), ' ');
     return toTheRight ? blanks + text : text + blanks;
@@ -80,6 +80,7 @@ int list(Arguments& arguments)
     const bool asJson = arguments.takeFlag("--json");
     const bool ofAllUsers = arguments.takeFlag("--all-users");
     arguments.end();
+    console::setBinaryOutput();
     const std::vector<buffers::Buffer> found = buffers::all(ofAllUsers);
     asJson ? printJson(found) : printTable(found);
     return kSuccess;

@@ -167,7 +167,7 @@ int show(Arguments& arguments)
     Show show(wish);
     const input::Recording recording = input::readItems(
         what, [&show](const input::Item& item) { show.take(item); }, limit);
-    if (!wish.place && !wish.raw && wish.onlyClass.empty())
+    if (!wish.summary && !wish.place && !wish.raw && wish.onlyClass.empty())
     {
         printAside("recording started", recording.start, wish);
         printAside("recording ended", recording.end, wish);

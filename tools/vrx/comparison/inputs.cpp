@@ -66,7 +66,7 @@ public:
         , m_report(report)
     {
         // A message that names the buffer of a block's bodies has the name in its object.
-        m_rules.leftOut = WIDE("shared_acis_buffer_name");
+        m_rules.ignoredKeys.insert(WIDE("shared_acis_buffer_name"));
     }
 
     void takeFirst(Item& item)

@@ -4,6 +4,7 @@
 #include "printing/scalar_text.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <string>
 
@@ -43,19 +44,31 @@ std::vector<Pair> membersOf(const vrx::JsonValue& a, const vrx::JsonValue& b)
 
 using Ids = std::map<std::string, std::size_t>;
 
-const vrx::JsonValue* idOf(const vrx::JsonValue& element)
+// The keys that may tell elements of one array apart, the one that lasts longest first.
+constexpr std::array<mp::wstring_view, 3> kIdKeys = {WIDE("id"), WIDE("persistent_id"), WIDE("guid")};
+
+const vrx::JsonValue* idOf(const vrx::JsonValue& element, mp::wstring_view key)
 {
-    const vrx::JsonValue* const id = json::member(element, WIDE("id"));
-    return id != nullptr && (id->IsString() || id->IsInt64() || id->IsUint64()) ? id : nullptr;
+    const vrx::JsonValue* const id = json::member(element, key);
+    const bool isId =
+        id != nullptr && (id->IsInt64() || id->IsUint64() || (id->IsString() && id->GetStringLength() != 0));
+    return isId ? id : nullptr;
 }
 
 // The places of the elements by their ids; false when one has none, or two have the same.
-bool readIds(const vrx::JsonValue& array, Ids& ids)
+bool readIds(const vrx::JsonValue& array, mp::wstring_view key, Ids& ids)
 {
-    return std::all_of(array.Begin(), array.End(), [&ids](const vrx::JsonValue& element) {
-        const vrx::JsonValue* const id = idOf(element);
+    ids.clear();
+    return std::all_of(array.Begin(), array.End(), [key, &ids](const vrx::JsonValue& element) {
+        const vrx::JsonValue* const id = idOf(element, key);
         return id != nullptr && ids.emplace(printing::scalarText(*id), ids.size()).second;
     });
+}
+
+// Ids that are made anew each time have none in common, and pair nothing.
+bool haveCommon(const Ids& inA, const Ids& inB)
+{
+    return std::any_of(inA.begin(), inA.end(), [&inB](const auto& id) { return inB.count(id.first) != 0; });
 }
 
 const vrx::JsonValue& at(const vrx::JsonValue& array, std::size_t place)
@@ -68,20 +81,23 @@ std::vector<Pair> elementsById(const vrx::JsonValue& a, const vrx::JsonValue& b)
 {
     Ids inA;
     Ids inB;
-    if (a.Empty() || b.Empty() || !readIds(a, inA) || !readIds(b, inB))
+    const auto key = std::find_if(kIdKeys.begin(), kIdKeys.end(), [&](mp::wstring_view tried) {
+        return readIds(a, tried, inA) && readIds(b, tried, inB) && haveCommon(inA, inB);
+    });
+    if (key == kIdKeys.end())
     {
         return {};
     }
     std::vector<Pair> pairs;
     for (const vrx::JsonValue& element : a.GetArray())
     {
-        const vrx::JsonValue* const id = idOf(element);
+        const vrx::JsonValue* const id = idOf(element, *key);
         const auto found = inB.find(printing::scalarText(*id));
         pairs.push_back({{}, pairs.size(), &element, found == inB.end() ? nullptr : &at(b, found->second), id});
     }
     for (std::size_t place = 0; place < b.Size(); ++place)
     {
-        const vrx::JsonValue* const id = idOf(at(b, place));
+        const vrx::JsonValue* const id = idOf(at(b, place), *key);
         if (inA.count(printing::scalarText(*id)) == 0)
         {
             pairs.push_back({{}, place, nullptr, &at(b, place), id});

@@ -67,8 +67,7 @@ public:
                 continue;
             }
             const Pair pair = level.pairs.next();
-            const bool isLeftOut = m_open.size() == 1 && level.pairs.isObject() && pair.name == m_rules.leftOut;
-            if (!isLeftOut)
+            if (!level.pairs.isObject() || m_rules.ignoredKeys.count(pair.name) == 0)
             {
                 take(pair);
             }
@@ -102,7 +101,7 @@ private:
         {
             return;
         }
-        m_report({pointer(m_open.size()), id(), pair.a, pair.b});
+        m_report({pointer(m_open.size()), id(m_open.size()), pair.a, pair.b});
     }
 
     void close()
@@ -110,7 +109,8 @@ private:
         const std::uint64_t differing = m_open.back().differing;
         if (differing > kMostOfArray && !m_rules.all)
         {
-            m_report({pointer(m_open.size() - 1), id(), nullptr, nullptr, differing - kMostOfArray});
+            const std::size_t around = m_open.size() - 1;
+            m_report({pointer(around), id(around), nullptr, nullptr, differing - kMostOfArray});
         }
         m_open.pop_back();
     }
@@ -132,11 +132,14 @@ private:
         return text;
     }
 
-    const vrx::JsonValue* id() const
+    // That of the innermost object on this way that has one.
+    const vrx::JsonValue* id(std::size_t depth) const
     {
-        const auto found = std::find_if(m_open.rbegin(), m_open.rend(),
-                                        [](const Level& level) { return level.pairs.current().id != nullptr; });
-        return found == m_open.rend() ? nullptr : found->pairs.current().id;
+        while (depth != 0 && m_open[depth - 1].pairs.current().id == nullptr)
+        {
+            --depth;
+        }
+        return depth == 0 ? nullptr : m_open[depth - 1].pairs.current().id;
     }
 
     const Rules& m_rules;

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <set>
 #include <string>
 
 namespace comparison
@@ -15,8 +16,8 @@ struct Rules
     /// Two numbers, one of which is a double, are equal when they differ by no more than this, or by no more than this
     /// part of the larger of the two. Integers are equal only when they are.
     double tolerance = 0;
-    bool all = false;              ///< Every difference of an array is told, not the first few only.
-    mp::wstring_view leftOut = {}; ///< A member of the root that is not compared.
+    bool all = false;                               ///< Every difference of an array is told, not the first few only.
+    std::set<mp::wstring, std::less<>> ignoredKeys; ///< Members of these names are not compared.
 };
 
 /// One place at which two trees differ.
@@ -30,7 +31,8 @@ struct Difference
 };
 
 /// Reports where two trees differ. Members are compared by name, the first of a name like readers take it; elements by
-/// id where all of both arrays are objects with an id of their own, and by place otherwise. Keeps its own stack.
+/// id where all of both arrays are objects with an id of their own and some ids are in both, and by place otherwise.
+/// Keeps its own stack.
 void compareTrees(const vrx::JsonValue& a, const vrx::JsonValue& b, const Rules& rules,
                   const std::function<void(const Difference&)>& report);
 

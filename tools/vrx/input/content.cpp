@@ -4,8 +4,8 @@
 #include "input/text_bytes.h"
 #include "json/member.h"
 #include "json/parse.h"
-#include "mp/narrow.h"
 #include "mp/shared_buffer.h"
+#include "printing/escaped.h"
 #include "vrx_api/exchange/compressor.h"
 
 #include <exception>
@@ -162,7 +162,7 @@ bool readSharedBuffer(const mp::wstring& name, std::vector<char>& bytes, std::ui
     }
     catch (const mp::SharedMemoryException& error)
     {
-        throw tool::InputError("shared buffer " + mp::toNarrow(name) + ": " + error.what());
+        throw tool::InputError("shared buffer " + printing::escaped(name) + ": " + error.what());
     }
 }
 

@@ -1,6 +1,6 @@
 #include "printing/item_lines.h"
 
-#include "input/class_guess.h"
+#include "classes/class_guess.h"
 #include "json/array_counts.h"
 #include "json/member.h"
 #include "measures.h"
@@ -101,7 +101,7 @@ std::string className(const input::Item& item)
     {
         return "bodies?";
     }
-    const mp::wstring_view guess = input::guessedClass(*item.form);
+    const mp::wstring guess = classes::guessed(*item.form);
     return guess.empty() ? "object" : escaped(guess) + '?';
 }
 

@@ -38,10 +38,10 @@ int Recorder::run(Recording& recording)
     commands.join();
     const std::string howItEnded = m_translator.end();
     const std::optional<int> exitCode = m_translator.exitCode();
-    const std::vector<mp::wstring> unloaded =
-        tool::unloadedBuffers(m_recording->told(), [this] { return m_hostTakesNothing || m_host.hasEnded(); });
-    m_recording->end(unloaded, exitCode, howItEnded);
-    removeBuffers(unloaded);
+    const std::set<mp::wstring> left = tool::unloadedBuffers(recording.told(), [this] { return isHostGone(); });
+    m_unloaded.insert(left.begin(), left.end());
+    recording.end(m_unloaded, exitCode, howItEnded);
+    removeBuffers();
     if (!exitCode)
     {
         std::cerr << "vrx record: the translator died: " << howItEnded << '\n';
@@ -55,7 +55,8 @@ void Recorder::passAnswers()
 {
     try
     {
-        while (const std::optional<mp::wstring> message = vrx::bridge::readFrame(m_translator.output()))
+        vrx::bridge::FrameReader answers(m_translator.output());
+        while (const std::optional<mp::wstring> message = answers.read())
         {
             m_recording->fromTranslator(*message);
             try
@@ -76,7 +77,6 @@ void Recorder::passAnswers()
     }
     // The host hears of the end at once.
     m_toHost.close();
-    std::fclose(stdout);
 }
 
 // Is alone with the translator's input and with its end.
@@ -85,7 +85,8 @@ void Recorder::passCommands()
     const vrx::bridge::Wait wait{std::nullopt, &tool::isToEnd};
     try
     {
-        while (const std::optional<mp::wstring> message = vrx::bridge::readFrame(m_fromHost, wait))
+        vrx::bridge::FrameReader commands(m_fromHost);
+        while (const std::optional<mp::wstring> message = commands.read(wait))
         {
             m_recording->fromHost(*message);
             vrx::bridge::writeFrame(m_translator.input(), *message, wait);
@@ -98,6 +99,11 @@ void Recorder::passCommands()
     catch (const StreamError& failure)
     {
         std::cerr << "vrx record: the host's commands: " << failure.what() << '\n';
+    }
+    // A host that has all answers will load nothing any more, and the translator is about to remove what is left.
+    if (m_recording->isAnswered())
+    {
+        m_unloaded = tool::existingBuffers(m_recording->told());
     }
     m_translator.closeInput();
     endTranslator();
@@ -120,8 +126,13 @@ void Recorder::endTranslator()
     }
 }
 
-// A host that lives may still load what it was told of: after its translator has answered, that is its affair.
-void Recorder::removeBuffers(const std::vector<mp::wstring>& unloaded) const
+bool Recorder::isHostGone() const
+{
+    return m_hostTakesNothing || m_host.hasEnded();
+}
+
+// What a living host was told of is its own affair.
+void Recorder::removeBuffers() const
 {
     vrx::bridge::UndeliveredBuffers undelivered;
     for (const mp::wstring& name : m_journal.names())
@@ -130,21 +141,7 @@ void Recorder::removeBuffers(const std::vector<mp::wstring>& unloaded) const
     }
     for (const mp::wstring& name : m_recording->told())
     {
-        undelivered.delivered(name);
-    }
-    if (m_host.hasEnded())
-    {
-        for (const mp::wstring& name : unloaded)
-        {
-            undelivered.add(name);
-        }
-    }
-    else if (m_hostTakesNothing)
-    {
-        for (const mp::wstring& name : m_recording->toldSinceAnswer())
-        {
-            undelivered.add(name);
-        }
+        isHostGone() ? undelivered.add(name) : undelivered.delivered(name);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "record/recording.h"
 
 #include <atomic>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -30,14 +31,16 @@ private:
     void passAnswers();
     void passCommands();
     void endTranslator();
-    void removeBuffers(const std::vector<mp::wstring>& unloaded) const;
+    bool isHostGone() const;
+    void removeBuffers() const;
 
     Recording* m_recording = nullptr; // while it runs
     tool::ParentProcess m_host;
     vrx::bridge::BufferJournal m_journal;
     vrx::bridge::Stream m_fromHost = vrx::bridge::Stream::standardInput();
-    vrx::bridge::Stream m_toHost = vrx::bridge::Stream::standardOutput();
+    vrx::bridge::Stream m_toHost = vrx::bridge::Stream::takeStandardOutput();
     vrx::bridge::ChildProcess m_translator;
+    std::set<mp::wstring> m_unloaded;
     std::atomic<bool> m_hostTakesNothing = false;
 };
 

@@ -3,6 +3,7 @@
 #include "mp/exception.h"
 #include "mp/narrow.h"
 #include "mp/shared_buffer.h"
+#include "printing/escaped.h"
 #include "vrx_api/json/json_value.h"
 
 #include <rapidjson/stringbuffer.h>
@@ -107,6 +108,7 @@ void Recording::fromHost(const mp::wstring& message)
     const vrx::MessageHead head = vrx::peekEnvelope(message);
     const std::lock_guard lock(m_mutex);
     keepBuffer(head.bufferName);
+    m_unanswered += head.kind == vrx::EMessageKind::Command ? 1 : 0;
     write([&](capture::CaptureWriter& writer) { writer.fromHost(message); });
     print("host: ", head, message.size());
 }
@@ -116,20 +118,12 @@ void Recording::fromTranslator(const mp::wstring& message)
     const vrx::MessageHead head = vrx::peekEnvelope(message);
     const std::lock_guard lock(m_mutex);
     keepBuffer(head.bufferName);
-    if (!head.bufferName.empty())
-    {
-        m_toldSinceAnswer.insert(head.bufferName);
-    }
-    if (head.kind == vrx::EMessageKind::Result || head.kind == vrx::EMessageKind::Info)
-    {
-        m_toldSinceAnswer.clear();
-    }
+    m_unanswered -= head.kind == vrx::EMessageKind::Result || head.kind == vrx::EMessageKind::Info ? 1 : 0;
     write([&](capture::CaptureWriter& writer) { writer.fromTranslator(message); });
     print("translator: ", head, message.size());
 }
 
-void Recording::end(const std::vector<mp::wstring>& unloaded, std::optional<int> exitCode,
-                    const std::string& howItEnded)
+void Recording::end(const std::set<mp::wstring>& unloaded, std::optional<int> exitCode, const std::string& howItEnded)
 {
     ObjectText object;
     if (exitCode)
@@ -140,7 +134,7 @@ void Recording::end(const std::vector<mp::wstring>& unloaded, std::optional<int>
     object.add(howItEnded);
     const std::lock_guard lock(m_mutex);
     write([&](capture::CaptureWriter& writer) {
-        writer.unloadedBuffers(unloaded);
+        writer.unloadedBuffers({unloaded.begin(), unloaded.end()});
         writer.end(object.finished());
     });
 }
@@ -151,10 +145,10 @@ std::set<mp::wstring> Recording::told() const
     return m_told;
 }
 
-std::set<mp::wstring> Recording::toldSinceAnswer() const
+bool Recording::isAnswered() const
 {
     const std::lock_guard lock(m_mutex);
-    return m_toldSinceAnswer;
+    return m_unanswered <= 0;
 }
 
 // What cannot be opened is missing for its reader, too.
@@ -204,8 +198,9 @@ void Recording::print(const char* sender, const vrx::MessageHead& head, std::siz
 {
     if (m_isVerbose)
     {
-        std::cerr << sender << nameOf(head.kind) << ' ' << mp::toNarrow(head.objectName) << ", " << units << " units"
-                  << (head.bufferName.empty() ? "" : ", buffer ") << mp::toNarrow(head.bufferName) << '\n';
+        std::cerr << sender << nameOf(head.kind) << ' ' << printing::escaped(head.objectName) << ", " << units
+                  << " units" << (head.bufferName.empty() ? "" : ", buffer ") << printing::escaped(head.bufferName)
+                  << '\n';
     }
 }
 

@@ -4,6 +4,7 @@
 #include "mp/wide.h"
 #include "vrx_api/exchange/peek_envelope.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <mutex>
 #include <optional>
@@ -28,13 +29,13 @@ public:
     void fromHost(const mp::wstring& message);
     void fromTranslator(const mp::wstring& message);
 
-    void end(const std::vector<mp::wstring>& unloaded, std::optional<int> exitCode, const std::string& howItEnded);
+    void end(const std::set<mp::wstring>& unloaded, std::optional<int> exitCode, const std::string& howItEnded);
 
     /// The names of all buffers that the messages named.
     std::set<mp::wstring> told() const;
 
-    /// Those that the translator named since its last answer.
-    std::set<mp::wstring> toldSinceAnswer() const;
+    /// Whether the translator has answered all commands.
+    bool isAnswered() const;
 
 private:
     void keepBuffer(const mp::wstring& name);
@@ -45,7 +46,7 @@ private:
     mutable std::mutex m_mutex;
     std::optional<capture::CaptureWriter> m_writer;
     std::set<mp::wstring> m_told;
-    std::set<mp::wstring> m_toldSinceAnswer;
+    std::ptrdiff_t m_unanswered = 0;
     bool m_isVerbose;
 };
 

@@ -26,13 +26,16 @@ using std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kLongestPause{20};
 
-const vrx::bridge::Wait untilEnd{std::nullopt, &tool::isToEnd};
+vrx::bridge::Wait untilEnd()
+{
+    return {std::nullopt, &tool::isToEnd};
+}
 
 void sleepUntil(steady_clock::time_point end)
 {
     for (auto now = steady_clock::now(); now < end; now = steady_clock::now())
     {
-        untilEnd.check();
+        untilEnd().check();
         std::this_thread::sleep_for(std::min<steady_clock::duration>(end - now, kLongestPause));
     }
 }
@@ -74,20 +77,14 @@ int Replayer::run()
     {
         std::cerr << "vrx replay: " << failure.what() << '\n';
     }
-    const auto isHostGone = [this] { return m_host.hasEnded(); };
-    vrx::bridge::UndeliveredBuffers undelivered;
-    const std::vector<mp::wstring> unloaded = tool::unloadedBuffers(m_told, isHostGone);
-    if (isHostGone())
-    {
-        std::for_each(unloaded.begin(), unloaded.end(), [&](const mp::wstring& name) { undelivered.add(name); });
-    }
+    removeBuffers();
     return isAnswered ? 0 : 1;
 }
 
 // False when a command has no answer.
 bool Replayer::answerAll()
 {
-    while (const std::optional<mp::wstring> message = vrx::bridge::readFrame(m_fromHost, untilEnd))
+    while (const std::optional<mp::wstring> message = m_messages.read(untilEnd()))
     {
         const vrx::MessageHead head = vrx::peekEnvelope(*message);
         if (head.kind != vrx::EMessageKind::Command && head.kind != vrx::EMessageKind::Unknown)
@@ -113,7 +110,22 @@ bool Replayer::answerAll()
             return false;
         }
     }
+    m_isHostDone = true;
     return true;
+}
+
+// A host that is done, or dead, loads nothing any more. One that is to find a dead translator may be about to.
+void Replayer::removeBuffers() const
+{
+    const auto isHostGone = [this] { return m_isHostDone || m_host.hasEnded(); };
+    vrx::bridge::UndeliveredBuffers undelivered;
+    for (const mp::wstring& name : tool::unloadedBuffers(m_told, isHostGone))
+    {
+        if (isHostGone())
+        {
+            undelivered.add(name);
+        }
+    }
 }
 
 // Up to the result that is their end.
@@ -123,7 +135,7 @@ void Replayer::dropObjects()
     vrx::MessageHead head;
     do
     {
-        message = vrx::bridge::readFrame(m_fromHost, untilEnd);
+        message = m_messages.read(untilEnd());
         head = message ? vrx::peekEnvelope(*message) : vrx::MessageHead();
         remove(head.bufferName);
     } while (message && head.kind != vrx::EMessageKind::Result);
@@ -150,7 +162,7 @@ void Replayer::play(const Exchange& exchange)
         {
             sleepUntil(begin + (frame.time - exchange.begin));
         }
-        untilEnd.check();
+        untilEnd().check();
         if (buffer && buffer->kind == capture::EFrame::Buffer)
         {
             const mp::wstring name = vrx::IExchangeObject::generateUUID();

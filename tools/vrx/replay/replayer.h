@@ -1,5 +1,6 @@
 #pragma once
 
+#include "bridge/frames.h"
 #include "bridge/stream.h"
 #include "capture/capture_reader.h"
 #include "parent_process.h"
@@ -25,6 +26,7 @@ public:
 
 private:
     bool answerAll();
+    void removeBuffers() const;
     void dropObjects();
     void play(const Exchange& exchange);
     void refuse(const mp::wstring& command) const;
@@ -34,8 +36,10 @@ private:
     bool m_inRealTime;
     tool::ParentProcess m_host;
     vrx::bridge::Stream m_fromHost = vrx::bridge::Stream::standardInput();
-    vrx::bridge::Stream m_toHost = vrx::bridge::Stream::standardOutput();
+    vrx::bridge::FrameReader m_messages{m_fromHost};
+    vrx::bridge::Stream m_toHost = vrx::bridge::Stream::takeStandardOutput();
     std::set<mp::wstring> m_told;
+    bool m_isHostDone = false; // it closed its side
 };
 
 } // namespace replay

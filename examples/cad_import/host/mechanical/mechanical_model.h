@@ -41,7 +41,7 @@ struct MechanicalModel
     MechanicalModel() = default;
 
     /// Measures the bodies of the parts that have a density or stated figures, or of all when an assembly has stated
-    /// figures. Throws TranslatorFailure.
+    /// figures. Throws ModelFailure.
     MechanicalModel(const vrx::ExcProductStructure& structure, const SentMechanicalData& sent, ReceivedBodies& bodies);
 
     std::map<std::uint64_t, MechanicalPart> parts;                 // all of the structure, by block

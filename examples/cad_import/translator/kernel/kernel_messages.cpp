@@ -1,6 +1,7 @@
 #include "kernel/kernel_messages.h"
 
-#include "host_channel.h"
+#include "bridge/translator_channel.h"
+#include "mp/narrow.h"
 
 #include <Message.hxx>
 #include <Message_Messenger.hxx>
@@ -23,7 +24,7 @@ void KernelMessages::send(const TCollection_AsciiString& text, Message_Gravity g
     }
     try
     {
-        m_channel.log(line.ToCString());
+        m_channel.log(mp::toWide(line.ToCString()));
     }
     catch (const std::runtime_error&)
     {

@@ -4,14 +4,17 @@
 
 #include <string>
 
-class HostChannel;
+namespace vrx::bridge
+{
+class TranslatorChannel;
+}
 
 /// Sends what the modelling kernel reports to the host's log and remembers the last failure among it.
 class KernelMessages : public Message_Printer
 {
 public:
     /// With `trace` also what the kernel tells for its own developers.
-    KernelMessages(HostChannel& channel, bool trace)
+    KernelMessages(vrx::bridge::TranslatorChannel& channel, bool trace)
         : m_channel(channel)
     {
         SetTraceLevel(trace ? Message_Trace : Message_Info);
@@ -23,7 +26,7 @@ protected:
     void send(const TCollection_AsciiString& text, Message_Gravity gravity) const override;
 
 private:
-    HostChannel& m_channel;
+    vrx::bridge::TranslatorChannel& m_channel;
     mutable std::string m_lastFailure;
 };
 

@@ -1,6 +1,7 @@
 #include "pmi/pmi_summary.h"
 
-#include "host_channel.h"
+#include "bridge/translator_channel.h"
+#include "mp/narrow.h"
 #include "pmi/step_datums.h"
 #include "pmi/step_dimensions.h"
 #include "pmi/step_tolerances.h"
@@ -9,7 +10,7 @@
 #include <algorithm>
 #include <string>
 
-void sendPmiSummary(const CadModel& model, HostChannel& channel)
+void sendPmiSummary(const CadModel& model, vrx::bridge::TranslatorChannel& channel)
 {
     if (!model.records)
     {
@@ -25,8 +26,9 @@ void sendPmiSummary(const CadModel& model, HostChannel& channel)
     const std::size_t annotations = model.records->all("DRAUGHTING_CALLOUT").size();
     if (dimensions + tolerances + datums + targets + annotations > 0)
     {
-        channel.message("The file holds PMI: dimensions " + std::to_string(dimensions) + ", tolerances " +
-                        std::to_string(tolerances) + ", datums " + std::to_string(datums) + ", datum targets " +
-                        std::to_string(targets) + ", drawn annotations " + std::to_string(annotations) + ".");
+        channel.message(mp::toWide("The file holds PMI: dimensions " + std::to_string(dimensions) + ", tolerances " +
+                                   std::to_string(tolerances) + ", datums " + std::to_string(datums) +
+                                   ", datum targets " + std::to_string(targets) + ", drawn annotations " +
+                                   std::to_string(annotations) + "."));
     }
 }

@@ -1,7 +1,11 @@
 #pragma once
 
-class HostChannel;
+namespace vrx::bridge
+{
+class TranslatorChannel;
+}
+
 struct CadModel;
 
 /// Tells the host in a message how much product manufacturing information the file holds, if any.
-void sendPmiSummary(const CadModel& model, HostChannel& channel);
+void sendPmiSummary(const CadModel& model, vrx::bridge::TranslatorChannel& channel);

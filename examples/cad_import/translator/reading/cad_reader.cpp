@@ -33,7 +33,7 @@ bool isIges(const CadFile& file)
 
 } // namespace
 
-CadModel readModel(const ImportSettings& settings, HostChannel& channel, ImportProgress& progress)
+CadModel readModel(const ImportSettings& settings, vrx::bridge::TranslatorChannel& channel, ImportProgress& progress)
 {
     CadFile file(fileToRead(settings));
     const Handle(KernelMessages) messages = new KernelMessages(channel, settings.debugLog);

@@ -2,10 +2,14 @@
 
 #include "reading/cad_model.h"
 
-class HostChannel;
+namespace vrx::bridge
+{
+class TranslatorChannel;
+}
+
 class ImportProgress;
 struct ImportSettings;
 
 /// Reads and transfers a file of any format that the translator knows. Throws TranslationError with a message for the
 /// user.
-CadModel readModel(const ImportSettings& settings, HostChannel& channel, ImportProgress& progress);
+CadModel readModel(const ImportSettings& settings, vrx::bridge::TranslatorChannel& channel, ImportProgress& progress);

@@ -1,0 +1,59 @@
+#include "bridge/cancel_on_interrupt.h"
+
+#include <array>
+#include <atomic>
+#include <csignal>
+#include <cstddef>
+
+namespace vrx::bridge
+{
+
+namespace
+{
+
+constexpr std::array<int, 3> kInterrupts = {SIGINT, SIGTERM, SIGHUP};
+
+std::array<struct sigaction, kInterrupts.size()> actionsBefore = {};
+std::atomic<HostSession*> cancelledSession = nullptr;
+std::atomic<bool> interrupted = false;
+static_assert(std::atomic<HostSession*>::is_always_lock_free, "a signal handler reads it");
+
+extern "C" void cancelSession(int)
+{
+    interrupted = true;
+    if (HostSession* const session = cancelledSession)
+    {
+        session->cancel();
+    }
+}
+
+} // namespace
+
+CancelOnInterrupt::CancelOnInterrupt(HostSession& session)
+{
+    cancelledSession = &session;
+    struct sigaction action = {};
+    action.sa_handler = cancelSession;
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    for (std::size_t i = 0; i < kInterrupts.size(); ++i)
+    {
+        sigaction(kInterrupts[i], &action, &actionsBefore[i]);
+    }
+}
+
+CancelOnInterrupt::~CancelOnInterrupt()
+{
+    for (std::size_t i = 0; i < kInterrupts.size(); ++i)
+    {
+        sigaction(kInterrupts[i], &actionsBefore[i], nullptr);
+    }
+    cancelledSession = nullptr;
+}
+
+bool CancelOnInterrupt::wasInterrupted()
+{
+    return interrupted;
+}
+
+} // namespace vrx::bridge

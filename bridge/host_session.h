@@ -1,0 +1,106 @@
+#pragma once
+
+#include "bridge/buffer_journal.h"
+#include "bridge/child_process.h"
+#include "bridge/frames.h"
+#include "bridge/listener.h"
+#include "bridge/translator_failure.h"
+#include "bridge/undelivered_buffers.h"
+#include "vrx_api/exchange/peek_envelope.h"
+#include "vrx_api/vrx_api_command.h"
+#include "vrx_api/vrx_api_exchange_object.h"
+#include "vrx_api/vrx_api_ferrant_info.h"
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vrx::bridge
+{
+
+/// A running translator: sends commands, hands on what comes back. Each operation throws TranslatorFailure when the
+/// translator dies, is silent for too long, breaks the protocol, or the host cancels; the translator has ended then.
+/// When the session ends, in whatever way, all shared memory that the translator left is removed from the system.
+class VRX_BRIDGE HostSession
+{
+public:
+    /// Gives the objects of an export one after the other, and null behind the last.
+    using ObjectSource = std::function<std::shared_ptr<IExchangeObject>()>;
+
+    /// Starts the program with its arguments. Throws std::runtime_error when it cannot be started.
+    explicit HostSession(const std::vector<std::string>& command);
+    HostSession(const HostSession&) = delete;
+    HostSession& operator=(const HostSession&) = delete;
+    ~HostSession();
+
+    /// How long the translator may be silent before an answer or the next message. There is no limit until one is set.
+    void setTimeLimit(std::chrono::milliseconds limit) { m_timeLimit = limit; }
+
+    /// A lazy session hands on an object in shared memory before it is loaded. The program loads it when it wants,
+    /// while the session lives and before `finish`.
+    void setLazy(bool lazy) { m_isLazy = lazy; }
+
+    /// Of what is loaded; see `IExchangeObject::setSizeLimit`.
+    void setSizeLimit(std::uint64_t bytes) { m_sizeLimit = bytes; }
+
+    /// Of what an export sends.
+    void setCompression(ECompression compression) { m_compression = compression; }
+
+    FerrantInfo info();
+    Result ping();
+
+    /// The options say by which interface. The listener gets each object when it comes, while the translator works on
+    /// the next one: it has got those before, when the result is an error.
+    Result importFile(const std::shared_ptr<ImportOptions>& options, Listener& listener);
+
+    /// The listener hears of the progress. The translator may answer before it has got all objects.
+    Result exportFile(const std::shared_ptr<ExportOptions>& options, const ObjectSource& nextObject,
+                      Listener& listener);
+
+    /// From a listener, another thread or a signal handler: the running operation, or else the next one, throws a
+    /// TranslatorFailure. The translator is asked to end, and killed after two seconds.
+    void cancel() noexcept { m_isCancelled = true; }
+    bool isCancelled() const noexcept { return m_isCancelled; }
+
+    /// Lets the translator end while the host goes on: there will be no more commands.
+    void finish() noexcept { m_translator.closeInput(); }
+
+private:
+    Wait wait() const;
+    void send(const mp::ISerializable& message);
+    void sendObject(const std::shared_ptr<IExchangeObject>& object);
+    mp::wstring receive();
+
+    Result awaitResult(Listener& listener);
+    std::optional<Result> take(const mp::wstring& text, Listener& listener);
+    void takeObject(const mp::wstring& text, const MessageHead& head, Listener& listener);
+    void parse(const mp::wstring& text, mp::ISerializable& message, const char* what);
+    void load(IExchangeObject& object, const mp::wstring& buffer);
+
+    template <class Operation>
+    auto endingOnFailure(Operation operation);
+    [[noreturn]] void fail(TranslatorFailure::EKind kind, const std::string& text);
+    [[noreturn]] void failAsDead(const std::string& text, const std::string& reason = {});
+    void stop() noexcept;
+    bool drain(std::chrono::milliseconds limit) noexcept;
+    void removeBuffers() noexcept;
+
+    std::optional<std::chrono::milliseconds> m_timeLimit;
+    bool m_isLazy = false;
+    std::uint64_t m_sizeLimit = Compressor::kNoLimit;
+    ECompression m_compression = ECompression::AsTold;
+    std::atomic<bool> m_isCancelled = false;
+
+    UndeliveredBuffers m_undelivered; // either way
+    BufferJournal m_journal;
+    ChildProcess m_translator;
+    FrameReader m_messages{m_translator.output()};
+    std::string m_end; // of the translator, in words; empty while it runs
+};
+
+} // namespace vrx::bridge

@@ -1,0 +1,161 @@
+#include "bridge/translator_channel.h"
+
+#include "bridge/buffer_journal.h"
+#include "bridge/termination.h"
+#include "mp/narrow.h"
+#include "vrx_api/exchange/peek_envelope.h"
+
+#include <utility>
+
+namespace vrx::bridge
+{
+
+TranslatorChannel::TranslatorChannel()
+    : m_input(Stream::standardInput())
+    , m_output(Stream::takeStandardOutput())
+{
+    keepInheritedJournals();
+}
+
+TranslatorChannel::~TranslatorChannel() = default;
+
+std::optional<Command> TranslatorChannel::receive()
+{
+    // Those of an export that was answered before it had got all.
+    while (const std::optional<mp::wstring> object = receiveObjectText())
+    {
+        m_undelivered.remove(peekEnvelope(*object).bufferName);
+    }
+    // A host that goes on has loaded most of what it was told of.
+    m_undelivered.forgetLoaded();
+    while (const std::optional<mp::wstring> text = m_next ? std::exchange(m_next, std::nullopt) : receiveText())
+    {
+        try
+        {
+            Command command;
+            fromText(*text, command);
+            m_hasObjectsToCome = command.type() == Command::EType::Export;
+            return command;
+        }
+        catch (const std::invalid_argument& failure)
+        {
+            Result result;
+            result.setCode(Result::ECode::Error);
+            result.setMessage(mp::toWide(std::string("This is no command: ") + failure.what()));
+            result.setFinished(true);
+            send(result);
+        }
+    }
+    return std::nullopt;
+}
+
+std::shared_ptr<IExchangeObject> TranslatorChannel::receiveObject()
+{
+    while (const std::optional<mp::wstring> text = receiveObjectText())
+    {
+        const mp::wstring buffer = peekEnvelope(*text).bufferName;
+        ExchangeObjectWrapper envelope;
+        envelope.setDelayedLoading(true);
+        fromText(*text, envelope);
+        if (const std::shared_ptr<IExchangeObject>& object = envelope.get())
+        {
+            object->load();
+            m_undelivered.delivered(buffer);
+            return object;
+        }
+        m_undelivered.remove(buffer);
+    }
+    return nullptr;
+}
+
+// Nothing behind the last object of an export.
+std::optional<mp::wstring> TranslatorChannel::receiveObjectText()
+{
+    if (!m_hasObjectsToCome)
+    {
+        return std::nullopt;
+    }
+    std::optional<mp::wstring> text = receiveText();
+    if (!text)
+    {
+        m_hasObjectsToCome = false;
+        throw StreamError("the host ended within an export");
+    }
+    const MessageHead head = peekEnvelope(*text);
+    m_undelivered.add(head.bufferName);
+    m_hasObjectsToCome = head.kind == EMessageKind::Envelope;
+    if (head.kind == EMessageKind::Command)
+    {
+        m_next = text; // from a host that does not tell the end
+    }
+    return m_hasObjectsToCome ? text : std::nullopt;
+}
+
+void TranslatorChannel::send(const Result& result)
+{
+    sendText(toText(result));
+}
+
+void TranslatorChannel::send(const FerrantInfo& info)
+{
+    sendText(toText(info));
+}
+
+void TranslatorChannel::send(const std::shared_ptr<IExchangeObject>& object)
+{
+    ExchangeObjectWrapper envelope;
+    envelope.set(object);
+    envelope.setCompression(m_compression);
+    sendText(toText(envelope));
+    if (isTerminationDue())
+    {
+        throw Cancelled("The translator was told to end.");
+    }
+}
+
+void TranslatorChannel::message(const mp::wstring& text)
+{
+    send(std::make_shared<ExcMessage>(text));
+}
+
+void TranslatorChannel::log(const mp::wstring& text)
+{
+    send(std::make_shared<ExcLog>(text));
+}
+
+std::optional<mp::wstring> TranslatorChannel::receiveText()
+{
+    if (m_termination == nullptr)
+    {
+        m_termination = std::make_unique<DelayedTermination>();
+    }
+    try
+    {
+        return m_messages.read({std::nullopt, &DelayedTermination::isDue()});
+    }
+    catch (const Cancelled&)
+    {
+        return std::nullopt;
+    }
+}
+
+void TranslatorChannel::sendText(const mp::wstring& text)
+{
+    m_undelivered.add(peekEnvelope(text).bufferName);
+    try
+    {
+        writeFrame(m_output, text);
+    }
+    catch (const StreamError&)
+    {
+        m_undelivered.removeAll();
+        throw;
+    }
+}
+
+bool TranslatorChannel::isTerminationDue()
+{
+    return DelayedTermination::isDue();
+}
+
+} // namespace vrx::bridge

@@ -1,0 +1,60 @@
+#include "support.h"
+#include "vrx_api/exchange/exchange_object.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+using namespace vrx::bridge;
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+using testing::ElementsAre;
+
+namespace
+{
+
+std::vector<std::string> peer(std::vector<std::string> words)
+{
+    words.insert(words.begin(), VRX_BRIDGE_TEST_PEER);
+    return words;
+}
+
+TEST(ChildProcess, GetsItsWordsAsTheyAre)
+{
+    const std::vector<std::string> words = {
+        "plain", "two words", "", R"(a "quoted" one)", R"(C:\folder\)", R"(\"\\" \)", "%PATH% $HOME *", "tab\tbed"};
+    std::vector<std::string> command = words;
+    command.insert(command.begin(), "words");
+    ChildProcess child(peer(command));
+    std::string expected;
+    for (const std::string& word : words)
+    {
+        expected += word + '\n';
+    }
+    EXPECT_EQ(test::readAll(child.output()), expected);
+    EXPECT_EQ(child.end(), "it exited with code 7");
+    EXPECT_EQ(child.exitCode(), 7);
+}
+
+TEST(ChildProcess, IsKilledWhenItDoesNotEnd)
+{
+    ChildProcess child(peer({"host", "loads", "hang"}));
+    EXPECT_FALSE(child.wait(milliseconds(20)));
+    const std::string end = child.end(milliseconds(20));
+    EXPECT_THAT(end, testing::AnyOf("it was ended by signal 9 (Killed)", "it was killed"));
+    EXPECT_EQ(child.exitCode(), std::nullopt);
+}
+
+TEST(ChildProcess, NotesItsBuffersInEachJournal)
+{
+    const mp::wstring name = vrx::IExchangeObject::generateUUID();
+    const BufferJournal journal;
+    const BufferJournal other;
+    ChildProcess child(peer({"leave", mp::toNarrow(name)}), &journal);
+    EXPECT_EQ(child.end(seconds(20)), "it exited with code 0");
+    EXPECT_THAT(journal.names(), ElementsAre(name));
+    EXPECT_TRUE(other.names().empty());
+    EXPECT_TRUE(mp::SharedBuffer<char>::remove(name));
+}
+
+} // namespace

@@ -1,0 +1,194 @@
+#include "bridge/bridge.h"
+#include "mp/narrow.h"
+#include "mp/shared_buffer.h"
+#include "peer.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <iostream>
+#include <thread>
+
+using namespace vrx;
+
+namespace
+{
+
+Result resultOf(Result::ECode code)
+{
+    Result result;
+    result.setCode(code);
+    return result;
+}
+
+std::shared_ptr<ExcProductStructure> structure(const std::string& name)
+{
+    const auto structure = std::make_shared<ExcProductStructure>();
+    structure->setProductName(mp::toWide(name));
+    return structure;
+}
+
+mp::wstring leftBuffer()
+{
+    mp::wstring name = IExchangeObject::generateUUID();
+    mp::SharedBuffer<char> buffer;
+    buffer.open(name, false);
+    buffer.write("bodies", 6);
+    return name;
+}
+
+mp::wstring envelope(const mp::wstring& object, const mp::wstring& buffer)
+{
+    return WIDE(R"({"exchange_object_name":")") + object + WIDE(R"(","binary":true,"exchange_object_data":")") +
+           buffer + WIDE("\"}");
+}
+
+class PlayedTranslator
+{
+public:
+    int run(const std::vector<std::string>& steps)
+    {
+        while (const std::optional<Command> command = m_channel.receive())
+        {
+            switch (command->type())
+            {
+            case Command::EType::Info:
+                sendInfo();
+                break;
+            case Command::EType::Import:
+                import(steps);
+                break;
+            case Command::EType::Export:
+                receive(steps);
+                break;
+            default:
+                m_channel.send(Result());
+            }
+        }
+        return 0;
+    }
+
+private:
+    void sendInfo()
+    {
+        FerrantInfo info;
+        info.setName(WIDE("peer"));
+        info.setVersion(WIDE("1"));
+        m_channel.send(info);
+    }
+
+    void import(const std::vector<std::string>& steps)
+    {
+        try
+        {
+            for (const std::string& step : steps)
+            {
+                doStep(step);
+            }
+        }
+        catch (const bridge::Cancelled&)
+        {
+            m_channel.send(resultOf(Result::ECode::Interrupted));
+            return;
+        }
+        m_channel.send(Result());
+    }
+
+    void receive(const std::vector<std::string>& steps)
+    {
+        while (const auto object = m_channel.receiveObject())
+        {
+            const auto received = std::dynamic_pointer_cast<ExcProductStructure>(object);
+            m_channel.message(received->productName());
+            for (const std::string& step : steps)
+            {
+                doStep(step);
+            }
+            if (!steps.empty())
+            {
+                break;
+            }
+        }
+        m_channel.send(resultOf(steps.empty() ? Result::ECode::Ok : Result::ECode::Error));
+    }
+
+    void doStep(const std::string& step)
+    {
+        if (step == "stray")
+        {
+            std::cout << "a stray line" << std::endl;
+            std::printf("another\n");
+            std::fflush(stdout);
+        }
+        else if (step == "garbage")
+        {
+            sendBytes("a stray line of text");
+        }
+        else if (step == "cut")
+        {
+            sendBytes(std::string("\2\0\0\0A\0", 6));
+        }
+        else if (step == "command")
+        {
+            m_channel.sendText(WIDE(R"({"command":"ping"})"));
+        }
+        else if (step == "newer")
+        {
+            m_channel.sendText(envelope(WIDE("exc_newer"), leftBuffer()));
+        }
+        else if (step == "missing")
+        {
+            m_channel.sendText(envelope(WIDE("exc_product_structure"), IExchangeObject::generateUUID()));
+        }
+        else if (step == "bodies")
+        {
+            m_channel.sendText(WIDE(R"({"exchange_object_name":"exc_block_geometry","exchange_object_data":)"
+                                    R"({"block_id":1,"acis_body_ids":[],"shared_acis_buffer_name":")") +
+                               leftBuffer() + WIDE("\"}}"));
+        }
+        else if (step == "untold")
+        {
+            leftBuffer();
+        }
+        else if (step == "deaf")
+        {
+#ifndef _WIN32
+            std::signal(SIGTERM, SIG_IGN);
+#endif
+        }
+        else if (step == "hang")
+        {
+            std::this_thread::sleep_for(std::chrono::minutes(1));
+        }
+        else if (step == "die")
+        {
+            killSelf();
+        }
+        else if (step == "exit")
+        {
+            std::_Exit(5);
+        }
+        else
+        {
+            m_channel.message(mp::toWide("now " + step));
+            m_channel.send(structure(step));
+        }
+    }
+
+    // As they are, and no message.
+    void sendBytes(const std::string& bytes) const
+    {
+        m_output.writeAll(bytes.data(), bytes.size());
+    }
+
+    bridge::Stream m_output = bridge::Stream::standardOutput(); // before the channel takes it
+    bridge::TranslatorChannel m_channel;
+};
+
+} // namespace
+
+int playTranslator(const std::vector<std::string>& steps)
+{
+    return PlayedTranslator().run(steps);
+}
