@@ -75,14 +75,14 @@ const vrx::ClassShape* classAlone(const input::Item& item, const vrx::ClassShape
 class Lines
 {
 public:
-    void give(const std::string& file, const Finding& finding)
+    static void give(const std::string& file, const Finding& finding)
     {
         std::cout << printing::escaped(mp::toWide(file)) << ": message " << finding.place.message
                   << (finding.place.pointer.empty() ? "" : " " + printing::escaped(finding.place.pointer)) << ": "
                   << checking::nameOf(finding.code) << ": " << finding.sentence << '\n';
     }
 
-    void end(std::size_t count)
+    static void end(std::size_t count)
     {
         std::cout << (count == 0   ? "no finding"
                       : count == 1 ? "1 finding"
@@ -104,7 +104,7 @@ public:
         m_isBegun = true;
     }
 
-    void end(std::size_t) { std::cout << (m_isBegun ? "\n]\n" : "[]\n"); }
+    void end(std::size_t) const { std::cout << (m_isBegun ? "\n]\n" : "[]\n"); }
 
 private:
     bool m_isBegun = false;
