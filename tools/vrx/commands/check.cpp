@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <set>
 
 namespace tool
@@ -26,12 +27,12 @@ std::set<checking::ECode> takeIgnored(Arguments& arguments)
     std::set<checking::ECode> ignored;
     for (std::string name; !(name = arguments.takeOption("--ignore", "")).empty();)
     {
-        const auto* const found = std::find(checking::kCodeNames.begin(), checking::kCodeNames.end(), name);
-        if (found == checking::kCodeNames.end())
+        const auto* const found = std::find(std::begin(checking::kCodeNames), std::end(checking::kCodeNames), name);
+        if (found == std::end(checking::kCodeNames))
         {
             throw UsageError("unknown code: " + name);
         }
-        ignored.insert(static_cast<checking::ECode>(found - checking::kCodeNames.begin()));
+        ignored.insert(static_cast<checking::ECode>(found - std::begin(checking::kCodeNames)));
     }
     return ignored;
 }
