@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <iterator>
 #include <set>
 #include <string>
 #include <string_view>
@@ -36,7 +37,7 @@ enum class ECode
 };
 
 /// The names of the codes, in their order.
-inline constexpr std::array<std::string_view, 17> kCodeNames = {
+inline constexpr std::string_view kCodeNames[] = {
     "not-a-message", "unknown-object", "no-answer",    "missing-buffer", "damaged-buffer", "unloaded-buffer",
     "unknown-key",   "duplicate-key",  "missing-key",  "wrong-kind",     "wrong-number",   "wrong-size",
     "unknown-name",  "index-outside",  "duplicate-id", "dangling-id",    "structure-cycle"};
@@ -93,7 +94,7 @@ private:
     Give m_give;
     std::set<ECode> m_ignored;
     std::size_t m_mostOfACode;
-    std::array<std::size_t, kCodeNames.size()> m_counts{};
+    std::array<std::size_t, std::size(kCodeNames)> m_counts{};
     std::size_t m_count = 0;
 };
 

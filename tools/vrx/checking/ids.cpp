@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <iterator>
 #include <tuple>
 #include <utility>
 
@@ -25,14 +26,14 @@ struct SpaceRow
     bool isOfOneObject;
 };
 
-constexpr std::array<SpaceRow, 6> kRows = {{
+constexpr SpaceRow kRows[] = {
     {EIdSpace::Block, "block", false},
     {EIdSpace::BlockReference, "reference to a block", false},
     {EIdSpace::Body, "body", false},
     {EIdSpace::Layer, "layer", true},
     {EIdSpace::Annotation, "annotation", false},
     {EIdSpace::Datum, "datum", true},
-}};
+};
 
 IdKey keyOf(mp::wstring_view text)
 {
@@ -197,7 +198,7 @@ void Ids::tellDangling(EIdSpace space)
                std::tie(right->place.message, right->place.pointer);
     });
     const auto* const row =
-        std::find_if(kRows.begin(), kRows.end(), [space](const SpaceRow& each) { return each.space == space; });
+        std::find_if(std::begin(kRows), std::end(kRows), [space](const SpaceRow& each) { return each.space == space; });
     for (const Reference* const reference : dangling)
     {
         m_findings.add(ECode::DanglingId, [&] {

@@ -49,7 +49,8 @@ private:
         IdKey id;
     };
 
-    Told look(const vrx::Shape& shape, const Told& around, const vrx::JsonValue& value, const vrx::JsonValue& holder);
+    static Told look(const vrx::Shape& shape, const Told& around, const vrx::JsonValue& value,
+                     const vrx::JsonValue& holder);
     void enter(const vrx::JsonValue& value, const vrx::Shape& shape, const Told& around, const vrx::JsonValue& holder);
     void open(const vrx::JsonValue& value, const vrx::Shape& shape, const Told& told);
     void step();

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <set>
 
 namespace tool
@@ -26,12 +27,12 @@ std::set<checking::ECode> takeIgnored(Arguments& arguments)
     std::set<checking::ECode> ignored;
     for (std::string name; !(name = arguments.takeOption("--ignore", "")).empty();)
     {
-        const auto* const found = std::find(checking::kCodeNames.begin(), checking::kCodeNames.end(), name);
-        if (found == checking::kCodeNames.end())
+        const auto* const found = std::find(std::begin(checking::kCodeNames), std::end(checking::kCodeNames), name);
+        if (found == std::end(checking::kCodeNames))
         {
             throw UsageError("unknown code: " + name);
         }
-        ignored.insert(static_cast<checking::ECode>(found - checking::kCodeNames.begin()));
+        ignored.insert(static_cast<checking::ECode>(found - std::begin(checking::kCodeNames)));
     }
     return ignored;
 }
@@ -75,14 +76,14 @@ const vrx::ClassShape* classAlone(const input::Item& item, const vrx::ClassShape
 class Lines
 {
 public:
-    void give(const std::string& file, const Finding& finding)
+    static void give(const std::string& file, const Finding& finding)
     {
         std::cout << printing::escaped(mp::toWide(file)) << ": message " << finding.place.message
                   << (finding.place.pointer.empty() ? "" : " " + printing::escaped(finding.place.pointer)) << ": "
                   << checking::nameOf(finding.code) << ": " << finding.sentence << '\n';
     }
 
-    void end(std::size_t count)
+    static void end(std::size_t count)
     {
         std::cout << (count == 0   ? "no finding"
                       : count == 1 ? "1 finding"
@@ -104,7 +105,7 @@ public:
         m_isBegun = true;
     }
 
-    void end(std::size_t) { std::cout << (m_isBegun ? "\n]\n" : "[]\n"); }
+    void end(std::size_t) const { std::cout << (m_isBegun ? "\n]\n" : "[]\n"); }
 
 private:
     bool m_isBegun = false;
