@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mp/narrow.h"
+#include "utf8.h"
 #include "vrx_api/json/json_value.h"
 #include "vrx_api/vrx_api_exchange_common.h"
 
@@ -23,7 +23,7 @@ public:
     std::string text() const { return m_buffer.GetString(); }
 
     void value(const std::string& text) { String(text.c_str(), static_cast<rapidjson::SizeType>(text.size())); }
-    void value(const mp::wstring& text) { value(mp::toNarrow(text)); }
+    void value(const mp::wstring& text) { value(utf8(text)); }
 
     template <class Value>
     void field(const char* key, const Value& text)

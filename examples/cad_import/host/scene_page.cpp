@@ -1,6 +1,7 @@
 #include "scene_page.h"
 
 #include "mechanical/mechanical_json.h"
+#include "mp/narrow.h"
 #include "page_json.h"
 #include "placement.h"
 #include "printable.h"

@@ -1,7 +1,7 @@
 #include "mechanical/mechanical_json.h"
-#include "mp/narrow.h"
 #include "product_tree.h"
 #include "tree_output.h"
+#include "utf8.h"
 #include "vrx_api/json/json_value.h"
 
 #include <rapidjson/prettywriter.h>
@@ -48,7 +48,7 @@ public:
 private:
     void string(const mp::wstring& text)
     {
-        const std::string narrow = mp::toNarrow(text);
+        const std::string narrow = utf8(text);
         m_writer.String(narrow.c_str(), static_cast<rapidjson::SizeType>(narrow.size()));
     }
 

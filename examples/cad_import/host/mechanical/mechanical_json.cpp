@@ -1,6 +1,7 @@
 #include "mechanical/mechanical_json.h"
 
 #include "mechanical/hole_callout.h"
+#include "mp/narrow.h"
 #include "page_json.h"
 #include "wire_name.h"
 
