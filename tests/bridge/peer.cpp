@@ -4,6 +4,7 @@
 //     translator STEP...    a translator
 //     words WORD...         prints its words, a line for each
 //     leave NAME            makes a buffer of this name, notes it in the journals and leaves it
+//     hang                  does nothing for a minute
 
 #include "peer.h"
 
@@ -40,6 +41,11 @@ int run(const std::string& role, std::vector<std::string> words)
         vrx::bridge::keepInheritedJournals();
         mp::SharedBuffer<char> buffer;
         buffer.open(mp::toWide(words.at(0)), false);
+        return 0;
+    }
+    if (role == "hang")
+    {
+        std::this_thread::sleep_for(std::chrono::minutes(1));
         return 0;
     }
     return 2;

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # usage: across_systems_test.sh LINUX_BUILD WINDOWS_BUILD [CAD_FILE...]
 # Imports of the example, of its vise or of these files, recorded on Linux: replayed on Linux and under Wine, and
-# recorded again under Wine and replayed on Linux, a host gets the same messages and the same bytes in all buffers.
+# recorded again under Wine and replayed on Linux, hosts get the same messages, the same bytes in all buffers, and the
+# same tree with the same figures.
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -24,7 +25,18 @@ under_wine() {
 windows_path() { printf 'Z:%s' "${1//\//\\}"; }
 
 vrx_exe=$(windows_path "$windows/bin/vrx.exe")
-host_exe=$windows/bin/vrx_tool_test_host.exe
+
+# on_linux FILE TRANSLATOR [ARGUMENT...], and on_wine: what the two hosts print.
+on_linux() {
+    "$linux/vrx_tool_test_host" "${@:2}"
+    "$linux/cad_reader" "$@"
+}
+on_wine() {
+    {
+        under_wine "$windows/bin/vrx_tool_test_host.exe" "${@:2}"
+        under_wine "$windows/bin/cad_reader.exe" "$@"
+    } | tr -d '\r'
+}
 
 cat >"$scratch/recorder" <<END
 #!/bin/sh
@@ -35,12 +47,13 @@ chmod +x "$scratch/recorder"
 for file; do
     name=$(basename "$file")
     "$linux/cad_host" --quiet --translator "$scratch/recorder" "$file" >/dev/null || fail "cannot record $name"
-    "$linux/vrx_tool_test_host" "$linux/vrx" replay "$scratch/linux.vrxcap" >"$scratch/there"
-    under_wine "$host_exe" "$vrx_exe" replay "$(windows_path "$scratch/linux.vrxcap")" | tr -d '\r' >"$scratch/wine"
+    on_linux "$name" "$linux/vrx" replay "$scratch/linux.vrxcap" >"$scratch/there"
+    on_wine "$name" "$vrx_exe" replay "$(windows_path "$scratch/linux.vrxcap")" >"$scratch/wine"
     cmp "$scratch/there" "$scratch/wine" || fail "a replay under Wine differs: $name"
-    under_wine "$host_exe" "$vrx_exe" record --force -o "$(windows_path "$scratch/windows.vrxcap")" -- \
+    under_wine "$windows/bin/vrx_tool_test_host.exe" "$vrx_exe" record --force \
+        -o "$(windows_path "$scratch/windows.vrxcap")" -- \
         "$vrx_exe" replay "$(windows_path "$scratch/linux.vrxcap")" >/dev/null
-    "$linux/vrx_tool_test_host" "$linux/vrx" replay "$scratch/windows.vrxcap" >"$scratch/back"
+    on_linux "$name" "$linux/vrx" replay "$scratch/windows.vrxcap" >"$scratch/back"
     cmp "$scratch/there" "$scratch/back" || fail "what was recorded under Wine differs: $name"
     echo "$name: $(grep -c ' bytes, ' "$scratch/there") buffers, $(wc -l <"$scratch/there") lines"
 done
