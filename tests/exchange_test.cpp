@@ -303,8 +303,8 @@ TEST(Envelope, ThatNamesNothingUsableIsPassedOver)
 
 struct PeekRow
 {
-    const char* text;
-    EMessageKind kind;
+    const char* text = "";
+    EMessageKind kind = EMessageKind::Unknown;
     const char* object = "";
     const char* buffer = "";
 };

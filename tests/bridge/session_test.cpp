@@ -20,9 +20,9 @@ struct SessionCase
     std::size_t made; // at least
 };
 
-void PrintTo(const SessionCase& row, std::ostream* stream)
+std::ostream& operator<<(std::ostream& stream, const SessionCase& row)
 {
-    *stream << row.name;
+    return stream << row.name;
 }
 
 const SessionCase kCases[] = {

@@ -54,7 +54,7 @@ std::string Arguments::takeOption(const std::string& name, const std::string& ot
     }
     if (*found != name)
     {
-        const std::string value = found->substr(name.size() + 1);
+        std::string value = found->substr(name.size() + 1);
         m_words.erase(found);
         return value;
     }
@@ -62,7 +62,7 @@ std::string Arguments::takeOption(const std::string& name, const std::string& ot
     {
         throw UsageError(name + " needs a value");
     }
-    const std::string value = *(found + 1);
+    std::string value = *(found + 1);
     m_words.erase(found, found + 2);
     return value;
 }
@@ -74,7 +74,7 @@ std::string Arguments::takeOperand(const std::string& what)
     {
         throw UsageError(what + " is missing");
     }
-    const std::string word = *found;
+    std::string word = *found;
     m_words.erase(found);
     return word;
 }

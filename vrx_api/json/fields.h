@@ -101,7 +101,7 @@ public:
     {
     }
 
-    bool goesOn(bool condition) const { return condition; }
+    static bool goesOn(bool condition) { return condition; }
 
 private:
     /// True when the key is there, with a value of the field's kind. The field is a member of the class, or a rule
@@ -197,7 +197,7 @@ public:
     {
     }
 
-    bool goesOn(bool condition) const { return condition; }
+    static bool goesOn(bool condition) { return condition; }
 
 private:
     Out& m_out;

@@ -89,7 +89,7 @@ public:
         filled(key, field);
     }
 
-    bool goesOn(bool) const { return true; }
+    static bool goesOn(bool) { return true; }
 
     /// The fields of a base that the class writes and does not read.
     void addUnread(FieldLister&& base);

@@ -338,10 +338,10 @@ void outline(Shape& shape, const InOut<In, Out>& field)
 template <class Field>
 struct Tied
 {
-    ERole role;
-    EIdSpace space;
+    ERole role = ERole::Plain;
+    EIdSpace space = EIdSpace::None;
     wstring_view indexed;
-    std::size_t indexWidth;
+    std::size_t indexWidth = 1;
     Field field;
 };
 
