@@ -127,7 +127,7 @@ TEST(Shapes, TellWhatAValueIs)
     EXPECT_EQ(units.kind, EShape::Name);
     EXPECT_THAT(units.names, Contains(wstring_view(WIDE("millimeter"))));
     EXPECT_EQ(shapeOf("ExcEntity", WIDE("type")).otherNames, WIDE("fsp"));
-    EXPECT_TRUE(shapeOf("ExcVisuCapture", WIDE("camera")).mayBeNull);
+    EXPECT_TRUE(shapeOf("ExcBlockGeometry", WIDE("shared_acis_buffer_name")).mayBeNull);
     EXPECT_FALSE(shapeOf("ExcVisuNode", WIDE("mesh")).mayBeNull) << "not written for nothing";
 
     const Shape& texts = shapeOf("ExcPMIDimension", WIDE("texts"));
