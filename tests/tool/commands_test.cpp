@@ -1,6 +1,7 @@
 #include "capture/capture_writer.h"
 #include "commands/commands.h"
 #include "files.h"
+#include "tests/support/child_process.h"
 #include "tests/support/shared_memory.h"
 
 #include <gmock/gmock.h>
@@ -104,6 +105,16 @@ TEST(Clean, TriesWithoutRemoving)
     EXPECT_THAT(output(tool::kList, {}), matches(narrow + " +5 +[0-9]+ s .*bodies\\?"));
     EXPECT_EQ(test::takeBuffer(name), "12345");
 }
+
+#ifdef __linux__ // which has a disk that is always full
+TEST(Output, LostOutputIsNoSuccess)
+{
+    EXPECT_EQ(test::ChildProcess({"sh", "-c", VRX_TOOL " schema > /dev/full 2> /dev/null"}).wait(), tool::kUnreadable);
+    EXPECT_EQ(
+        test::ChildProcess({"bash", "-c", "trap '' PIPE; " VRX_TOOL " schema | true; exit ${PIPESTATUS[0]}"}).wait(),
+        tool::kSuccess);
+}
+#endif
 
 using Options = std::map<std::string, std::set<std::string>>;
 
