@@ -2,6 +2,7 @@
 #include "commands/commands.h"
 #include "files.h"
 #include "tests/support/child_process.h"
+#include "tests/support/helpers.h"
 #include "tests/support/shared_memory.h"
 
 #include <gmock/gmock.h>
@@ -106,6 +107,30 @@ TEST(Clean, TriesWithoutRemoving)
     EXPECT_EQ(test::takeBuffer(name), "12345");
 }
 
+TEST(Arguments, OperandsStandBehindTheEndOfOptionsToo)
+{
+    const std::vector<std::string> words = {"--known", "a", "b", "--known=", "--", "--known", "-c"};
+    tool::Arguments arguments(words);
+    EXPECT_EQ(arguments.takeAll("--known"), (std::vector<std::string>{"a", ""}));
+    EXPECT_EQ(arguments.takeOperand(""), "b");
+    EXPECT_EQ(arguments.takeOperand(""), "--known");
+    EXPECT_TRUE(arguments.hasOperand());
+    EXPECT_EQ(arguments.takeOperand(""), "-c");
+    EXPECT_NO_THROW(arguments.end());
+}
+
+TEST(Arguments, WhatNobodyKnowsIsTold)
+{
+    const auto refusal = [](const tool::Command& command, const std::vector<std::string>& words) {
+        return test::thrownBy<tool::UsageError>([&] { output(command, words); });
+    };
+    EXPECT_EQ(refusal(tool::kShow, {"--bogus"}), "unknown argument: --bogus");
+    EXPECT_EQ(refusal(tool::kShow, {}), "WHAT is missing");
+    EXPECT_EQ(refusal(tool::kCheck, {"--ignore=", "x"}), "unknown code: ");
+    EXPECT_EQ(refusal(tool::kCheck, {"--known", "", "x"}), "unknown class: ");
+    EXPECT_EQ(refusal(tool::kCheck, {"--known", "Foo/bar", "x"}), "unknown class: Foo");
+}
+
 #ifdef __linux__ // which has a disk that is always full
 TEST(Output, LostOutputIsNoSuccess)
 {
@@ -133,6 +158,7 @@ std::set<std::string> optionsIn(const std::string& text)
         options.insert((*found)[1]);
     }
     options.erase("--help");
+    options.erase("-h");
     return options;
 }
 

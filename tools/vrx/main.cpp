@@ -28,10 +28,14 @@ int run(std::vector<std::string> words)
     {
         words = {"help"};
     }
+    if (words.front() == "--version")
+    {
+        words.insert(words.begin(), "help");
+    }
     const tool::Command& command = commandOf(words.front());
     words.erase(words.begin());
     tool::Arguments arguments(std::move(words));
-    if (arguments.takeFlag("--help"))
+    if (arguments.takeFlag("--help") || arguments.takeFlag("-h"))
     {
         std::cout << command.help << '\n';
         return tool::kSuccess;

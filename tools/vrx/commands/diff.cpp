@@ -112,7 +112,7 @@ int diff(Arguments& arguments)
     comparison::Rules rules;
     rules.tolerance = toleranceOf(arguments.takeOption("--tolerance", kTolerance));
     rules.all = arguments.takeFlag("--all");
-    for (std::string key; !(key = arguments.takeOption("--ignore", "")).empty();)
+    for (const std::string& key : arguments.takeAll("--ignore"))
     {
         rules.ignoredKeys.insert(json::fromUtf8(key));
     }
