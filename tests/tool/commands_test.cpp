@@ -82,9 +82,26 @@ TEST_F(Show, FindsWhatIsPointedAt)
               "#2 0 s from the translator: exc_block_geometry, buffer 7 bytes\n3\nexit code 0");
     EXPECT_EQ(show({"--raw", "--at", "2:"}), std::string("\0bodies", 7) + "exit code 0");
     EXPECT_EQ(show({"--raw", "--only=command"}), "{\"command\":\"x\"}\nexit code 0");
+    EXPECT_EQ(show({"--raw", "--at", "2"}), std::string("\0bodies", 7) + "exit code 0");
+    EXPECT_EQ(show({"--at=2"}), show({"--at=2:"}));
     EXPECT_THROW(show({"--at", "9:"}), tool::InputError);
     EXPECT_THROW(show({"--at", "/nowhere"}), tool::InputError);
     EXPECT_THROW(show({"--color", "sometimes"}), tool::UsageError);
+}
+
+TEST_F(Show, PassesNoOptionOver)
+{
+    for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{{"--raw", "--at", "2:/nowhere"},
+                                                                                       {"--raw", "--at", ""},
+                                                                                       {"--summary", "--at", "2"},
+                                                                                       {"--summary", "--raw"},
+                                                                                       {"--summary", "--all"},
+                                                                                       {"--raw", "--all"},
+                                                                                       {"--at", "0:"},
+                                                                                       {"--at", "2x"}})
+    {
+        EXPECT_THROW(show(words), tool::UsageError) << testing::PrintToString(words);
+    }
 }
 
 // GoogleTest's own regular expressions have no sets on Windows.

@@ -3,6 +3,7 @@
 #include "console/console.h"
 #include "json/utf.h"
 #include "measures.h"
+#include "mp/narrow.h"
 #include "printing/escaped.h"
 #include "printing/scalar_text.h"
 
@@ -106,6 +107,14 @@ std::string jsonLine(const comparison::Line& line)
     return '{' + object + '}';
 }
 
+void tellIfCut(bool isCut, const std::string& file)
+{
+    if (isCut)
+    {
+        std::cerr << "vrx: " << printing::harmless(mp::toWide(file)) << ": the recording is cut\n";
+    }
+}
+
 int diff(Arguments& arguments)
 {
     constexpr const char* kTolerance = "1e-9";
@@ -124,7 +133,7 @@ int diff(Arguments& arguments)
 
     console::setBinaryOutput();
     bool isEqual = true;
-    comparison::compareInputs(a, b, rules, limit, [&](const comparison::Line& line) {
+    const comparison::Cuts cuts = comparison::compareInputs(a, b, rules, limit, [&](const comparison::Line& line) {
         if (asJson)
         {
             std::cout << (isEqual ? "[\n  " : ",\n  ") << jsonLine(line);
@@ -139,6 +148,8 @@ int diff(Arguments& arguments)
     {
         std::cout << (isEqual ? "[]\n" : "\n]\n");
     }
+    tellIfCut(cuts.a, a);
+    tellIfCut(cuts.b, b);
     return isEqual ? kSuccess : kFindings;
 }
 

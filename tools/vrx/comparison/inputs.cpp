@@ -187,15 +187,16 @@ private:
 
 } // namespace
 
-void compareInputs(const std::string& a, const std::string& b, const Rules& rules, std::uint64_t limit,
+Cuts compareInputs(const std::string& a, const std::string& b, const Rules& rules, std::uint64_t limit,
                    const std::function<void(const Line&)>& report)
 {
     Inputs inputs(rules, limit, report);
-    input::readItems(
+    const input::Recording first = input::readItems(
         a, [&inputs](Item& item) { inputs.takeFirst(item); }, limit);
-    input::readItems(
+    const input::Recording second = input::readItems(
         b, [&inputs](Item& item) { inputs.takeSecond(item); }, limit);
     inputs.end();
+    return {first.isCut, second.isCut};
 }
 
 } // namespace comparison
