@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -102,6 +103,26 @@ TEST_F(Show, PassesNoOptionOver)
     {
         EXPECT_THROW(show(words), tool::UsageError) << testing::PrintToString(words);
     }
+}
+
+TEST_F(Show, ARecordingThatIsCutIsToldBesidesTheOutput)
+{
+    std::filesystem::resize_file(m_file.name(), std::filesystem::file_size(m_file.name()) - 1);
+    const std::string warning = "vrx: " + m_file.name() + ": the recording is cut\n";
+    testing::internal::CaptureStderr();
+    EXPECT_THAT(show({"--only=command", "--raw"}), testing::StartsWith("{\"command\":\"x\"}\nexit"));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), warning);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(output(tool::kDiff, {m_file.name(), m_file.name()}), "exit code 0");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), warning + warning);
+}
+
+TEST(DiffLines, TellInWhichInputThePlaceIs)
+{
+    const TemporaryFile a(R"({"x":[{"id":1}]})");
+    const TemporaryFile b(R"({"x":[{"id":1},{"id":9}]})");
+    EXPECT_EQ(output(tool::kDiff, {a.name(), b.name()}), "/x/1 in B (id 9): only in B: {...}\nexit code 1");
+    EXPECT_THAT(output(tool::kDiff, {"--json", a.name(), b.name()}), testing::HasSubstr(R"("pointer_in": "B")"));
 }
 
 // GoogleTest's own regular expressions have no sets on Windows.

@@ -53,7 +53,8 @@ void printLine(const comparison::Line& line)
         return;
     }
     const Difference& difference = *line.inTree;
-    std::cout << (line.message.empty() ? "" : " ") << (difference.pointer.empty() ? "(root)" : difference.pointer);
+    std::cout << (line.message.empty() ? "" : " ") << (difference.pointer.empty() ? "(root)" : difference.pointer)
+              << (difference.isOnlyInB() ? " in B" : "");
     if (difference.id != nullptr)
     {
         std::cout << " (id " << printing::briefText(*difference.id) << ')';
@@ -88,6 +89,7 @@ std::string jsonLine(const comparison::Line& line)
     }
     const Difference& difference = *line.inTree;
     addMember(object, "pointer", '"' + difference.pointer + '"');
+    addMember(object, "pointer_in", difference.isOnlyInB() ? "\"B\"" : "\"A\"");
     if (difference.id != nullptr)
     {
         addMember(object, "id", jsonOf(*difference.id));
@@ -158,8 +160,8 @@ int diff(Arguments& arguments)
 const Command kDiff = {"diff", "tells what differs between two captures, messages or objects",
                        R"(usage: vrx diff [OPTION...] A B
 Tells what differs between two captures, messages or objects, one difference on a line: the place as a JSON pointer in
-A, then what A and B have there. Messages of captures are paired by sender, class and block, in their order. Elements of
-an array are paired by their ids (id, persistent_id or guid) where all are objects with an id of their own, and by place
+A, or in B for what only B has, then what A and B have there. Messages of captures are paired by sender, class and
+block: equal ones first, and the others in their order. What stands behind a binary form counts, too. Elements of an array are paired by their ids (id, persistent_id or guid) where all are objects with an id of their own, and by place
 otherwise. Names and compression of buffers are no difference, their content is. Integers must be equal; if one number
 is a double, they are equal when they differ by no more than the tolerance, or by that part of the larger of the two.
 The exit code is 1 when there are differences.

@@ -7,7 +7,9 @@
 #include "mp/shared_buffer.h"
 #include "printing/escaped.h"
 #include "vrx_api/exchange/compressor.h"
+#include "vrx_api/json/binary_tag.h"
 
+#include <cstring>
 #include <exception>
 #include <stdexcept>
 #include <string_view>
@@ -62,6 +64,18 @@ void setContent(Item& item, std::vector<char> bytes, std::uint64_t limit, const 
     }
     item.plainSize = plain.size();
     use(plain);
+}
+
+void setForm(Item& item, std::string_view plain)
+{
+    item.form = json::parseBinaryForm(plain.data(), plain.size());
+    constexpr std::size_t kHead = vrx::kTagSize + vrx::kSizeSize;
+    if (json::isBinaryForm(plain.data(), plain.size()) && plain.size() >= kHead)
+    {
+        std::uint64_t inner = 0;
+        std::memcpy(&inner, plain.data() + vrx::kTagSize, sizeof(inner));
+        item.sizeBehindForm = plain.size() - kHead - inner;
+    }
 }
 
 // The bodies of a block are in the modelling kernel's own format, and the message itself has the block's object then.
@@ -141,7 +155,7 @@ void setBuffer(Item& item, std::vector<char> bytes, std::uint64_t limit)
         const bool isAlone = item.head.kind == vrx::EMessageKind::Unknown;
         if (!isAlone || json::isBinaryForm(plain.data(), plain.size()))
         {
-            item.form = json::parseBinaryForm(plain.data(), plain.size());
+            setForm(item, plain);
         }
     });
 }
@@ -171,7 +185,7 @@ void setFile(Item& item, std::vector<char> bytes, std::uint64_t limit)
     setContent(item, std::move(bytes), limit, [&](std::string_view plain) {
         if (json::isBinaryForm(plain.data(), plain.size()))
         {
-            item.form = json::parseBinaryForm(plain.data(), plain.size());
+            setForm(item, plain);
         }
         else
         {

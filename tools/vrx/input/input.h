@@ -50,6 +50,7 @@ struct Item
     std::vector<char> content;             ///< The bytes of the buffer, or of an object alone, as they were found.
     bool isCompressed = false;             ///< Whether they are.
     std::uint64_t plainSize = 0;           ///< Of the content when it is not compressed.
+    std::uint64_t sizeBehindForm = 0;      ///< Of the plain bytes behind the binary form, which no reader takes.
     std::optional<vrx::JsonDocument> form; ///< The tree of a binary form, or of the text of an object alone; none for
                                            ///< the bodies of a block.
     bool wasUnloaded = false;              ///< Nobody had loaded the buffer when the recording ended.
