@@ -171,7 +171,7 @@ The exit code is 1 when there are differences.
                       may be given again
   --all               progress and log messages and the times of messages, too, and each element that differs
   --json              as a JSON array, for programs
-  --limit SIZE        the most bytes that are read into memory or decompressed at once (4G))",
+  --limit SIZE        the most bytes that are read into memory or decompressed at once (4G, of text 256M))",
                        diff};
 
 } // namespace tool

@@ -229,7 +229,7 @@ const Command kShow = {
     "  --raw            the texts of messages, in UTF-8 and else as they crossed, and of an object alone its bytes;\n"
     "                   with --at N the bytes of the buffer of message N, or its text if it has none\n"
     "  --color WHEN     always, never or auto: on a terminal unless NO_COLOR is set\n"
-    "  --limit SIZE     the most bytes that are read into memory or decompressed at once (4G)",
+    "  --limit SIZE     the most bytes that are read into memory or decompressed at once (4G, of text 256M)",
     show};
 
 } // namespace tool

@@ -1,6 +1,7 @@
 #include "input/content.h"
 
 #include "arguments.h"
+#include "input/first_bytes.h"
 #include "input/text_bytes.h"
 #include "json/member.h"
 #include "json/parse.h"
@@ -108,6 +109,24 @@ void takeSharedBuffer(Item& item, std::uint64_t limit)
     }
 }
 
+// A file's limit depends on what it holds, which its first plain bytes tell.
+std::uint64_t limitOf(const std::vector<char>& bytes, std::uint64_t limit)
+{
+    constexpr std::size_t kHead = vrx::kTagSize;
+    const std::string_view all(bytes.data(), bytes.size());
+    const std::string head = vrx::Compressor::isCompressed(all.data(), all.size()) ? firstPlainBytes(all, kHead)
+                                                                                   : std::string(all.substr(0, kHead));
+    if (json::isBinaryForm(head.data(), head.size()))
+    {
+        return limit;
+    }
+    if (head.compare(0, 2, std::string(2, '\0')) == 0)
+    {
+        throw tool::InputError("neither a text nor a binary form");
+    }
+    return limit == kDefaultLimit ? kDefaultTextLimit : limit;
+}
+
 // A text that is no message is an object's own.
 void setText(Item& item, std::string_view bytes, std::uint64_t limit)
 {
@@ -182,7 +201,8 @@ bool readSharedBuffer(const mp::wstring& name, std::vector<char>& bytes, std::ui
 
 void setFile(Item& item, std::vector<char> bytes, std::uint64_t limit)
 {
-    setContent(item, std::move(bytes), limit, [&](std::string_view plain) {
+    const std::uint64_t ownLimit = limitOf(bytes, limit);
+    setContent(item, std::move(bytes), ownLimit, [&](std::string_view plain) {
         if (json::isBinaryForm(plain.data(), plain.size()))
         {
             setForm(item, plain);

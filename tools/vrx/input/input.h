@@ -74,6 +74,9 @@ struct Recording
 /// The most bytes that a file, a message or a decompressed content may have, unless the user says otherwise.
 constexpr std::uint64_t kDefaultLimit = std::uint64_t{4} << 30U;
 
+/// The same for a text, which takes many times its size in memory.
+constexpr std::uint64_t kDefaultTextLimit = std::uint64_t{256} << 20U;
+
 /// Gives each item of an input in its order; `take` may move from it. `what` is a file, the name of a buffer, or "-"
 /// for standard input. Throws tool::InputError for what cannot be read at all; the items before a damaged place of a
 /// capture have been given then. Memory holds one item at a time.
