@@ -254,6 +254,12 @@ TEST(Planted, EachDefectOfAMessageOrABufferIsFoundAndNothingElse)
                 ElementsAre("not-a-message "));
     EXPECT_THAT(found([](Frames& frames) { messageOf(frames, "result").kind = EFrame::MissingBuffer; }),
                 ElementsAre("no-answer "));
+    // The recorder was killed between two frames.
+    EXPECT_THAT(found([](Frames& frames) {
+                    messageOf(frames, "result").kind = EFrame::MissingBuffer;
+                    frames.pop_back();
+                }),
+                IsEmpty());
     EXPECT_THAT(found([&](Frames& frames) { sceneBuffer(frames).kind = EFrame::MissingBuffer; }),
                 ElementsAre("missing-buffer "));
     EXPECT_THAT(found([&](Frames& frames) { sceneBuffer(frames).content.resize(999); }),

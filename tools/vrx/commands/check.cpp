@@ -140,6 +140,10 @@ int checkAll(Arguments& arguments, const Wish& wish)
         const input::Recording recording = input::readItems(
             file, [&](const input::Item& item) { checker.take(item, classAlone(item, wish.alone)); }, wish.limit);
         checker.end(recording);
+        if (recording.isCut)
+        {
+            std::cerr << "vrx: " << printing::escaped(mp::toWide(file)) << ": the recording was cut short\n";
+        }
         count += findings.count();
     }
     output.end(count);
