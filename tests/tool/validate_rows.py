@@ -34,10 +34,19 @@ BROKEN = [
     ("ExcBlockGeometry", {"shared_acis_buffer_name": "b"}),
     ("Result", {"message": "m"}),
     ("Command", {"command": "imports"}),
+    ("Command", {"command": "import"}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log"}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "exchange_object_data": {"message": 1}}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "binary": True, "exchange_object_data": {}}),
+    ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "binary": True, "exchange_object_data": ""}),
+    (
+        "ExchangeObjectWrapper",
+        {"exchange_object_name": "exc_product_structure", "exchange_object_data": {"blocks": [{"id": -1}]}},
+    ),
 ]
+
+# For the schema of all messages.
+BROKEN_MESSAGES = [{}, [1], {"command": 3}, {"name": "n"}, {"name": 1, "version": "v"}]
 
 # Keys of a later sender, null where it may stand, and a buffer in place of an object.
 SOUND = [
@@ -79,9 +88,12 @@ def main():
             expect(True, whole, row["in"], row["class"])
     for name, value in BROKEN:
         expect(False, validator(name), value, f"{name} {value}")
+        expect(False, whole, value, f"message {value}")
     for name, value in SOUND:
         expect(True, validator(name), value, f"{name} {value}")
-    expect(False, whole, [1], "no message")
+        expect(name == "ExchangeObjectWrapper", whole, value, f"message {value}")
+    for value in BROKEN_MESSAGES:
+        expect(False, whole, value, f"message {value}")
 
     print(f"{count} texts, {len(BROKEN)} broken ones, {len(failures)} failures", *failures, sep="\n")
     return 1 if failures or count < 200 else 0
