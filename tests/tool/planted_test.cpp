@@ -95,6 +95,7 @@ Frame& messageOf(Frames& frames, const std::string& what)
     const auto isIt = [&what](const Frame& frame) {
         const vrx::MessageHead head = vrx::peekEnvelope(frame.message);
         return mp::toNarrow(head.objectName) == what || (what == "command" && frame.kind == EFrame::FromHost) ||
+               (what == "import" && frame.message.find(WIDE("\"import\"")) != mp::wstring::npos) ||
                (what == "result" && head.kind == vrx::EMessageKind::Result);
     };
     return *std::find_if(frames.begin(), frames.end(), isIt);
@@ -212,6 +213,8 @@ const std::vector<Row>& rows()
         {"exc_block_visualization", "/block_id", "-2", "wrong-number /block_id"},
         {"exc_progress", "/exchange_object_data/progress", "1.0", "wrong-number /progress"},
         {"command", "/ferrant_interface", "7", "wrong-kind /ferrant_interface"},
+        {"import", "/options", nullptr, "missing-key "},
+        {"exc_progress", "/binary", "true", "wrong-kind /exchange_object_data"},
         {"result", "/code", R"("fine")", "unknown-name /code"},
     };
     return rows;

@@ -53,6 +53,7 @@ private:
                      const vrx::JsonValue& holder);
     void enter(const vrx::JsonValue& value, const vrx::Shape& shape, const Told& around, const vrx::JsonValue& holder);
     void open(const vrx::JsonValue& value, const vrx::Shape& shape, const Told& told);
+    void addList(const vrx::Shape& tied, const vrx::Shape& list);
     void step();
     void stepArray();
     void stepObject();

@@ -78,7 +78,8 @@ class Lines
 public:
     static void give(const std::string& file, const Finding& finding)
     {
-        std::cout << printing::escaped(mp::toWide(file)) << ": message " << finding.place.message
+        std::cout << printing::escaped(mp::toWide(file)) << ": "
+                  << (finding.place.message == 0 ? "the whole" : "message " + std::to_string(finding.place.message))
                   << (finding.place.pointer.empty() ? "" : " " + printing::escaped(finding.place.pointer)) << ": "
                   << checking::nameOf(finding.code) << ": " << finding.sentence << '\n';
     }
@@ -184,7 +185,7 @@ A finding names the message, which counts from 1, a JSON pointer into its exchan
   duplicate-key    a key that stands there before
   missing-key      a key that a reader wants
   wrong-kind       a value of another kind than is read
-  wrong-number     a number that is passed over: 1 where 1.0 is read, 1.0 where 1 is read, or out of range
+  wrong-number     a number that a reader does not take: 1 for 1.0, 1.0 for 1, or one out of range
   wrong-size       an array of another size than is read
   unknown-name     a name outside of its table
   index-outside    an index outside of its list

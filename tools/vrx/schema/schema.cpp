@@ -123,7 +123,7 @@ public:
         add(m_root, WIDE("$comment"),
             text("A number whose type is \"number\" is written with a fraction, 1.0 for one, and an \"integer\" "
                  "without: "
-                 "a reader passes over the other. Readers skip keys that they do not know, so that all objects are "
+                 "a reader does not take the other. Readers skip keys that they do not know, so that all objects are "
                  "open. A description tells keys that are only read or only written."));
     }
 
