@@ -263,6 +263,19 @@ TEST(Planted, EachDefectOfAMessageOrABufferIsFoundAndNothingElse)
                     frames.pop_back();
                 }),
                 IsEmpty());
+    // A ping that failed later says nothing of the import.
+    EXPECT_THAT(found([](Frames& frames) {
+                    change(frames, "exc_product_structure",
+                           [](vrx::JsonDocument& tree) { set(tree, "/root_block_references/0/block_id", "99"); });
+                    Frame ping;
+                    ping.kind = EFrame::FromHost;
+                    ping.message = WIDE("{\"command\":\"ping\"}");
+                    Frame result;
+                    result.kind = EFrame::FromTranslator;
+                    result.message = WIDE("{\"code\":\"error\"}");
+                    frames.insert(frames.end() - 2, {ping, result});
+                }),
+                ElementsAre("dangling-id /root_block_references/0/block_id"));
     EXPECT_THAT(found([&](Frames& frames) { sceneBuffer(frames).kind = EFrame::MissingBuffer; }),
                 ElementsAre("missing-buffer "));
     EXPECT_THAT(found([&](Frames& frames) { sceneBuffer(frames).content.resize(999); }),
