@@ -114,6 +114,9 @@ TEST(Shapes, TellWhenAKeyIsWrittenAndRead)
     EXPECT_TRUE(fieldOf(result, WIDE("code"))->isRequired);
     EXPECT_FALSE(fieldOf(result, WIDE("message"))->isAlwaysWritten);
     EXPECT_TRUE(fieldOf(result, WIDE("is_finished"))->isAlwaysWritten);
+    const Shape& features = ClassShape::find("ExcMfgData")->shape();
+    EXPECT_EQ(fieldOf(features, WIDE("simple_holes"))->needs, WIDE("has_data"));
+    EXPECT_TRUE(fieldOf(features, WIDE("has_data"))->needs.empty());
     const Shape& node = ClassShape::find("ExcVisuNode")->shape();
     EXPECT_TRUE(fieldOf(node, WIDE("child_nodes"))->isRead && fieldOf(node, WIDE("child_nodes"))->isWritten);
 }
@@ -124,7 +127,8 @@ TEST(Shapes, TellWhatAValueIs)
     EXPECT_EQ(units.kind, EShape::Name);
     EXPECT_THAT(units.names, Contains(wstring_view(WIDE("millimeter"))));
     EXPECT_EQ(shapeOf("ExcEntity", WIDE("type")).otherNames, WIDE("fsp"));
-    EXPECT_TRUE(shapeOf("ExcVisuNode", WIDE("mesh")).mayBeNull);
+    EXPECT_TRUE(shapeOf("ExcBlockGeometry", WIDE("shared_acis_buffer_name")).mayBeNull);
+    EXPECT_FALSE(shapeOf("ExcVisuNode", WIDE("mesh")).mayBeNull) << "not written for nothing";
 
     const Shape& texts = shapeOf("ExcPMIDimension", WIDE("texts"));
     EXPECT_EQ(texts.kind, EShape::Tuple);
@@ -157,6 +161,7 @@ TEST(Shapes, ChooseTheClassByTheValue)
     const Shape& pattern = shapeOf("ExcMfgFeatureUnclassified", WIDE("pattern"));
     EXPECT_EQ(chosen(pattern, R"({"type":"circular"})", "{}"), "ExcMfgPatternCircular");
     EXPECT_EQ(chosen(pattern, R"({"type":"none"})", "{}"), "");
+    EXPECT_THAT(shapeOf("ExcMfgPatternCircular", WIDE("type")).names, ElementsAre(wstring_view(WIDE("circular"))));
     const Shape& options = shapeOf("Command", WIDE("options"));
     EXPECT_EQ(chosen(options, "{}", R"({"command":"export"})"), "ExportOptionsImpl");
     EXPECT_EQ(chosen(options, "{}", R"({"command":"import","ferrant_interface":"legacy"})"), "LegacyImportOptionsImpl");

@@ -39,8 +39,8 @@ void checkIdentity(const IFormatOptions& options, const JsonValue& value)
 template <class Self, class Fields>
 void IFormatOptions::describe(Self& self, Fields& fields)
 {
-    fields.writeOnly(true, kOperationKey, self.operationType());
-    fields.writeOnly(true, kFormatKey, self.formatType());
+    fields.classKey(kOperationKey, self.operationType());
+    fields.classKey(kFormatKey, self.formatType());
 }
 template struct Described<IFormatOptions>;
 

@@ -96,6 +96,11 @@ public:
     {
     }
 
+    template <class E>
+    void classKey(Key, E)
+    {
+    }
+
     template <class T>
     void apart(Key, const T&)
     {
@@ -190,6 +195,12 @@ public:
     void writeOnly(bool written, Key key, const T& field)
     {
         when(written, key, field);
+    }
+
+    template <class E>
+    void classKey(Key key, E name)
+    {
+        when(true, key, name);
     }
 
     template <class T>

@@ -32,64 +32,77 @@ public:
     template <class T>
     void always(Key key, const T& field)
     {
-        add(key, field, {{}, {}, true, true, true, false});
+        add(key, field, kRead | kAlwaysWritten);
     }
 
     template <class T>
     void required(Key key, const char*, const T& field)
     {
-        add(key, field, {{}, {}, true, true, true, true});
+        add(key, field, kRequired | kAlwaysWritten);
     }
 
     template <class T>
-    void expected(Key key, const char* complaint, const T& field)
+    void expected(Key key, const char*, const T& field)
     {
-        required(key, complaint, field);
+        add(key, field, kRequired | kAlwaysWritten);
     }
 
     template <class T>
     void filled(Key key, const T& field)
     {
-        add(key, field, {{}, {}, true, true, false, false});
+        add(key, field, kRead | kWritten);
     }
 
     template <class T>
     void when(bool, Key key, const T& field)
     {
-        filled(key, field);
+        add(key, field, kRead | kWritten);
     }
 
     template <class T>
     void flagged(Key key, bool, const T& field)
     {
-        filled(key, field);
+        add(key, field, kRead | kWritten);
     }
 
     template <class T>
     void optional(Key key, bool, const T& field)
     {
-        filled(key, field);
+        add(key, field, kRead | kWritten);
     }
 
     template <class T>
     void readOnly(Key key, const T& field)
     {
-        add(key, field, {{}, {}, true, false, false, false});
+        add(key, field, kRead);
     }
 
     template <class T>
     void writeOnly(bool, Key key, const T& field)
     {
-        add(key, field, {{}, {}, false, true, false, false});
+        add(key, field, kWritten);
+    }
+
+    /// The name that stands for the class is the only one of its table.
+    template <class E>
+    void classKey(Key key, E name)
+    {
+        add(key, name, kRequired | kAlwaysWritten);
+        m_shape.fields.back().shape.names = {enumName(name)};
     }
 
     template <class T>
     void apart(Key key, const T& field)
     {
-        filled(key, field);
+        add(key, field, kRead | kWritten);
     }
 
-    static bool goesOn(bool) { return true; }
+    /// What follows is read only where the field before it is true.
+    bool goesOn(bool)
+    {
+        m_needed = m_shape.fields.back().key;
+        return true;
+    }
 
     /// The fields of a base that the class writes and does not read.
     void addUnread(FieldLister&& base);
@@ -97,11 +110,28 @@ public:
     Shape take() { return std::move(m_shape); }
 
 private:
-    template <class T>
-    void add(Key key, const T& field, FieldShape told)
+    // What becomes of a key.
+    enum EUse : unsigned
     {
+        kRead = 1,
+        kRequired = kRead | 2,
+        kWritten = 4,
+        kAlwaysWritten = kWritten | 8,
+    };
+
+    template <class T>
+    void add(Key key, const T& field, unsigned use)
+    {
+        FieldShape told;
         told.key = wstring_view(key.text, key.size);
+        told.needs = m_needed;
+        told.isRead = (use & kRead) == kRead;
+        told.isWritten = (use & kWritten) == kWritten;
+        told.isAlwaysWritten = (use & kAlwaysWritten) == kAlwaysWritten;
+        told.isRequired = (use & kRequired) == kRequired;
         outline(told.shape, field);
+        // What is nothing is not written at all, unless it is written in any case.
+        told.shape.mayBeNull = told.shape.mayBeNull && told.isAlwaysWritten;
         add(std::move(told));
     }
 
@@ -109,6 +139,7 @@ private:
     void add(FieldShape&& told);
 
     Shape m_shape;
+    wstring_view m_needed;
 };
 
 // What a field looks like on the wire. A type without an overload here or in shapes.h does not compile.

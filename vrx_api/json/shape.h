@@ -100,6 +100,7 @@ struct FieldShape
     bool isWritten = false;       ///< A writer may write it.
     bool isAlwaysWritten = false; ///< A writer does in any case.
     bool isRequired = false;      ///< A reader refuses an object without it, or complains of it.
+    wstring_view needs;           ///< The key of a boolean without which a reader passes over this one; or empty.
 };
 
 /// A class of the library that crosses.

@@ -23,11 +23,11 @@ static constexpr const auto& enumTable(EType)
 
 static constexpr Key kType = WIDE("type");
 
-// The type is only written: it is told by the class, which readPattern chooses.
+// The type tells the class, which readPattern chooses.
 template <class Self, class Fields>
 void ExcMfgPattern::describe(Self& self, Fields& fields)
 {
-    fields.writeOnly(true, kType, self.type());
+    fields.classKey(kType, self.type());
 }
 template struct Described<ExcMfgPattern>;
 
