@@ -132,6 +132,7 @@ TEST(Check, FindsEachDefect)
         {"ExcVisuEdge", R"({"points":[0.0,0.0,0.0],"line_indices":[0,-1]})", "index-outside /line_indices/1"},
         {"ExcVisuEdge", R"({"line_indices":[0]})", "index-outside /line_indices/0"},
         {"ExcMfgFeatureUnclassified", R"({"pattern":{"is_base":true}})", "unknown-object /pattern"},
+        {"ExcMfgData", R"({"has_data":false,"simple_holes":[{"id":"x"}]})", "not-read /simple_holes"},
         {"Command", R"({"ferrant_interface":"connect"})", "missing-key "},
         {"Command", R"({"command":"import","options":{"file":7}})", "wrong-kind /options/file"},
         {"Command", R"({"command":"export","options":{"file":"f","geometry_flags":1.5}})",
@@ -188,6 +189,7 @@ TEST(Check, TellsNothingOfHonestData)
                                  R"({"pmi":{"id":"a","mechanical_id":"a"}}],"captures":[{"annotation_ids":["a"]}]})"},
         {"Command", R"({"command":"ping"})"},
         {"ExcMfgFeatureUnclassified", R"({"pattern":{"type":"none"}})"},
+        {"ExcMfgData", R"({"simple_holes":[]})"},
     };
     for (const Row& row : rows)
     {

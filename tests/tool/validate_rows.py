@@ -10,6 +10,8 @@ import sys
 
 from jsonschema import Draft202012Validator
 
+OPTIONS_OF_IGES = {"operation_type": "import", "format_type": "IGES"}
+
 # Each with one defect.
 BROKEN = [
     ("exc_log", {"message": 1}),
@@ -35,6 +37,16 @@ BROKEN = [
     ("Result", {"message": "m"}),
     ("Command", {"command": "imports"}),
     ("Command", {"command": "import"}),
+    ("Command", {"command": "import", "options": {"file": "f", "format_options": [{"format_type": "IGES"}]}}),
+    (
+        "Command",
+        {
+            "command": "import",
+            "options": {"file": "f", "format_options": [dict(OPTIONS_OF_IGES, import_entities=7)]},
+        },
+    ),
+    ("ExcMfgFeatureUnclassified", {"pattern": {"type": "square"}}),
+    ("ExcMfgFeatureUnclassified", {"pattern": {"is_base": True}}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log"}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "exchange_object_data": {"message": 1}}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "binary": True, "exchange_object_data": {}}),
@@ -50,6 +62,7 @@ BROKEN_MESSAGES = [{}, [1], {"command": 3}, {"name": "n"}, {"name": 1, "version"
 
 # Keys of a later sender, null where it may stand, and a buffer in place of an object.
 SOUND = [
+    ("ExcMfgFeatureUnclassified", {"pattern": {"type": "none"}}),
     ("exc_log", {"message": "m", "level": 3}),
     ("ExcVisuFace", {"color": None}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "exchange_object_data": {"message": "m"}}),

@@ -113,6 +113,12 @@ mp::wstring_view readText(const JsonValue& value)
     return text.substr(0, text.find(mp::wchar{}));
 }
 
+bool isTrue(const JsonValue& object, mp::wstring_view key)
+{
+    const JsonValue* const value = json::member(object, key);
+    return value != nullptr && value->IsTrue();
+}
+
 // A pattern of the type "none" is none.
 mp::wstring_view typeIn(const JsonValue& value)
 {
@@ -360,7 +366,13 @@ void TreeChecker::stepObject()
         return;
     }
     level.seen |= bitOf(at);
-    enter(member->value, around.shape->fields[at].shape, around, object);
+    const FieldShape& field = around.shape->fields[at];
+    if (!field.needs.empty() && !isTrue(object, field.needs))
+    {
+        addNotRead(member->value, field);
+        return;
+    }
+    enter(member->value, field.shape, around, object);
 }
 
 void TreeChecker::close()
@@ -508,6 +520,17 @@ void TreeChecker::follow(const JsonValue& id, const Shape& tied)
     if (owner != m_owners.rend())
     {
         m_ids.addEdge(tied.space, owner->id, id, here());
+    }
+}
+
+void TreeChecker::addNotRead(const JsonValue& value, const FieldShape& field)
+{
+    const bool isNothing =
+        value.IsNull() || (value.IsArray() && value.Empty()) || (value.IsObject() && value.ObjectEmpty());
+    if (!isNothing)
+    {
+        add(ECode::NotRead,
+            [&] { return "it is passed over, since " + printing::quoted(field.needs) + " is not true here"; });
     }
 }
 

@@ -209,6 +209,7 @@ A finding names the message, which counts from 1, a JSON pointer into its exchan
   unknown-key      a key that is not read
   duplicate-key    a key that stands there before
   missing-key      a key that a reader wants
+  not-read         a key that is passed over, as another one that must be true is not
   wrong-kind       a value of another kind than is read
   wrong-number     a number that a reader does not take: 1 for 1.0, 1.0 for 1, or one out of range
   wrong-size       an array of another size than is read

@@ -11,6 +11,7 @@
 #include "vrx_api/info/ferrant_info.h"
 #include "vrx_api/json/json_text_io.h"
 #include "vrx_api/json/json_value.h"
+#include "vrx_api/manufacturing/mfg_pattern_circular.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -86,6 +87,10 @@ std::string describe(const FieldShape& field)
         text = "Positions in \"" + mp::toNarrow(wstring(shape.indexed)) + "\", where " +
                std::to_string(shape.indexWidth) + " numbers make one. ";
     }
+    if (!field.needs.empty())
+    {
+        text += "Read only where \"" + mp::toNarrow(wstring(field.needs)) + "\" is true. ";
+    }
     text += field.isRead ? "" : "Written, and not read. ";
     text += field.isWritten ? "" : "Read, and not written. ";
     return text.substr(0, text.size() - (text.empty() ? 0 : 1));
@@ -102,6 +107,12 @@ struct Kind
     std::vector<wstring_view> keys;
     const std::type_info* type;
 };
+
+bool isOfPatterns(const std::vector<const ClassShape*>& classes)
+{
+    const ClassShape* const pattern = ClassShape::find(typeid(vrx::ExcMfgPatternCircular));
+    return std::find(classes.begin(), classes.end(), pattern) != classes.end();
+}
 
 class Maker
 {
@@ -397,6 +408,11 @@ private:
         for (const ClassShape* const each : found)
         {
             choice.PushBack(reference(*each), allocator());
+        }
+        if (isOfPatterns(found))
+        {
+            // A pattern of this type is none.
+            choice.PushBack(whereJust(WIDE("type"), text(wstring_view(WIDE("none")))), allocator());
         }
         JsonValue made(rapidjson::kObjectType);
         add(made, WIDE("anyOf"), std::move(choice));
