@@ -1,10 +1,13 @@
 #include "capture/capture_writer.h"
 #include "commands/commands.h"
 #include "files.h"
+#include "tests/support/child_process.h"
+#include "tests/support/helpers.h"
 #include "tests/support/shared_memory.h"
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -80,9 +83,46 @@ TEST_F(Show, FindsWhatIsPointedAt)
               "#2 0 s from the translator: exc_block_geometry, buffer 7 bytes\n3\nexit code 0");
     EXPECT_EQ(show({"--raw", "--at", "2:"}), std::string("\0bodies", 7) + "exit code 0");
     EXPECT_EQ(show({"--raw", "--only=command"}), "{\"command\":\"x\"}\nexit code 0");
+    EXPECT_EQ(show({"--raw", "--at", "2"}), std::string("\0bodies", 7) + "exit code 0");
+    EXPECT_EQ(show({"--at=2"}), show({"--at=2:"}));
     EXPECT_THROW(show({"--at", "9:"}), tool::InputError);
     EXPECT_THROW(show({"--at", "/nowhere"}), tool::InputError);
     EXPECT_THROW(show({"--color", "sometimes"}), tool::UsageError);
+}
+
+TEST_F(Show, PassesNoOptionOver)
+{
+    for (const std::vector<std::string>& words : std::vector<std::vector<std::string>>{{"--raw", "--at", "2:/nowhere"},
+                                                                                       {"--raw", "--at", ""},
+                                                                                       {"--summary", "--at", "2"},
+                                                                                       {"--summary", "--raw"},
+                                                                                       {"--summary", "--all"},
+                                                                                       {"--raw", "--all"},
+                                                                                       {"--at", "0:"},
+                                                                                       {"--at", "2x"}})
+    {
+        EXPECT_THROW(show(words), tool::UsageError) << testing::PrintToString(words);
+    }
+}
+
+TEST_F(Show, ARecordingThatIsCutIsToldBesidesTheOutput)
+{
+    std::filesystem::resize_file(m_file.name(), std::filesystem::file_size(m_file.name()) - 1);
+    const std::string warning = "vrx: " + m_file.name() + ": the recording is cut\n";
+    testing::internal::CaptureStderr();
+    EXPECT_THAT(show({"--only=command", "--raw"}), testing::StartsWith("{\"command\":\"x\"}\nexit"));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), warning);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(output(tool::kDiff, {m_file.name(), m_file.name()}), "exit code 0");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), warning + warning);
+}
+
+TEST(DiffLines, TellInWhichInputThePlaceIs)
+{
+    const TemporaryFile a(R"({"x":[{"id":1}]})");
+    const TemporaryFile b(R"({"x":[{"id":1},{"id":9}]})");
+    EXPECT_EQ(output(tool::kDiff, {a.name(), b.name()}), "/x/1 in B (id 9): only in B: {...}\nexit code 1");
+    EXPECT_THAT(output(tool::kDiff, {"--json", a.name(), b.name()}), testing::HasSubstr(R"("pointer_in": "B")"));
 }
 
 // GoogleTest's own regular expressions have no sets on Windows.
@@ -105,6 +145,40 @@ TEST(Clean, TriesWithoutRemoving)
     EXPECT_EQ(test::takeBuffer(name), "12345");
 }
 
+TEST(Arguments, OperandsStandBehindTheEndOfOptionsToo)
+{
+    const std::vector<std::string> words = {"--known", "a", "b", "--known=", "--", "--known", "-c"};
+    tool::Arguments arguments(words);
+    EXPECT_EQ(arguments.takeAll("--known"), (std::vector<std::string>{"a", ""}));
+    EXPECT_EQ(arguments.takeOperand(""), "b");
+    EXPECT_EQ(arguments.takeOperand(""), "--known");
+    EXPECT_TRUE(arguments.hasOperand());
+    EXPECT_EQ(arguments.takeOperand(""), "-c");
+    EXPECT_NO_THROW(arguments.end());
+}
+
+TEST(Arguments, WhatNobodyKnowsIsTold)
+{
+    const auto refusal = [](const tool::Command& command, const std::vector<std::string>& words) {
+        return test::thrownBy<tool::UsageError>([&] { output(command, words); });
+    };
+    EXPECT_EQ(refusal(tool::kShow, {"--bogus"}), "unknown argument: --bogus");
+    EXPECT_EQ(refusal(tool::kShow, {}), "WHAT is missing");
+    EXPECT_EQ(refusal(tool::kCheck, {"--ignore=", "x"}), "unknown code: ");
+    EXPECT_EQ(refusal(tool::kCheck, {"--known", "", "x"}), "unknown class: ");
+    EXPECT_EQ(refusal(tool::kCheck, {"--known", "Foo/bar", "x"}), "unknown class: Foo");
+}
+
+#ifdef __linux__ // which has a disk that is always full
+TEST(Output, LostOutputIsNoSuccess)
+{
+    EXPECT_EQ(test::ChildProcess({"sh", "-c", VRX_TOOL " schema > /dev/full 2> /dev/null"}).wait(), tool::kUnreadable);
+    EXPECT_EQ(
+        test::ChildProcess({"bash", "-c", "trap '' PIPE; " VRX_TOOL " schema | true; exit ${PIPESTATUS[0]}"}).wait(),
+        tool::kSuccess);
+}
+#endif
+
 using Options = std::map<std::string, std::set<std::string>>;
 
 std::string contentOf(const std::string& name)
@@ -122,6 +196,7 @@ std::set<std::string> optionsIn(const std::string& text)
         options.insert((*found)[1]);
     }
     options.erase("--help");
+    options.erase("-h");
     return options;
 }
 

@@ -58,6 +58,21 @@ TEST(Diff, PairsMembersByNameAndElementsByIdOrPlace)
     EXPECT_THAT(textDifferences("[1]", "{}"), ElementsAre("| [...] {}"));
 }
 
+TEST(Diff, PlacesOfWhatOnlyBHasAreInB)
+{
+    EXPECT_THAT(textDifferences(R"([{"id":1},{"id":2,"x":[]}])", R"([{"id":2,"x":[1]},{"id":1}])"),
+                ElementsAre("|/0/x/0 nothing 1"));
+}
+
+TEST(Diff, ComparesWhatStandsAloneAndBytesBehindAForm)
+{
+    EXPECT_THAT(textDifferences(R"({"exchange_object_name":"exc_progress","exchange_object_data":{"x":1}})",
+                                R"({"exchange_object_name":"exc_progress","exchange_object_data":{"x":2}})"),
+                ElementsAre("|/x 1 2"));
+    const std::string form("\4\0\0\0\0\0\0\0\0\0\0\0", 12); // an empty array
+    EXPECT_THAT(textDifferences(form, form + "rest"), ElementsAre("|bytes behind the binary form: 0 -> 4"));
+}
+
 TEST(Diff, ToleranceIsForDoublesOnly)
 {
     EXPECT_THAT(
@@ -143,6 +158,24 @@ TEST_F(Captures, ArePairedByClassAndBlock)
                             "#6 exc_block_visualization of block 4|only in B",
                             "#3 exc_block_visualization of block 3|only in A"));
     EXPECT_THAT(differences(m_a.name(), m_b.name(), true), testing::Contains("#2 exc_progress|only in B"));
+}
+
+TEST_F(Captures, ArePairedWithTheirEqualsFirst)
+{
+    {
+        capture::CaptureWriter a(m_a.name(), true);
+        capture::CaptureWriter b(m_b.name(), true);
+        b.fromHost(WIDE("{\"command\":\"inserted\"}"));
+        for (const char* const command : {"first", "second", "third"})
+        {
+            const bool isChanged = command == std::string_view("second");
+            a.fromHost(test::wide(std::string(R"({"command":")") + command + "\"}"));
+            b.fromHost(test::wide(std::string(R"({"command":")") + (isChanged ? "inserted" : command) + "\"}"));
+        }
+    }
+    EXPECT_THAT(
+        differences(m_a.name(), m_b.name()),
+        ElementsAre(R"(#2 command from the host|/command "second" "inserted")", "#3 command from the host|only in B"));
 }
 
 TEST_F(Captures, MissingBufferIsADifference)

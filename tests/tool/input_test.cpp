@@ -157,6 +157,14 @@ TEST(Input, SaysWhatItCannotRead)
               "Decompressed data is above the limit of 9999 bytes; --limit raises it");
 }
 
+TEST(Input, LittleIsUnpackedOfWhatCannotBeRead)
+{
+    EXPECT_EQ(refusal(compressed(std::string(1'000'000, '\0'))), "neither a text nor a binary form");
+    EXPECT_EQ(refusal(std::string(100, '\0')), "neither a text nor a binary form");
+    EXPECT_EQ(refusal(compressed(std::string(input::kDefaultTextLimit + 1, ' '))),
+              "Decompressed data is above the limit of 268435456 bytes; --limit raises it");
+}
+
 TEST(Input, GzipThatLiesOfItsSizeIsReadOrRefused)
 {
     std::string bytes = compressed(formOf("[1]"));

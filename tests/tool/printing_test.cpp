@@ -1,6 +1,7 @@
 #include "arguments.h"
 #include "json/pointer.h"
 #include "measures.h"
+#include "printing/escaped.h"
 #include "printing/item_lines.h"
 #include "printing/json_printer.h"
 #include "printing/scalar_text.h"
@@ -50,6 +51,11 @@ TEST(JsonPrinter, PacksNumbersAndIndentsTheRest)
   ]
 }
 )");
+}
+
+TEST(Sentences, AreHarmlessForATerminal)
+{
+    EXPECT_EQ(printing::harmless(WIDE("C:\\a\"\x1B[31m\n\u202E\u00E9")), "C:\\a\"\\u001B[31m\\n\\u202E\u00E9");
 }
 
 TEST(JsonPrinter, ShortensWhatIsLongUnlessAllIsWanted)

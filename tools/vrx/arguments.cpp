@@ -45,12 +45,27 @@ bool Arguments::takeFlag(const std::string& name)
 
 std::string Arguments::takeOption(const std::string& name, const std::string& otherwise)
 {
+    return takeValue(name).value_or(otherwise);
+}
+
+std::vector<std::string> Arguments::takeAll(const std::string& name)
+{
+    std::vector<std::string> values;
+    while (std::optional<std::string> value = takeValue(name))
+    {
+        values.push_back(*std::move(value));
+    }
+    return values;
+}
+
+std::optional<std::string> Arguments::takeValue(const std::string& name)
+{
     const auto found = std::find_if(m_words.begin(), m_words.end(), [&name](const std::string& word) {
         return word == name || word.compare(0, name.size() + 1, name + '=') == 0;
     });
     if (found == m_words.end())
     {
-        return otherwise;
+        return {};
     }
     if (*found != name)
     {
@@ -70,18 +85,22 @@ std::string Arguments::takeOption(const std::string& name, const std::string& ot
 std::string Arguments::takeOperand(const std::string& what)
 {
     const auto found = std::find_if(m_words.begin(), m_words.end(), isOperand);
-    if (found == m_words.end())
+    const bool isBehindOptions = found == m_words.end();
+    if (isBehindOptions && m_rest.empty())
     {
+        end();
         throw UsageError(what + " is missing");
     }
-    std::string word = *found;
-    m_words.erase(found);
+    std::vector<std::string>& words = isBehindOptions ? m_rest : m_words;
+    const auto taken = isBehindOptions ? m_rest.begin() : found;
+    std::string word = *taken;
+    words.erase(taken);
     return word;
 }
 
 bool Arguments::hasOperand() const
 {
-    return std::any_of(m_words.begin(), m_words.end(), isOperand);
+    return !m_rest.empty() || std::any_of(m_words.begin(), m_words.end(), isOperand);
 }
 
 std::vector<std::string> Arguments::takeRest()

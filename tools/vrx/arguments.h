@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -21,7 +22,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// The words behind a command's name. Each of these takes its words away; `end` refuses what nobody took.
+/// The words behind a command's name. Each of these takes its words away; `end` refuses what nobody took. Options are
+/// taken before operands.
 class Arguments
 {
 public:
@@ -34,7 +36,11 @@ public:
     /// option without a value.
     std::string takeOption(const std::string& name, const std::string& otherwise);
 
-    /// The next word that is no option. Throws UsageError with what is missing when there is none.
+    /// The values of an option that may be given again, in their order.
+    std::vector<std::string> takeAll(const std::string& name);
+
+    /// The next word that is no option, or that stands behind `--`. When there is none, throws UsageError with the
+    /// option that nobody took, or else with what is missing.
     std::string takeOperand(const std::string& what);
     bool hasOperand() const;
 
@@ -45,6 +51,8 @@ public:
     void end() const;
 
 private:
+    std::optional<std::string> takeValue(const std::string& name);
+
     std::vector<std::string> m_words;
     std::vector<std::string> m_rest;
 };

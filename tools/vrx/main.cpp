@@ -1,4 +1,7 @@
 #include "commands/commands.h"
+#include "console/console.h"
+#include "mp/narrow.h"
+#include "printing/escaped.h"
 
 #include <algorithm>
 #include <exception>
@@ -25,15 +28,25 @@ int run(std::vector<std::string> words)
     {
         words = {"help"};
     }
+    if (words.front() == "--version")
+    {
+        words.insert(words.begin(), "help");
+    }
     const tool::Command& command = commandOf(words.front());
     words.erase(words.begin());
     tool::Arguments arguments(std::move(words));
-    if (arguments.takeFlag("--help"))
+    if (arguments.takeFlag("--help") || arguments.takeFlag("-h"))
     {
         std::cout << command.help << '\n';
         return tool::kSuccess;
     }
     return command.run(arguments);
+}
+
+// Names of files and of commands stand in the texts as they were given.
+void tell(const std::exception& error)
+{
+    std::cerr << "vrx: " << printing::harmless(mp::toWide(error.what())) << '\n';
 }
 
 } // namespace
@@ -42,16 +55,19 @@ int main(int count, char** words)
 {
     try
     {
-        return run({words + 1, words + count});
+        const int code = run({words + 1, words + count});
+        console::flushOutput();
+        return code;
     }
     catch (const tool::UsageError& error)
     {
-        std::cerr << "vrx: " << error.what() << "\nvrx --help tells how it is called.\n";
+        tell(error);
+        std::cerr << "vrx --help tells how it is called.\n";
         return tool::kUsage;
     }
     catch (const std::exception& error)
     {
-        std::cerr << "vrx: " << error.what() << '\n';
+        tell(error);
         return tool::kUnreadable;
     }
 }

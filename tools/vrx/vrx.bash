@@ -15,7 +15,7 @@ _vrx() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]} options
     local commands='check clean diff help list record replay schema show'
     if [[ $COMP_CWORD -eq 1 ]]; then
-        _vrx_words "$commands --help" "$word"
+        _vrx_words "$commands --help --version" "$word"
         return
     fi
     case $before in
@@ -28,7 +28,7 @@ _vrx() {
         check) options='--all --class --ignore --json --known --limit' ;;
         clean) options='--dry-run --json --older-than' ;;
         diff) options='--all --ignore --json --limit --tolerance' ;;
-        help) options='' ;;
+        help) options='--version' ;;
         list) options='--all-users --json' ;;
         record) options='--force --verbose -o' ;;
         replay) options='--real-time' ;;

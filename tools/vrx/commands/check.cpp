@@ -26,7 +26,7 @@ constexpr std::size_t kMostOfACode = 20;
 std::set<checking::ECode> takeIgnored(Arguments& arguments)
 {
     std::set<checking::ECode> ignored;
-    for (std::string name; !(name = arguments.takeOption("--ignore", "")).empty();)
+    for (const std::string& name : arguments.takeAll("--ignore"))
     {
         const auto* const found = std::find(std::begin(checking::kCodeNames), std::end(checking::kCodeNames), name);
         if (found == std::end(checking::kCodeNames))
@@ -41,8 +41,13 @@ std::set<checking::ECode> takeIgnored(Arguments& arguments)
 checking::KnownKeys takeKnown(Arguments& arguments)
 {
     checking::KnownKeys known;
-    for (std::string name; !(name = arguments.takeOption("--known", "")).empty();)
+    for (const std::string& name : arguments.takeAll("--known"))
     {
+        const std::size_t slash = name.find('/');
+        if (name.empty() || (slash != std::string::npos && classes::named(name.substr(0, slash)) == nullptr))
+        {
+            throw UsageError("unknown class: " + name.substr(0, slash));
+        }
         known.add(name);
     }
     return known;

@@ -3,6 +3,7 @@
 #include "console/console.h"
 #include "json/utf.h"
 #include "measures.h"
+#include "mp/narrow.h"
 #include "printing/escaped.h"
 #include "printing/scalar_text.h"
 
@@ -52,7 +53,8 @@ void printLine(const comparison::Line& line)
         return;
     }
     const Difference& difference = *line.inTree;
-    std::cout << (line.message.empty() ? "" : " ") << (difference.pointer.empty() ? "(root)" : difference.pointer);
+    std::cout << (line.message.empty() ? "" : " ") << (difference.pointer.empty() ? "(root)" : difference.pointer)
+              << (difference.isOnlyInB() ? " in B" : "");
     if (difference.id != nullptr)
     {
         std::cout << " (id " << printing::briefText(*difference.id) << ')';
@@ -87,6 +89,7 @@ std::string jsonLine(const comparison::Line& line)
     }
     const Difference& difference = *line.inTree;
     addMember(object, "pointer", '"' + difference.pointer + '"');
+    addMember(object, "pointer_in", difference.isOnlyInB() ? "\"B\"" : "\"A\"");
     if (difference.id != nullptr)
     {
         addMember(object, "id", jsonOf(*difference.id));
@@ -106,13 +109,21 @@ std::string jsonLine(const comparison::Line& line)
     return '{' + object + '}';
 }
 
+void tellIfCut(bool isCut, const std::string& file)
+{
+    if (isCut)
+    {
+        std::cerr << "vrx: " << printing::harmless(mp::toWide(file)) << ": the recording is cut\n";
+    }
+}
+
 int diff(Arguments& arguments)
 {
     constexpr const char* kTolerance = "1e-9";
     comparison::Rules rules;
     rules.tolerance = toleranceOf(arguments.takeOption("--tolerance", kTolerance));
     rules.all = arguments.takeFlag("--all");
-    for (std::string key; !(key = arguments.takeOption("--ignore", "")).empty();)
+    for (const std::string& key : arguments.takeAll("--ignore"))
     {
         rules.ignoredKeys.insert(json::fromUtf8(key));
     }
@@ -124,7 +135,7 @@ int diff(Arguments& arguments)
 
     console::setBinaryOutput();
     bool isEqual = true;
-    comparison::compareInputs(a, b, rules, limit, [&](const comparison::Line& line) {
+    const comparison::Cuts cuts = comparison::compareInputs(a, b, rules, limit, [&](const comparison::Line& line) {
         if (asJson)
         {
             std::cout << (isEqual ? "[\n  " : ",\n  ") << jsonLine(line);
@@ -139,6 +150,8 @@ int diff(Arguments& arguments)
     {
         std::cout << (isEqual ? "[]\n" : "\n]\n");
     }
+    tellIfCut(cuts.a, a);
+    tellIfCut(cuts.b, b);
     return isEqual ? kSuccess : kFindings;
 }
 
@@ -147,8 +160,8 @@ int diff(Arguments& arguments)
 const Command kDiff = {"diff", "tells what differs between two captures, messages or objects",
                        R"(usage: vrx diff [OPTION...] A B
 Tells what differs between two captures, messages or objects, one difference on a line: the place as a JSON pointer in
-A, then what A and B have there. Messages of captures are paired by sender, class and block, in their order. Elements of
-an array are paired by their ids (id, persistent_id or guid) where all are objects with an id of their own, and by place
+A, or in B for what only B has, then what A and B have there. Messages of captures are paired by sender, class and
+block: equal ones first, and the others in their order. What stands behind a binary form counts, too. Elements of an array are paired by their ids (id, persistent_id or guid) where all are objects with an id of their own, and by place
 otherwise. Names and compression of buffers are no difference, their content is. Integers must be equal; if one number
 is a double, they are equal when they differ by no more than the tolerance, or by that part of the larger of the two.
 The exit code is 1 when there are differences.
@@ -158,7 +171,7 @@ The exit code is 1 when there are differences.
                       may be given again
   --all               progress and log messages and the times of messages, too, and each element that differs
   --json              as a JSON array, for programs
-  --limit SIZE        the most bytes that are read into memory or decompressed at once (4G))",
+  --limit SIZE        the most bytes that are read into memory or decompressed at once (4G, of text 256M))",
                        diff};
 
 } // namespace tool

@@ -8,6 +8,12 @@ namespace tool
 
 static int help(Arguments& arguments)
 {
+    if (arguments.takeFlag("--version"))
+    {
+        arguments.end();
+        std::cout << "vrx " VRX_VERSION "\n";
+        return kSuccess;
+    }
     if (arguments.hasOperand())
     {
         const std::string name = arguments.takeOperand("a command");
@@ -34,7 +40,10 @@ static int help(Arguments& arguments)
     return kSuccess;
 }
 
-const Command kHelp = {"help", "tells of a command", "usage: vrx help [COMMAND]\nTells of all commands, or of one.",
+const Command kHelp = {"help", "tells of a command",
+                       "usage: vrx help [COMMAND]\n"
+                       "Tells of all commands, or of one, as vrx COMMAND --help and -h do.\n\n"
+                       "  --version  tells the version instead, as vrx --version does",
                        help};
 
 const std::vector<const Command*>& allCommands()

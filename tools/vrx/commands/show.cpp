@@ -6,6 +6,8 @@
 #include "json/pointer.h"
 #include "json/utf.h"
 #include "measures.h"
+#include "mp/narrow.h"
+#include "printing/escaped.h"
 #include "printing/item_lines.h"
 #include "printing/json_printer.h"
 #include "printing/palette.h"
@@ -33,17 +35,38 @@ struct Wish
     printing::Palette palette;
 };
 
-// "/pointer", "N:/pointer" or "N:".
+// "/pointer", "N:/pointer", "N:" or "N".
 void readPlace(const std::string& text, Wish& wish)
 {
-    const std::size_t colon = text.find(':');
-    const bool hasNumber = colon != std::string::npos && colon != 0 && text.find_first_not_of("0123456789") == colon;
+    const std::size_t afterNumber = std::min(text.find_first_not_of("0123456789"), text.size());
+    const bool hasNumber = afterNumber != 0 && (afterNumber == text.size() || text[afterNumber] == ':');
     if (hasNumber)
     {
         constexpr int kDecimal = 10;
         wish.number = std::strtoull(text.c_str(), nullptr, kDecimal);
+        if (wish.number == 0)
+        {
+            throw UsageError("messages count from 1: " + text);
+        }
     }
-    wish.place = json::pointerOf(hasNumber ? text.substr(colon + 1) : text);
+    wish.place = json::pointerOf(hasNumber ? text.substr(std::min(afterNumber + 1, text.size())) : text);
+}
+
+// An option is never passed over in silence.
+void requireSense(const Wish& wish)
+{
+    if (wish.summary && (wish.raw || wish.place || wish.all))
+    {
+        throw UsageError("--summary does not go with --raw, --at or --all");
+    }
+    if (wish.raw && wish.all)
+    {
+        throw UsageError("--raw does not go with --all: it shortens nothing");
+    }
+    if (wish.raw && wish.place && (wish.number == 0 || !wish.place->empty()))
+    {
+        throw UsageError("with --raw, --at takes the number of a message only");
+    }
 }
 
 bool wantsColor(const std::string& when)
@@ -160,6 +183,7 @@ int show(Arguments& arguments)
     {
         readPlace(place, wish);
     }
+    requireSense(wish);
     const std::string what = arguments.takeOperand("WHAT");
     arguments.end();
 
@@ -174,7 +198,7 @@ int show(Arguments& arguments)
     }
     if (recording.isCut)
     {
-        std::cerr << "vrx: the recording was cut short here\n";
+        std::cerr << "vrx: " << printing::harmless(mp::toWide(what)) << ": the recording is cut\n";
     }
     if (!show.found() && (wish.place || !wish.onlyClass.empty()))
     {
@@ -198,13 +222,14 @@ const Command kShow = {
     "overrides the direction of writing are escaped. Malformed UTF-8 is an error.\n\n"
     "  --summary        one line for each message: class, id, sizes, the longest arrays; a class with a question mark\n"
     "                   is guessed by the keys of an object that stands alone\n"
-    "  --at POINTER     the value at a JSON pointer (RFC 6901) in the object; of message N of a capture: N:POINTER\n"
+    "  --at POINTER     the value at a JSON pointer (RFC 6901) in the object; of message N of a capture: N:POINTER,\n"
+    "                   or N for all of it\n"
     "  --only CLASS     messages of this class, or of this kind: command, result, info, message\n"
     "  --all            nothing is shortened\n"
     "  --raw            the texts of messages, in UTF-8 and else as they crossed, and of an object alone its bytes;\n"
-    "                   with --at N: the bytes of the buffer of message N\n"
+    "                   with --at N the bytes of the buffer of message N, or its text if it has none\n"
     "  --color WHEN     always, never or auto: on a terminal unless NO_COLOR is set\n"
-    "  --limit SIZE     the most bytes that are read into memory or decompressed at once (4G)",
+    "  --limit SIZE     the most bytes that are read into memory or decompressed at once (4G, of text 256M)",
     show};
 
 } // namespace tool

@@ -8,9 +8,11 @@
 #include "vrx_api/exchange/compressor.h"
 
 #include <algorithm>
-#include <deque>
+#include <list>
 #include <map>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace comparison
 {
@@ -79,29 +81,33 @@ public:
         }
     }
 
-    void takeSecond(const Item& item)
+    void takeSecond(Item& item)
     {
         m_progress.step("second, message " + tool::counted(item.number));
         if (!isCompared(item))
         {
             return;
         }
-        const auto found = partnerOf(item);
-        if (found == m_items.end())
+        const auto sameKey = m_items.find(keyOf(item));
+        if (sameKey == m_items.end() || !pairEqual(sameKey, item))
         {
-            m_report({nameOf(item), nullptr, "only in B"});
-            return;
-        }
-        compare(found->second.front(), item);
-        found->second.pop_front();
-        if (found->second.empty())
-        {
-            m_items.erase(found);
+            m_leftOfSecond.push_back(std::move(item));
         }
     }
 
-    void end() const
+    void end()
     {
+        for (const Item& item : m_leftOfSecond)
+        {
+            const auto found = partnerOf(item);
+            if (found == m_items.end())
+            {
+                m_report({nameOf(item), nullptr, "only in B"});
+                continue;
+            }
+            compare(found->second.front(), item);
+            remove(found, found->second.begin());
+        }
         std::map<std::size_t, const Item*> left;
         for (const auto& [key, items] : m_items)
         {
@@ -117,12 +123,40 @@ public:
     }
 
 private:
-    using Items = std::map<std::string, std::deque<Item>>;
+    using Items = std::map<std::string, std::list<Item>>;
 
     bool isCompared(const Item& item) const
     {
         const bool isPassing = item.head.objectName == WIDE("exc_progress") || item.head.objectName == WIDE("exc_log");
-        return m_rules.all || !isPassing;
+        return m_rules.all || !isPassing || item.sender == input::ESender::Unknown;
+    }
+
+    // An equal one that comes much later is no partner, so that the time stays in proportion to the messages.
+    bool pairEqual(Items::iterator sameKey, const Item& item)
+    {
+        constexpr std::size_t kMostTried = 100;
+        std::list<Item>& candidates = sameKey->second;
+        std::size_t tried = 0;
+        for (auto candidate = candidates.begin(); candidate != candidates.end() && tried < kMostTried; ++candidate)
+        {
+            ++tried;
+            if (areEqual(*candidate, item))
+            {
+                compareTimes(*candidate, item);
+                remove(sameKey, candidate);
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void remove(Items::iterator ofKey, std::list<Item>::iterator item)
+    {
+        ofKey->second.erase(item);
+        if (ofKey->second.empty())
+        {
+            m_items.erase(ofKey);
+        }
     }
 
     Items::iterator partnerOf(const Item& item)
@@ -138,27 +172,25 @@ private:
                                                       : '#' + std::to_string(item.number) + ' ' + keyOf(item);
     }
 
-    void compare(const Item& a, const Item& b)
+    // Of captures: which message it is.
+    static std::string placeOf(const Item& a) { return a.sender == input::ESender::Unknown ? "" : nameOf(a); }
+
+    void compareTimes(const Item& a, const Item& b) const
     {
-        const std::string name = a.sender == input::ESender::Unknown ? "" : nameOf(a);
-        const auto differ = [&](const std::string& text) { m_report({name, nullptr, text}); };
-        if (a.head.objectName != b.head.objectName && !a.text.empty() && !b.text.empty())
-        {
-            differ("class: " + printing::className(a) + " -> " + printing::className(b));
-        }
         if (m_rules.all && a.time != b.time)
         {
-            differ("time: " + std::to_string(a.time.count()) + " us -> " + std::to_string(b.time.count()) + " us");
+            m_report({placeOf(a), nullptr,
+                      "time: " + std::to_string(a.time.count()) + " us -> " + std::to_string(b.time.count()) + " us"});
         }
-        if (std::string(stateOf(a)) != stateOf(b))
+    }
+
+    void compare(const Item& a, const Item& b) const
+    {
+        const std::string name = placeOf(a);
+        compareTimes(a, b);
+        for (const std::string& text : differencesAroundTrees(a, b))
         {
-            differ(std::string("buffer: ") + stateOf(a) + " -> " + stateOf(b));
-        }
-        const bool haveBytes = !a.content.empty() && !b.content.empty() && !a.form && !b.form;
-        if (haveBytes && plainBytes(a, m_limit) != plainBytes(b, m_limit))
-        {
-            differ("bytes of the buffer: " + tool::counted(a.plainSize) + " -> " + tool::counted(b.plainSize) +
-                   ", not the same");
+            m_report({name, nullptr, text});
         }
         const vrx::JsonValue* const treeOfA = treeOf(a);
         const vrx::JsonValue* const treeOfB = treeOf(b);
@@ -166,10 +198,49 @@ private:
         {
             compareTrees(*treeOfA, *treeOfB, m_rules, [&](const Difference& found) { m_report({name, &found, ""}); });
         }
-        else if (a.text != b.text && a.message.IsNull() && b.message.IsNull())
+    }
+
+    bool areEqual(const Item& a, const Item& b) const
+    {
+        const vrx::JsonValue* const treeOfA = treeOf(a);
+        const vrx::JsonValue* const treeOfB = treeOf(b);
+        return (treeOfA == nullptr || treeOfB == nullptr || areTreesEqual(*treeOfA, *treeOfB, m_rules)) &&
+               differencesAroundTrees(a, b).empty();
+    }
+
+    std::vector<std::string> differencesAroundTrees(const Item& a, const Item& b) const
+    {
+        std::vector<std::string> texts;
+        if (a.head.objectName != b.head.objectName && !a.text.empty() && !b.text.empty())
         {
-            differ("the texts, which are no JSON");
+            texts.push_back("class: " + printing::className(a) + " -> " + printing::className(b));
         }
+        const bool sameState = std::string_view(stateOf(a)) == stateOf(b);
+        if (!sameState)
+        {
+            texts.push_back(std::string("buffer: ") + stateOf(a) + " -> " + stateOf(b));
+        }
+        const bool haveBytes = !a.content.empty() && !b.content.empty() && !a.form && !b.form;
+        if (haveBytes && plainBytes(a, m_limit) != plainBytes(b, m_limit))
+        {
+            texts.push_back("bytes of the buffer: " + tool::counted(a.plainSize) + " -> " + tool::counted(b.plainSize) +
+                            ", not the same");
+        }
+        if (a.sizeBehindForm != b.sizeBehindForm)
+        {
+            texts.push_back("bytes behind the binary form: " + tool::counted(a.sizeBehindForm) + " -> " +
+                            tool::counted(b.sizeBehindForm));
+        }
+        const bool hasTreeA = treeOf(a) != nullptr;
+        if (sameState && hasTreeA != (treeOf(b) != nullptr))
+        {
+            texts.emplace_back(hasTreeA ? "only A has JSON" : "only B has JSON");
+        }
+        else if (!hasTreeA && a.text != b.text && a.message.IsNull() && b.message.IsNull())
+        {
+            texts.emplace_back("the texts, which are no JSON");
+        }
+        return texts;
     }
 
     // An envelope without its object says nothing but the name of its buffer.
@@ -181,21 +252,23 @@ private:
     Rules m_rules;
     std::uint64_t m_limit;
     const std::function<void(const Line&)>& m_report;
-    Items m_items;
+    Items m_items;                    // Those of the first input that have no partner yet.
+    std::vector<Item> m_leftOfSecond; // Those without an equal one.
     console::Progress m_progress;
 };
 
 } // namespace
 
-void compareInputs(const std::string& a, const std::string& b, const Rules& rules, std::uint64_t limit,
+Cuts compareInputs(const std::string& a, const std::string& b, const Rules& rules, std::uint64_t limit,
                    const std::function<void(const Line&)>& report)
 {
     Inputs inputs(rules, limit, report);
-    input::readItems(
+    const input::Recording first = input::readItems(
         a, [&inputs](Item& item) { inputs.takeFirst(item); }, limit);
-    input::readItems(
+    const input::Recording second = input::readItems(
         b, [&inputs](Item& item) { inputs.takeSecond(item); }, limit);
     inputs.end();
+    return {first.isCut, second.isCut};
 }
 
 } // namespace comparison

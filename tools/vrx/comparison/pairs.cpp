@@ -93,14 +93,16 @@ std::vector<Pair> elementsById(const vrx::JsonValue& a, const vrx::JsonValue& b)
     {
         const vrx::JsonValue* const id = idOf(element, *key);
         const auto found = inB.find(printing::scalarText(*id));
-        pairs.push_back({{}, pairs.size(), &element, found == inB.end() ? nullptr : &at(b, found->second), id});
+        const bool isInB = found != inB.end();
+        const std::size_t placeInB = isInB ? found->second : 0;
+        pairs.push_back({{}, pairs.size(), placeInB, &element, isInB ? &at(b, placeInB) : nullptr, id});
     }
     for (std::size_t place = 0; place < b.Size(); ++place)
     {
         const vrx::JsonValue* const id = idOf(at(b, place), *key);
         if (inA.count(printing::scalarText(*id)) == 0)
         {
-            pairs.push_back({{}, place, nullptr, &at(b, place), id});
+            pairs.push_back({{}, 0, place, nullptr, &at(b, place), id});
         }
     }
     return pairs;
@@ -125,7 +127,8 @@ Pair Pairs::next()
     }
     else
     {
-        m_current.place = place;
+        m_current.placeInA = place;
+        m_current.placeInB = place;
         m_current.a = place < m_a->Size() ? &at(*m_a, place) : nullptr;
         m_current.b = place < m_b->Size() ? &at(*m_b, place) : nullptr;
     }

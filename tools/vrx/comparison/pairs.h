@@ -9,11 +9,12 @@
 namespace comparison
 {
 
-/// Two values that stand for each other, or one that stands alone. Elements have a place, members a name.
+/// Two values that stand for each other, or one that stands alone. Elements have places, members a name.
 struct Pair
 {
     mp::wstring_view name;
-    std::size_t place = 0;
+    std::size_t placeInA = 0;
+    std::size_t placeInB = 0;
     const vrx::JsonValue* a = nullptr;
     const vrx::JsonValue* b = nullptr;
     const vrx::JsonValue* id = nullptr;

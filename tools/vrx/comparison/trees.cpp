@@ -49,16 +49,17 @@ bool areScalarsEqual(const vrx::JsonValue& a, const vrx::JsonValue& b, double to
 class Comparison
 {
 public:
-    Comparison(const Rules& rules, const std::function<void(const Difference&)>& report)
+    Comparison(const Rules& rules, const std::function<void(const Difference&)>& report, bool onlyFirst = false)
         : m_rules(rules)
         , m_report(report)
+        , m_onlyFirst(onlyFirst)
     {
     }
 
     void compare(const vrx::JsonValue& a, const vrx::JsonValue& b)
     {
-        take({{}, 0, &a, &b, nullptr});
-        while (!m_open.empty())
+        take({{}, 0, 0, &a, &b, nullptr});
+        while (!m_open.empty() && !m_isDone)
         {
             Level& level = m_open.back();
             if (level.pairs.atEnd())
@@ -101,7 +102,8 @@ private:
         {
             return;
         }
-        m_report({pointer(m_open.size()), id(m_open.size()), pair.a, pair.b});
+        m_report({pointer(m_open.size(), pair.a == nullptr), id(m_open.size()), pair.a, pair.b});
+        m_isDone = m_onlyFirst;
     }
 
     void close()
@@ -110,13 +112,13 @@ private:
         if (differing > kMostOfArray && !m_rules.all)
         {
             const std::size_t around = m_open.size() - 1;
-            m_report({pointer(around), id(around), nullptr, nullptr, differing - kMostOfArray});
+            m_report({pointer(around, false), id(around), nullptr, nullptr, differing - kMostOfArray});
         }
         m_open.pop_back();
     }
 
-    // The way through so many of the open containers.
-    std::string pointer(std::size_t depth) const
+    // The way through so many of the open containers of A or of B.
+    std::string pointer(std::size_t depth, bool inB) const
     {
         std::string text;
         for (std::size_t i = 0; i < depth; ++i)
@@ -127,7 +129,8 @@ private:
                 i = depth - kMostParts;
             }
             const Pair& pair = m_open[i].pairs.current();
-            text += m_open[i].pairs.isObject() ? json::pointerPart(pair.name) : '/' + std::to_string(pair.place);
+            const std::size_t place = inB ? pair.placeInB : pair.placeInA;
+            text += m_open[i].pairs.isObject() ? json::pointerPart(pair.name) : '/' + std::to_string(place);
         }
         return text;
     }
@@ -144,6 +147,8 @@ private:
 
     const Rules& m_rules;
     const std::function<void(const Difference&)>& m_report;
+    bool m_onlyFirst;
+    bool m_isDone = false;
     std::vector<Level> m_open;
 };
 
@@ -153,6 +158,14 @@ void compareTrees(const vrx::JsonValue& a, const vrx::JsonValue& b, const Rules&
                   const std::function<void(const Difference&)>& report)
 {
     Comparison(rules, report).compare(a, b);
+}
+
+bool areTreesEqual(const vrx::JsonValue& a, const vrx::JsonValue& b, const Rules& rules)
+{
+    bool areEqual = true;
+    const std::function<void(const Difference&)> report = [&areEqual](const Difference&) { areEqual = false; };
+    Comparison(rules, report, true).compare(a, b);
+    return areEqual;
 }
 
 } // namespace comparison

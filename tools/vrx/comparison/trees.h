@@ -23,11 +23,13 @@ struct Rules
 /// One place at which two trees differ.
 struct Difference
 {
-    std::string pointer;      ///< In the first tree, or in the second for what only that has.
+    std::string pointer;      ///< Where it is in the first tree; in the second tree for what only that has.
     const vrx::JsonValue* id; ///< Of the object around the place, where one is known by its id; or null.
     const vrx::JsonValue* a;  ///< Null for what only the second has.
     const vrx::JsonValue* b;  ///< Null for what only the first has.
     std::uint64_t more = 0;   ///< Not null: so many further elements of the array at the pointer differ.
+
+    bool isOnlyInB() const { return a == nullptr && b != nullptr; }
 };
 
 /// Reports where two trees differ. Members are compared by name, the first of a name like readers take it; elements by
@@ -35,5 +37,8 @@ struct Difference
 /// Keeps its own stack.
 void compareTrees(const vrx::JsonValue& a, const vrx::JsonValue& b, const Rules& rules,
                   const std::function<void(const Difference&)>& report);
+
+/// Whether there is nothing to report. Stops at the first difference.
+bool areTreesEqual(const vrx::JsonValue& a, const vrx::JsonValue& b, const Rules& rules);
 
 } // namespace comparison

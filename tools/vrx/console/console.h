@@ -8,6 +8,9 @@ namespace console
 void setBinaryInput();
 void setBinaryOutput();
 
+/// Writes out what std::cout holds back. Throws std::system_error when output was lost, unless its reader went away.
+void flushOutput();
+
 /// True when a person sees it.
 bool isOutputTerminal();
 bool isErrorTerminal();

@@ -1,13 +1,16 @@
 #include "input/content.h"
 
 #include "arguments.h"
+#include "input/first_bytes.h"
 #include "input/text_bytes.h"
 #include "json/member.h"
 #include "json/parse.h"
 #include "mp/shared_buffer.h"
 #include "printing/escaped.h"
 #include "vrx_api/exchange/compressor.h"
+#include "vrx_api/json/binary_tag.h"
 
+#include <cstring>
 #include <exception>
 #include <stdexcept>
 #include <string_view>
@@ -64,6 +67,18 @@ void setContent(Item& item, std::vector<char> bytes, std::uint64_t limit, const 
     use(plain);
 }
 
+void setForm(Item& item, std::string_view plain)
+{
+    item.form = json::parseBinaryForm(plain.data(), plain.size());
+    constexpr std::size_t kHead = vrx::kTagSize + vrx::kSizeSize;
+    if (json::isBinaryForm(plain.data(), plain.size()) && plain.size() >= kHead)
+    {
+        std::uint64_t inner = 0;
+        std::memcpy(&inner, plain.data() + vrx::kTagSize, sizeof(inner));
+        item.sizeBehindForm = plain.size() - kHead - inner;
+    }
+}
+
 // The bodies of a block are in the modelling kernel's own format, and the message itself has the block's object then.
 bool holdsBodies(const Item& item)
 {
@@ -92,6 +107,24 @@ void takeSharedBuffer(Item& item, std::uint64_t limit)
         item.buffer = EBuffer::Damaged;
         item.damage = error.what();
     }
+}
+
+// A file's limit depends on what it holds, which its first plain bytes tell.
+std::uint64_t limitOf(const std::vector<char>& bytes, std::uint64_t limit)
+{
+    constexpr std::size_t kHead = vrx::kTagSize;
+    const std::string_view all(bytes.data(), bytes.size());
+    const std::string head = vrx::Compressor::isCompressed(all.data(), all.size()) ? firstPlainBytes(all, kHead)
+                                                                                   : std::string(all.substr(0, kHead));
+    if (json::isBinaryForm(head.data(), head.size()))
+    {
+        return limit;
+    }
+    if (head.compare(0, 2, std::string(2, '\0')) == 0)
+    {
+        throw tool::InputError("neither a text nor a binary form");
+    }
+    return limit == kDefaultLimit ? kDefaultTextLimit : limit;
 }
 
 // A text that is no message is an object's own.
@@ -141,7 +174,7 @@ void setBuffer(Item& item, std::vector<char> bytes, std::uint64_t limit)
         const bool isAlone = item.head.kind == vrx::EMessageKind::Unknown;
         if (!isAlone || json::isBinaryForm(plain.data(), plain.size()))
         {
-            item.form = json::parseBinaryForm(plain.data(), plain.size());
+            setForm(item, plain);
         }
     });
 }
@@ -168,10 +201,11 @@ bool readSharedBuffer(const mp::wstring& name, std::vector<char>& bytes, std::ui
 
 void setFile(Item& item, std::vector<char> bytes, std::uint64_t limit)
 {
-    setContent(item, std::move(bytes), limit, [&](std::string_view plain) {
+    const std::uint64_t ownLimit = limitOf(bytes, limit);
+    setContent(item, std::move(bytes), ownLimit, [&](std::string_view plain) {
         if (json::isBinaryForm(plain.data(), plain.size()))
         {
-            item.form = json::parseBinaryForm(plain.data(), plain.size());
+            setForm(item, plain);
         }
         else
         {

@@ -50,6 +50,7 @@ struct Item
     std::vector<char> content;             ///< The bytes of the buffer, or of an object alone, as they were found.
     bool isCompressed = false;             ///< Whether they are.
     std::uint64_t plainSize = 0;           ///< Of the content when it is not compressed.
+    std::uint64_t sizeBehindForm = 0;      ///< Of the plain bytes behind the binary form, which no reader takes.
     std::optional<vrx::JsonDocument> form; ///< The tree of a binary form, or of the text of an object alone; none for
                                            ///< the bodies of a block.
     bool wasUnloaded = false;              ///< Nobody had loaded the buffer when the recording ended.
@@ -72,6 +73,9 @@ struct Recording
 
 /// The most bytes that a file, a message or a decompressed content may have, unless the user says otherwise.
 constexpr std::uint64_t kDefaultLimit = std::uint64_t{4} << 30U;
+
+/// The same for a text, which takes many times its size in memory.
+constexpr std::uint64_t kDefaultTextLimit = std::uint64_t{256} << 20U;
 
 /// Gives each item of an input in its order; `take` may move from it. `what` is a file, the name of a buffer, or "-"
 /// for standard input. Throws tool::InputError for what cannot be read at all; the items before a damaged place of a

@@ -60,9 +60,7 @@ void appendEscape(std::string& out, mp::wchar unit)
     out += digits.data();
 }
 
-} // namespace
-
-std::string escaped(mp::wstring_view text)
+std::string escapedWith(mp::wstring_view text, mp::wstring_view marks)
 {
     std::string out;
     out.reserve(text.size() + 2);
@@ -77,13 +75,25 @@ std::string escaped(mp::wstring_view text)
                           [&out](mp::wchar unit) { appendEscape(out, unit); });
             continue;
         }
-        if (character == '"' || character == '\\')
+        if (marks.find(text[begin]) != mp::wstring_view::npos)
         {
             out.push_back('\\');
         }
         json::appendUtf8(out, character);
     }
     return out;
+}
+
+} // namespace
+
+std::string escaped(mp::wstring_view text)
+{
+    return escapedWith(text, WIDE("\"\\"));
+}
+
+std::string harmless(mp::wstring_view text)
+{
+    return escapedWith(text, {});
 }
 
 std::string quoted(mp::wstring_view text)

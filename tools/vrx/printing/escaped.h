@@ -15,4 +15,7 @@ std::string quoted(mp::wstring_view text);
 /// The same without them, for names in lines of text.
 std::string escaped(mp::wstring_view text);
 
+/// The same, but with quotation marks and backslashes as they are, for sentences.
+std::string harmless(mp::wstring_view text);
+
 } // namespace printing
