@@ -130,7 +130,7 @@ struct Wish
 void tell(const std::string& sentence)
 {
     std::cout.flush();
-    std::cerr << "vrx: " << printing::escaped(mp::toWide(sentence)) << '\n';
+    std::cerr << "vrx: " << printing::harmless(mp::toWide(sentence)) << '\n';
 }
 
 // False for what cannot be read; the others are checked all the same.
