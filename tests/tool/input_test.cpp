@@ -147,7 +147,7 @@ TEST(Input, SaysWhatItCannotRead)
     EXPECT_EQ(refusal("{\n \"a\": \xC3(\"}"), "malformed UTF-8 at byte 8");
     EXPECT_EQ(refusal("\"\xED\xA0\x80\""), "malformed UTF-8 at byte 1");
     EXPECT_EQ(refusal("\"\xF4\x90\x80\x80\""), "malformed UTF-8 at byte 1");
-    EXPECT_EQ(refusal("\xE2\x82"), "malformed UTF-8 at byte 0");
+    EXPECT_EQ(refusal("\xE2\x82"), "malformed UTF-8 at byte 0; it may be the bodies of a block");
     EXPECT_EQ(refusal("{\n\"a\": nonsense}"), "no JSON: Invalid value. (line 2, column 7)");
     EXPECT_EQ(refusal(std::string("\xFF\xFE{", 3)), "UTF-16 text ends within a unit");
     EXPECT_EQ(refusal(""), "no JSON: The document is empty. (line 1, column 1)");

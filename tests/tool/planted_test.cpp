@@ -95,6 +95,7 @@ Frame& messageOf(Frames& frames, const std::string& what)
     const auto isIt = [&what](const Frame& frame) {
         const vrx::MessageHead head = vrx::peekEnvelope(frame.message);
         return mp::toNarrow(head.objectName) == what || (what == "command" && frame.kind == EFrame::FromHost) ||
+               (what == "import" && frame.message.find(WIDE("\"import\"")) != mp::wstring::npos) ||
                (what == "result" && head.kind == vrx::EMessageKind::Result);
     };
     return *std::find_if(frames.begin(), frames.end(), isIt);
@@ -212,6 +213,8 @@ const std::vector<Row>& rows()
         {"exc_block_visualization", "/block_id", "-2", "wrong-number /block_id"},
         {"exc_progress", "/exchange_object_data/progress", "1.0", "wrong-number /progress"},
         {"command", "/ferrant_interface", "7", "wrong-kind /ferrant_interface"},
+        {"import", "/options", nullptr, "missing-key "},
+        {"exc_progress", "/binary", "true", "wrong-kind /exchange_object_data"},
         {"result", "/code", R"("fine")", "unknown-name /code"},
     };
     return rows;
@@ -254,6 +257,25 @@ TEST(Planted, EachDefectOfAMessageOrABufferIsFoundAndNothingElse)
                 ElementsAre("not-a-message "));
     EXPECT_THAT(found([](Frames& frames) { messageOf(frames, "result").kind = EFrame::MissingBuffer; }),
                 ElementsAre("no-answer "));
+    // The recorder was killed between two frames.
+    EXPECT_THAT(found([](Frames& frames) {
+                    messageOf(frames, "result").kind = EFrame::MissingBuffer;
+                    frames.pop_back();
+                }),
+                IsEmpty());
+    // A ping that failed later says nothing of the import.
+    EXPECT_THAT(found([](Frames& frames) {
+                    change(frames, "exc_product_structure",
+                           [](vrx::JsonDocument& tree) { set(tree, "/root_block_references/0/block_id", "99"); });
+                    Frame ping;
+                    ping.kind = EFrame::FromHost;
+                    ping.message = WIDE("{\"command\":\"ping\"}");
+                    Frame result;
+                    result.kind = EFrame::FromTranslator;
+                    result.message = WIDE("{\"code\":\"error\"}");
+                    frames.insert(frames.end() - 2, {ping, result});
+                }),
+                ElementsAre("dangling-id /root_block_references/0/block_id"));
     EXPECT_THAT(found([&](Frames& frames) { sceneBuffer(frames).kind = EFrame::MissingBuffer; }),
                 ElementsAre("missing-buffer "));
     EXPECT_THAT(found([&](Frames& frames) { sceneBuffer(frames).content.resize(999); }),

@@ -16,4 +16,5 @@ chmod +x "$scratch/recorder"
 
 "$programs/cad_host" --quiet --translator "$scratch/recorder" "$vise" >/dev/null
 "$programs/vrx" check "$scratch/capture"
+[[ $("$programs/vrx" check --json "$scratch/none" "$scratch/capture" 2>/dev/null || echo $?) == $'[]\n3' ]]
 VRX_CAPTURE=$scratch/capture "$programs/vrx_tool_planted_tests" --gtest_brief=1

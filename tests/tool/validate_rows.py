@@ -10,6 +10,8 @@ import sys
 
 from jsonschema import Draft202012Validator
 
+OPTIONS_OF_IGES = {"operation_type": "import", "format_type": "IGES"}
+
 # Each with one defect.
 BROKEN = [
     ("exc_log", {"message": 1}),
@@ -34,13 +36,33 @@ BROKEN = [
     ("ExcBlockGeometry", {"shared_acis_buffer_name": "b"}),
     ("Result", {"message": "m"}),
     ("Command", {"command": "imports"}),
+    ("Command", {"command": "import"}),
+    ("Command", {"command": "import", "options": {"file": "f", "format_options": [{"format_type": "IGES"}]}}),
+    (
+        "Command",
+        {
+            "command": "import",
+            "options": {"file": "f", "format_options": [dict(OPTIONS_OF_IGES, import_entities=7)]},
+        },
+    ),
+    ("ExcMfgFeatureUnclassified", {"pattern": {"type": "square"}}),
+    ("ExcMfgFeatureUnclassified", {"pattern": {"is_base": True}}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log"}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "exchange_object_data": {"message": 1}}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "binary": True, "exchange_object_data": {}}),
+    ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "binary": True, "exchange_object_data": ""}),
+    (
+        "ExchangeObjectWrapper",
+        {"exchange_object_name": "exc_product_structure", "exchange_object_data": {"blocks": [{"id": -1}]}},
+    ),
 ]
+
+# For the schema of all messages.
+BROKEN_MESSAGES = [{}, [1], {"command": 3}, {"name": "n"}, {"name": 1, "version": "v"}]
 
 # Keys of a later sender, null where it may stand, and a buffer in place of an object.
 SOUND = [
+    ("ExcMfgFeatureUnclassified", {"pattern": {"type": "none"}}),
     ("exc_log", {"message": "m", "level": 3}),
     ("ExcVisuFace", {"color": None}),
     ("ExchangeObjectWrapper", {"exchange_object_name": "exc_log", "exchange_object_data": {"message": "m"}}),
@@ -79,9 +101,12 @@ def main():
             expect(True, whole, row["in"], row["class"])
     for name, value in BROKEN:
         expect(False, validator(name), value, f"{name} {value}")
+        expect(False, whole, value, f"message {value}")
     for name, value in SOUND:
         expect(True, validator(name), value, f"{name} {value}")
-    expect(False, whole, [1], "no message")
+        expect(name == "ExchangeObjectWrapper", whole, value, f"message {value}")
+    for value in BROKEN_MESSAGES:
+        expect(False, whole, value, f"message {value}")
 
     print(f"{count} texts, {len(BROKEN)} broken ones, {len(failures)} failures", *failures, sep="\n")
     return 1 if failures or count < 200 else 0

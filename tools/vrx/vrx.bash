@@ -25,7 +25,7 @@ _vrx() {
         -o) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
     esac
     case $command in
-        check) options='--all --class --ignore --json --known' ;;
+        check) options='--all --class --ignore --json --known --limit' ;;
         clean) options='--dry-run --json --older-than' ;;
         diff) options='--all --ignore --json --limit --tolerance' ;;
         help) options='--version' ;;

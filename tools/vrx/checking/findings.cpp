@@ -18,7 +18,9 @@ void Findings::endMessage(std::size_t message)
         m_count += count;
         if (count > m_mostOfACode)
         {
-            give({static_cast<ECode>(i), {message, {}}, std::to_string(count - m_mostOfACode) + " more of this"});
+            give({static_cast<ECode>(i),
+                  {message, {}},
+                  std::to_string(count - m_mostOfACode) + (message == 0 ? " more of this in all" : " more of this")});
         }
     }
 }

@@ -26,6 +26,7 @@ enum class ECode
     UnknownKey,
     DuplicateKey,
     MissingKey,
+    NotRead,
     WrongKind,
     WrongNumber,
     WrongSize,
@@ -38,9 +39,9 @@ enum class ECode
 
 /// The names of the codes, in their order.
 inline constexpr std::string_view kCodeNames[] = {
-    "not-a-message", "unknown-object", "no-answer",    "missing-buffer", "damaged-buffer", "unloaded-buffer",
-    "unknown-key",   "duplicate-key",  "missing-key",  "wrong-kind",     "wrong-number",   "wrong-size",
-    "unknown-name",  "index-outside",  "duplicate-id", "dangling-id",    "structure-cycle"};
+    "not-a-message", "unknown-object", "no-answer",     "missing-buffer", "damaged-buffer", "unloaded-buffer",
+    "unknown-key",   "duplicate-key",  "missing-key",   "not-read",       "wrong-kind",     "wrong-number",
+    "wrong-size",    "unknown-name",   "index-outside", "duplicate-id",   "dangling-id",    "structure-cycle"};
 
 constexpr std::string_view nameOf(ECode code)
 {

@@ -35,6 +35,9 @@ constexpr SpaceRow kRows[] = {
     {EIdSpace::Datum, "datum", true},
 };
 
+// Each of those that are kept takes some hundred bytes.
+constexpr std::size_t kMostNamed = 1'000'000;
+
 IdKey keyOf(mp::wstring_view text)
 {
     return std::hash<mp::wstring_view>()(text);
@@ -100,6 +103,7 @@ bool Ids::takeIdentity(EIdSpace space, const vrx::JsonValue& id)
     const IdKey key = keyOf(id);
     spaceOf(space).known.insert(key);
     spaceOf(space).named.erase(key);
+    spaceOf(space).wasSent = true;
     // A text may well be told twice: a datum is drawn in two views, an annotation in two scenes.
     return id.IsString() || namesNothing(id) || m_inObject.at(static_cast<std::size_t>(space)).insert(key).second;
 }
@@ -125,7 +129,7 @@ bool Ids::isToBeKept(EIdSpace space, const vrx::JsonValue& id)
         ++named->second.count;
         return false;
     }
-    return own.known.count(key) == 0;
+    return own.known.count(key) == 0 && own.named.size() < kMostNamed;
 }
 
 void Ids::keep(EIdSpace space, const vrx::JsonValue& id, Place place)
@@ -156,6 +160,7 @@ void Ids::endObject()
         m_inObject.at(static_cast<std::size_t>(row.space)).clear();
         if (row.isOfOneObject)
         {
+            spaceOf(row.space).wasSent = true;
             tellDangling(row.space);
             spaceOf(row.space) = {};
         }
@@ -179,8 +184,8 @@ void Ids::endImport(bool isComplete)
 void Ids::tellDangling(EIdSpace space)
 {
     const Space& own = spaceOf(space);
-    // Where no object has an id of this kind, those who name them mean something outside of what was sent.
-    if (own.known.empty())
+    // Who names what was not sent at all means something outside of it.
+    if (!own.wasSent)
     {
         return;
     }
@@ -224,8 +229,10 @@ void Ids::tellCycles()
     {
         const Edge& edge = m_edges[closing];
         m_findings.add(ECode::StructureCycle, [&edge] {
-            return std::pair(edge.place, "block " + std::to_string(edge.from) + " holds block " +
-                                             std::to_string(edge.to) + ", in which it stands itself");
+            const std::string block = "block " + std::to_string(edge.from);
+            return std::pair(edge.place, edge.from == edge.to ? block + " holds itself"
+                                                              : block + " holds block " + std::to_string(edge.to) +
+                                                                    ", and stands within it");
         });
     }
 }

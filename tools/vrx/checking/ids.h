@@ -29,6 +29,9 @@ class Ids
 public:
     explicit Ids(Findings& findings);
 
+    /// A list of what has such ids has come, which may be empty.
+    void addList(vrx::EIdSpace space) { spaceOf(space).wasSent = true; }
+
     /// An id that an object has. `placeOf` is called when the place is needed.
     template <class PlaceOf>
     void addIdentity(vrx::EIdSpace space, const vrx::JsonValue& id, const PlaceOf& placeOf)
@@ -72,7 +75,8 @@ private:
     struct Space
     {
         std::unordered_set<IdKey> known;
-        std::unordered_map<IdKey, Reference> named;
+        std::unordered_map<IdKey, Reference> named; ///< And not known.
+        bool wasSent = false;                       ///< Objects came that have such ids, or may have.
     };
 
     struct Edge

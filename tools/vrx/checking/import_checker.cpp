@@ -1,9 +1,11 @@
 #include "checking/import_checker.h"
 
 #include "classes/class_named.h"
+#include "json/member.h"
 #include "json/utf.h"
 #include "mp/narrow.h"
 #include "printing/escaped.h"
+#include "printing/scalar_text.h"
 #include "vrx_api/command/command.h"
 #include "vrx_api/command/result.h"
 #include "vrx_api/exchange/exchange_object_wrapper.h"
@@ -83,9 +85,19 @@ void ImportChecker::takeMessage(const input::Item& item)
         takeEnvelope(item);
         break;
     default:
+        takeOther(item);
+        break;
+    }
+}
+
+void ImportChecker::takeOther(const input::Item& item)
+{
+    // The bodies of a block are not looked into.
+    const bool isBodies = item.buffer == input::EBuffer::Present && !item.form;
+    if (!isBodies)
+    {
         add(ECode::NotAMessage, item.number,
             item.damage.empty() ? "this is neither a command nor an answer nor an exchange object" : damageOf(item));
-        break;
     }
 }
 
@@ -97,6 +109,15 @@ void ImportChecker::takeCommand(const input::Item& item)
     {
         m_ids.endImport(m_unanswered.empty() && !m_failed);
         m_failed = false;
+        m_isTranslating = true;
+        if (json::member(item.message, WIDE("options")) == nullptr)
+        {
+            add(ECode::MissingKey, item.number, "the key \"options\" is missing, which a reader wants");
+        }
+    }
+    else if (m_unanswered.empty())
+    {
+        m_isTranslating = false;
     }
     if (item.sender == input::ESender::Host)
     {
@@ -108,7 +129,8 @@ void ImportChecker::takeCommand(const input::Item& item)
 void ImportChecker::takeResult(const input::Item& item)
 {
     const vrx::Result::ECode code = readMessage<vrx::Result>(item.text).code();
-    m_failed = code == vrx::Result::ECode::Error || code == vrx::Result::ECode::Interrupted;
+    const bool isFailure = code == vrx::Result::ECode::Error || code == vrx::Result::ECode::Interrupted;
+    m_failed = m_failed || (isFailure && m_isTranslating);
     m_unanswered.clear();
     checkMessage<vrx::Result>(item);
 }
@@ -122,6 +144,7 @@ void ImportChecker::checkMessage(const input::Item& item)
 void ImportChecker::takeEnvelope(const input::Item& item)
 {
     checkMessage<vrx::ExchangeObjectWrapper>(item);
+    checkBufferName(item);
     checkBuffer(item);
     const vrx::ClassShape* const shape = classes::ofObject(item.head.objectName);
     if (shape == nullptr)
@@ -136,6 +159,19 @@ void ImportChecker::takeEnvelope(const input::Item& item)
     if (item.object() != nullptr)
     {
         m_trees.check(*item.object(), *shape, item.number);
+    }
+}
+
+void ImportChecker::checkBufferName(const input::Item& item)
+{
+    const vrx::JsonValue* const binary = json::member(item.message, WIDE("binary"));
+    const vrx::JsonValue* const name = json::member(item.message, WIDE("exchange_object_data"));
+    if (binary != nullptr && binary->IsTrue() && name != nullptr && (!name->IsString() || name->GetStringLength() == 0))
+    {
+        m_findings.add(ECode::WrongKind, [&] {
+            return std::pair(Place{item.number, WIDE("/exchange_object_data")},
+                             printing::briefText(*name) + " stands where the name of a buffer is read");
+        });
     }
 }
 

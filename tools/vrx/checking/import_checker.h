@@ -29,6 +29,8 @@ private:
     void takeCommand(const input::Item& item);
     void takeResult(const input::Item& item);
     void takeEnvelope(const input::Item& item);
+    void takeOther(const input::Item& item);
+    void checkBufferName(const input::Item& item);
     void checkBuffer(const input::Item& item);
 
     template <class Message>
@@ -41,7 +43,8 @@ private:
     Ids m_ids;
     TreeChecker m_trees;
     std::vector<std::size_t> m_unanswered; // The commands since the last answer.
-    bool m_failed = false;                 // The last result says so.
+    bool m_isTranslating = true;           // The last answers are those to an import or an export.
+    bool m_failed = false;                 // One of them says so.
 };
 
 } // namespace checking

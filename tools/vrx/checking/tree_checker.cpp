@@ -87,6 +87,10 @@ std::uint64_t bitOf(std::size_t field)
     return field < 64 ? std::uint64_t{1} << field : 0;
 }
 
+// Of a deeper place only the first and the last parts are told.
+constexpr std::size_t kDeepest = 200;
+constexpr std::size_t kShown = 20;
+
 // As a rule the members come in the order of the fields.
 std::size_t findField(const Shape& record, mp::wstring_view name, std::size_t expected)
 {
@@ -107,6 +111,34 @@ mp::wstring_view readText(const JsonValue& value)
 {
     const mp::wstring_view text = json::textOf(value);
     return text.substr(0, text.find(mp::wchar{}));
+}
+
+bool isTrue(const JsonValue& object, mp::wstring_view key)
+{
+    const JsonValue* const value = json::member(object, key);
+    return value != nullptr && value->IsTrue();
+}
+
+// A pattern of the type "none" is none.
+mp::wstring_view typeIn(const JsonValue& value)
+{
+    const JsonValue* const type = json::member(value, WIDE("type"));
+    return type != nullptr && type->IsString() ? readText(*type) : mp::wstring_view();
+}
+
+std::string unknownObject(const JsonValue& value)
+{
+    std::string told;
+    for (const mp::wstring_view key : {WIDE("operation_type"), WIDE("format_type"), WIDE("type")})
+    {
+        const JsonValue* const name = json::member(value, key);
+        if (name != nullptr)
+        {
+            told += (told.empty() ? "" : ", ") + mp::toNarrow(mp::wstring(key)) + ' ' + printing::briefText(*name);
+        }
+    }
+    return told.empty() ? "it has no key that tells its class, and is passed over"
+                        : "no class here has " + told + "; it is passed over";
 }
 
 void appendPart(mp::wstring& pointer, mp::wstring_view name)
@@ -186,7 +218,10 @@ void TreeChecker::enter(const JsonValue& value, const Shape& shape, const Told& 
     }
     if (told.shape == nullptr)
     {
-        add(ECode::UnknownObject, [] { return std::string("it does not tell which class it is, and is passed over"); });
+        if (typeIn(value) != WIDE("none"))
+        {
+            add(ECode::UnknownObject, [&] { return unknownObject(value); });
+        }
         return;
     }
     if (told.shape->kind == EShape::Any)
@@ -212,6 +247,7 @@ void TreeChecker::open(const JsonValue& value, const Shape& shape, const Told& t
     if (value.IsArray())
     {
         checkSize(value, *told.shape);
+        addList(shape, *told.shape);
     }
     if (shape.role == ERole::Index)
     {
@@ -227,6 +263,29 @@ void TreeChecker::open(const JsonValue& value, const Shape& shape, const Told& t
             {
                 m_owners.push_back({field.shape.space, keyOf(*id)});
             }
+        }
+    }
+}
+
+// A list of ids, or of objects that have one.
+void TreeChecker::addList(const Shape& tied, const Shape& list)
+{
+    if (tied.role == ERole::Identity)
+    {
+        m_ids.addList(tied.space);
+    }
+    const bool isOfClass = list.kind == EShape::List && list.parts.front().kind == EShape::Class;
+    const vrx::ClassShape* const element =
+        isOfClass ? vrx::ClassShape::find(*list.parts.front().classes.front()) : nullptr;
+    if (element == nullptr)
+    {
+        return;
+    }
+    for (const FieldShape& field : element->shape().fields)
+    {
+        if (field.shape.role == ERole::Identity)
+        {
+            m_ids.addList(field.shape.space);
         }
     }
 }
@@ -307,7 +366,13 @@ void TreeChecker::stepObject()
         return;
     }
     level.seen |= bitOf(at);
-    enter(member->value, around.shape->fields[at].shape, around, object);
+    const FieldShape& field = around.shape->fields[at];
+    if (!field.needs.empty() && !isTrue(object, field.needs))
+    {
+        addNotRead(member->value, field);
+        return;
+    }
+    enter(member->value, field.shape, around, object);
 }
 
 void TreeChecker::close()
@@ -391,13 +456,14 @@ void TreeChecker::addWrongScalar(const JsonValue& value, const Shape& shape)
         const std::string number = printing::briefText(value);
         if (shape.kind == EShape::Double)
         {
-            return "the integer " + number + " stands where a number with a fraction is read, and is passed over";
+            return "the integer " + number +
+                   " stands where a number with a fraction is read; a reader does not take it";
         }
         if (value.IsDouble())
         {
-            return number + " stands where an integer is read, and is passed over";
+            return number + " stands where an integer is read; a reader does not take it";
         }
-        return number + " is out of the range that is read, and is passed over";
+        return number + " is out of the range that is read; a reader does not take it";
     });
 }
 
@@ -443,12 +509,28 @@ void TreeChecker::follow(const JsonValue& id, const Shape& tied)
         m_ids.addIdentity(tied.space, id, [this] { return here(); });
         return;
     }
-    m_ids.addReference(tied.space, id, [this] { return here(); });
+    // Annotations have their ids in scenes only, and need not all be drawn.
+    static const vrx::ClassShape* const mechanicalCapture = vrx::ClassShape::find("ExcPMICapture");
+    if (m_levels.back().told.owner != mechanicalCapture)
+    {
+        m_ids.addReference(tied.space, id, [this] { return here(); });
+    }
     const auto owner = std::find_if(m_owners.rbegin(), m_owners.rend(),
                                     [&tied](const Owner& each) { return each.space == tied.space; });
     if (owner != m_owners.rend())
     {
         m_ids.addEdge(tied.space, owner->id, id, here());
+    }
+}
+
+void TreeChecker::addNotRead(const JsonValue& value, const FieldShape& field)
+{
+    const bool isNothing =
+        value.IsNull() || (value.IsArray() && value.Empty()) || (value.IsObject() && value.ObjectEmpty());
+    if (!isNothing)
+    {
+        add(ECode::NotRead,
+            [&] { return "it is passed over, since " + printing::quoted(field.needs) + " is not true here"; });
     }
 }
 
@@ -483,6 +565,11 @@ Place TreeChecker::placeAt(std::size_t depth) const
     Place place{m_message, {}};
     for (std::size_t i = 0; i < depth; ++i)
     {
+        if (depth > kDeepest && i == kShown)
+        {
+            place.pointer += WIDE("/...");
+            i = depth - kShown;
+        }
         const Level& level = m_levels[i];
         const rapidjson::SizeType at = level.next - 1;
         if (level.value->IsArray())

@@ -53,6 +53,7 @@ private:
                      const vrx::JsonValue& holder);
     void enter(const vrx::JsonValue& value, const vrx::Shape& shape, const Told& around, const vrx::JsonValue& holder);
     void open(const vrx::JsonValue& value, const vrx::Shape& shape, const Told& told);
+    void addList(const vrx::Shape& tied, const vrx::Shape& list);
     void step();
     void stepArray();
     void stepObject();
@@ -64,6 +65,7 @@ private:
     void checkName(const vrx::JsonValue& value, const vrx::Shape& shape);
     void checkIndices(const vrx::JsonValue& list, const vrx::Shape& shape);
     void follow(const vrx::JsonValue& id, const vrx::Shape& tied);
+    void addNotRead(const vrx::JsonValue& value, const vrx::FieldShape& field);
     void addUnknownKey(const vrx::JsonValue& name, const vrx::ClassShape& owner);
 
     /// The array under a key of the objects around, up to the nearest object of a class.

@@ -4,6 +4,7 @@
 #include "commands/commands.h"
 #include "input/input.h"
 #include "json/utf.h"
+#include "measures.h"
 #include "mp/narrow.h"
 #include "printing/escaped.h"
 
@@ -83,7 +84,8 @@ class Lines
 public:
     static void give(const std::string& file, const Finding& finding)
     {
-        std::cout << printing::escaped(mp::toWide(file)) << ": message " << finding.place.message
+        std::cout << printing::escaped(mp::toWide(file)) << ": "
+                  << (finding.place.message == 0 ? "the whole" : "message " + std::to_string(finding.place.message))
                   << (finding.place.pointer.empty() ? "" : " " + printing::escaped(finding.place.pointer)) << ": "
                   << checking::nameOf(finding.code) << ": " << finding.sentence << '\n';
     }
@@ -125,6 +127,34 @@ struct Wish
     std::uint64_t limit = input::kDefaultLimit;
 };
 
+void tell(const std::string& sentence)
+{
+    std::cout.flush();
+    std::cerr << "vrx: " << printing::harmless(mp::toWide(sentence)) << '\n';
+}
+
+// False for what cannot be read; the others are checked all the same.
+bool checkOne(const std::string& file, const Wish& wish, checking::Findings& findings)
+{
+    try
+    {
+        checking::ImportChecker checker(wish.known, findings);
+        const input::Recording recording = input::readItems(
+            file, [&](const input::Item& item) { checker.take(item, classAlone(item, wish.alone)); }, wish.limit);
+        checker.end(recording);
+        if (recording.isCut)
+        {
+            tell(file + ": the recording was cut short");
+        }
+        return true;
+    }
+    catch (const InputError& error)
+    {
+        tell(error.what());
+        return false;
+    }
+}
+
 template <class Output>
 int checkAll(Arguments& arguments, const Wish& wish)
 {
@@ -137,18 +167,16 @@ int checkAll(Arguments& arguments, const Wish& wish)
 
     Output output;
     std::size_t count = 0;
+    bool isAllRead = true;
     for (const std::string& file : files)
     {
         checking::Findings findings([&](const Finding& finding) { output.give(file, finding); }, wish.ignored,
                                     wish.mostOfACode);
-        checking::ImportChecker checker(wish.known, findings);
-        const input::Recording recording = input::readItems(
-            file, [&](const input::Item& item) { checker.take(item, classAlone(item, wish.alone)); }, wish.limit);
-        checker.end(recording);
+        isAllRead = checkOne(file, wish, findings) && isAllRead;
         count += findings.count();
     }
     output.end(count);
-    return count == 0 ? kSuccess : kFindings;
+    return !isAllRead ? kUnreadable : count == 0 ? kSuccess : kFindings;
 }
 
 int check(Arguments& arguments)
@@ -157,6 +185,7 @@ int check(Arguments& arguments)
     wish.ignored = takeIgnored(arguments);
     wish.known = takeKnown(arguments);
     wish.alone = takeClass(arguments);
+    wish.limit = sizeOf(arguments.takeOption("--limit", "4G"));
     wish.mostOfACode = arguments.takeFlag("--all") ? checking::Findings::kAll : kMostOfACode;
     return arguments.takeFlag("--json") ? checkAll<JsonArray>(arguments, wish) : checkAll<Lines>(arguments, wish);
 }
@@ -172,6 +201,7 @@ Finds what is wrong in captures, messages, objects and buffers; - is standard in
   --ignore CODE      no findings of this code; may be given again
   --json             an array of objects with file, message, place, code and sentence
   --known CLASS/KEY  a key that a program adds of its own; CLASS alone: an exchange object; may be given again
+  --limit SIZE       the most bytes that are read into memory or decompressed at once (4G)
 
 A finding names the message, which counts from 1, a JSON pointer into its exchange object or into itself, and a code:
 
@@ -184,8 +214,9 @@ A finding names the message, which counts from 1, a JSON pointer into its exchan
   unknown-key      a key that is not read
   duplicate-key    a key that stands there before
   missing-key      a key that a reader wants
+  not-read         a key that is passed over, as another one that must be true is not
   wrong-kind       a value of another kind than is read
-  wrong-number     a number that is passed over: 1 where 1.0 is read, 1.0 where 1 is read, or out of range
+  wrong-number     a number that a reader does not take: 1 for 1.0, 1.0 for 1, or one out of range
   wrong-size       an array of another size than is read
   unknown-name     a name outside of its table
   index-outside    an index outside of its list
@@ -193,7 +224,8 @@ A finding names the message, which counts from 1, a JSON pointer into its exchan
   dangling-id      an id that no object has
   structure-cycle  a block that holds itself
 
-Exit code: 0 for no finding, 1 for findings, 2 for a wrong call, 3 for what cannot be read.)",
+Exit code: 0 for no finding, 1 for findings, 2 for a wrong call, 3 for what cannot be read; other files
+are checked all the same.)",
                         check};
 
 } // namespace tool

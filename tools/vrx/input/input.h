@@ -66,7 +66,7 @@ struct Item
 struct Recording
 {
     bool isCapture = false;
-    bool isCut = false; ///< It ends within a frame, as that of a recorder that was killed may.
+    bool isCut = false; ///< It has no last frame, as that of a recorder that was killed.
     std::string start;  ///< What was started, and when: a JSON text in UTF-8.
     std::string end;    ///< How the translator ended: the same; empty where the recording did not come to it.
 };

@@ -64,6 +64,7 @@ public:
             break;
         case capture::EFrame::End:
             m_recording.end = frame.json;
+            m_recording.isCut = false;
             break;
         default:
             break;
@@ -107,7 +108,7 @@ private:
         }
     }
 
-    Recording m_recording{true, false, {}, {}};
+    Recording m_recording{true, true, {}, {}}; // Cut, until its last frame has come.
     std::set<mp::wstring> m_unloaded;
     std::map<mp::wstring, std::vector<char>> m_buffers; // Those whose message is still to come.
     std::size_t m_count = 0;
@@ -134,7 +135,7 @@ Recording readCapture(const std::function<std::unique_ptr<std::istream>()>& open
         {
             items.takeFrame(frame);
         }
-        items.recording().isCut = reader.isCut();
+        items.recording().isCut = items.recording().isCut || reader.isCut();
     }
     catch (const capture::CaptureError& error)
     {

@@ -57,7 +57,15 @@ mp::wstring textOfBytes(std::string_view bytes)
     {
         return fromUtf16(bytes, bytes[1] == '\0');
     }
-    return json::fromUtf8(bytes);
+    try
+    {
+        return json::fromUtf8(bytes);
+    }
+    catch (const tool::InputError& error)
+    {
+        const bool isMeant = bytes.find_first_of("{[\"") < bytes.find_first_not_of(" \t\r\n{[\"");
+        throw tool::InputError(error.what() + std::string(isMeant ? "" : "; it may be the bodies of a block"));
+    }
 }
 
 } // namespace input

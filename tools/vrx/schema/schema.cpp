@@ -11,6 +11,7 @@
 #include "vrx_api/info/ferrant_info.h"
 #include "vrx_api/json/json_text_io.h"
 #include "vrx_api/json/json_value.h"
+#include "vrx_api/manufacturing/mfg_pattern_circular.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -86,9 +87,31 @@ std::string describe(const FieldShape& field)
         text = "Positions in \"" + mp::toNarrow(wstring(shape.indexed)) + "\", where " +
                std::to_string(shape.indexWidth) + " numbers make one. ";
     }
+    if (!field.needs.empty())
+    {
+        text += "Read only where \"" + mp::toNarrow(wstring(field.needs)) + "\" is true. ";
+    }
     text += field.isRead ? "" : "Written, and not read. ";
     text += field.isWritten ? "" : "Read, and not written. ";
     return text.substr(0, text.size() - (text.empty() ? 0 : 1));
+}
+
+wstring_view keyOf(vrx::Key key)
+{
+    return {key.text, key.size};
+}
+
+// An object with these keys is of this class.
+struct Kind
+{
+    std::vector<wstring_view> keys;
+    const std::type_info* type;
+};
+
+bool isOfPatterns(const std::vector<const ClassShape*>& classes)
+{
+    const ClassShape* const pattern = ClassShape::find(typeid(vrx::ExcMfgPatternCircular));
+    return std::find(classes.begin(), classes.end(), pattern) != classes.end();
 }
 
 class Maker
@@ -111,7 +134,7 @@ public:
         add(m_root, WIDE("$comment"),
             text("A number whose type is \"number\" is written with a fraction, 1.0 for one, and an \"integer\" "
                  "without: "
-                 "a reader passes over the other. Readers skip keys that they do not know, so that all objects are "
+                 "a reader does not take the other. Readers skip keys that they do not know, so that all objects are "
                  "open. A description tells keys that are only read or only written."));
     }
 
@@ -121,6 +144,26 @@ public:
         JsonValue made(rapidjson::kObjectType);
         add(made, WIDE("$ref"), text("#/$defs/" + definitionName(shape)));
         return made;
+    }
+
+    /// Of several kinds an object is the first whose keys it has, or none.
+    void addChoice(JsonValue& to, const std::vector<Kind>& kinds)
+    {
+        JsonValue rest(false);
+        for (auto kind = kinds.rbegin(); kind != kinds.rend(); ++kind)
+        {
+            JsonValue condition(rapidjson::kObjectType);
+            require(condition, kind->keys);
+            JsonValue choice(rapidjson::kObjectType);
+            add(choice, WIDE("if"), std::move(condition));
+            add(choice, WIDE("then"), reference(*ClassShape::find(*kind->type)));
+            add(choice, WIDE("else"), std::move(rest));
+            rest = std::move(choice);
+        }
+        for (auto& member : rest.GetObject())
+        {
+            to.AddMember(member.name, member.value, allocator());
+        }
     }
 
     JsonDocument& root() { return m_root; }
@@ -193,6 +236,10 @@ private:
         if (&shape == ClassShape::find(typeid(vrx::ExchangeObjectWrapper)))
         {
             add(made, WIDE("allOf"), rulesOfEnvelope());
+        }
+        if (&shape == ClassShape::find(typeid(vrx::Command)))
+        {
+            add(made, WIDE("allOf"), rulesOfCommand());
         }
         return made;
     }
@@ -362,6 +409,11 @@ private:
         {
             choice.PushBack(reference(*each), allocator());
         }
+        if (isOfPatterns(found))
+        {
+            // A pattern of this type is none.
+            choice.PushBack(whereJust(WIDE("type"), text(wstring_view(WIDE("none")))), allocator());
+        }
         JsonValue made(rapidjson::kObjectType);
         add(made, WIDE("anyOf"), std::move(choice));
         return made;
@@ -384,30 +436,74 @@ private:
         return made;
     }
 
-    void addRule(JsonValue& rules, JsonValue condition, JsonValue data)
+    void require(JsonValue& object, const std::vector<wstring_view>& keys)
+    {
+        JsonValue wanted(rapidjson::kArrayType);
+        for (const wstring_view key : keys)
+        {
+            wanted.PushBack(text(key), allocator());
+        }
+        add(object, WIDE("required"), std::move(wanted));
+    }
+
+    // An object that has this key with this value.
+    JsonValue whereJust(wstring_view key, JsonValue value)
+    {
+        JsonValue made = where(key, constant(std::move(value)));
+        require(made, {key});
+        return made;
+    }
+
+    void addRule(JsonValue& rules, JsonValue condition, JsonValue then)
     {
         JsonValue rule(rapidjson::kObjectType);
         add(rule, WIDE("if"), std::move(condition));
-        add(rule, WIDE("then"), where(keyOf(vrx::kEnvelopeData), std::move(data)));
+        add(rule, WIDE("then"), std::move(then));
         rules.PushBack(rule, allocator());
     }
-
-    static wstring_view keyOf(vrx::Key key) { return {key.text, key.size}; }
 
     // The object itself stands in the message, or the name of its buffer.
     JsonValue rulesOfEnvelope()
     {
         JsonValue rules(rapidjson::kArrayType);
-        JsonValue binary = where(keyOf(vrx::kEnvelopeBinary), constant(JsonValue(true)));
-        JsonValue wanted(rapidjson::kArrayType);
-        wanted.PushBack(text(keyOf(vrx::kEnvelopeBinary)), allocator());
-        add(binary, WIDE("required"), std::move(wanted));
-        addRule(rules, std::move(binary), ofType("string"));
+        JsonValue bufferName = ofType("string");
+        add(bufferName, WIDE("minLength"), JsonValue(1));
+        addRule(rules, whereJust(keyOf(vrx::kEnvelopeBinary), JsonValue(true)),
+                where(keyOf(vrx::kEnvelopeData), std::move(bufferName)));
         for (const wstring& name : vrx::ExchangeObjectRegistry::instance().names())
         {
             JsonValue condition = where(keyOf(vrx::kEnvelopeName), constant(text(wstring_view(name))));
             add(condition[WIDE("properties")], keyOf(vrx::kEnvelopeBinary), constant(JsonValue(false)));
-            addRule(rules, std::move(condition), reference(*classes::ofObject(name)));
+            addRule(rules, std::move(condition), where(keyOf(vrx::kEnvelopeData), reference(*classes::ofObject(name))));
+        }
+        return rules;
+    }
+
+    // The class of the options follows from the command and the interface.
+    JsonValue rulesOfCommand()
+    {
+        struct Row
+        {
+            wstring_view command;
+            const char* options;
+            const char* legacyOptions;
+        };
+        constexpr Row kRows[] = {
+            {WIDE("import"), "ImportOptionsImpl", "LegacyImportOptionsImpl"},
+            {WIDE("export"), "ExportOptionsImpl", "LegacyExportOptionsImpl"},
+        };
+        JsonValue rules(rapidjson::kArrayType);
+        for (const Row& row : kRows)
+        {
+            const auto options = [this](const char* name) {
+                return where(WIDE("options"), reference(*ClassShape::find(std::string(name))));
+            };
+            JsonValue then(rapidjson::kObjectType);
+            add(then, WIDE("if"), whereJust(WIDE("ferrant_interface"), text(wstring_view(WIDE("legacy")))));
+            add(then, WIDE("then"), options(row.legacyOptions));
+            add(then, WIDE("else"), options(row.options));
+            require(then, {WIDE("options")});
+            addRule(rules, whereJust(WIDE("command"), text(row.command)), std::move(then));
         }
         return rules;
     }
@@ -423,13 +519,10 @@ std::string ofMessages()
 {
     Maker maker;
     maker.begin("Messages between a host and a translator");
-    JsonValue choice(rapidjson::kArrayType);
-    for (const std::type_info* const type :
-         {&typeid(vrx::Command), &typeid(vrx::Result), &typeid(vrx::FerrantInfo), &typeid(vrx::ExchangeObjectWrapper)})
-    {
-        choice.PushBack(maker.reference(*ClassShape::find(*type)), maker.allocator());
-    }
-    maker.add(maker.root(), WIDE("anyOf"), std::move(choice));
+    maker.addChoice(maker.root(), {{{keyOf(vrx::kEnvelopeName)}, &typeid(vrx::ExchangeObjectWrapper)},
+                                   {{WIDE("command")}, &typeid(vrx::Command)},
+                                   {{WIDE("code")}, &typeid(vrx::Result)},
+                                   {{WIDE("name"), WIDE("version")}, &typeid(vrx::FerrantInfo)}});
     for (const ClassShape* const shape : ClassShape::all())
     {
         maker.reference(*shape);
