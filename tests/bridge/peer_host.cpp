@@ -5,6 +5,7 @@
 
 #include <iostream>
 #include <stdexcept>
+#include <thread>
 
 using namespace vrx;
 
@@ -32,6 +33,10 @@ public:
         if (m_manner == "throws")
         {
             throw std::runtime_error("the listener has enough");
+        }
+        if (m_manner == "dawdles")
+        {
+            std::this_thread::sleep_for(std::chrono::milliseconds(300));
         }
         if (m_manner == "dies")
         {
@@ -75,16 +80,22 @@ Result import(bridge::HostSession& session, Told& told)
     return session.importFile(options, told);
 }
 
-Result exportTwo(bridge::HostSession& session, Told& told)
+// The one that dies has told of both.
+Result exportTwo(bridge::HostSession& session, Told& told, bool dies)
 {
     const auto options = Command::newExportOptions();
     options->setFile(WIDE("a.step"));
     int count = 0;
     return session.exportFile(
         options,
-        [&count]() -> std::shared_ptr<IExchangeObject> {
+        [&count, dies]() -> std::shared_ptr<IExchangeObject> {
             if (++count > 2)
             {
+                if (dies)
+                {
+                    std::cout << "dies" << std::endl;
+                    killSelf();
+                }
                 return nullptr;
             }
             const auto structure = std::make_shared<ExcProductStructure>();
@@ -108,7 +119,9 @@ void talk(bridge::HostSession& session, const std::string& manner)
     std::cout << mp::toNarrow(session.info().name()) << '\n';
 
     Told told(session, manner);
-    const Result result = manner == "exports" ? exportTwo(session, told) : import(session, told);
+    const bool diesInExport = manner == "exports-and-dies";
+    const bool isExport = diesInExport || manner == "exports";
+    const Result result = isExport ? exportTwo(session, told, diesInExport) : import(session, told);
     std::cout << "result " << static_cast<int>(result.code()) << '\n';
     if (manner == "is-lazy")
     {
@@ -121,6 +134,7 @@ void talk(bridge::HostSession& session, const std::string& manner)
 
 int playHost(const std::string& manner, const std::vector<std::string>& translator)
 {
+    bridge::keepInheritedJournals(); // the test counts what is left
     std::vector<std::string> command = {VRX_BRIDGE_TEST_PEER, "translator"};
     command.insert(command.end(), translator.begin(), translator.end());
     bridge::HostSession session(command);

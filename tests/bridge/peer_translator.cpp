@@ -49,7 +49,7 @@ class PlayedTranslator
 public:
     int run(const std::vector<std::string>& steps)
     {
-        while (const std::optional<Command> command = m_channel.receive())
+        while (const std::optional<Command> command = m_isLeaving ? std::nullopt : m_channel.receive())
         {
             switch (command->type())
             {
@@ -66,6 +66,7 @@ public:
                 m_channel.send(Result());
             }
         }
+        m_output.close();
         return 0;
     }
 
@@ -161,6 +162,14 @@ private:
         {
             std::this_thread::sleep_for(std::chrono::minutes(1));
         }
+        else if (step == "dawdle")
+        {
+            std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        }
+        else if (step == "leave")
+        {
+            m_isLeaving = true;
+        }
         else if (step == "die")
         {
             killSelf();
@@ -184,6 +193,7 @@ private:
 
     bridge::Stream m_output = bridge::Stream::standardOutput(); // before the channel takes it
     bridge::TranslatorChannel m_channel;
+    bool m_isLeaving = false; // behind the answer
 };
 
 } // namespace

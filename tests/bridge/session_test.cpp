@@ -38,6 +38,12 @@ const SessionCase kCases[] = {
      "message now one\nexc_product_structure unloaded \nmessage now two\nexc_product_structure unloaded \n"
      "exc_block_geometry unloaded\nresult 1\nexc_product_structure one\nping 1\n",
      3},
+    {"TranslatorThatLeaves",
+     "dawdles",
+     {"one", "two", "leave"},
+     "message now one\nexc_product_structure one\nmessage now two\nexc_product_structure two\nresult 1\nping "
+     "failure 0 ",
+     2},
     {"HostThatPicks", "picks", {"one", "bodies"}, "message now one\nexc_block_geometry\nresult 1\nping 1\n", 2},
     {"NewerTranslator", "loads", {"newer"}, "result 1\nping 1\n", 1},
     {"KilledTranslator",
@@ -105,11 +111,17 @@ TEST(SessionStart, FailsWithTheProgramsName)
     }
 }
 
-// The translator hears of its host's death by the end of its input.
-TEST(SessionEnd, OfAKilledHostLeavesNothing)
+class KilledHost : public testing::TestWithParam<std::vector<std::string>>
 {
+};
+
+// The translator hears of its host's death by the end of its input.
+TEST_P(KilledHost, LeavesNothing)
+{
+    std::vector<std::string> command = {VRX_BRIDGE_TEST_PEER, "host"};
+    command.insert(command.end(), GetParam().begin(), GetParam().end());
     const vrx::bridge::BufferJournal journal;
-    vrx::bridge::ChildProcess host({VRX_BRIDGE_TEST_PEER, "host", "dies", "one", "two"}, &journal);
+    vrx::bridge::ChildProcess host(command, &journal);
     EXPECT_THAT(test::readAll(host.output()), HasSubstr("dies"));
     host.end();
     const auto isClear = [&journal] {
@@ -122,5 +134,9 @@ TEST(SessionEnd, OfAKilledHostLeavesNothing)
     }
     EXPECT_TRUE(isClear());
 }
+
+INSTANTIATE_TEST_SUITE_P(All, KilledHost,
+                         testing::Values(std::vector<std::string>{"dies", "one", "two"},
+                                         std::vector<std::string>{"exports-and-dies", "dawdle"}));
 
 } // namespace
