@@ -12,7 +12,7 @@ namespace vrx::bridge
 struct Pipe;
 
 /// One end of a pipe, or an open file. Programs that this one starts do not inherit it. All operations throw
-/// StreamError.
+/// StreamError, on a stream that is not open, too.
 class VRX_BRIDGE Stream
 {
 public:
@@ -49,6 +49,8 @@ public:
     void writeAll(const char* bytes, std::size_t size, const Wait& wait = {}) const;
 
 private:
+    const OwnedHandle& openHandle() const;
+
     OwnedHandle m_handle;
 };
 

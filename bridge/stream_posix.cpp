@@ -145,13 +145,13 @@ Stream Stream::takeStandardOutput()
 
 bool Stream::isReady() const
 {
-    pollfd polled = {descriptorOf(m_handle), POLLIN, 0};
+    pollfd polled = {descriptorOf(openHandle()), POLLIN, 0};
     return ::poll(&polled, 1, 0) > 0;
 }
 
 std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) const
 {
-    const int descriptor = descriptorOf(m_handle);
+    const int descriptor = descriptorOf(openHandle());
     ssize_t count = 0;
     do
     {
@@ -170,7 +170,7 @@ std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) co
 
 void Stream::writeAll(const char* bytes, std::size_t size, const Wait& wait) const
 {
-    const int descriptor = descriptorOf(m_handle);
+    const int descriptor = descriptorOf(openHandle());
     const NoPipeSignal noSignal;
     while (size > 0)
     {

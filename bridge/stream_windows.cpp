@@ -99,12 +99,12 @@ Stream Stream::takeStandardOutput()
 
 bool Stream::isReady() const
 {
-    return hasBytes(windowsHandle(m_handle));
+    return hasBytes(windowsHandle(openHandle()));
 }
 
 std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) const
 {
-    const HANDLE handle = windowsHandle(m_handle);
+    const HANDLE handle = windowsHandle(openHandle());
     DWORD count = 0;
     bool goesOn = true;
     while (goesOn)
@@ -129,11 +129,12 @@ std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) co
 
 void Stream::writeAll(const char* bytes, std::size_t size, const Wait& wait) const
 {
+    const HANDLE handle = windowsHandle(openHandle());
     while (size > 0)
     {
         wait.check();
         DWORD count = 0;
-        if (WriteFile(windowsHandle(m_handle), bytes, static_cast<DWORD>(std::min(size, kPiece)), &count, nullptr) == 0)
+        if (WriteFile(handle, bytes, static_cast<DWORD>(std::min(size, kPiece)), &count, nullptr) == 0)
         {
             fail("cannot write to the pipe");
         }
