@@ -12,6 +12,11 @@ using namespace vrx;
 namespace
 {
 
+void dawdleIf(bool dawdles)
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(dawdles ? 200 : 0));
+}
+
 class Told : public bridge::Listener
 {
 public:
@@ -34,10 +39,7 @@ public:
         {
             throw std::runtime_error("the listener has enough");
         }
-        if (m_manner == "dawdles")
-        {
-            std::this_thread::sleep_for(std::chrono::milliseconds(300));
-        }
+        dawdleIf(m_manner == "dawdles");
         if (m_manner == "dies")
         {
             std::cout << "dies" << std::endl;
@@ -80,24 +82,25 @@ Result import(bridge::HostSession& session, Told& told)
     return session.importFile(options, told);
 }
 
-// The one that dies has told of both.
-Result exportTwo(bridge::HostSession& session, Told& told, bool dies)
+// One that dies has told of both.
+Result exportTwo(bridge::HostSession& session, Told& told, const std::string& manner)
 {
     const auto options = Command::newExportOptions();
     options->setFile(WIDE("a.step"));
     int count = 0;
     return session.exportFile(
         options,
-        [&count, dies]() -> std::shared_ptr<IExchangeObject> {
+        [&count, &manner]() -> std::shared_ptr<IExchangeObject> {
             if (++count > 2)
             {
-                if (dies)
+                if (manner == "exports-and-dies")
                 {
                     std::cout << "dies" << std::endl;
                     killSelf();
                 }
                 return nullptr;
             }
+            dawdleIf(count > 1 && manner == "exports-slowly");
             const auto structure = std::make_shared<ExcProductStructure>();
             structure->setProductName(count == 1 ? WIDE("one") : WIDE("two"));
             return structure;
@@ -119,14 +122,14 @@ void talk(bridge::HostSession& session, const std::string& manner)
     std::cout << mp::toNarrow(session.info().name()) << '\n';
 
     Told told(session, manner);
-    const bool diesInExport = manner == "exports-and-dies";
-    const bool isExport = diesInExport || manner == "exports";
-    const Result result = isExport ? exportTwo(session, told, diesInExport) : import(session, told);
+    const bool isExport = manner.rfind("exports", 0) == 0;
+    const Result result = isExport ? exportTwo(session, told, manner) : import(session, told);
     std::cout << "result " << static_cast<int>(result.code()) << '\n';
     if (manner == "is-lazy")
     {
         told.loadFirst();
     }
+    dawdleIf(manner == "dawdles");
     std::cout << "ping " << static_cast<int>(session.ping().code()) << '\n';
 }
 

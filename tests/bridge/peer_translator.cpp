@@ -54,7 +54,7 @@ public:
             switch (command->type())
             {
             case Command::EType::Info:
-                sendInfo();
+                sendInfo(steps);
                 break;
             case Command::EType::Import:
                 import(steps);
@@ -71,8 +71,16 @@ public:
     }
 
 private:
-    void sendInfo()
+    void sendInfo(const std::vector<std::string>& steps)
     {
+        if (steps == std::vector<std::string>{"unable"})
+        {
+            m_channel.log(WIDE("looked for a licence"));
+            Result result = resultOf(Result::ECode::Error);
+            result.setMessage(WIDE("no licence"));
+            m_channel.send(result);
+            return;
+        }
         FerrantInfo info;
         info.setName(WIDE("peer"));
         info.setVersion(WIDE("1"));
@@ -133,6 +141,10 @@ private:
         else if (step == "command")
         {
             m_channel.sendText(WIDE(R"({"command":"ping"})"));
+        }
+        else if (step == "answer")
+        {
+            m_channel.send(resultOf(Result::ECode::Error));
         }
         else if (step == "newer")
         {

@@ -1,4 +1,5 @@
 #include "support.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <gmock/gmock.h>
 
@@ -60,6 +61,11 @@ const SessionCase kCases[] = {
      "failure 3 The translator sent no message: what stands on the pipe is no message\n",
      1},
     {"AnotherMessage", "loads", {"command"}, "failure 3 The translator sent neither an object nor a result.\n", 0},
+    {"SecondAnswer",
+     "dawdles",
+     {"answer"},
+     "result 3\nping failure 3 The translator sent an answer that nobody had asked for.\n",
+     0},
     {"MissingBuffer",
      "loads",
      {"untold", "missing", "one"},
@@ -109,6 +115,44 @@ TEST(SessionStart, FailsWithTheProgramsName)
     {
         EXPECT_THAT(error.what(), StartsWith("cannot start /no/such/program: "));
     }
+}
+
+TEST(SessionStart, TellsWhyATranslatorDoesNotSayWhatItIs)
+{
+    vrx::bridge::HostSession session({VRX_BRIDGE_TEST_PEER, "translator", "unable"});
+    try
+    {
+        session.info();
+        FAIL() << "has a description";
+    }
+    catch (const vrx::bridge::TranslatorFailure& failure)
+    {
+        EXPECT_STREQ(failure.what(), "The translator does not say what it is: no licence");
+    }
+}
+
+class Keeper : public vrx::bridge::Listener
+{
+public:
+    void onHead(const vrx::MessageHead& head) override { m_kept = head.bufferName; }
+    void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
+    {
+        std::dynamic_pointer_cast<vrx::ExcBlockGeometry>(object)->own(false);
+    }
+    const mp::wstring& kept() const { return m_kept; }
+
+private:
+    mp::wstring m_kept;
+};
+
+TEST(SessionEnd, LeavesWhatItsListenerKeeps)
+{
+    Keeper keeper;
+    {
+        vrx::bridge::HostSession session({VRX_BRIDGE_TEST_PEER, "translator", "bodies", "exit"});
+        EXPECT_THROW(session.importFile(vrx::Command::newImportOptions(), keeper), vrx::bridge::TranslatorFailure);
+    }
+    EXPECT_TRUE(mp::SharedBuffer<char>::remove(keeper.kept()));
 }
 
 class KilledHost : public testing::TestWithParam<std::vector<std::string>>
