@@ -30,7 +30,8 @@ public:
     static Stream standardOutput();
 
     /// The standard output of this process, for the caller alone: what others print there goes to standard error from
-    /// now on, so that no stray line gets between two messages.
+    /// now on, so that no stray line gets between two messages. A process without standard error gets one that leads
+    /// nowhere.
     static Stream takeStandardOutput();
 
     bool isOpen() const { return m_handle.isOpen(); }
