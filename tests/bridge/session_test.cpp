@@ -1,9 +1,11 @@
 #include "support.h"
-#include "vrx_api/vrx_api_exchange_structure.h"
+#include "vrx_api/vrx_api_exchange_mechanical.h"
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <ostream>
+#include <stdexcept>
 #include <thread>
 
 using testing::HasSubstr;
@@ -130,6 +132,32 @@ TEST(SessionStart, TellsWhyATranslatorDoesNotSayWhatItIs)
         EXPECT_STREQ(failure.what(), "The translator does not say what it is: no licence");
     }
 }
+
+#ifndef _WIN32
+// As a program with windows starts it.
+TEST(SessionStart, NeedsNoStandardError)
+{
+    vrx::bridge::HostSession session({"/bin/sh", "-c", "exec \"$0\" translator stray one 2>&-", VRX_BRIDGE_TEST_PEER});
+    EXPECT_EQ(session.info().name(), WIDE("peer"));
+    vrx::bridge::Listener listener;
+    EXPECT_EQ(session.importFile(vrx::Command::newImportOptions(), listener).code(), vrx::Result::ECode::Ok);
+}
+
+TEST(SessionEnd, ByAnInterruptLeavesWhatIsIgnored)
+{
+    std::signal(SIGHUP, SIG_IGN); // as nohup does
+    vrx::bridge::HostSession session({VRX_BRIDGE_TEST_PEER, "translator"});
+    {
+        const vrx::bridge::CancelOnInterrupt cancelling(session);
+        EXPECT_THROW(vrx::bridge::CancelOnInterrupt{session}, std::logic_error);
+        std::raise(SIGHUP);
+        EXPECT_FALSE(session.isCancelled());
+        std::raise(SIGINT);
+        EXPECT_TRUE(session.isCancelled());
+    }
+    std::signal(SIGHUP, SIG_DFL);
+}
+#endif
 
 class Keeper : public vrx::bridge::Listener
 {
