@@ -1,6 +1,7 @@
 #pragma once
 
 #include "bridge/buffer_journal.h"
+#include "bridge/buffer_name.h"
 #include "bridge/cancel_on_interrupt.h"
 #include "bridge/child_process.h"
 #include "bridge/frames.h"

@@ -44,7 +44,10 @@ std::vector<mp::wstring> BufferJournal::names() const
     std::size_t begin = 0;
     for (std::size_t end = content.find('\0'); end != std::string::npos; end = content.find('\0', begin))
     {
-        names.push_back(mp::toWide(content.substr(begin, end - begin)));
+        if (end > begin)
+        {
+            names.push_back(mp::toWide(content.substr(begin, end - begin)));
+        }
         begin = end + 1;
     }
     return names;

@@ -6,11 +6,11 @@ namespace vrx::bridge
 {
 
 /// While there is one, SIGINT, SIGTERM and SIGHUP cancel this session instead of ending the process; on Windows,
-/// Ctrl+C, Ctrl+Break and the closing of the console do. There is one at a time.
+/// Ctrl+C, Ctrl+Break and the closing of the console do. A signal that the process ignores stays ignored.
 class VRX_BRIDGE CancelOnInterrupt
 {
 public:
-    /// The session lives longer.
+    /// The session lives longer. Throws std::logic_error while there is another one.
     explicit CancelOnInterrupt(HostSession& session);
     CancelOnInterrupt(const CancelOnInterrupt&) = delete;
     CancelOnInterrupt& operator=(const CancelOnInterrupt&) = delete;

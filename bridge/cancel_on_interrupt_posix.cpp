@@ -4,6 +4,7 @@
 #include <atomic>
 #include <csignal>
 #include <cstddef>
+#include <stdexcept>
 
 namespace vrx::bridge
 {
@@ -31,14 +32,22 @@ extern "C" void cancelSession(int)
 
 CancelOnInterrupt::CancelOnInterrupt(HostSession& session)
 {
-    cancelledSession = &session;
+    HostSession* none = nullptr;
+    if (!cancelledSession.compare_exchange_strong(none, &session))
+    {
+        throw std::logic_error("interrupts cancel another session already");
+    }
     struct sigaction action = {};
     action.sa_handler = cancelSession;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
     for (std::size_t i = 0; i < kInterrupts.size(); ++i)
     {
-        sigaction(kInterrupts[i], &action, &actionsBefore[i]);
+        sigaction(kInterrupts[i], nullptr, &actionsBefore[i]);
+        if (actionsBefore[i].sa_handler != SIG_IGN)
+        {
+            sigaction(kInterrupts[i], &action, nullptr);
+        }
     }
 }
 

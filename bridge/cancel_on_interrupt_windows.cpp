@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <mutex>
+#include <stdexcept>
 
 namespace vrx::bridge
 {
@@ -39,6 +40,10 @@ BOOL WINAPI cancelSession(DWORD event)
 CancelOnInterrupt::CancelOnInterrupt(HostSession& session)
 {
     const std::lock_guard<std::mutex> lock(mutex);
+    if (cancelledSession != nullptr)
+    {
+        throw std::logic_error("interrupts cancel another session already");
+    }
     cancelledSession = &session;
     SetConsoleCtrlHandler(cancelSession, TRUE);
 }

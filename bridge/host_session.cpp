@@ -1,7 +1,9 @@
 #include "bridge/host_session.h"
 
 #include "kolt/log.h"
+#include "mp/narrow.h"
 
+#include <algorithm>
 #include <exception>
 
 namespace vrx::bridge
@@ -11,6 +13,7 @@ namespace
 {
 
 constexpr std::chrono::seconds kGrace{2};
+constexpr std::chrono::hours kLongestLimit{24 * 365};
 constexpr std::chrono::seconds kLastBytes{1}; // what a killed translator had written is there at once
 
 Command commandOf(Command::EType type)
@@ -90,6 +93,11 @@ HostSession::~HostSession()
     }
 }
 
+void HostSession::setTimeLimit(std::chrono::milliseconds limit)
+{
+    m_timeLimit = std::min<std::chrono::milliseconds>(limit, kLongestLimit);
+}
+
 template <class Operation>
 auto HostSession::endingOnFailure(Operation operation)
 {
@@ -107,11 +115,19 @@ auto HostSession::endingOnFailure(Operation operation)
 FerrantInfo HostSession::info()
 {
     return endingOnFailure([this] {
-        send(commandOf(Command::EType::Info));
-        const mp::wstring text = receive();
-        if (peekEnvelope(text).kind != EMessageKind::Info)
+        Listener listener;
+        sendCommand(commandOf(Command::EType::Info), listener);
+        mp::wstring text = receive();
+        MessageHead head = peekEnvelope(text);
+        while (head.kind == EMessageKind::Envelope)
         {
-            fail(TranslatorFailure::EKind::Protocol, "The translator does not say what it is.");
+            takeObject(text, head, listener);
+            text = receive();
+            head = peekEnvelope(text);
+        }
+        if (head.kind != EMessageKind::Info)
+        {
+            failWithoutInfo(text, head);
         }
         FerrantInfo info;
         parse(text, info, "description of itself");
@@ -119,11 +135,24 @@ FerrantInfo HostSession::info()
     });
 }
 
+// An error says why.
+void HostSession::failWithoutInfo(const mp::wstring& text, const MessageHead& head)
+{
+    Result result;
+    if (head.kind == EMessageKind::Result)
+    {
+        parse(text, result, "result");
+    }
+    const std::string reason = mp::toNarrow(result.message());
+    fail(TranslatorFailure::EKind::Protocol,
+         "The translator does not say what it is" + (reason.empty() ? "." : ": " + reason));
+}
+
 Result HostSession::ping()
 {
     return endingOnFailure([this] {
-        send(commandOf(Command::EType::Ping));
         Listener listener;
+        sendCommand(commandOf(Command::EType::Ping), listener);
         return awaitResult(listener);
     });
 }
@@ -132,7 +161,7 @@ Result HostSession::importFile(const std::shared_ptr<ImportOptions>& options, Li
 {
     const Command command = commandFor(options);
     return endingOnFailure([&] {
-        send(command);
+        sendCommand(command, listener);
         return awaitResult(listener);
     });
 }
@@ -142,17 +171,20 @@ Result HostSession::exportFile(const std::shared_ptr<ExportOptions>& options, co
 {
     const Command command = commandFor(options);
     return endingOnFailure([&] {
-        send(command);
+        sendCommand(command, listener);
         std::optional<Result> result;
-        for (std::shared_ptr<IExchangeObject> object = nextObject(); object && !result; object = nextObject())
+        bool takesMore = true;
+        while (!result && takesMore)
         {
-            sendObject(object);
+            const std::shared_ptr<IExchangeObject> object = nextObject();
+            takesMore = object && sendObject(object);
             // A translator that waits for us to read would never read on.
             while (!result && m_translator.output().isReady())
             {
                 result = take(receive(), listener);
             }
         }
+        // One that takes no more may have answered why.
         send(Result());
         return result ? *result : awaitResult(listener);
     });
@@ -169,17 +201,38 @@ Wait HostSession::wait() const
     return wait;
 }
 
-void HostSession::send(const mp::ISerializable& message)
+// An answer that nobody has asked for must not be taken for the one to this command.
+void HostSession::sendCommand(const Command& command, Listener& listener)
 {
     if (!m_end.empty())
     {
         throw TranslatorFailure(TranslatorFailure::EKind::Died, "The translator has ended: " + m_end + ".", m_end);
     }
+    while (m_translator.output().isReady())
+    {
+        const mp::wstring text = receive();
+        const MessageHead head = peekEnvelope(text);
+        if (head.kind != EMessageKind::Envelope)
+        {
+            fail(TranslatorFailure::EKind::Protocol, "The translator sent an answer that nobody had asked for.");
+        }
+        takeObject(text, head, listener);
+    }
+    if (!send(command))
+    {
+        failAsDead("The translator does not take commands: ");
+    }
+}
+
+// False when the translator takes no more.
+bool HostSession::send(const mp::ISerializable& message)
+{
     const mp::wstring text = toText(message);
     m_undelivered.add(peekEnvelope(text).bufferName);
     try
     {
         writeFrame(m_translator.input(), text, wait());
+        return true;
     }
     catch (const TimedOut&)
     {
@@ -191,16 +244,16 @@ void HostSession::send(const mp::ISerializable& message)
     }
     catch (const StreamError&)
     {
-        failAsDead("The translator does not take commands: ");
+        return false;
     }
 }
 
-void HostSession::sendObject(const std::shared_ptr<IExchangeObject>& object)
+bool HostSession::sendObject(const std::shared_ptr<IExchangeObject>& object)
 {
     ExchangeObjectWrapper envelope;
     envelope.set(object);
     envelope.setCompression(m_compression);
-    send(envelope);
+    return send(envelope);
 }
 
 mp::wstring HostSession::receive()
@@ -310,6 +363,7 @@ void HostSession::load(IExchangeObject& object, const mp::wstring& buffer)
              std::string("What the translator sent can not be loaded: ") + failure.what());
     }
     m_undelivered.delivered(buffer);
+    m_loaded.insert(buffer);
 }
 
 void HostSession::fail(TranslatorFailure::EKind kind, const std::string& text)
@@ -368,7 +422,10 @@ void HostSession::removeBuffers() noexcept
     {
         for (const mp::wstring& name : m_journal.names())
         {
-            m_undelivered.add(name);
+            if (m_loaded.count(name) == 0)
+            {
+                m_undelivered.add(name);
+            }
         }
     }
     catch (const std::exception& failure)

@@ -17,6 +17,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -25,7 +26,8 @@ namespace vrx::bridge
 
 /// A running translator: sends commands, hands on what comes back. Each operation throws TranslatorFailure when the
 /// translator dies, is silent for too long, breaks the protocol, or the host cancels; the translator has ended then.
-/// When the session ends, in whatever way, all shared memory that the translator left is removed from the system.
+/// When the session ends, in whatever way, all shared memory that the translator left and the session has not loaded is
+/// removed from the system.
 class VRX_BRIDGE HostSession
 {
 public:
@@ -39,7 +41,8 @@ public:
     ~HostSession();
 
     /// How long the translator may be silent before an answer or the next message. There is no limit until one is set.
-    void setTimeLimit(std::chrono::milliseconds limit) { m_timeLimit = limit; }
+    /// A year is the longest. On Windows one who does not read what is written to it is not noticed.
+    void setTimeLimit(std::chrono::milliseconds limit);
 
     /// A lazy session hands on an object in shared memory before it is loaded. The program loads it when it wants,
     /// while the session lives and before `finish`.
@@ -58,12 +61,15 @@ public:
     /// the next one: it has got those before, when the result is an error.
     Result importFile(const std::shared_ptr<ImportOptions>& options, Listener& listener);
 
-    /// The listener hears of the progress. The translator may answer before it has got all objects.
+    /// The listener hears of the progress after each object. The translator may answer before it has got all objects,
+    /// and end. What it sends while one object is on its way must fit in a pipe, which is a megabyte or less: some
+    /// hundred messages.
     Result exportFile(const std::shared_ptr<ExportOptions>& options, const ObjectSource& nextObject,
                       Listener& listener);
 
     /// From a listener, another thread or a signal handler: the running operation, or else the next one, throws a
-    /// TranslatorFailure. The translator is asked to end, and killed after two seconds.
+    /// TranslatorFailure. The translator is asked to end, and killed after two seconds. On Windows an operation that
+    /// writes to one who does not read goes on.
     void cancel() noexcept { m_isCancelled = true; }
     bool isCancelled() const noexcept { return m_isCancelled; }
 
@@ -72,8 +78,9 @@ public:
 
 private:
     Wait wait() const;
-    void send(const mp::ISerializable& message);
-    void sendObject(const std::shared_ptr<IExchangeObject>& object);
+    void sendCommand(const Command& command, Listener& listener);
+    bool send(const mp::ISerializable& message);
+    bool sendObject(const std::shared_ptr<IExchangeObject>& object);
     mp::wstring receive();
 
     Result awaitResult(Listener& listener);
@@ -82,6 +89,7 @@ private:
     void parse(const mp::wstring& text, mp::ISerializable& message, const char* what);
     void load(IExchangeObject& object, const mp::wstring& buffer);
 
+    [[noreturn]] void failWithoutInfo(const mp::wstring& text, const MessageHead& head);
     template <class Operation>
     auto endingOnFailure(Operation operation);
     [[noreturn]] void fail(TranslatorFailure::EKind kind, const std::string& text);
@@ -97,6 +105,7 @@ private:
     std::atomic<bool> m_isCancelled = false;
 
     UndeliveredBuffers m_undelivered; // either way
+    std::set<mp::wstring> m_loaded;   // buffers, which are the listener's affair
     BufferJournal m_journal;
     ChildProcess m_translator;
     FrameReader m_messages{m_translator.output()};

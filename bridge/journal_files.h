@@ -2,6 +2,7 @@
 
 #include "bridge/handle.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,9 @@ constexpr const char* kJournalsVariable = "VRX_BUFFER_JOURNALS";
 /// A new file without a name, or with one that goes with the file; `inherited` is another handle of it, to which
 /// writing only appends.
 OwnedHandle makeJournalFile(OwnedHandle& inherited);
+
+/// More than any healthy child writes; what stands behind that is not read.
+constexpr std::size_t kLongestJournal = std::size_t{64} << 20U;
 
 std::string contentOf(const OwnedHandle& file);
 

@@ -22,19 +22,17 @@ namespace
 
 } // namespace
 
-// The flag that appends is the file's, not the descriptor's, so that one descriptor does for both.
+// The flag that appends is the file's, not the descriptor's, so that one descriptor does for both. Neither takes the
+// place of a standard stream that is missing.
 OwnedHandle makeJournalFile(OwnedHandle& inherited)
 {
-    const int file = ::memfd_create("vrx buffer journal", MFD_CLOEXEC);
-    if (file < 0)
+    const OwnedHandle made(::memfd_create("vrx buffer journal", MFD_CLOEXEC));
+    const int file = static_cast<int>(made.get());
+    OwnedHandle first(::fcntl(file, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+    inherited = OwnedHandle(::fcntl(file, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+    if (!first.isOpen() || !inherited.isOpen() || ::fcntl(file, F_SETFL, O_APPEND) != 0)
     {
         fail("cannot make a journal of shared memory");
-    }
-    OwnedHandle first(file);
-    inherited = OwnedHandle(::fcntl(file, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
-    if (!inherited.isOpen() || ::fcntl(file, F_SETFL, O_APPEND) != 0)
-    {
-        fail("cannot prepare a journal of shared memory");
     }
     return first;
 }
@@ -52,7 +50,7 @@ std::string contentOf(const OwnedHandle& file)
             fail("cannot read the journal of shared memory");
         }
         content.append(bytes, count > 0 ? static_cast<std::size_t>(count) : 0);
-    } while (count != 0);
+    } while (count != 0 && content.size() < kLongestJournal);
     return content;
 }
 

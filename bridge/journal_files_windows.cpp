@@ -60,7 +60,7 @@ std::string contentOf(const OwnedHandle& file)
             fail("cannot read the journal of shared memory");
         }
         content.append(bytes, count);
-    } while (count != 0);
+    } while (count != 0 && content.size() < kLongestJournal);
     return content;
 }
 

@@ -12,7 +12,7 @@ namespace vrx::bridge
 struct Pipe;
 
 /// One end of a pipe, or an open file. Programs that this one starts do not inherit it. All operations throw
-/// StreamError.
+/// StreamError, on a stream that is not open, too.
 class VRX_BRIDGE Stream
 {
 public:
@@ -30,7 +30,8 @@ public:
     static Stream standardOutput();
 
     /// The standard output of this process, for the caller alone: what others print there goes to standard error from
-    /// now on, so that no stray line gets between two messages.
+    /// now on, so that no stray line gets between two messages. A process without standard error gets one that leads
+    /// nowhere.
     static Stream takeStandardOutput();
 
     bool isOpen() const { return m_handle.isOpen(); }
@@ -49,6 +50,8 @@ public:
     void writeAll(const char* bytes, std::size_t size, const Wait& wait = {}) const;
 
 private:
+    const OwnedHandle& openHandle() const;
+
     OwnedHandle m_handle;
 };
 

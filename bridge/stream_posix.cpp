@@ -44,6 +44,26 @@ OwnedHandle ownCopy(int descriptor)
     return copy;
 }
 
+OwnedHandle openNothing()
+{
+    const OwnedHandle opened(::open("/dev/null", O_WRONLY | O_CLOEXEC));
+    return ownCopy(descriptorOf(opened));
+}
+
+// So that no file which is opened later gets the place of standard error.
+void provideStandardError()
+{
+    if (::fcntl(STDERR_FILENO, F_GETFD) >= 0)
+    {
+        return;
+    }
+    const OwnedHandle nothing = openNothing();
+    if (::dup2(descriptorOf(nothing), STDERR_FILENO) < 0)
+    {
+        fail("cannot provide standard error");
+    }
+}
+
 milliseconds restOf(const Wait& wait)
 {
     if (!wait.deadline)
@@ -135,6 +155,7 @@ Stream Stream::standardOutput()
 
 Stream Stream::takeStandardOutput()
 {
+    provideStandardError();
     Stream output = standardOutput();
     if (::dup2(STDERR_FILENO, STDOUT_FILENO) < 0)
     {
@@ -145,13 +166,13 @@ Stream Stream::takeStandardOutput()
 
 bool Stream::isReady() const
 {
-    pollfd polled = {descriptorOf(m_handle), POLLIN, 0};
+    pollfd polled = {descriptorOf(openHandle()), POLLIN, 0};
     return ::poll(&polled, 1, 0) > 0;
 }
 
 std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) const
 {
-    const int descriptor = descriptorOf(m_handle);
+    const int descriptor = descriptorOf(openHandle());
     ssize_t count = 0;
     do
     {
@@ -170,7 +191,7 @@ std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) co
 
 void Stream::writeAll(const char* bytes, std::size_t size, const Wait& wait) const
 {
-    const int descriptor = descriptorOf(m_handle);
+    const int descriptor = descriptorOf(openHandle());
     const NoPipeSignal noSignal;
     while (size > 0)
     {

@@ -49,6 +49,21 @@ void waitForBytes(HANDLE pipe, const Wait& wait)
     }
 }
 
+// A program with windows, and what it starts, has none: neither the system's handle nor a file of the runtime of C.
+void provideStandardError()
+{
+    HANDLE const error = GetStdHandle(STD_ERROR_HANDLE);
+    if (error != nullptr && error != INVALID_HANDLE_VALUE && _fileno(stderr) >= 0)
+    {
+        return;
+    }
+    if (std::freopen("NUL", "w", stderr) == nullptr ||
+        SetStdHandle(STD_ERROR_HANDLE, reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stderr)))) == 0)
+    {
+        fail("cannot provide standard error");
+    }
+}
+
 bool isEnd(DWORD error)
 {
     return error == ERROR_BROKEN_PIPE || error == ERROR_HANDLE_EOF || error == ERROR_PIPE_NOT_CONNECTED;
@@ -88,6 +103,7 @@ Stream Stream::standardOutput()
 // The runtime of C gives the system's handle up with its own, of which this process has a copy by then.
 Stream Stream::takeStandardOutput()
 {
+    provideStandardError();
     Stream output = standardOutput();
     if (_dup2(_fileno(stderr), _fileno(stdout)) != 0 ||
         SetStdHandle(STD_OUTPUT_HANDLE, GetStdHandle(STD_ERROR_HANDLE)) == 0)
@@ -99,12 +115,12 @@ Stream Stream::takeStandardOutput()
 
 bool Stream::isReady() const
 {
-    return hasBytes(windowsHandle(m_handle));
+    return hasBytes(windowsHandle(openHandle()));
 }
 
 std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) const
 {
-    const HANDLE handle = windowsHandle(m_handle);
+    const HANDLE handle = windowsHandle(openHandle());
     DWORD count = 0;
     bool goesOn = true;
     while (goesOn)
@@ -129,11 +145,12 @@ std::size_t Stream::readSome(char* bytes, std::size_t size, const Wait& wait) co
 
 void Stream::writeAll(const char* bytes, std::size_t size, const Wait& wait) const
 {
+    const HANDLE handle = windowsHandle(openHandle());
     while (size > 0)
     {
         wait.check();
         DWORD count = 0;
-        if (WriteFile(windowsHandle(m_handle), bytes, static_cast<DWORD>(std::min(size, kPiece)), &count, nullptr) == 0)
+        if (WriteFile(handle, bytes, static_cast<DWORD>(std::min(size, kPiece)), &count, nullptr) == 0)
         {
             fail("cannot write to the pipe");
         }

@@ -2,13 +2,23 @@
 
 #include "bridge/buffer_journal.h"
 #include "bridge/termination.h"
+#include "kolt/log.h"
 #include "mp/narrow.h"
 #include "vrx_api/exchange/peek_envelope.h"
 
+#include <chrono>
+#include <exception>
 #include <utility>
 
 namespace vrx::bridge
 {
+
+namespace
+{
+
+constexpr std::chrono::milliseconds kTimeToLoad{500}; // for a host whose translator was told to end
+
+} // namespace
 
 TranslatorChannel::TranslatorChannel()
     : m_input(Stream::standardInput())
@@ -17,7 +27,33 @@ TranslatorChannel::TranslatorChannel()
     keepInheritedJournals();
 }
 
-TranslatorChannel::~TranslatorChannel() = default;
+// After the end of the output the host closes the input, once it has loaded all that it wants; a dead one has closed
+// it.
+TranslatorChannel::~TranslatorChannel()
+{
+    m_output.close();
+    awaitHostsEnd({std::nullopt, &DelayedTermination::isDue()});
+    if (isTerminationDue())
+    {
+        awaitHostsEnd({std::chrono::steady_clock::now() + kTimeToLoad, nullptr});
+    }
+}
+
+// Reads the input to its end, for the names of shared memory only.
+void TranslatorChannel::awaitHostsEnd(const Wait& wait) noexcept
+{
+    try
+    {
+        while (const std::optional<mp::wstring> text = m_messages.read(wait))
+        {
+            m_undelivered.add(peekEnvelope(*text).bufferName);
+        }
+    }
+    catch (const std::exception& failure)
+    {
+        kolt::log(kolt::kDebug, "The end of the host is not awaited: ", failure.what());
+    }
+}
 
 std::optional<Command> TranslatorChannel::receive()
 {
@@ -28,7 +64,7 @@ std::optional<Command> TranslatorChannel::receive()
     }
     // A host that goes on has loaded most of what it was told of.
     m_undelivered.forgetLoaded();
-    while (const std::optional<mp::wstring> text = m_next ? std::exchange(m_next, std::nullopt) : receiveText())
+    while (const std::optional<mp::wstring> text = receiveCommandText())
     {
         try
         {
@@ -47,6 +83,15 @@ std::optional<Command> TranslatorChannel::receive()
         }
     }
     return std::nullopt;
+}
+
+std::optional<mp::wstring> TranslatorChannel::receiveCommandText()
+{
+    if (m_next)
+    {
+        return std::exchange(m_next, std::nullopt);
+    }
+    return receiveText();
 }
 
 std::shared_ptr<IExchangeObject> TranslatorChannel::receiveObject()

@@ -16,9 +16,10 @@ namespace vrx::bridge
 class DelayedTermination;
 
 /// The translator's side of the pipes. There is one in a process: it takes standard output for itself and turns what
-/// others print there to standard error. What the host was told of and has not loaded when the channel ends, since the
-/// host has died, is removed from the system. From the first command on SIGTERM does not end the process, but the
-/// channel does, behind the next object.
+/// others print there to standard error. When the channel ends, it closes the output and waits until the host closes
+/// the input, since the host may still be loading; SIGTERM limits this wait. What nobody has loaded then is removed
+/// from the system. From the first command on SIGTERM does not end the process, but the channel does, behind the next
+/// object.
 class VRX_BRIDGE TranslatorChannel
 {
 public:
@@ -58,7 +59,9 @@ public:
     static bool isTerminationDue();
 
 private:
+    std::optional<mp::wstring> receiveCommandText();
     std::optional<mp::wstring> receiveObjectText();
+    void awaitHostsEnd(const Wait& wait) noexcept;
 
     Stream m_input;
     Stream m_output;

@@ -1,5 +1,6 @@
 #include "bridge/undelivered_buffers.h"
 
+#include "bridge/buffer_name.h"
 #include "kolt/log.h"
 #include "mp/shared_buffer.h"
 
@@ -9,6 +10,24 @@
 namespace vrx::bridge
 {
 
+namespace
+{
+
+// One that cannot be opened is another user's.
+bool isThere(const mp::wstring& name)
+{
+    try
+    {
+        return mp::SharedBuffer<char>().openExisting(name);
+    }
+    catch (const mp::SharedMemoryException&)
+    {
+        return false;
+    }
+}
+
+} // namespace
+
 UndeliveredBuffers::~UndeliveredBuffers()
 {
     removeAll();
@@ -16,7 +35,7 @@ UndeliveredBuffers::~UndeliveredBuffers()
 
 void UndeliveredBuffers::add(const mp::wstring& name)
 {
-    if (!name.empty())
+    if (isBufferName(name))
     {
         m_names.insert(name);
     }
@@ -29,7 +48,7 @@ void UndeliveredBuffers::delivered(const mp::wstring& name)
 
 void UndeliveredBuffers::remove(const mp::wstring& name) noexcept
 {
-    if (name.empty())
+    if (!isBufferName(name))
     {
         return;
     }
@@ -48,7 +67,7 @@ void UndeliveredBuffers::forgetLoaded()
 {
     for (auto name = m_names.begin(); name != m_names.end();)
     {
-        name = mp::SharedBuffer<char>().openExisting(*name) ? std::next(name) : m_names.erase(name);
+        name = isThere(*name) ? std::next(name) : m_names.erase(name);
     }
 }
 

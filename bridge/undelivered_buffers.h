@@ -9,7 +9,8 @@ namespace vrx::bridge
 {
 
 /// The shared memory of which one side has told the other, and which nobody has loaded yet. What is still on the list
-/// when it ends is removed from the system.
+/// when it ends is removed from the system. A name that no buffer of this library has (see `isBufferName`), or an empty
+/// one, is passed over, so that the name in any message's head can be given.
 class VRX_BRIDGE UndeliveredBuffers
 {
 public:
@@ -18,16 +19,15 @@ public:
     UndeliveredBuffers& operator=(const UndeliveredBuffers&) = delete;
     ~UndeliveredBuffers();
 
-    /// An empty name is passed over, so that the name in any message's head can be given.
     void add(const mp::wstring& name);
 
     /// The buffer is the affair of the one who loaded it.
     void delivered(const mp::wstring& name);
 
-    /// Removes this one from the system: nobody will load it. An empty name is passed over.
+    /// Removes this one from the system: nobody will load it.
     void remove(const mp::wstring& name) noexcept;
 
-    /// Forgets those that are no more in the system.
+    /// Forgets those that are no more in the system, or another user's.
     void forgetLoaded();
 
     /// Removes those that are left from the system. What can't be removed is logged.

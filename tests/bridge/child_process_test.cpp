@@ -3,7 +3,9 @@
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
+#ifndef _WIN32
+#include <unistd.h>
+#endif
 
 using namespace vrx::bridge;
 using std::chrono::milliseconds;
@@ -55,6 +57,28 @@ TEST(ChildProcess, NotesItsBuffersInEachJournal)
     EXPECT_THAT(journal.names(), ElementsAre(name));
     EXPECT_TRUE(other.names().empty());
     EXPECT_TRUE(mp::SharedBuffer<char>::remove(name));
+}
+
+#ifndef _WIN32
+TEST(BufferJournal, OfAHostileChildCostsLittle)
+{
+    const BufferJournal journal;
+    ASSERT_EQ(::ftruncate(static_cast<int>(journal.inherited()), off_t{1} << 40U), 0);
+    EXPECT_TRUE(journal.names().empty());
+}
+#endif
+
+TEST(UndeliveredBuffers, LeavesWhatIsNoBufferOfThisLibrary)
+{
+    const mp::wstring foreign = WIDE("other_program_") + vrx::IExchangeObject::generateUUID();
+    mp::SharedBuffer<char> buffer;
+    buffer.open(foreign, true);
+    {
+        UndeliveredBuffers undelivered;
+        undelivered.add(foreign);
+        undelivered.remove(foreign);
+    }
+    EXPECT_TRUE(mp::SharedBuffer<char>().openExisting(foreign));
 }
 
 } // namespace

@@ -19,6 +19,13 @@ TEST(Export, MayBeAnsweredBeforeItsEnd)
     EXPECT_EQ(road.left, 0U);
 }
 
+TEST(Export, IsAnsweredByOneThatEndsAtOnce)
+{
+    const test::Road road = test::road("exports-slowly", {"answer", "exit"});
+    EXPECT_EQ(road.told, "peer\nmessage one\nresult 3\nping failure 0 The translator died: it exited with code 5.\n");
+    EXPECT_EQ(road.left, 0U);
+}
+
 TEST(Export, LeavesNothingWhenTheTranslatorDies)
 {
     const test::Road road = test::road("exports", {"die"});

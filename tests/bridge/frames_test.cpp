@@ -95,6 +95,16 @@ TEST_F(Frames, AreAnErrorForAWriterWithoutAReader)
     EXPECT_THROW(writeFrame(writer(), WIDE("text")), StreamError);
 }
 
+TEST_F(Frames, AreAnErrorOnAClosedStream)
+{
+    closeReader();
+    EXPECT_THROW(readFrame(reader(), {steady_clock::now() + milliseconds(20), nullptr}), StreamError);
+    EXPECT_THROW(static_cast<void>(reader().isReady()), StreamError);
+    closeWriter();
+    std::atomic<bool> cancelled = false;
+    EXPECT_THROW(writeFrame(writer(), WIDE("text"), {std::nullopt, &cancelled}), StreamError);
+}
+
 TEST_F(Frames, AreKnownToBeThereBeforeTheyAreRead)
 {
     EXPECT_FALSE(reader().isReady());

@@ -5,11 +5,17 @@
 
 #include <iostream>
 #include <stdexcept>
+#include <thread>
 
 using namespace vrx;
 
 namespace
 {
+
+void dawdleIf(bool dawdles)
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(dawdles ? 200 : 0));
+}
 
 class Told : public bridge::Listener
 {
@@ -33,6 +39,7 @@ public:
         {
             throw std::runtime_error("the listener has enough");
         }
+        dawdleIf(m_manner == "dawdles");
         if (m_manner == "dies")
         {
             std::cout << "dies" << std::endl;
@@ -75,18 +82,25 @@ Result import(bridge::HostSession& session, Told& told)
     return session.importFile(options, told);
 }
 
-Result exportTwo(bridge::HostSession& session, Told& told)
+// One that dies has told of both.
+Result exportTwo(bridge::HostSession& session, Told& told, const std::string& manner)
 {
     const auto options = Command::newExportOptions();
     options->setFile(WIDE("a.step"));
     int count = 0;
     return session.exportFile(
         options,
-        [&count]() -> std::shared_ptr<IExchangeObject> {
+        [&count, &manner]() -> std::shared_ptr<IExchangeObject> {
             if (++count > 2)
             {
+                if (manner == "exports-and-dies")
+                {
+                    std::cout << "dies" << std::endl;
+                    killSelf();
+                }
                 return nullptr;
             }
+            dawdleIf(count > 1 && manner == "exports-slowly");
             const auto structure = std::make_shared<ExcProductStructure>();
             structure->setProductName(count == 1 ? WIDE("one") : WIDE("two"));
             return structure;
@@ -108,12 +122,14 @@ void talk(bridge::HostSession& session, const std::string& manner)
     std::cout << mp::toNarrow(session.info().name()) << '\n';
 
     Told told(session, manner);
-    const Result result = manner == "exports" ? exportTwo(session, told) : import(session, told);
+    const bool isExport = manner.rfind("exports", 0) == 0;
+    const Result result = isExport ? exportTwo(session, told, manner) : import(session, told);
     std::cout << "result " << static_cast<int>(result.code()) << '\n';
     if (manner == "is-lazy")
     {
         told.loadFirst();
     }
+    dawdleIf(manner == "dawdles");
     std::cout << "ping " << static_cast<int>(session.ping().code()) << '\n';
 }
 
@@ -121,6 +137,7 @@ void talk(bridge::HostSession& session, const std::string& manner)
 
 int playHost(const std::string& manner, const std::vector<std::string>& translator)
 {
+    bridge::keepInheritedJournals(); // the test counts what is left
     std::vector<std::string> command = {VRX_BRIDGE_TEST_PEER, "translator"};
     command.insert(command.end(), translator.begin(), translator.end());
     bridge::HostSession session(command);

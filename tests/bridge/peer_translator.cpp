@@ -49,12 +49,12 @@ class PlayedTranslator
 public:
     int run(const std::vector<std::string>& steps)
     {
-        while (const std::optional<Command> command = m_channel.receive())
+        while (const std::optional<Command> command = m_isLeaving ? std::nullopt : m_channel.receive())
         {
             switch (command->type())
             {
             case Command::EType::Info:
-                sendInfo();
+                sendInfo(steps);
                 break;
             case Command::EType::Import:
                 import(steps);
@@ -66,12 +66,21 @@ public:
                 m_channel.send(Result());
             }
         }
+        m_output.close();
         return 0;
     }
 
 private:
-    void sendInfo()
+    void sendInfo(const std::vector<std::string>& steps)
     {
+        if (steps == std::vector<std::string>{"unable"})
+        {
+            m_channel.log(WIDE("looked for a licence"));
+            Result result = resultOf(Result::ECode::Error);
+            result.setMessage(WIDE("no licence"));
+            m_channel.send(result);
+            return;
+        }
         FerrantInfo info;
         info.setName(WIDE("peer"));
         info.setVersion(WIDE("1"));
@@ -133,6 +142,10 @@ private:
         {
             m_channel.sendText(WIDE(R"({"command":"ping"})"));
         }
+        else if (step == "answer")
+        {
+            m_channel.send(resultOf(Result::ECode::Error));
+        }
         else if (step == "newer")
         {
             m_channel.sendText(envelope(WIDE("exc_newer"), leftBuffer()));
@@ -161,6 +174,14 @@ private:
         {
             std::this_thread::sleep_for(std::chrono::minutes(1));
         }
+        else if (step == "dawdle")
+        {
+            std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        }
+        else if (step == "leave")
+        {
+            m_isLeaving = true;
+        }
         else if (step == "die")
         {
             killSelf();
@@ -184,6 +205,7 @@ private:
 
     bridge::Stream m_output = bridge::Stream::standardOutput(); // before the channel takes it
     bridge::TranslatorChannel m_channel;
+    bool m_isLeaving = false; // behind the answer
 };
 
 } // namespace

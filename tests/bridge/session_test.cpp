@@ -1,8 +1,11 @@
 #include "support.h"
+#include "vrx_api/vrx_api_exchange_mechanical.h"
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <ostream>
+#include <stdexcept>
 #include <thread>
 
 using testing::HasSubstr;
@@ -38,6 +41,12 @@ const SessionCase kCases[] = {
      "message now one\nexc_product_structure unloaded \nmessage now two\nexc_product_structure unloaded \n"
      "exc_block_geometry unloaded\nresult 1\nexc_product_structure one\nping 1\n",
      3},
+    {"TranslatorThatLeaves",
+     "dawdles",
+     {"one", "two", "leave"},
+     "message now one\nexc_product_structure one\nmessage now two\nexc_product_structure two\nresult 1\nping "
+     "failure 0 ",
+     2},
     {"HostThatPicks", "picks", {"one", "bodies"}, "message now one\nexc_block_geometry\nresult 1\nping 1\n", 2},
     {"NewerTranslator", "loads", {"newer"}, "result 1\nping 1\n", 1},
     {"KilledTranslator",
@@ -54,6 +63,11 @@ const SessionCase kCases[] = {
      "failure 3 The translator sent no message: what stands on the pipe is no message\n",
      1},
     {"AnotherMessage", "loads", {"command"}, "failure 3 The translator sent neither an object nor a result.\n", 0},
+    {"SecondAnswer",
+     "dawdles",
+     {"answer"},
+     "result 3\nping failure 3 The translator sent an answer that nobody had asked for.\n",
+     0},
     {"MissingBuffer",
      "loads",
      {"untold", "missing", "one"},
@@ -105,11 +119,81 @@ TEST(SessionStart, FailsWithTheProgramsName)
     }
 }
 
-// The translator hears of its host's death by the end of its input.
-TEST(SessionEnd, OfAKilledHostLeavesNothing)
+TEST(SessionStart, TellsWhyATranslatorDoesNotSayWhatItIs)
 {
+    vrx::bridge::HostSession session({VRX_BRIDGE_TEST_PEER, "translator", "unable"});
+    try
+    {
+        session.info();
+        FAIL() << "has a description";
+    }
+    catch (const vrx::bridge::TranslatorFailure& failure)
+    {
+        EXPECT_STREQ(failure.what(), "The translator does not say what it is: no licence");
+    }
+}
+
+#ifndef _WIN32
+// As a program with windows starts it.
+TEST(SessionStart, NeedsNoStandardError)
+{
+    vrx::bridge::HostSession session({"/bin/sh", "-c", "exec \"$0\" translator stray one 2>&-", VRX_BRIDGE_TEST_PEER});
+    EXPECT_EQ(session.info().name(), WIDE("peer"));
+    vrx::bridge::Listener listener;
+    EXPECT_EQ(session.importFile(vrx::Command::newImportOptions(), listener).code(), vrx::Result::ECode::Ok);
+}
+
+TEST(SessionEnd, ByAnInterruptLeavesWhatIsIgnored)
+{
+    std::signal(SIGHUP, SIG_IGN); // as nohup does
+    vrx::bridge::HostSession session({VRX_BRIDGE_TEST_PEER, "translator"});
+    {
+        const vrx::bridge::CancelOnInterrupt cancelling(session);
+        EXPECT_THROW(vrx::bridge::CancelOnInterrupt{session}, std::logic_error);
+        std::raise(SIGHUP);
+        EXPECT_FALSE(session.isCancelled());
+        std::raise(SIGINT);
+        EXPECT_TRUE(session.isCancelled());
+    }
+    std::signal(SIGHUP, SIG_DFL);
+}
+#endif
+
+class Keeper : public vrx::bridge::Listener
+{
+public:
+    void onHead(const vrx::MessageHead& head) override { m_kept = head.bufferName; }
+    void onObject(const std::shared_ptr<vrx::IExchangeObject>& object) override
+    {
+        std::dynamic_pointer_cast<vrx::ExcBlockGeometry>(object)->own(false);
+    }
+    const mp::wstring& kept() const { return m_kept; }
+
+private:
+    mp::wstring m_kept;
+};
+
+TEST(SessionEnd, LeavesWhatItsListenerKeeps)
+{
+    Keeper keeper;
+    {
+        vrx::bridge::HostSession session({VRX_BRIDGE_TEST_PEER, "translator", "bodies", "exit"});
+        EXPECT_THROW(session.importFile(vrx::Command::newImportOptions(), keeper), vrx::bridge::TranslatorFailure);
+    }
+    EXPECT_TRUE(mp::SharedBuffer<char>::remove(keeper.kept()));
+}
+
+class KilledHost : public testing::TestWithParam<std::vector<std::string>>
+{
+};
+
+// The translator hears of its host's death by the end of its input.
+TEST_P(KilledHost, LeavesNothing)
+{
+    std::vector<std::string> command = {VRX_BRIDGE_TEST_PEER, "host"};
+    command.insert(command.end(), GetParam().begin(), GetParam().end());
     const vrx::bridge::BufferJournal journal;
-    vrx::bridge::ChildProcess host({VRX_BRIDGE_TEST_PEER, "host", "dies", "one", "two"}, &journal);
+    vrx::bridge::ChildProcess host(command, &journal);
     EXPECT_THAT(test::readAll(host.output()), HasSubstr("dies"));
     host.end();
     const auto isClear = [&journal] {
@@ -122,5 +206,9 @@ TEST(SessionEnd, OfAKilledHostLeavesNothing)
     }
     EXPECT_TRUE(isClear());
 }
+
+INSTANTIATE_TEST_SUITE_P(All, KilledHost,
+                         testing::Values(std::vector<std::string>{"dies", "one", "two"},
+                                         std::vector<std::string>{"exports-and-dies", "dawdle"}));
 
 } // namespace
