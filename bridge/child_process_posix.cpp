@@ -2,6 +2,7 @@
 #include "bridge/journal_files.h"
 #include "bridge/system_error_text.h"
 
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -85,6 +86,12 @@ public:
         posix_spawn_file_actions_adddup2(&m_actions, static_cast<int>(from), static_cast<int>(to));
     }
 
+    // What is written there is dropped.
+    void openNothing(int descriptor)
+    {
+        posix_spawn_file_actions_addopen(&m_actions, descriptor, "/dev/null", O_WRONLY, 0);
+    }
+
     pid_t start(std::vector<std::string> command, std::vector<std::string> environment)
     {
         pid_t process = 0;
@@ -114,6 +121,10 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command, const Buffer
     if (journal != nullptr)
     {
         plan.put(journal->inherited(), journal->inherited()); // which keeps it open in the child
+    }
+    if (::fcntl(STDERR_FILENO, F_GETFD) < 0)
+    {
+        plan.openNothing(STDERR_FILENO);
     }
     m_process = plan.start(command, environmentWith(journal));
     m_input = std::move(input.writeEnd);

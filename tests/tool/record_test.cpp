@@ -324,6 +324,26 @@ TEST_F(RecordTest, RemovesWhatAHostWasToldOfThatHangsUp)
     EXPECT_FALSE(exists(journal.names()[1]));
 }
 
+#ifndef _WIN32 // where a recorder that is killed takes its translator with it at once
+TEST_F(RecordTest, EndsATranslatorThatHangs)
+{
+    const mp::wstring buffer = madeBuffer("nobody reads of it");
+    vrx::bridge::ChildProcess host({"sh", "-c", R"(exec 4<&0; "$@" <&4 4<&- 3>&1 & sleep 0.2)", "sh", VRX_TOOL,
+                                    "record", "-o", m_path, "--", VRX_TOOL_TEST_PEER, "hangs"});
+    vrx::bridge::writeFrame(host.input(), kExport);
+    // More than the pipe to the translator holds.
+    vrx::bridge::writeFrame(host.input(), mp::wstring(1U << 20U, 'x'));
+    vrx::bridge::writeFrame(host.input(), envelopeOf(buffer));
+    host.closeInput();
+    // All who have it have ended then.
+    while (vrx::bridge::readFrame(host.output()))
+    {
+    }
+    EXPECT_THAT(frames().back().json, HasSubstr("Terminated"));
+    EXPECT_FALSE(exists(buffer));
+}
+#endif
+
 TEST_F(RecordTest, OverwritesNoFileUnasked)
 {
     std::ofstream(m_path) << "mine";
