@@ -237,6 +237,26 @@ TEST_F(RecordTest, KeepsTheTimesWhenAsked)
     EXPECT_GE(std::chrono::steady_clock::now() - begin, kGap);
 }
 
+TEST_F(RecordTest, ReplaysAroundWhatNobodyAnswered)
+{
+    {
+        capture::CaptureWriter writer(m_path, false);
+        writer.fromHost(WIDE("{\"unknown\": 1}"));
+        writer.fromHost(kPing);
+        writer.fromTranslator(kResult);
+        writer.fromHost(kExport);
+        writer.fromHost(kResult);
+        writer.fromTranslator(kResult);
+    }
+    // This host sends a command where the recorded one sent objects.
+    Host replayed(replayer());
+    replayed.send(kExport);
+    replayed.send(kPing);
+    EXPECT_THAT(replayed.receive().messages, ElementsAre(kResult));
+    EXPECT_THAT(replayed.receive().messages, ElementsAre(kResult));
+    EXPECT_EQ(replayed.end(), 0);
+}
+
 TEST_F(RecordTest, KeepsBuffersBeforeTheirMessages)
 {
     Host host(recorder());
