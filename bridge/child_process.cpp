@@ -6,6 +6,13 @@
 namespace vrx::bridge
 {
 
+namespace
+{
+
+constexpr std::chrono::seconds kTimeToEnd{2}; // for one that was asked to
+
+} // namespace
+
 ChildProcess::~ChildProcess()
 {
     end(std::chrono::milliseconds(0));
@@ -36,9 +43,14 @@ std::string ChildProcess::end(std::chrono::milliseconds grace)
     m_output.close();
     if (!wait(grace))
     {
-        kill();
-        wait(std::chrono::hours(1)); // for the system to clear it away
+        terminate();
+        if (!wait(kTimeToEnd))
+        {
+            kill();
+            wait(std::chrono::hours(1)); // for the system to clear it away
+        }
     }
+    release();
     return endInWords();
 }
 

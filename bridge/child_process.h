@@ -24,7 +24,7 @@ public:
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
 
-    /// Kills the child if it still runs.
+    /// Ends the child, without a grace, if it still runs.
     ~ChildProcess();
 
     const Stream& input() const { return m_input; }
@@ -36,14 +36,14 @@ public:
     /// Asks the child to end: closes its input and, on POSIX, sends SIGTERM.
     void terminate() noexcept;
 
-    /// Kills the child with all that it has started. Does nothing when the child has ended.
+    /// Kills the child with all that it has started, also when only the latter still runs. Does nothing after `end`.
     void kill() noexcept;
 
     /// Waits for its end, at most for this long, and tells whether it has ended.
     bool wait(std::chrono::milliseconds limit);
 
-    /// Closes the pipes, which ends a healthy child, kills one that still runs after the grace, and tells in words how
-    /// it ended.
+    /// Closes the pipes, which ends a healthy child, asks one that still runs after the grace to end, kills it two
+    /// seconds later, and tells in words how it ended.
     std::string end(std::chrono::milliseconds grace = std::chrono::seconds(1));
 
     /// What it gave when it exited by itself; nothing while it runs, and when it was killed.
@@ -51,6 +51,7 @@ public:
 
 private:
     bool hasEnded() noexcept;
+    void release() noexcept;
     std::string endInWords() const;
 
     Stream m_input;
@@ -60,9 +61,11 @@ private:
     OwnedHandle m_job;
     bool m_wasKilled = false; // by us
 #else
-    NativeHandle m_process = kNoHandle;
+    NativeHandle m_process = kNoHandle; // none when it was released, since the system gives the number to others then
+    bool m_hasEnded = false;
 #endif
-    std::optional<int> m_status; // how it ended, as the system tells it
+    std::optional<int>
+        m_status; // its exit code, or the number of a signal, negative; none when the system does not tell
 };
 
 } // namespace vrx::bridge

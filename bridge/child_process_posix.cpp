@@ -2,6 +2,7 @@
 #include "bridge/journal_files.h"
 #include "bridge/system_error_text.h"
 
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -68,6 +69,7 @@ public:
         posix_spawnattr_setsigmask(&m_attributes, &signals);
         sigaddset(&signals, SIGPIPE);
         sigaddset(&signals, SIGTERM);
+        sigaddset(&signals, SIGXFSZ);
         posix_spawnattr_setsigdefault(&m_attributes, &signals);
         posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
     }
@@ -82,6 +84,12 @@ public:
     void put(NativeHandle from, NativeHandle to)
     {
         posix_spawn_file_actions_adddup2(&m_actions, static_cast<int>(from), static_cast<int>(to));
+    }
+
+    // What is written there is dropped.
+    void openNothing(int descriptor)
+    {
+        posix_spawn_file_actions_addopen(&m_actions, descriptor, "/dev/null", O_WRONLY, 0);
     }
 
     pid_t start(std::vector<std::string> command, std::vector<std::string> environment)
@@ -114,6 +122,10 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command, const Buffer
     {
         plan.put(journal->inherited(), journal->inherited()); // which keeps it open in the child
     }
+    if (::fcntl(STDERR_FILENO, F_GETFD) < 0)
+    {
+        plan.openNothing(STDERR_FILENO);
+    }
     m_process = plan.start(command, environmentWith(journal));
     m_input = std::move(input.writeEnd);
     m_output = std::move(output.readEnd);
@@ -122,7 +134,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command, const Buffer
 void ChildProcess::terminate() noexcept
 {
     closeInput();
-    if (!hasEnded())
+    if (m_process != kNoHandle)
     {
         ::kill(-static_cast<pid_t>(m_process), SIGTERM);
     }
@@ -130,25 +142,49 @@ void ChildProcess::terminate() noexcept
 
 void ChildProcess::kill() noexcept
 {
-    if (!hasEnded())
+    if (m_process != kNoHandle)
     {
         ::kill(-static_cast<pid_t>(m_process), SIGKILL);
     }
 }
 
+// Until the child is released its number, which is that of its group too, is no other process's.
 bool ChildProcess::hasEnded() noexcept
 {
-    int status = 0;
-    if (!m_status && m_process != kNoHandle && ::waitpid(static_cast<pid_t>(m_process), &status, WNOHANG) > 0)
+    if (m_hasEnded || m_process == kNoHandle)
     {
-        m_status = status;
+        return m_hasEnded;
     }
-    return m_status.has_value();
+    siginfo_t end = {};
+    if (::waitid(P_PID, static_cast<id_t>(m_process), &end, WEXITED | WNOHANG | WNOWAIT) == 0)
+    {
+        m_hasEnded = end.si_pid != 0;
+        if (m_hasEnded)
+        {
+            m_status = end.si_code == CLD_EXITED ? end.si_status : -end.si_status;
+        }
+    }
+    else if (errno == ECHILD)
+    {
+        // Where SIGCHLD is ignored, the system has released the child.
+        m_hasEnded = true;
+        m_process = kNoHandle;
+    }
+    return m_hasEnded;
+}
+
+void ChildProcess::release() noexcept
+{
+    if (m_hasEnded && m_process != kNoHandle)
+    {
+        ::waitpid(static_cast<pid_t>(m_process), nullptr, WNOHANG);
+        m_process = kNoHandle;
+    }
 }
 
 std::optional<int> ChildProcess::exitCode() const
 {
-    return m_status && WIFEXITED(*m_status) ? std::optional<int>(WEXITSTATUS(*m_status)) : std::nullopt;
+    return m_status && *m_status >= 0 ? m_status : std::nullopt;
 }
 
 std::string ChildProcess::endInWords() const
@@ -159,9 +195,9 @@ std::string ChildProcess::endInWords() const
     }
     if (!m_status)
     {
-        return "it cannot be ended";
+        return m_hasEnded ? "it ended" : "it cannot be ended";
     }
-    const int number = WTERMSIG(*m_status);
+    const int number = -*m_status;
     return "it was ended by signal " + std::to_string(number) + " (" + ::strsignal(number) + ")";
 }
 

@@ -180,9 +180,13 @@ void ChildProcess::terminate() noexcept
 
 void ChildProcess::kill() noexcept
 {
-    if (!hasEnded())
+    const bool hadEnded = hasEnded();
+    if (m_job.isOpen())
     {
         TerminateJobObject(windowsHandle(m_job), 1);
+    }
+    if (!hadEnded)
+    {
         TerminateProcess(windowsHandle(m_process), 1); // where it could not be put in the job
         m_wasKilled = true;
     }
@@ -197,6 +201,11 @@ bool ChildProcess::hasEnded() noexcept
         m_status = static_cast<int>(code);
     }
     return m_status.has_value();
+}
+
+void ChildProcess::release() noexcept
+{
+    m_job.close();
 }
 
 std::optional<int> ChildProcess::exitCode() const

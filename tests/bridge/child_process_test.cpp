@@ -3,6 +3,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <csignal>
+
 #ifndef _WIN32
 #include <unistd.h>
 #endif
@@ -43,9 +46,34 @@ TEST(ChildProcess, IsKilledWhenItDoesNotEnd)
     ChildProcess child(peer({"hang"}));
     EXPECT_FALSE(child.wait(milliseconds(20)));
     const std::string end = child.end(milliseconds(20));
-    EXPECT_THAT(end, testing::AnyOf("it was ended by signal 9 (Killed)", "it was killed"));
+    EXPECT_THAT(end, testing::AnyOf("it was ended by signal 15 (Terminated)", "it was killed"));
     EXPECT_EQ(child.exitCode(), std::nullopt);
 }
+
+#ifndef _WIN32
+TEST(ChildProcess, CanBeKilledWithWhatItsStarterLeaves)
+{
+    const std::string script = "(trap '' TERM; echo ready; exec \"$0\" hang) & wait";
+    ChildProcess child({"sh", "-c", script, VRX_BRIDGE_TEST_PEER});
+    char text[16] = "";
+    ASSERT_GT(child.output().readSome(text, sizeof(text)), 0U);
+    child.terminate();
+    ASSERT_TRUE(child.wait(seconds(20)));
+    EXPECT_FALSE(child.output().isReady());
+    child.kill();
+    EXPECT_EQ(test::readAll(child.output()), "");
+    EXPECT_EQ(child.end(), "it was ended by signal 15 (Terminated)");
+}
+
+TEST(ChildProcess, EndsWhereNobodyWaitsForChildren)
+{
+    const auto before = std::signal(SIGCHLD, SIG_IGN);
+    ChildProcess child(peer({"words"}));
+    EXPECT_EQ(child.end(seconds(20)), "it ended");
+    EXPECT_EQ(child.exitCode(), std::nullopt);
+    std::signal(SIGCHLD, before);
+}
+#endif
 
 TEST(ChildProcess, NotesItsBuffersInEachJournal)
 {

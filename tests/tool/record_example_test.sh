@@ -91,7 +91,6 @@ none_is_left "after cut captures"
 # A disk that is full ends the recording, and not the session.
 cat >"$scratch/short_of_room" <<END
 #!/bin/sh
-trap '' XFSZ
 ulimit -S -f 200
 . "$scratch/recorder"
 END

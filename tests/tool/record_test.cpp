@@ -237,6 +237,26 @@ TEST_F(RecordTest, KeepsTheTimesWhenAsked)
     EXPECT_GE(std::chrono::steady_clock::now() - begin, kGap);
 }
 
+TEST_F(RecordTest, ReplaysAroundWhatNobodyAnswered)
+{
+    {
+        capture::CaptureWriter writer(m_path, false);
+        writer.fromHost(WIDE("{\"unknown\": 1}"));
+        writer.fromHost(kPing);
+        writer.fromTranslator(kResult);
+        writer.fromHost(kExport);
+        writer.fromHost(kResult);
+        writer.fromTranslator(kResult);
+    }
+    // This host sends a command where the recorded one sent objects.
+    Host replayed(replayer());
+    replayed.send(kExport);
+    replayed.send(kPing);
+    EXPECT_THAT(replayed.receive().messages, ElementsAre(kResult));
+    EXPECT_THAT(replayed.receive().messages, ElementsAre(kResult));
+    EXPECT_EQ(replayed.end(), 0);
+}
+
 TEST_F(RecordTest, KeepsBuffersBeforeTheirMessages)
 {
     Host host(recorder());
@@ -323,6 +343,26 @@ TEST_F(RecordTest, RemovesWhatAHostWasToldOfThatHangsUp)
     EXPECT_FALSE(exists(journal.names()[0]));
     EXPECT_FALSE(exists(journal.names()[1]));
 }
+
+#ifndef _WIN32 // where a recorder that is killed takes its translator with it at once
+TEST_F(RecordTest, EndsATranslatorThatHangs)
+{
+    const mp::wstring buffer = madeBuffer("nobody reads of it");
+    vrx::bridge::ChildProcess host({"sh", "-c", R"(exec 4<&0; "$@" <&4 4<&- 3>&1 & sleep 0.2)", "sh", VRX_TOOL,
+                                    "record", "-o", m_path, "--", VRX_TOOL_TEST_PEER, "hangs"});
+    vrx::bridge::writeFrame(host.input(), kExport);
+    // More than the pipe to the translator holds.
+    vrx::bridge::writeFrame(host.input(), mp::wstring(1U << 20U, 'x'));
+    vrx::bridge::writeFrame(host.input(), envelopeOf(buffer));
+    host.closeInput();
+    // All who have it have ended then.
+    while (vrx::bridge::readFrame(host.output()))
+    {
+    }
+    EXPECT_THAT(frames().back().json, HasSubstr("Terminated"));
+    EXPECT_FALSE(exists(buffer));
+}
+#endif
 
 TEST_F(RecordTest, OverwritesNoFileUnasked)
 {

@@ -1,5 +1,6 @@
-// A translator for the tests of the recorder: vrx_tool_test_peer [dies]
-// An import tells of a buffer and of one that is not there; one that dies ends before its result, with exit code 3.
+// A translator for the tests of the recorder: vrx_tool_test_peer [dies | hangs]
+// An import tells of a buffer and of one that is not there; one that dies ends before its result, with exit code 3. One
+// that hangs reads nothing.
 
 #include "bridge/buffer_journal.h"
 #include "bridge/frames.h"
@@ -7,9 +8,11 @@
 #include "vrx_api/exchange/exchange_object.h"
 #include "vrx_api/exchange/peek_envelope.h"
 
+#include <chrono>
 #include <exception>
 #include <iostream>
 #include <string>
+#include <thread>
 
 namespace
 {
@@ -38,8 +41,12 @@ bool hasWord(const mp::wstring& text, const mp::wchar* word)
     return text.find(word) != mp::wstring::npos;
 }
 
-int serve(bool dies)
+int serve(const std::string& manner)
 {
+    if (manner == "hangs")
+    {
+        std::this_thread::sleep_for(std::chrono::minutes(1));
+    }
     const Stream host = Stream::standardInput();
     const Stream toHost = Stream::standardOutput();
     int count = 0;
@@ -50,7 +57,7 @@ int serve(bool dies)
             ++count;
             vrx::bridge::writeFrame(toHost, envelope(makeBuffer(std::string(70000, static_cast<char>('a' + count)))));
             vrx::bridge::writeFrame(toHost, envelope(WIDE("00000000-0000-4000-8000-000000000000")));
-            if (dies)
+            if (manner == "dies")
             {
                 makeBuffer("nobody is told of this");
                 return 3;
@@ -71,12 +78,12 @@ int serve(bool dies)
 
 } // namespace
 
-int main(int count, char**)
+int main(int count, char** words)
 {
     try
     {
         vrx::bridge::keepInheritedJournals();
-        return serve(count > 1);
+        return serve(count > 1 ? words[1] : "");
     }
     catch (const std::exception& failure)
     {

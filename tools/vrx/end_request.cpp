@@ -17,6 +17,10 @@ void takeEndSignals()
 {
     static_cast<void>(std::signal(SIGTERM, onEndSignal));
     static_cast<void>(std::signal(SIGINT, onEndSignal));
+#ifndef _WIN32
+    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+#endif
 }
 
 } // namespace tool

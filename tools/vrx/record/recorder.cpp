@@ -5,7 +5,11 @@
 #include "end_request.h"
 #include "unloaded_buffers.h"
 
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
+#include <exception>
+#include <future>
 #include <iostream>
 #include <optional>
 #include <thread>
@@ -17,10 +21,12 @@ namespace
 {
 
 using namespace std::chrono_literals;
+using std::chrono::steady_clock;
 using vrx::bridge::StreamError;
 
 constexpr auto kGrace = 1500ms; // for a translator that was asked to end
 constexpr auto kPause = 10ms;
+constexpr auto kLastBytes = 100ms; // what a dead host had written is there at once
 
 } // namespace
 
@@ -33,9 +39,12 @@ int Recorder::run(Recording& recording)
 {
     m_recording = &recording;
     tool::takeEndSignals();
-    std::thread commands([this] { passCommands(); });
+    std::future<void> watch = std::async(std::launch::async, [this] { watchHost(); });
+    std::future<void> commands = std::async(std::launch::async, [this] { passCommands(); });
     passAnswers();
-    commands.join();
+    commands.wait();
+    m_isDone = true;
+    commands.get();
     const std::string howItEnded = m_translator.end();
     const std::optional<int> exitCode = m_translator.exitCode();
     const std::set<mp::wstring> left = tool::unloadedBuffers(recording.told(), [this] { return isHostGone(); });
@@ -70,22 +79,23 @@ void Recorder::passAnswers()
             }
         }
     }
-    catch (const StreamError& failure)
+    catch (const std::exception& failure)
     {
         std::cerr << "vrx record: the translator's output: " << failure.what() << '\n';
         tool::isToEnd = true;
     }
     // The host hears of the end at once.
     m_toHost.close();
+    m_hasAllAnswers = true;
 }
 
 // Is alone with the translator's input and with its end.
 void Recorder::passCommands()
 {
+    vrx::bridge::FrameReader commands(m_fromHost);
     const vrx::bridge::Wait wait{std::nullopt, &tool::isToEnd};
     try
     {
-        vrx::bridge::FrameReader commands(m_fromHost);
         while (const std::optional<mp::wstring> message = commands.read(wait))
         {
             m_recording->fromHost(*message);
@@ -96,7 +106,7 @@ void Recorder::passCommands()
     {
         // The translator is ended below.
     }
-    catch (const StreamError& failure)
+    catch (const std::exception& failure)
     {
         std::cerr << "vrx record: the host's commands: " << failure.what() << '\n';
     }
@@ -107,6 +117,25 @@ void Recorder::passCommands()
     }
     m_translator.closeInput();
     endTranslator();
+    dropCommands(commands);
+}
+
+// A dead host's translator gets a moment to end by itself.
+void Recorder::watchHost() const
+{
+    auto end = steady_clock::time_point::max();
+    while (!m_isDone && steady_clock::now() < end)
+    {
+        std::this_thread::sleep_for(kPause);
+        if (m_host.hasEnded())
+        {
+            end = std::min(end, steady_clock::now() + kGrace);
+        }
+    }
+    if (!m_isDone)
+    {
+        tool::isToEnd = true;
+    }
 }
 
 // Waits for the end of the translator, and brings it about when that is asked for.
@@ -114,15 +143,37 @@ void Recorder::endTranslator()
 {
     while (!tool::isToEnd)
     {
-        if (m_translator.wait(kPause))
+        if (hasTranslatorEnded())
         {
             return;
         }
+        std::this_thread::sleep_for(kPause);
     }
     m_translator.terminate();
-    if (!m_translator.wait(kGrace))
+    m_translator.wait(kGrace);
+    m_translator.kill(); // with what may be left of those that it started
+}
+
+// One of those that it started may go on with its output.
+bool Recorder::hasTranslatorEnded()
+{
+    return m_hasAllAnswers && m_translator.wait(0ms);
+}
+
+// A host that was stopped, or died, within an export told of buffers that nobody loads.
+void Recorder::dropCommands(vrx::bridge::FrameReader& commands)
+{
+    const vrx::bridge::Wait wait{steady_clock::now() + kLastBytes, nullptr};
+    try
     {
-        m_translator.kill();
+        while (const std::optional<mp::wstring> message = commands.read(wait))
+        {
+            m_recording->fromHost(*message);
+        }
+    }
+    catch (const StreamError&)
+    {
+        // A living host has no more for us, or removes what it told of by itself.
     }
 }
 
@@ -141,7 +192,14 @@ void Recorder::removeBuffers() const
     }
     for (const mp::wstring& name : m_recording->told())
     {
-        isHostGone() ? undelivered.add(name) : undelivered.delivered(name);
+        if (isHostGone())
+        {
+            undelivered.add(name);
+        }
+        else
+        {
+            undelivered.delivered(name);
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "bridge/buffer_journal.h"
 #include "bridge/child_process.h"
+#include "bridge/frames.h"
 #include "bridge/stream.h"
 #include "parent_process.h"
 #include "record/recording.h"
@@ -30,7 +31,10 @@ public:
 private:
     void passAnswers();
     void passCommands();
+    void watchHost() const;
     void endTranslator();
+    bool hasTranslatorEnded();
+    void dropCommands(vrx::bridge::FrameReader& commands);
     bool isHostGone() const;
     void removeBuffers() const;
 
@@ -42,6 +46,8 @@ private:
     vrx::bridge::ChildProcess m_translator;
     std::set<mp::wstring> m_unloaded;
     std::atomic<bool> m_hostTakesNothing = false;
+    std::atomic<bool> m_hasAllAnswers = false;
+    std::atomic<bool> m_isDone = false;
 };
 
 } // namespace record

@@ -16,6 +16,21 @@ namespace
 using capture::EFrame;
 using vrx::EMessageKind;
 
+// What a translator may say to a message that it does not know.
+bool isError(const mp::wstring& message)
+{
+    mp::wstringstream stream(message);
+    vrx::JsonDocument document;
+    vrx::JsonTextIO::read(stream, document);
+    if (!document.IsObject())
+    {
+        return false;
+    }
+    const auto code = document.FindMember(WIDE("code"));
+    return code != document.MemberEnd() && code->value.IsString() &&
+           mp::wstring(code->value.GetString()) == WIDE("error");
+}
+
 // Finds the commands and gives the answers to them: a translator answers one command after the other.
 class Exchanges
 {
@@ -39,7 +54,7 @@ public:
             break;
         case EFrame::FromTranslator:
             m_buffers.push_back(frame.place);
-            addAnswer(vrx::peekEnvelope(frame.message).kind);
+            addAnswer(frame.message);
             m_buffers.clear();
             break;
         case EFrame::Start:
@@ -55,7 +70,8 @@ private:
         const EMessageKind kind = vrx::peekEnvelope(frame.message).kind;
         if (kind == EMessageKind::Command || kind == EMessageKind::Unknown)
         {
-            m_exchanges.push_back({commandIn(frame.message), frame.time, {}, false, false});
+            m_exchanges.push_back(
+                {commandIn(frame.message), frame.time, {}, false, false, kind == EMessageKind::Unknown});
         }
         else if (kind == EMessageKind::Result && !m_exchanges.empty())
         {
@@ -63,8 +79,13 @@ private:
         }
     }
 
-    void addAnswer(EMessageKind kind)
+    void addAnswer(const mp::wstring& message)
     {
+        const EMessageKind kind = vrx::peekEnvelope(message).kind;
+        while (m_current + 1 < m_exchanges.size() && m_exchanges[m_current].isUnknown && !isError(message))
+        {
+            ++m_current;
+        }
         if (m_current == m_exchanges.size())
         {
             return; // Nobody asked.

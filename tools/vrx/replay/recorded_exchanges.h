@@ -20,6 +20,7 @@ struct Exchange
     std::vector<std::uint64_t> places; ///< Of the translator's messages and, before each, its buffer.
     bool isAnswered = false;           ///< The translator came to its last answer.
     bool hasObjects = false;           ///< The host sent objects with it, and a result as their end.
+    bool isUnknown = false;            ///< It is none that a translator must answer.
 };
 
 /// The type of a command as it stands in its text; empty for a message that is no command.

@@ -12,9 +12,11 @@
 #include "vrx_api/exchange/peek_envelope.h"
 
 #include <algorithm>
+#include <exception>
 #include <iostream>
 #include <optional>
 #include <thread>
+#include <utility>
 
 namespace replay
 {
@@ -25,6 +27,7 @@ namespace
 using std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kLongestPause{20};
+constexpr std::chrono::milliseconds kLastBytes{100}; // what a dead host had written is there at once
 
 vrx::bridge::Wait untilEnd()
 {
@@ -73,9 +76,10 @@ int Replayer::run()
     {
         isAnswered = answerAll();
     }
-    catch (const vrx::bridge::StreamError& failure)
+    catch (const std::exception& failure)
     {
         std::cerr << "vrx replay: " << failure.what() << '\n';
+        dropMessages();
     }
     removeBuffers();
     return isAnswered ? 0 : 1;
@@ -84,7 +88,7 @@ int Replayer::run()
 // False when a command has no answer.
 bool Replayer::answerAll()
 {
-    while (const std::optional<mp::wstring> message = m_messages.read(untilEnd()))
+    while (const std::optional<mp::wstring> message = nextMessage())
     {
         const vrx::MessageHead head = vrx::peekEnvelope(*message);
         if (head.kind != vrx::EMessageKind::Command && head.kind != vrx::EMessageKind::Unknown)
@@ -128,17 +132,45 @@ void Replayer::removeBuffers() const
     }
 }
 
-// Up to the result that is their end.
+std::optional<mp::wstring> Replayer::nextMessage()
+{
+    return m_nextCommand ? std::exchange(m_nextCommand, std::nullopt) : m_messages.read(untilEnd());
+}
+
+// Up to the result that is their end, or to the next command where there is none.
 void Replayer::dropObjects()
 {
-    std::optional<mp::wstring> message;
-    vrx::MessageHead head;
-    do
+    while (std::optional<mp::wstring> message = nextMessage())
     {
-        message = m_messages.read(untilEnd());
-        head = message ? vrx::peekEnvelope(*message) : vrx::MessageHead();
+        const vrx::MessageHead head = vrx::peekEnvelope(*message);
+        if (head.kind == vrx::EMessageKind::Command)
+        {
+            m_nextCommand = std::move(message);
+            return;
+        }
         remove(head.bufferName);
-    } while (message && head.kind != vrx::EMessageKind::Result);
+        if (head.kind == vrx::EMessageKind::Result)
+        {
+            return;
+        }
+    }
+}
+
+// A host that was stopped, or died, within an export told of buffers that nobody loads.
+void Replayer::dropMessages()
+{
+    const vrx::bridge::Wait wait{steady_clock::now() + kLastBytes, nullptr};
+    try
+    {
+        while (const std::optional<mp::wstring> message = m_messages.read(wait))
+        {
+            remove(vrx::peekEnvelope(*message).bufferName);
+        }
+    }
+    catch (const vrx::bridge::StreamError&)
+    {
+        // A living host has no more for us, or removes what it told of by itself.
+    }
 }
 
 // When the host takes no more, the buffers that it was told of in this exchange are removed.

@@ -7,6 +7,7 @@
 #include "replay/recorded_exchanges.h"
 
 #include <istream>
+#include <optional>
 #include <set>
 
 namespace replay
@@ -27,7 +28,9 @@ public:
 private:
     bool answerAll();
     void removeBuffers() const;
+    std::optional<mp::wstring> nextMessage();
     void dropObjects();
+    void dropMessages();
     void play(const Exchange& exchange);
     void refuse(const mp::wstring& command) const;
 
@@ -38,6 +41,7 @@ private:
     vrx::bridge::Stream m_fromHost = vrx::bridge::Stream::standardInput();
     vrx::bridge::FrameReader m_messages{m_fromHost};
     vrx::bridge::Stream m_toHost = vrx::bridge::Stream::takeStandardOutput();
+    std::optional<mp::wstring> m_nextCommand; // which was read already
     std::set<mp::wstring> m_told;
     bool m_isHostDone = false; // it closed its side
 };
