@@ -23,7 +23,9 @@ namespace vrx::bridge
 //   ping        one `Result`
 //   export      any number of envelopes that tell of its progress, then one `Result`
 //   other       one `Result`, an error
-// It ends when its standard input is closed.
+// It ends when its standard input is closed. One that ends earlier closes its standard output and waits for that,
+// before it removes what nobody has loaded: the host closes the pipe when it has read to the end and loaded what it
+// wants.
 
 /// Reads one message after the other.
 class VRX_BRIDGE FrameReader
