@@ -123,6 +123,18 @@ void Recording::fromTranslator(const mp::wstring& message)
     print("translator: ", head, message.size());
 }
 
+void Recording::strayFromHost(std::string_view bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    write([&](capture::CaptureWriter& writer) { writer.strayFromHost(bytes); });
+}
+
+void Recording::strayFromTranslator(std::string_view bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    write([&](capture::CaptureWriter& writer) { writer.strayFromTranslator(bytes); });
+}
+
 void Recording::end(const std::set<mp::wstring>& unloaded, std::optional<int> exitCode, const std::string& howItEnded)
 {
     ObjectText object;
