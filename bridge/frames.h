@@ -42,6 +42,9 @@ public:
     /// most. After TimedOut and Cancelled the next call goes on where this one was left.
     std::optional<mp::wstring> read(const Wait& wait = {});
 
+    /// The bytes that were read and are no whole message.
+    const std::string& rest() const { return m_bytes; }
+
 private:
     bool fill(std::size_t size, const Wait& wait);
 

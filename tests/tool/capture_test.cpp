@@ -22,7 +22,7 @@ namespace
 {
 
 // The example of docs/capture_format.md.
-const std::string kHeader = bytes("89565258 0D0A1A0A 0100 0000 C425EF0D");
+const std::string kHeader = bytes("89565258 0D0A1A0A 0100 0100 8514F414");
 const std::vector<std::string> kFrames = {
     bytes("01000000 0000000000000000 0200000000000000 7B7D A1A88B59"),
     bytes("02000000 E803000000000000 0400000000000000 7B007D00 5CFD2B25"),
@@ -172,7 +172,7 @@ TEST(CaptureReader, PassesOverUnknownKindsAndReadsHigherMinorVersions)
 {
     std::string later = kHeader.substr(0, 10) + bytes("0700");
     capture::appendNumber(later, capture::checksum(0, later.data(), later.size()));
-    later += frameOf(8, "something") + kFrames[1] + frameOf(0, "") + frameOf(0xFFFFFFFF, "x");
+    later += frameOf(10, "something") + kFrames[1] + frameOf(0, "") + frameOf(0xFFFFFFFF, "x");
     const Contents contents = read(later);
     EXPECT_THAT(contents.lines, ElementsAre("2 @1000 {}:"));
     EXPECT_FALSE(contents.isCut);
@@ -238,9 +238,10 @@ TEST(CaptureWriter, WritesWhatTheReaderReads)
         writer.missingBuffer(WIDE("b2"));
         writer.fromTranslator(WIDE(""));
         writer.unloadedBuffers({WIDE("b1"), WIDE("")});
+        writer.strayFromTranslator("a line");
         writer.end("{}");
         // What was written is there before the writer has ended.
-        EXPECT_EQ(read(file.content()).lines.size(), 8U);
+        EXPECT_EQ(read(file.content()).lines.size(), 9U);
     }
     std::istringstream stream(file.content());
     capture::CaptureReader reader(stream);
@@ -250,7 +251,7 @@ TEST(CaptureWriter, WritesWhatTheReaderReads)
         EXPECT_GE(frame.time, frames.empty() ? frame.time : frames.back().time);
         frames.push_back(frame);
     }
-    ASSERT_EQ(frames.size(), 8U);
+    ASSERT_EQ(frames.size(), 9U);
     EXPECT_EQ(frames[0].json, R"({"recorder": "test"})");
     EXPECT_EQ(frames[1].message, odd);
     EXPECT_EQ(frames[2].name, WIDE("b1"));
@@ -259,7 +260,8 @@ TEST(CaptureWriter, WritesWhatTheReaderReads)
     EXPECT_EQ(frames[4].kind, EFrame::MissingBuffer);
     EXPECT_EQ(frames[5].kind, EFrame::FromTranslator);
     EXPECT_THAT(frames[6].names, ElementsAre(WIDE("b1"), WIDE("")));
-    EXPECT_EQ(frames[7].kind, EFrame::End);
+    EXPECT_EQ(std::string(frames[7].content.begin(), frames[7].content.end()), "a line");
+    EXPECT_EQ(frames[8].kind, EFrame::End);
 }
 
 TEST(CaptureWriter, OverwritesOnlyWhenItMay)

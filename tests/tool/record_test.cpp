@@ -364,6 +364,31 @@ TEST_F(RecordTest, EndsATranslatorThatHangs)
 }
 #endif
 
+TEST_F(RecordTest, PassesOnWhatIsNoMessage)
+{
+    vrx::bridge::ChildProcess translator(recorder({"prints"}));
+    vrx::bridge::writeFrame(translator.input(), kPing);
+    ASSERT_TRUE(vrx::bridge::readFrame(translator.output()));
+    translator.closeInput();
+    std::string passed;
+    char piece[64];
+    while (const std::size_t size = translator.output().readSome(piece, sizeof(piece)))
+    {
+        passed.append(piece, size);
+    }
+    EXPECT_EQ(passed, "a stray line\n");
+    EXPECT_EQ(translator.end(std::chrono::seconds(20)), "it exited with code 0");
+    std::string kept;
+    for (const capture::Frame& frame : frames())
+    {
+        if (frame.kind == EFrame::StrayFromTranslator)
+        {
+            kept.append(frame.content.begin(), frame.content.end());
+        }
+    }
+    EXPECT_EQ(kept, passed);
+}
+
 TEST_F(RecordTest, OverwritesNoFileUnasked)
 {
     std::ofstream(m_path) << "mine";

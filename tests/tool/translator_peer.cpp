@@ -1,6 +1,6 @@
-// A translator for the tests of the recorder: vrx_tool_test_peer [dies | hangs]
+// A translator for the tests of the recorder: vrx_tool_test_peer [dies | hangs | prints]
 // An import tells of a buffer and of one that is not there; one that dies ends before its result, with exit code 3. One
-// that hangs reads nothing.
+// that hangs reads nothing; one that prints writes a line after each answer.
 
 #include "bridge/buffer_journal.h"
 #include "bridge/frames.h"
@@ -72,6 +72,10 @@ int serve(const std::string& manner)
             } while (message && vrx::peekEnvelope(*message).kind != vrx::EMessageKind::Result);
         }
         vrx::bridge::writeFrame(toHost, WIDE("{\"code\":\"ok\", \"message\":\"\xD800\"}"));
+        if (manner == "prints")
+        {
+            toHost.writeAll("a stray line\n", 13);
+        }
     }
     return 0;
 }

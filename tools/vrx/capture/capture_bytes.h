@@ -15,7 +15,7 @@ inline constexpr std::array<char, 8> kMagic = {'\x89', 'V', 'R', 'X', '\r', '\n'
 
 /// A reader refuses a higher major version. A higher minor version brings kinds of frames that older readers pass over.
 inline constexpr std::uint16_t kMajorVersion = 1;
-inline constexpr std::uint16_t kMinorVersion = 0;
+inline constexpr std::uint16_t kMinorVersion = 1;
 
 /// The magic, two versions and the checksum of these.
 inline constexpr std::size_t kHeaderSize = 16;

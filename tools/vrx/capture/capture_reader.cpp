@@ -95,6 +95,10 @@ void decode(std::vector<char>& payload, Frame& frame)
         payload.erase(payload.begin(), payload.begin() + static_cast<std::ptrdiff_t>(parts.done()));
         frame.content.swap(payload);
         break;
+    case EFrame::StrayFromHost:
+    case EFrame::StrayFromTranslator:
+        frame.content.swap(payload);
+        break;
     case EFrame::MissingBuffer:
         frame.name = parts.restAsText();
         break;
@@ -123,7 +127,7 @@ std::uint64_t sizeOf(std::istream& stream)
 
 bool isKnown(EFrame kind)
 {
-    return kind >= EFrame::Start && kind <= EFrame::End;
+    return kind >= EFrame::Start && kind <= EFrame::StrayFromTranslator;
 }
 
 } // namespace

@@ -22,7 +22,7 @@ struct Frame
     std::string json;               ///< Start, End: in UTF-8.
     mp::wstring message;            ///< FromHost, FromTranslator.
     mp::wstring name;               ///< Buffer, MissingBuffer.
-    std::vector<char> content;      ///< Buffer.
+    std::vector<char> content;      ///< Buffer, StrayFromHost, StrayFromTranslator.
     std::vector<mp::wstring> names; ///< UnloadedBuffers.
 };
 

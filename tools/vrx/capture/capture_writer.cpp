@@ -64,6 +64,16 @@ void CaptureWriter::fromTranslator(const mp::wstring& message)
     writeFrame(EFrame::FromTranslator, unitsOf(message));
 }
 
+void CaptureWriter::strayFromHost(std::string_view bytes)
+{
+    writeFrame(EFrame::StrayFromHost, bytes);
+}
+
+void CaptureWriter::strayFromTranslator(std::string_view bytes)
+{
+    writeFrame(EFrame::StrayFromTranslator, bytes);
+}
+
 void CaptureWriter::buffer(const mp::wstring& name, const char* content, std::uint64_t size)
 {
     std::string payload;

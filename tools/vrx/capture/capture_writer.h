@@ -29,6 +29,8 @@ public:
 
     void fromHost(const mp::wstring& message);
     void fromTranslator(const mp::wstring& message);
+    void strayFromHost(std::string_view bytes);
+    void strayFromTranslator(std::string_view bytes);
 
     /// The content is written from where it lies.
     void buffer(const mp::wstring& name, const char* content, std::uint64_t size);

@@ -6,12 +6,14 @@
 #include "unloaded_buffers.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <exception>
 #include <future>
 #include <iostream>
 #include <optional>
+#include <string_view>
 #include <thread>
 
 namespace record
@@ -27,6 +29,20 @@ using vrx::bridge::StreamError;
 constexpr auto kGrace = 1500ms; // for a translator that was asked to end
 constexpr auto kPause = 10ms;
 constexpr auto kLastBytes = 100ms; // what a dead host had written is there at once
+
+// Passes the bytes on that are no message, and all after them. There are none where another stream has failed.
+template <class Keep>
+void passStray(const vrx::bridge::FrameReader& reader, const vrx::bridge::Stream& from, const vrx::bridge::Stream& to,
+               const vrx::bridge::Wait& wait, const Keep& keep)
+{
+    std::array<char, 16384> piece{};
+    for (std::string bytes = reader.rest(); !bytes.empty();
+         bytes.assign(piece.data(), from.readSome(piece.data(), piece.size(), wait)))
+    {
+        keep(bytes);
+        to.writeAll(bytes.data(), bytes.size(), wait);
+    }
+}
 
 } // namespace
 
@@ -58,25 +74,21 @@ int Recorder::run(Recording& recording)
     return exitCode.value_or(1);
 }
 
-// Ends with the translator's output. A host that is gone does not end it: what the translator tells of until its own
-// end is still to be removed.
+// Ends with the translator's output.
 void Recorder::passAnswers()
 {
     try
     {
         vrx::bridge::FrameReader answers(m_translator.output());
-        while (const std::optional<mp::wstring> message = answers.read())
+        try
         {
-            m_recording->fromTranslator(*message);
-            try
-            {
-                vrx::bridge::writeFrame(m_toHost, *message);
-            }
-            catch (const StreamError&)
-            {
-                m_hostTakesNothing = true;
-                tool::isToEnd = true;
-            }
+            passMessages(answers);
+        }
+        catch (const StreamError& failure)
+        {
+            std::cerr << "vrx record: the translator's output: " << failure.what() << '\n';
+            passStray(answers, m_translator.output(), m_toHost, {},
+                      [this](std::string_view bytes) { m_recording->strayFromTranslator(bytes); });
         }
     }
     catch (const std::exception& failure)
@@ -89,6 +101,24 @@ void Recorder::passAnswers()
     m_hasAllAnswers = true;
 }
 
+// A host that is gone does not end it: what the translator tells of until its own end is still to be removed.
+void Recorder::passMessages(vrx::bridge::FrameReader& answers)
+{
+    while (const std::optional<mp::wstring> message = answers.read())
+    {
+        m_recording->fromTranslator(*message);
+        try
+        {
+            vrx::bridge::writeFrame(m_toHost, *message);
+        }
+        catch (const StreamError&)
+        {
+            m_hostTakesNothing = true;
+            tool::isToEnd = true;
+        }
+    }
+}
+
 // Is alone with the translator's input and with its end.
 void Recorder::passCommands()
 {
@@ -96,10 +126,23 @@ void Recorder::passCommands()
     const vrx::bridge::Wait wait{std::nullopt, &tool::isToEnd};
     try
     {
-        while (const std::optional<mp::wstring> message = commands.read(wait))
+        try
         {
-            m_recording->fromHost(*message);
-            vrx::bridge::writeFrame(m_translator.input(), *message, wait);
+            while (const std::optional<mp::wstring> message = commands.read(wait))
+            {
+                m_recording->fromHost(*message);
+                vrx::bridge::writeFrame(m_translator.input(), *message, wait);
+            }
+        }
+        catch (const vrx::bridge::Cancelled&)
+        {
+            throw;
+        }
+        catch (const StreamError& failure)
+        {
+            std::cerr << "vrx record: the host's commands: " << failure.what() << '\n';
+            passStray(commands, m_fromHost, m_translator.input(), wait,
+                      [this](std::string_view bytes) { m_recording->strayFromHost(bytes); });
         }
     }
     catch (const vrx::bridge::Cancelled&)

@@ -30,6 +30,7 @@ public:
 
 private:
     void passAnswers();
+    void passMessages(vrx::bridge::FrameReader& answers);
     void passCommands();
     void watchHost() const;
     void endTranslator();

@@ -1,5 +1,6 @@
 #include "record/recording.h"
 
+#include "buffers/buffers.h"
 #include "mp/exception.h"
 #include "mp/narrow.h"
 #include "mp/shared_buffer.h"
@@ -123,6 +124,18 @@ void Recording::fromTranslator(const mp::wstring& message)
     print("translator: ", head, message.size());
 }
 
+void Recording::strayFromHost(std::string_view bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    write([&](capture::CaptureWriter& writer) { writer.strayFromHost(bytes); });
+}
+
+void Recording::strayFromTranslator(std::string_view bytes)
+{
+    const std::lock_guard lock(m_mutex);
+    write([&](capture::CaptureWriter& writer) { writer.strayFromTranslator(bytes); });
+}
+
 void Recording::end(const std::set<mp::wstring>& unloaded, std::optional<int> exitCode, const std::string& howItEnded)
 {
     ObjectText object;
@@ -151,11 +164,18 @@ bool Recording::isAnswered() const
     return m_unanswered <= 0;
 }
 
-// What cannot be opened is missing for its reader, too.
+// What cannot be opened is missing for its reader, too. Under a name of another form stands what is none of ours, which
+// is neither copied nor removed. The buffer lies in memory that others can cut while it is copied, which kills us: a
+// translator or host that does so is hostile.
 void Recording::keepBuffer(const mp::wstring& name)
 {
     if (name.empty())
     {
+        return;
+    }
+    if (!buffers::isBufferName(mp::toNarrow(name)))
+    {
+        write([&](capture::CaptureWriter& writer) { writer.missingBuffer(name); });
         return;
     }
     m_told.insert(name);

@@ -10,6 +10,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace record
@@ -28,6 +29,10 @@ public:
     /// With the content of the buffer that the message names.
     void fromHost(const mp::wstring& message);
     void fromTranslator(const mp::wstring& message);
+
+    /// Bytes that are no message.
+    void strayFromHost(std::string_view bytes);
+    void strayFromTranslator(std::string_view bytes);
 
     void end(const std::set<mp::wstring>& unloaded, std::optional<int> exitCode, const std::string& howItEnded);
 

@@ -60,6 +60,8 @@ public:
         case EFrame::Start:
         case EFrame::UnloadedBuffers:
         case EFrame::End:
+        case EFrame::StrayFromHost:
+        case EFrame::StrayFromTranslator:
             break;
         }
     }
