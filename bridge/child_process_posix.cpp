@@ -140,7 +140,7 @@ void ChildProcess::terminate() noexcept
     }
 }
 
-void ChildProcess::kill() noexcept
+void ChildProcess::kill() noexcept // NOLINT(readability-make-member-function-const): not so on Windows
 {
     if (m_process != kNoHandle)
     {
