@@ -243,10 +243,17 @@ TEST(Check, DepthIsNoDanger)
     {
         text += "]}";
     }
-    const std::vector<std::string> lines = check("ExcVisuNode", text);
-    ASSERT_EQ(lines.size(), 1U);
-    EXPECT_THAT(lines[0],
-                testing::MatchesRegex(R"(wrong-kind (/child_nodes/0){10}/\.\.\.(/0/child_nodes){9}/0/is_leaf)"));
+    std::string place;
+    for (int i = 0; i < 10; ++i)
+    {
+        place += "/child_nodes/0";
+    }
+    place += "/...";
+    for (int i = 0; i < 9; ++i)
+    {
+        place += "/0/child_nodes";
+    }
+    EXPECT_THAT(check("ExcVisuNode", text), ElementsAre("wrong-kind " + place + "/0/is_leaf"));
 
     const std::string nested = R"({"message":"m","x":)" + std::string(kDeep, '[') + std::string(kDeep, ']') + '}';
     EXPECT_THAT(check("ExcLog", nested), ElementsAre("unknown-key /x"));
