@@ -15,7 +15,8 @@ void ExcPMICapture::describe(Self& self, Fields& fields)
     fields.always(WIDE("hidden_text"), self.m_hiddenText);
     fields.filled(WIDE("camera"), self.m_camera);
     fields.filled(WIDE("clipping_plane"), self.m_clippingPlane);
-    fields.filled(WIDE("annotation_ids"), reference(EIdSpace::Annotation, valid(self.m_annotationIds)));
+    // No reference that a tool could follow: the ids of annotations do not cross.
+    fields.filled(WIDE("annotation_ids"), valid(self.m_annotationIds));
     fields.filled(WIDE("constructed_geometry"), self.m_constructedGeometry);
     fields.filled(WIDE("bodies"), self.m_bodies);
     fields.always(WIDE("manage_hide_show"), self.m_manageHideShow);

@@ -1,6 +1,8 @@
 #include "checking/tree_checker.h"
 
+#include "checking/sentences.h"
 #include "json/member.h"
+#include "json/pointer.h"
 #include "json/utf.h"
 #include "mp/narrow.h"
 #include "printing/escaped.h"
@@ -24,48 +26,6 @@ using vrx::FieldShape;
 using vrx::JsonValue;
 using vrx::Shape;
 
-const char* kindOf(const JsonValue& value)
-{
-    switch (value.GetType())
-    {
-    case rapidjson::kNullType:
-        return "null";
-    case rapidjson::kFalseType:
-    case rapidjson::kTrueType:
-        return "a boolean";
-    case rapidjson::kObjectType:
-        return "an object";
-    case rapidjson::kArrayType:
-        return "an array";
-    case rapidjson::kStringType:
-        return "a text";
-    default:
-        return "a number";
-    }
-}
-
-const char* kindOf(const Shape& shape)
-{
-    switch (shape.kind)
-    {
-    case EShape::Boolean:
-        return "a boolean";
-    case EShape::Int32:
-    case EShape::Uint32:
-    case EShape::Uint64:
-    case EShape::Double:
-        return "a number";
-    case EShape::Text:
-    case EShape::Name:
-        return "a text";
-    case EShape::List:
-    case EShape::Tuple:
-        return "an array";
-    default:
-        return "an object";
-    }
-}
-
 bool isScalar(const Shape& shape)
 {
     return shape.kind >= EShape::Boolean && shape.kind <= EShape::Name;
@@ -74,11 +34,6 @@ bool isScalar(const Shape& shape)
 bool isObjectShape(const Shape& shape)
 {
     return shape.kind == EShape::Record || shape.kind == EShape::Map;
-}
-
-std::string wrongKind(const JsonValue& value, const Shape& shape)
-{
-    return std::string(kindOf(value)) + " stands where " + kindOf(shape) + " is read";
 }
 
 // No class has more keys than there are bits; of further ones nothing would be known.
@@ -124,34 +79,6 @@ mp::wstring_view typeIn(const JsonValue& value)
 {
     const JsonValue* const type = json::member(value, WIDE("type"));
     return type != nullptr && type->IsString() ? readText(*type) : mp::wstring_view();
-}
-
-std::string unknownObject(const JsonValue& value)
-{
-    std::string told;
-    for (const mp::wstring_view key : {WIDE("operation_type"), WIDE("format_type"), WIDE("type")})
-    {
-        const JsonValue* const name = json::member(value, key);
-        if (name != nullptr)
-        {
-            told += (told.empty() ? "" : ", ") + mp::toNarrow(mp::wstring(key)) + ' ' + printing::briefText(*name);
-        }
-    }
-    return told.empty() ? "it has no key that tells its class, and is passed over"
-                        : "no class here has " + told + "; it is passed over";
-}
-
-void appendPart(mp::wstring& pointer, mp::wstring_view name)
-{
-    pointer += '/';
-    for (const mp::wchar unit : name)
-    {
-        pointer += unit == '~' || unit == '/' ? mp::wchar{'~'} : unit;
-        if (unit == '~' || unit == '/')
-        {
-            pointer += unit == '~' ? mp::wchar{'0'} : mp::wchar{'1'};
-        }
-    }
 }
 
 } // namespace
@@ -452,19 +379,7 @@ void TreeChecker::addWrongScalar(const JsonValue& value, const Shape& shape)
         add(ECode::WrongKind, [&] { return wrongKind(value, shape); });
         return;
     }
-    add(ECode::WrongNumber, [&] {
-        const std::string number = printing::briefText(value);
-        if (shape.kind == EShape::Double)
-        {
-            return "the integer " + number +
-                   " stands where a number with a fraction is read; a reader does not take it";
-        }
-        if (value.IsDouble())
-        {
-            return number + " stands where an integer is read; a reader does not take it";
-        }
-        return number + " is out of the range that is read; a reader does not take it";
-    });
+    add(ECode::WrongNumber, [&] { return wrongNumber(value, shape); });
 }
 
 void TreeChecker::checkName(const JsonValue& value, const Shape& shape)
@@ -493,7 +408,7 @@ void TreeChecker::checkIndices(const JsonValue& list, const Shape& shape)
     }
     m_findings.add(ECode::IndexOutside, [&] {
         Place place = here();
-        appendPart(place.pointer, mp::toWide(std::to_string(first - list.Begin())));
+        json::appendPart(place.pointer, mp::toWide(std::to_string(first - list.Begin())));
         const auto count = std::count_if(first, list.End(), isOutside);
         std::string sentence = "the index " + printing::briefText(*first);
         sentence += count == 1 ? " leads" : " and " + std::to_string(count - 1) + " more here lead";
@@ -509,12 +424,7 @@ void TreeChecker::follow(const JsonValue& id, const Shape& tied)
         m_ids.addIdentity(tied.space, id, [this] { return here(); });
         return;
     }
-    // Annotations have their ids in scenes only, and need not all be drawn.
-    static const vrx::ClassShape* const mechanicalCapture = vrx::ClassShape::find("ExcPMICapture");
-    if (m_levels.back().told.owner != mechanicalCapture)
-    {
-        m_ids.addReference(tied.space, id, [this] { return here(); });
-    }
+    m_ids.addReference(tied.space, id, [this] { return here(); });
     const auto owner = std::find_if(m_owners.rbegin(), m_owners.rend(),
                                     [&tied](const Owner& each) { return each.space == tied.space; });
     if (owner != m_owners.rend())
@@ -574,11 +484,11 @@ Place TreeChecker::placeAt(std::size_t depth) const
         const rapidjson::SizeType at = level.next - 1;
         if (level.value->IsArray())
         {
-            appendPart(place.pointer, mp::toWide(std::to_string(at)));
+            json::appendPart(place.pointer, mp::toWide(std::to_string(at)));
         }
         else
         {
-            appendPart(place.pointer, json::textOf((level.value->MemberBegin() + at)->name));
+            json::appendPart(place.pointer, json::textOf((level.value->MemberBegin() + at)->name));
         }
     }
     return place;

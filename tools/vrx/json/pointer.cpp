@@ -87,20 +87,26 @@ const vrx::JsonValue* resolve(const vrx::JsonValue& root, const Pointer& pointer
     return value;
 }
 
-std::string pointerPart(mp::wstring_view name)
+void appendPart(mp::wstring& pointer, mp::wstring_view name)
 {
-    mp::wstring part = WIDE("/");
+    pointer += '/';
     for (const mp::wchar unit : name)
     {
         if (unit == '~' || unit == '/')
         {
-            part += unit == '~' ? WIDE("~0") : WIDE("~1");
+            pointer += unit == '~' ? WIDE("~0") : WIDE("~1");
         }
         else
         {
-            part.push_back(unit);
+            pointer += unit;
         }
     }
+}
+
+std::string pointerPart(mp::wstring_view name)
+{
+    mp::wstring part;
+    appendPart(part, name);
     return printing::escaped(part);
 }
 

@@ -19,7 +19,10 @@ Pointer pointerOf(const std::string& text);
 /// The value to which a pointer leads, or null.
 const vrx::JsonValue* resolve(const vrx::JsonValue& root, const Pointer& pointer);
 
-/// A name as a part of a pointer's text, with its slash, safe to be printed.
+/// Adds a name to a pointer's text, with its slash.
+void appendPart(mp::wstring& pointer, mp::wstring_view name);
+
+/// The same alone, safe to be printed.
 std::string pointerPart(mp::wstring_view name);
 
 } // namespace json
