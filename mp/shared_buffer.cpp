@@ -108,22 +108,28 @@ void readData(int file, char* out, off_t begin, off_t end)
     }
 }
 
+// Where the next data or hole begins; at the end when there is none, or when the object was made shorter.
+off_t next(int kind, int file, off_t begin, off_t end)
+{
+    const off_t found = lseek(file, begin, kind);
+    if (found < 0 && errno != ENXIO)
+    {
+        throw ipc::interprocess_exception(ipc::error_info(errno));
+    }
+    return found < 0 ? end : std::min(found, end);
+}
+
 // Reads the pages that the object has between zeros for those that it lacks. In a mapping the first look at a missing
 // page makes it, and kills the process if the file system is full, or if another program has made the object shorter.
 void copyContent(const ipc::shared_memory_object& object, char* out, std::uint64_t size)
 {
     const int file = object.get_mapping_handle().handle;
     const auto end = static_cast<off_t>(size);
-    off_t hole = 0;
-    for (off_t data = lseek(file, 0, SEEK_DATA); data >= 0 && data < end; data = lseek(file, hole, SEEK_DATA))
+    for (off_t data = next(SEEK_DATA, file, 0, end); data < end;)
     {
-        // The hole behind the data is gone when the object was made shorter in between.
-        hole = lseek(file, data, SEEK_HOLE);
-        if (hole < 0)
-        {
-            return;
-        }
-        readData(file, out, data, std::min(hole, end));
+        const off_t hole = next(SEEK_HOLE, file, data, end);
+        readData(file, out, data, hole);
+        data = next(SEEK_DATA, file, hole, end);
     }
 }
 #endif
@@ -142,6 +148,16 @@ void refusePath(const std::string& name)
 #endif
 }
 
+// There may be no memory for a text.
+[[noreturn]] void fail(const ipc::interprocess_exception& error)
+{
+    if (*error.what() == '\0')
+    {
+        throw std::bad_alloc();
+    }
+    throw SharedMemoryException(toWide(error.what()));
+}
+
 // Runs an operation of the layer below and turns its exceptions into ours.
 template <class Operation>
 void withTurnedErrors(Operation operation)
@@ -152,10 +168,11 @@ void withTurnedErrors(Operation operation)
     }
     catch (const ipc::interprocess_exception& error)
     {
-        throw SharedMemoryException(toWide(error.what()));
+        fail(error);
     }
 }
 
+// As the system takes it.
 std::string usableName(const wstring& name)
 {
     if (name.empty())
@@ -164,7 +181,20 @@ std::string usableName(const wstring& name)
     }
     std::string narrowName = toNarrow(name);
     withTurnedErrors([&] { refusePath(narrowName); });
+#ifndef _WIN32
+    narrowName.insert(0, narrowName.front() == '/' ? 0 : 1, '/');
+#endif
     return narrowName;
+}
+
+// On POSIX the layer below needs memory for this, which may be just what is missing.
+bool removeObject(const std::string& usableName)
+{
+#ifdef _WIN32
+    return ipc::shared_memory_object::remove(usableName.c_str());
+#else
+    return shm_unlink(usableName.c_str()) == 0;
+#endif
 }
 
 std::atomic<SharedBufferWatcher> sharedBufferWatcher = nullptr;
@@ -202,7 +232,7 @@ SharedBuffer<char>::~SharedBuffer()
     m_object.reset();
     if (m_removeOnClose)
     {
-        ipc::shared_memory_object::remove(m_narrowName.c_str());
+        removeObject(m_narrowName);
     }
 }
 
@@ -238,7 +268,7 @@ bool SharedBuffer<char>::openExisting(const wstring& name)
         {
             return false;
         }
-        throw SharedMemoryException(toWide(error.what()));
+        fail(error);
     }
     m_object = std::move(existing);
     m_removeOnClose = false;
@@ -249,7 +279,7 @@ bool SharedBuffer<char>::openExisting(const wstring& name)
 
 bool SharedBuffer<char>::remove(const wstring& name)
 {
-    return ipc::shared_memory_object::remove(usableName(name).c_str());
+    return removeObject(usableName(name));
 }
 
 void SharedBuffer<char>::write(const char* data, std::uint64_t size)
