@@ -13,9 +13,11 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <climits>
 #endif
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
@@ -136,10 +138,17 @@ void copyContent(const ipc::shared_memory_object& object, char* out, std::uint64
 
 // On Windows an object is a file of its name in a folder of the layer below. A name from the other program must not
 // lead out of that folder; elsewhere the system refuses such a name itself.
+#ifdef _WIN32
+bool isPath(std::string_view name)
+{
+    return name.find_first_of("/\\:") != std::string_view::npos;
+}
+#endif
+
 void refusePath(const std::string& name)
 {
 #ifdef _WIN32
-    if (name.find_first_of("/\\:") != std::string::npos)
+    if (isPath(name))
     {
         throw ipc::interprocess_exception(ipc::error_info(ERROR_INVALID_NAME));
     }
@@ -172,7 +181,6 @@ void withTurnedErrors(Operation operation)
     }
 }
 
-// As the system takes it.
 std::string usableName(const wstring& name)
 {
     if (name.empty())
@@ -181,20 +189,7 @@ std::string usableName(const wstring& name)
     }
     std::string narrowName = toNarrow(name);
     withTurnedErrors([&] { refusePath(narrowName); });
-#ifndef _WIN32
-    narrowName.insert(0, narrowName.front() == '/' ? 0 : 1, '/');
-#endif
     return narrowName;
-}
-
-// On POSIX the layer below needs memory for this, which may be just what is missing.
-bool removeObject(const std::string& usableName)
-{
-#ifdef _WIN32
-    return ipc::shared_memory_object::remove(usableName.c_str());
-#else
-    return shm_unlink(usableName.c_str()) == 0;
-#endif
 }
 
 std::atomic<SharedBufferWatcher> sharedBufferWatcher = nullptr;
@@ -232,7 +227,7 @@ SharedBuffer<char>::~SharedBuffer()
     m_object.reset();
     if (m_removeOnClose)
     {
-        removeObject(m_narrowName);
+        remove(std::string_view(m_narrowName));
     }
 }
 
@@ -279,7 +274,31 @@ bool SharedBuffer<char>::openExisting(const wstring& name)
 
 bool SharedBuffer<char>::remove(const wstring& name)
 {
-    return removeObject(usableName(name));
+    const std::string narrowName = usableName(name);
+    return remove(std::string_view(narrowName));
+}
+
+// On POSIX the layer below needs memory for this, which may be just what is missing.
+bool SharedBuffer<char>::remove(std::string_view narrowName) noexcept
+{
+#ifdef _WIN32
+    try
+    {
+        return !isPath(narrowName) && ipc::shared_memory_object::remove(std::string(narrowName).c_str());
+    }
+    catch (const std::bad_alloc&)
+    {
+        return false;
+    }
+#else
+    std::array<char, NAME_MAX + 2> path = {'/'};
+    if (narrowName.size() > NAME_MAX)
+    {
+        return false;
+    }
+    narrowName.copy(&path[1], narrowName.size());
+    return shm_unlink(path.data()) == 0;
+#endif
 }
 
 void SharedBuffer<char>::write(const char* data, std::uint64_t size)

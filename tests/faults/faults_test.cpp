@@ -2,12 +2,15 @@
 #include "tests/faults/roads.h"
 #include "tests/support/helpers.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <exception>
 #include <optional>
 
 using namespace faults;
+using testing::AnyOf;
+using testing::HasSubstr;
+using testing::Not;
 
 namespace
 {
@@ -41,6 +44,7 @@ protected:
         if (text)
         {
             EXPECT_FALSE(text->empty());
+            EXPECT_THAT(*text, Not(AnyOf(HasSubstr("signal 6"), HasSubstr("signal 11"))));
             EXPECT_TRUE(hasHappened) << *text;
         }
         if (text && GetParam().manner == EManner::Reads && !plan().leftObjects().empty())

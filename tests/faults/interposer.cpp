@@ -262,7 +262,7 @@ extern "C"
     }
     ssize_t write(int file, const void* bytes, size_t size)
     {
-        static const Call call(&::write, "write", ENOSPC, true);
+        static const Call call(&::write, "write", ENOMEM, true);
         return call(file, bytes, taken(size));
     }
     int poll(pollfd* files, nfds_t count, int timeout)
