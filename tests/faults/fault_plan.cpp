@@ -10,6 +10,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <new>
 #include <system_error>
 
@@ -95,31 +96,33 @@ bool FaultPlan::strikes(ECalls calls, EMode mode)
 
 void FaultPlan::noteObject(const char* name)
 {
-    std::array<char, 60>& noted = m_objects.at(m_objectCount++);
-    std::strncpy(noted.data(), name, noted.size() - 1);
+    const auto end = m_objects.begin() + m_objectCount;
+    const auto noted = std::find_if(
+        m_objects.begin(), end, [name](const Object& object) { return std::strcmp(object.name.data(), name) == 0; });
+    if (noted == end && end != m_objects.end())
+    {
+        end->process = ::getpid();
+        std::strncpy(end->name.data(), name, end->name.size() - 1);
+        ++m_objectCount;
+    }
 }
 
-std::vector<std::string> FaultPlan::leftObjects() const
+std::vector<FaultPlan::Object> FaultPlan::leftObjects()
 {
-    std::vector<std::string> left;
-    for (std::size_t i = 0; i < m_objectCount; ++i)
-    {
-        std::string name(m_objects.at(i).data());
-        if (mp::SharedBuffer<char>().openExisting(mp::toWide(name)))
-        {
-            left.push_back(std::move(name));
-        }
-    }
-    return left;
+    const auto isGone = [](const Object& object) {
+        return !mp::SharedBuffer<char>().openExisting(mp::toWide(object.name.data()));
+    };
+    const auto end = std::remove_if(m_objects.begin(), m_objects.begin() + m_objectCount, isGone);
+    m_objectCount = static_cast<int>(end - m_objects.begin());
+    return {m_objects.begin(), end};
 }
 
 void FaultPlan::removeObjects()
 {
-    for (const std::string& name : leftObjects())
+    for (const Object& object : leftObjects())
     {
-        mp::SharedBuffer<char>::remove(mp::toWide(name));
+        mp::SharedBuffer<char>::remove(std::string_view(object.name.data()));
     }
-    m_objectCount = 0;
 }
 
 } // namespace faults

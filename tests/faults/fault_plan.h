@@ -58,8 +58,14 @@ public:
     /// A shared memory object was made.
     void noteObject(const char* name);
 
-    /// The names of those that are still in the system.
-    std::vector<std::string> leftObjects() const;
+    struct Object
+    {
+        int process;               ///< That made it.
+        std::array<char, 60> name; ///< Ends with a null character.
+    };
+
+    /// Those that are still in the system.
+    std::vector<Object> leftObjects();
 
     /// Removes them.
     void removeObjects();
@@ -68,8 +74,8 @@ private:
     std::atomic<int> m_process; // whose calls count
     Fault m_fault;
     std::atomic<int> m_count;
-    std::atomic<std::size_t> m_objectCount;
-    std::array<std::array<char, 60>, 64> m_objects; // names
+    std::atomic<int> m_objectCount;
+    std::array<Object, 100> m_objects;
 };
 
 /// While there is one, a fault is due in this process.
