@@ -88,7 +88,7 @@ private:
     {
         const bool isLegacy = options.title.find("Legacy") != std::string::npos;
         const bool isImport = options.title.find("Import") != std::string::npos;
-        return R"({"ferrant_interface":")" + std::string(isLegacy ? "legacy" : "connect") + R"(","command":")" +
+        return R"({"ferrant_interface":")" + std::string(isLegacy ? "legacy" : "uconnect") + R"(","command":")" +
                (isImport ? "import" : "export") + R"(","options":)" + options.in + "}";
     }
 
