@@ -1,3 +1,4 @@
+#include "mp/shared_buffer.h"
 #include "tests/full_rows/full_rows.h"
 #include "tests/parallel/threads.h"
 #include "tests/support/json_text.h"

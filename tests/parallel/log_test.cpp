@@ -1,6 +1,7 @@
 #include "kolt/log.h"
 #include "tests/parallel/threads.h"
 #include "tests/support/log_capture.h"
+#include "vrx_api/json/json_value.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,6 @@
 #include "bridge/bridge.h"
 #include "mp/narrow.h"
+#include "mp/shared_buffer.h"
 #include "tests/parallel/threads.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 
@@ -91,6 +92,16 @@ TEST(ThreadsSessions, DoNotMeet)
             require(Clock::now() - begin < std::chrono::seconds(30), "a session waited for another");
         },
         6);
+}
+
+// Channels that are made one after the other keep them while other threads make buffers.
+TEST(ThreadsSessions, KeepJournals)
+{
+    inThreads([](int) {
+        bridge::keepInheritedJournals();
+        mp::SharedBuffer<char> buffer;
+        buffer.open(IExchangeObject::generateUUID(), true);
+    });
 }
 
 #ifndef _WIN32
