@@ -2,15 +2,16 @@
 #include "tests/frozen/frozen_files.h"
 #include "tests/full_rows/full_rows.h"
 #include "tests/support/bodies.h"
+#include "tests/support/peer.h"
 #include "tests/support/plain_zlib.h"
 #include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/exchange_object.h"
 #include "vrx_api/exchange/json_binary_io.h"
 
-#include <iostream>
 #include <map>
 #include <memory>
 
+// usage: vrx_api_make_frozen FOLDER
 // Makes the files of tests/data/frozen from the full texts. The classes write nothing of them: the texts go through the
 // tree and the codecs only.
 namespace
@@ -142,15 +143,13 @@ private:
 
 int main(int argc, char** argv)
 {
-    if (argc != 2)
-    {
-        std::cerr << "usage: " << argv[0] << " FOLDER\n";
-        return 2;
-    }
-    FrozenFolder folder(argv[1]);
-    for (const test::FullRow& row : test::allFullRows())
-    {
-        folder.add(row);
-    }
-    return 0;
+    return test::runPeer([&] {
+        const std::vector<std::string> words(argv, argv + argc);
+        FrozenFolder folder(words.at(1));
+        for (const test::FullRow& row : test::allFullRows())
+        {
+            folder.add(row);
+        }
+        return 0;
+    });
 }

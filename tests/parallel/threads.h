@@ -27,6 +27,7 @@ void inThreads(Function function, int count = kThreads)
     std::promise<void> start;
     const std::shared_future<void> started = start.get_future().share();
     std::vector<std::future<void>> threads;
+    threads.reserve(static_cast<std::size_t>(count));
     for (int number = 0; number < count; ++number)
     {
         threads.push_back(std::async(std::launch::async, [&function, started, number] {

@@ -11,12 +11,10 @@
 
 #include <bridge/bridge.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <set>
 #include <stdexcept>
 
 namespace
@@ -55,16 +53,15 @@ public:
     explicit Frozen(std::filesystem::path folder)
         : m_folder(std::move(folder))
     {
-        const std::string end = ".envelope.json";
-        for (const auto& entry : std::filesystem::directory_iterator(m_folder))
+        for (const mp::wstring& name : vrx::ExchangeObjectRegistry::instance().names())
         {
-            const std::string name = entry.path().filename().string();
-            if (name.size() > end.size() && name.substr(name.size() - end.size()) == end)
+            const std::string stem = mp::toNarrow(name);
+            m_stems.push_back(stem);
+            if (std::filesystem::exists(m_folder / (stem + "_2.json")))
             {
-                m_stems.insert(name.substr(0, name.size() - end.size()));
+                m_stems.push_back(stem + "_2");
             }
         }
-        require(m_stems.size() >= vrx::ExchangeObjectRegistry::instance().names().size(), "files are missing");
     }
 
     std::string content(const std::string& name) const
@@ -134,8 +131,8 @@ private:
 
     Object read(const std::string& stem, const std::string& text) const
     {
-        const auto head = vrx::peekEnvelope(mp::toWide(content(stem + ".envelope.json")));
-        const Object object = vrx::ExchangeObjectRegistry::instance().get(head.objectName);
+        const std::string name = stem.substr(0, stem.find("_2"));
+        const Object object = vrx::ExchangeObjectRegistry::instance().get(mp::toWide(name));
         mp::wistringstream stream(mp::toWide(text));
         vrx::JsonDocument document;
         vrx::JsonTextIO::read(stream, document);
@@ -152,10 +149,10 @@ private:
     }
 
     std::filesystem::path m_folder;
-    std::set<std::string> m_stems;
+    std::vector<std::string> m_stems;
 };
 
-int translate(const Frozen& frozen)
+void translate(const Frozen& frozen)
 {
     constexpr vrx::ECompression kWays[] = {vrx::ECompression::AsTold, vrx::ECompression::Fast, vrx::ECompression::None};
     vrx::bridge::TranslatorChannel channel;
@@ -188,7 +185,6 @@ int translate(const Frozen& frozen)
         }
         channel.send(frozen.message<vrx::Result>("result.json"));
     }
-    return 0;
 }
 
 class Collector : public vrx::bridge::Listener
@@ -225,39 +221,31 @@ void importAndExport(const Frozen& frozen, vrx::bridge::HostSession& session,
     std::cout << sent << " objects crossed there and back\n";
 }
 
-int host(const Frozen& frozen, const std::string& program, const std::string& folder)
+void host(const Frozen& frozen, const std::vector<std::string>& translator)
 {
-    vrx::bridge::HostSession session({program, "translator", folder});
+    vrx::bridge::HostSession session(translator);
     session.setTimeLimit(std::chrono::minutes(1));
     frozen.requireText("ferrant_info.json", textOf(session.info()));
     const auto command = [&](const std::string& kind) { return frozen.message<vrx::Command>("command_" + kind); };
     importAndExport(frozen, session, command("import.json").importOptions(), command("export.json").exportOptions());
     importAndExport(frozen, session, command("legacy_import.json").legacyImportOptions(),
                     command("legacy_export.json").legacyExportOptions());
-    return 0;
 }
 
 } // namespace
 
-int main(int count, char** words)
+int main(int count, char** arguments)
 {
     try
     {
-        const std::string role = count > 2 ? words[1] : "";
-        if (role == "translator")
-        {
-            return translate(Frozen(words[2]));
-        }
-        if (role == "host" && count > 3)
-        {
-            return host(Frozen(words[2]), words[3], words[2]);
-        }
-        std::cerr << "usage: exchange host FROZEN TRANSLATOR | exchange translator FROZEN\n";
-        return 2;
+        const std::vector<std::string> words(arguments, arguments + count);
+        const Frozen frozen(words.at(2));
+        words.at(1) == "host" ? host(frozen, {words.at(3), "translator", words.at(2)}) : translate(frozen);
+        return 0;
     }
     catch (const std::exception& failure)
     {
-        std::cerr << words[0] << ": " << failure.what() << '\n';
+        std::cerr << arguments[0] << ": " << failure.what() << '\n';
         return 1;
     }
 }
