@@ -13,9 +13,10 @@ namespace vrx::bridge
 namespace
 {
 
-std::vector<NativeHandle>& keptJournals()
+// They stay the same as long as the process lives, so that buffers may be made in several threads.
+const std::vector<NativeHandle>& keptJournals()
 {
-    static std::vector<NativeHandle> journals;
+    static const std::vector<NativeHandle> journals = inheritedJournals();
     return journals;
 }
 
@@ -55,7 +56,6 @@ std::vector<mp::wstring> BufferJournal::names() const
 
 void keepInheritedJournals()
 {
-    keptJournals() = inheritedJournals();
     mp::setSharedBufferWatcher(keptJournals().empty() ? nullptr : note);
 }
 
