@@ -96,6 +96,7 @@ private:
     [[noreturn]] void fail(TranslatorFailure::EKind kind, const std::string& text);
     [[noreturn]] void failAsDead(const std::string& text, const std::string& reason = {});
     void stop() noexcept;
+    void finishTranslator() noexcept;
     bool drain(std::chrono::milliseconds limit) noexcept;
     void removeBuffers() noexcept;
 
@@ -106,7 +107,8 @@ private:
     std::atomic<bool> m_isCancelled = false;
 
     UndeliveredBuffers m_undelivered; // either way
-    std::set<mp::wstring> m_loaded;   // buffers, which are the listener's affair
+    // The names, in the narrow code page, of buffers which are the listener's affair
+    std::set<std::string, std::less<>> m_loaded;
     BufferJournal m_journal;
     ChildProcess m_translator;
     FrameReader m_messages{m_translator.output()};

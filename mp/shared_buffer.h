@@ -9,6 +9,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace boost::interprocess
@@ -69,6 +70,9 @@ public:
 
     /// Takes the object of this name out of the system, and tells whether there was one.
     static bool remove(const wstring& name);
+
+    /// The same with a name in the system's narrow code page. On POSIX it needs no memory.
+    static bool remove(std::string_view narrowName) noexcept;
 
     /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.
     void write(const char* data, std::uint64_t size);

@@ -302,6 +302,10 @@ wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool
     {
         throw std::runtime_error("Cannot write object into json document");
     }
+    if (stream.fail())
+    {
+        throw std::runtime_error("Cannot write json document into stream");
+    }
     return stream;
 }
 
