@@ -15,9 +15,10 @@ namespace vrx::bridge
 namespace
 {
 
-std::vector<NativeHandle>& keptJournals()
+// They stay the same as long as the process lives, so that buffers may be made in several threads.
+const std::vector<NativeHandle>& keptJournals()
 {
-    static std::vector<NativeHandle> journals;
+    static const std::vector<NativeHandle> journals = inheritedJournals();
     return journals;
 }
 
@@ -75,7 +76,6 @@ void BufferJournal::forEachName(const std::function<void(std::string_view)>& use
 
 void keepInheritedJournals()
 {
-    keptJournals() = inheritedJournals();
     mp::setSharedBufferWatcher(keptJournals().empty() ? nullptr : note);
 }
 

@@ -35,7 +35,7 @@ private:
 };
 
 /// From now on this process notes its shared buffers in the journals that it was started with. Without one nothing
-/// happens.
+/// happens. Any thread may call it, while others make buffers.
 VRX_BRIDGE void keepInheritedJournals();
 
 } // namespace vrx::bridge

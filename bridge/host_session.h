@@ -26,7 +26,8 @@ namespace vrx::bridge
 /// A running translator: sends commands, hands on what comes back. Each operation throws TranslatorFailure when the
 /// translator dies, is silent for too long, breaks the protocol, or the host cancels; the translator has ended then.
 /// When the session ends, in whatever way, all shared memory that the translator left and the session has not loaded is
-/// removed from the system.
+/// removed from the system. One thread at a time uses a session, but for `cancel` and `isCancelled`; different sessions
+/// work in different threads at once.
 class VRX_BRIDGE HostSession
 {
 public:

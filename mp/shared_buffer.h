@@ -111,7 +111,8 @@ private:
 /// this process dies before it has told of it. What it throws passes through `open`.
 using SharedBufferWatcher = void (*)(const wstring& name);
 
-/// There is one watcher in a process, or none: null.
+/// There is one watcher in a process, or none: null. Any thread may set it at any time. It is called in the threads that
+/// open buffers, perhaps in several at once, and the one before may still be called in them for a moment.
 VRX_API void setSharedBufferWatcher(SharedBufferWatcher watcher);
 
 } // namespace mp

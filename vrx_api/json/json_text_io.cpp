@@ -264,11 +264,6 @@ private:
     std::uint64_t m_depth = 0;
 };
 
-bool asksForAnything(const ReadRules& rules)
-{
-    return rules.isStrict || rules.values != ReadRules::kNoLimit || rules.depth != ReadRules::kNoLimit;
-}
-
 // The text has no lone surrogates in escapes, and is used up.
 void requireRules(wstring text, const ReadRules& rules)
 {
@@ -330,7 +325,7 @@ wistream& JsonTextIO::read(wistream& stream, JsonDocument& document, const ReadR
 
 void JsonTextIO::check(const wstring& text, const ReadRules& rules)
 {
-    if (!asksForAnything(rules))
+    if (!rules.asksForForm())
     {
         return;
     }
