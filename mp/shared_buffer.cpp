@@ -151,7 +151,7 @@ SharedBuffer<char>::~SharedBuffer()
     m_object.reset();
     if (m_removeOnClose)
     {
-        remove(std::string_view(m_narrowName));
+        removeNarrow(m_narrowName);
     }
 }
 
@@ -198,12 +198,11 @@ bool SharedBuffer<char>::openExisting(const wstring& name)
 
 bool SharedBuffer<char>::remove(const wstring& name)
 {
-    const std::string narrowName = usableName(name);
-    return remove(std::string_view(narrowName));
+    return removeNarrow(usableName(name));
 }
 
 // On POSIX the layer below needs memory for this, which may be just what is missing.
-bool SharedBuffer<char>::remove(std::string_view narrowName) noexcept
+bool SharedBuffer<char>::removeNarrow(std::string_view narrowName) noexcept
 {
 #ifdef _WIN32
     try

@@ -48,7 +48,7 @@ public:
     static bool remove(const wstring& name);
 
     /// The same with a name in the system's narrow code page. On POSIX it needs no memory.
-    static bool remove(std::string_view narrowName) noexcept;
+    static bool removeNarrow(std::string_view narrowName) noexcept;
 
     /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.
     void write(const char* data, std::uint64_t size);
