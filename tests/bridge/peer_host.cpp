@@ -116,7 +116,11 @@ void talk(bridge::HostSession& session, const std::string& manner)
     }
     if (manner == "limits")
     {
-        session.setSizeLimit(10);
+        session.setReadRules({10});
+    }
+    else if (manner == "loads")
+    {
+        session.setReadRules(ReadRules::forUntrusted());
     }
     session.setLazy(manner == "is-lazy");
     std::cout << mp::toNarrow(session.info().name()) << '\n';
