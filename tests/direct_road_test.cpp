@@ -342,6 +342,16 @@ TEST(DirectRoadOfOwnClasses, PassesTheirErrorsOn)
 }
 
 // A number before a long text must not be taken for the first of many.
+TEST(DirectRoadOfMessages, TakesBytesThatLieAtAnOddPlace)
+{
+    const LogLevel set(kolt::kDebug);
+    const std::string form = formOf(R"({"message":"abc"})");
+    const std::string odd = ' ' + form;
+    ExcMessage message;
+    kDirectRoad.read(message, odd.data() + 1, form.size());
+    EXPECT_EQ(message.get(), WIDE("abc"));
+}
+
 TEST(DirectRoadOfArrays, ReservesForWhatIsThere)
 {
     const std::string form = formOf("[7,\"" + std::string(10000, 'x') + "\"]");

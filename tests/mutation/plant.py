@@ -4,7 +4,8 @@
 usage: plant.py COMPILE_COMMANDS TREE FAULTS FOLDER...
 
 Parses the sources of the folders as the compiler does, and writes them into TREE so that each fault is a choice at run
-time (planted.h). All other files are copied as they are. FAULTS gets the list: a fault's number is its place there.
+time (planted.h). All other files are copied as they are. FAULTS gets the list. Each file has numbers of its own, so that
+a change to one leaves the others as they were built.
 """
 
 import json
@@ -18,6 +19,8 @@ from clang.cindex import Config, CursorKind as Kind, Index, TranslationUnit, Typ
 Config.set_library_file("libclang-14.so.1")
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
+
+MOST_FAULTS = 1000  # of one file
 
 TURNED = {"<": "less", "<=": "lessEqual", ">": "greater", ">=": "greaterEqual"}
 EQUALITY = {"==", "!="}
@@ -60,10 +63,11 @@ def end(node):
 class Source:
     """One file: its text, and what is put into it."""
 
-    def __init__(self, path, faults):
+    def __init__(self, path, first_number):
         self.name = str(path.relative_to(ROOT))
         self.bytes = path.read_bytes()
-        self.faults = faults
+        self.first_number = first_number
+        self.faults = []
         self.pieces = []
         self.replaced = {}
         self.planted = set()
@@ -97,11 +101,11 @@ class Source:
         if key in self.planted or not self.is_plain(node):
             return
         self.planted.add(key)
-        number = len(self.faults)
+        number = self.first_number + len(self.faults)
         code = " ".join(self.text(begin(node), end(node)).split())
         self.alike[kind, code] = nth = self.alike.get((kind, code), 0) + 1
-        self.faults.append({"file": self.name, "line": self.bytes.count(b"\n", 0, begin(node)) + 1, "kind": kind,
-                            "code": code, "nth": nth})
+        self.faults.append({"number": number, "file": self.name, "line": self.bytes.count(b"\n", 0, begin(node)) + 1,
+                            "kind": kind, "code": code, "nth": nth})
         on = f"vrx_planted::on({number})"
         # What closes stands before what opens; of what opens, the wider stands first, and of what closes, last.
         order, width = len(self.pieces), end(node) - begin(node)
@@ -268,7 +272,7 @@ def is_ours(path, folders):
 def our_files():
     names = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT, check=True,
                            capture_output=True, text=True).stdout.split("\0")
-    return [path for path in map(ROOT.joinpath, filter(None, names)) if path.is_file()]
+    return sorted(path for path in map(ROOT.joinpath, filter(None, names)) if path.is_file())
 
 
 def write_changed(path, content):
@@ -280,7 +284,9 @@ def write_changed(path, content):
 
 def main():
     commands, tree, list_path, *folders = sys.argv[1:]
-    faults, sources = [], {}
+    files = our_files()
+    numbered = [path for path in files if is_ours(path, folders)]
+    sources = {}
     index = Index.create()
     for entry in json.loads(pathlib.Path(commands).read_text()):
         if not is_ours(pathlib.Path(entry["file"]), folders):
@@ -297,15 +303,16 @@ def main():
                 mine.setdefault(path, []).append(node)
         for path, nodes in mine.items():
             if path not in sources:
-                sources[path] = Source(path, faults)
+                sources[path] = Source(path, MOST_FAULTS * numbered.index(path))
                 sources[path].macros = [(begin(node), end(node)) for node in nodes
                                         if node.kind == Kind.MACRO_INSTANTIATION]
                 for node in nodes:
                     if not node.kind.is_preprocessing():
                         Planter(sources[path]).walk(node)
-    for path in our_files():
+    for path in files:
         write_changed(pathlib.Path(tree) / path.relative_to(ROOT),
                       sources[path].planted_text() if path in sources else path.read_bytes())
+    faults = [fault for source in sources.values() for fault in source.faults]
     pathlib.Path(list_path).write_text(json.dumps(faults, indent=1))
     constants = sum(source.constants for source in sources.values())
     print(f"{len(faults)} faults planted in {len(sources)} files; {constants} constants that the compiler evaluates "

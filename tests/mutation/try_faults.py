@@ -33,12 +33,13 @@ ulimit -v "$1" -t "$2" -c 0; limit=$3; shift 3; timeout -k 1 "$limit" "$@"; exit
 
 
 class Test:
+    """A test that ctest knows; `filter` is its name in a GoogleTest program."""
+
     def __init__(self, entry):
         properties = {item["name"]: item["value"] for item in entry.get("properties", [])}
         self.name = entry["name"]
         self.command = entry.get("command", [])
         self.folder = properties.get("WORKING_DIRECTORY", ".")
-        self.expected = properties.get("PASS_REGULAR_EXPRESSION")
         self.filter = next((word.split("=", 1)[1] for word in self.command if word.startswith("--gtest_filter=")), None)
         self.seconds = 0.0
         self.faults = set()
@@ -160,26 +161,27 @@ def main():
     tests = tests_of(given.build)
     lock = threading.Lock()
     with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
+        size = 1 + max(fault["number"] for fault in faults)
         broken = [test.name for test, passed in
-                  zip(tests, pool.map(lambda test: record(test, len(faults)), tests)) if not passed]
+                  zip(tests, pool.map(lambda test: record(test, size), tests)) if not passed]
         if broken:
             print("These fail without a fault and see none:", *broken, sep="\n    ")
         tests = [test for test in tests if test.name not in broken]
         print(f"{len(tests)} tests recorded", flush=True)
 
-        def attempt(number):
-            able = [test for test in tests if number in test.faults]
-            outcome = "not reached" if not able else "seen" if is_seen(number, able) else "not seen"
+        def attempt(fault):
+            able = [test for test in tests if fault["number"] in test.faults]
+            outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able) else "not seen"
             with lock:
-                results[key_of(faults[number])] = outcome
+                results[key_of(fault)] = outcome
                 results_path.write_text(json.dumps([[*key, result] for key, result in results.items()], indent=0))
 
-        numbers = [number for number, fault in enumerate(faults) if given.file in fault["file"]]
+        chosen = [fault for fault in faults if given.file in fault["file"]]
         if given.unseen:
-            numbers = [number for number in numbers if last.get(key_of(faults[number]), "seen") != "seen"]
+            chosen = [fault for fault in chosen if last.get(key_of(fault), "seen") != "seen"]
         if given.sample:
-            numbers = random.Random(given.seed).sample(numbers, min(given.sample, len(numbers)))
-        list(pool.map(attempt, numbers))
+            chosen = random.Random(given.seed).sample(chosen, min(given.sample, len(chosen)))
+        list(pool.map(attempt, chosen))
     return 0 if report(faults, results) >= 90 else 1
 
 
