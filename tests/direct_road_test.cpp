@@ -6,6 +6,7 @@
 #include "vrx_api/common/misc_data.h"
 #include "vrx_api/common/vector.h"
 #include "vrx_api/exchange/exchange_object.h"
+#include "vrx_api/exchange/message_object.h"
 #include "vrx_api/json/direct.h"
 #include "vrx_api/visualization/visu_mesh.h"
 #include "vrx_api/visualization/visu_node.h"

@@ -253,7 +253,8 @@ class Planter:
     def result(self, node):
         for value in node.get_children():
             inner = unwrapped(value)
-            if inner.kind not in LITERALS and not self.is_equality(inner) and \
+            is_converted = inner.kind == Kind.CALL_EXPR and inner.spelling.startswith("operator ")
+            if inner.kind not in LITERALS and not is_converted and not self.is_equality(inner) and \
                     value.type.get_canonical().kind in NUMBERS:
                 self.source.plant("result changed", value, "vrx_planted::offByOne({number}, ", ")")
 
