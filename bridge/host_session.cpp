@@ -284,6 +284,14 @@ mp::wstring HostSession::receive()
     {
         failAsDead("The translator died: ", reason);
     }
+    try
+    {
+        JsonTextIO::check(*text, m_readRules);
+    }
+    catch (const std::logic_error& failure)
+    {
+        fail(TranslatorFailure::EKind::Protocol, std::string("The translator sent no message: ") + failure.what());
+    }
     return *text;
 }
 
@@ -333,7 +341,6 @@ void HostSession::takeObject(const mp::wstring& text, const MessageHead& head, L
     listener.onHead(head);
     ExchangeObjectWrapper envelope;
     envelope.setDelayedLoading(true);
-    envelope.setSizeLimit(m_sizeLimit);
     parse(text, envelope, "object");
 
     const std::shared_ptr<IExchangeObject>& object = envelope.get();
@@ -344,6 +351,7 @@ void HostSession::takeObject(const mp::wstring& text, const MessageHead& head, L
         m_undelivered.remove(head.bufferName);
         return;
     }
+    object->setReadRules(m_readRules);
     if (isShared && !m_isLazy)
     {
         load(*object, head.bufferName);
@@ -405,6 +413,7 @@ bool HostSession::drain(std::chrono::milliseconds limit) noexcept
         const Wait wait = {std::chrono::steady_clock::now() + limit, nullptr};
         while (const std::optional<mp::wstring> text = m_messages.read(wait))
         {
+            JsonTextIO::check(*text, m_readRules);
             m_undelivered.add(peekEnvelope(*text).bufferName);
         }
         return true;

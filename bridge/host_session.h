@@ -13,7 +13,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -48,8 +47,9 @@ public:
     /// while the session lives and before `finish`.
     void setLazy(bool lazy) { m_isLazy = lazy; }
 
-    /// Of what is loaded; see `IExchangeObject::setSizeLimit`.
-    void setSizeLimit(std::uint64_t bytes) { m_sizeLimit = bytes; }
+    /// Of all that comes, and of the contents of the objects. It is strict reading until rules are set; a host that
+    /// does not trust its translator sets `ReadRules::forUntrusted()`.
+    void setReadRules(const ReadRules& rules) { m_readRules = rules; }
 
     /// Of what an export sends.
     void setCompression(ECompression compression) { m_compression = compression; }
@@ -100,7 +100,7 @@ private:
 
     std::optional<std::chrono::milliseconds> m_timeLimit;
     bool m_isLazy = false;
-    std::uint64_t m_sizeLimit = Compressor::kNoLimit;
+    ReadRules m_readRules = ReadRules::strict();
     ECompression m_compression = ECompression::AsTold;
     std::atomic<bool> m_isCancelled = false;
 

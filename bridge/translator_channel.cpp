@@ -69,11 +69,12 @@ std::optional<Command> TranslatorChannel::receive()
         try
         {
             Command command;
+            JsonTextIO::check(*text, m_readRules);
             fromText(*text, command);
             m_hasObjectsToCome = command.type() == Command::EType::Export;
             return command;
         }
-        catch (const std::invalid_argument& failure)
+        catch (const std::logic_error& failure)
         {
             Result result;
             result.setCode(Result::ECode::Error);
@@ -104,6 +105,7 @@ std::shared_ptr<IExchangeObject> TranslatorChannel::receiveObject()
         fromText(*text, envelope);
         if (const std::shared_ptr<IExchangeObject>& object = envelope.get())
         {
+            object->setReadRules(m_readRules);
             object->load();
             m_undelivered.delivered(buffer);
             return object;
@@ -126,6 +128,7 @@ std::optional<mp::wstring> TranslatorChannel::receiveObjectText()
         m_hasObjectsToCome = false;
         throw StreamError("the host ended within an export");
     }
+    JsonTextIO::check(*text, m_readRules);
     const MessageHead head = peekEnvelope(*text);
     m_undelivered.add(head.bufferName);
     m_hasObjectsToCome = head.kind == EMessageKind::Envelope;

@@ -28,12 +28,13 @@ public:
     TranslatorChannel& operator=(const TranslatorChannel&) = delete;
     virtual ~TranslatorChannel();
 
-    /// The next command, or nothing when there will be no more. A text that is no command is answered here. Throws
+    /// The next command, or nothing when there will be no more. A text that is no command, or breaks the read rules, is
+    /// answered here. Throws
     /// StreamError when the pipe breaks.
     std::optional<Command> receive();
 
     /// The next object of an export, loaded, or null behind the last. One that no class has is passed over. Throws
-    /// StreamError when the host ends before, and what loading throws.
+    /// StreamError when the host ends before, and what the read rules and loading throw.
     std::shared_ptr<IExchangeObject> receiveObject();
 
     /// An answer.
@@ -50,6 +51,9 @@ public:
     /// Of the objects that are sent. At first it is the fastest: buffers live only until the host has loaded them, but
     /// a large model must not fill a small shared memory.
     void setCompression(ECompression compression) { m_compression = compression; }
+
+    /// Of the commands, and of the objects of an export. It is strict reading until rules are set.
+    void setReadRules(const ReadRules& rules) { m_readRules = rules; }
 
     /// Messages as texts, for a translator that makes and reads them by itself.
     std::optional<mp::wstring> receiveText();
@@ -68,6 +72,7 @@ private:
     FrameReader m_messages{m_input};
     std::unique_ptr<DelayedTermination> m_termination;
     ECompression m_compression = ECompression::Fast;
+    ReadRules m_readRules = ReadRules::strict();
     UndeliveredBuffers m_undelivered;  // either way
     bool m_hasObjectsToCome = false;   // of an export
     std::optional<mp::wstring> m_next; // a command that has come already

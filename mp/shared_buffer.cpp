@@ -8,7 +8,6 @@
 #ifdef _WIN32
 #include <windows.h>
 #else
-#include <boost/interprocess/file_mapping.hpp>
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -18,7 +17,9 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdlib>
 #include <cstring>
+#include <new>
 #include <utility>
 
 namespace mp
@@ -28,6 +29,12 @@ namespace
 {
 
 namespace ipc = boost::interprocess;
+
+#ifdef _WIN32
+constexpr ipc::native_error_t kNoMemory = ERROR_NOT_ENOUGH_MEMORY;
+#else
+constexpr ipc::native_error_t kNoMemory = ENOMEM;
+#endif
 
 // CAD data is not for every user of the machine.
 ipc::permissions ownerOnly()
@@ -72,9 +79,14 @@ void mapAllPages(const ipc::mapped_region& region)
 #endif
 }
 
-using Region = std::unique_ptr<ipc::mapped_region>;
-
-#ifndef _WIN32
+#ifdef _WIN32
+// Nobody can make an object shorter while it is mapped.
+void copyContent(const ipc::shared_memory_object& object, char* out, std::uint64_t size)
+{
+    const ipc::mapped_region region(object, ipc::read_only, 0, static_cast<std::size_t>(size));
+    std::memcpy(out, region.get_address(), region.get_size());
+}
+#else
 // Reads up to `end`, or less if the object ends before.
 void readData(int file, char* out, off_t begin, off_t end)
 {
@@ -96,37 +108,25 @@ void readData(int file, char* out, off_t begin, off_t end)
     }
 }
 
-// A copy of the pages that the object has, between zeros for those that it lacks. Where they are mapped, the first look
-// at a missing page makes it, and kills the process if the file system is full. Private zeros take no memory before
-// they are written.
-Region copyOfPages(int file, off_t size)
+// Reads the pages that the object has between zeros for those that it lacks. In a mapping the first look at a missing
+// page makes it, and kills the process if the file system is full, or if another program has made the object shorter.
+void copyContent(const ipc::shared_memory_object& object, char* out, std::uint64_t size)
 {
-    const ipc::file_mapping zeros("/dev/zero", ipc::read_only);
-    auto copy = std::make_unique<ipc::mapped_region>(zeros, ipc::copy_on_write, 0, static_cast<std::size_t>(size));
-    off_t hole = 0;
-    for (off_t data = lseek(file, 0, SEEK_DATA); data >= 0 && data < size; data = lseek(file, hole, SEEK_DATA))
-    {
-        hole = std::min(lseek(file, data, SEEK_HOLE), size);
-        readData(file, static_cast<char*>(copy->get_address()), data, hole);
-    }
-    return copy;
-}
-#endif
-
-Region regionOf(const ipc::shared_memory_object& object, ipc::offset_t size)
-{
-#ifdef _WIN32
-    static_cast<void>(size);
-#else
     const int file = object.get_mapping_handle().handle;
-    const off_t hole = lseek(file, 0, SEEK_HOLE);
-    if (hole >= 0 && hole < size)
+    const auto end = static_cast<off_t>(size);
+    off_t hole = 0;
+    for (off_t data = lseek(file, 0, SEEK_DATA); data >= 0 && data < end; data = lseek(file, hole, SEEK_DATA))
     {
-        return copyOfPages(file, size);
+        // The hole behind the data is gone when the object was made shorter in between.
+        hole = lseek(file, data, SEEK_HOLE);
+        if (hole < 0)
+        {
+            return;
+        }
+        readData(file, out, data, std::min(hole, end));
     }
-#endif
-    return std::make_unique<ipc::mapped_region>(object, ipc::read_only);
 }
+#endif
 
 // On Windows an object is a file of its name in a folder of the layer below. A name from the other program must not
 // lead out of that folder; elsewhere the system refuses such a name itself.
@@ -176,27 +176,19 @@ void setSharedBufferWatcher(SharedBufferWatcher watcher)
     sharedBufferWatcher = watcher;
 }
 
-SharedView::SharedView() = default;
-
-SharedView::SharedView(Region region)
-    : m_region(std::move(region))
+void SharedCopy::Release::operator()(char* bytes) const noexcept
 {
+    std::free(bytes); // NOLINT(cppcoreguidelines-no-malloc): its counterpart is calloc
 }
 
-SharedView::SharedView(SharedView&& other) noexcept = default;
-
-SharedView& SharedView::operator=(SharedView&& other) noexcept = default;
-
-SharedView::~SharedView() = default;
-
-const char* SharedView::data() const
+SharedCopy::SharedCopy(std::uint64_t size)
+    : m_bytes(static_cast<char*>(std::calloc(static_cast<std::size_t>(size), 1))) // NOLINT(cppcoreguidelines-no-malloc)
+    , m_size(size)
 {
-    return m_region == nullptr ? nullptr : static_cast<const char*>(m_region->get_address());
-}
-
-std::uint64_t SharedView::size() const
-{
-    return m_region == nullptr ? 0 : m_region->get_size();
+    if (m_bytes == nullptr && size != 0)
+    {
+        throw ipc::interprocess_exception(ipc::error_info(kNoMemory));
+    }
 }
 
 SharedBuffer<char>::SharedBuffer() = default;
@@ -292,20 +284,27 @@ void SharedBuffer<char>::fill(std::uint64_t size, const std::function<void(char*
 
 void SharedBuffer<char>::read(std::vector<char>& out) const
 {
-    const SharedView content = view();
+    const SharedCopy content = copy();
     out.assign(content.data(), content.data() + content.size());
 }
 
-SharedView SharedBuffer<char>::view() const
+SharedCopy SharedBuffer<char>::copy(std::uint64_t most) const
 {
-    const ipc::shared_memory_object& shared = object();
-    Region region;
-    ipc::offset_t size = 0;
-    if (shared.get_size(size) && size != 0)
+    SharedCopy content;
+    if (const std::uint64_t wanted = std::min(size(), most))
     {
-        withTurnedErrors([&] { region = regionOf(shared, size); });
+        withTurnedErrors([&] {
+            content = SharedCopy(wanted);
+            copyContent(object(), content.m_bytes.get(), wanted);
+        });
     }
-    return SharedView(std::move(region));
+    return content;
+}
+
+std::uint64_t SharedBuffer<char>::size() const
+{
+    ipc::offset_t size = 0;
+    return object().get_size(size) ? static_cast<std::uint64_t>(size) : 0;
 }
 
 void SharedBuffer<char>::clear()

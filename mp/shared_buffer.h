@@ -6,13 +6,13 @@
 
 #include <cstdint>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace boost::interprocess
 {
-class mapped_region;
 class shared_memory_object;
 } // namespace boost::interprocess
 
@@ -22,24 +22,29 @@ namespace mp
 template <class T>
 class SharedBuffer;
 
-/// The content of a shared buffer, to be read where it lies. A view is let go before its buffer is written again,
-/// cleared or destroyed. What another program writes into the buffer meanwhile is seen in the view.
-class VRX_API SharedView
+/// The content of a shared buffer as it was when it was copied, in memory of this process alone: what another program
+/// does to the buffer later does not reach it.
+class VRX_API SharedCopy
 {
 public:
-    SharedView();
-    SharedView(SharedView&& other) noexcept;
-    SharedView& operator=(SharedView&& other) noexcept;
-    ~SharedView();
+    SharedCopy() = default;
 
-    const char* data() const;
-    std::uint64_t size() const;
+    const char* data() const { return m_bytes.get(); }
+    std::uint64_t size() const { return m_bytes == nullptr ? 0 : m_size; }
 
 private:
     friend class SharedBuffer<char>;
-    explicit SharedView(std::unique_ptr<boost::interprocess::mapped_region> region);
 
-    std::unique_ptr<boost::interprocess::mapped_region> m_region;
+    struct Release
+    {
+        void operator()(char* bytes) const noexcept;
+    };
+
+    /// Zeros, which take no memory before they are written.
+    explicit SharedCopy(std::uint64_t size);
+
+    std::unique_ptr<char, Release> m_bytes;
+    std::uint64_t m_size = 0;
 };
 
 /// A named block of bytes that outlives the process that made it: one process writes it, another reads and removes it.
@@ -75,8 +80,12 @@ public:
     /// Replaces `out` by the content.
     void read(std::vector<char>& out) const;
 
-    /// The content in place. An object for which another program left out pages is copied, with zeros in their stead.
-    SharedView view() const;
+    /// The content, or its first bytes, no more than these. No other program can end this one by making the object
+    /// shorter meanwhile: bytes that are there no more are zeros.
+    SharedCopy copy(std::uint64_t most = std::numeric_limits<std::uint64_t>::max()) const;
+
+    /// The size of the content.
+    std::uint64_t size() const;
 
     /// Makes the content empty.
     void clear();

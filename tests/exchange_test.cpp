@@ -405,12 +405,12 @@ TEST(Load, ThatFailsRemovesTheBufferAndLeavesTheObjectUnloaded)
     }
 }
 
-// The object of an envelope that is read with a size limit.
-std::shared_ptr<IExchangeObject> openedWithin(std::uint64_t limit, const wstring& source, bool delayed)
+// The object of an envelope that is read by rules.
+std::shared_ptr<IExchangeObject> openedWithin(const ReadRules& rules, const wstring& source, bool delayed)
 {
     ExchangeObjectWrapper wrapper;
     wrapper.setDelayedLoading(delayed);
-    wrapper.setSizeLimit(limit);
+    wrapper.setReadRules(rules);
     mp::wistringstream stream(test::unitsOf(structureEnvelope(source)));
     wrapper.readObject(stream);
     return wrapper.get();
@@ -430,16 +430,16 @@ TEST(Load, TakesNoMoreThanTheLimit)
     for (const auto& [content, text] : contents)
     {
         const wstring refused = test::leaveBuffer(content);
-        EXPECT_EQ(test::thrownBy<std::length_error>([&] { openedWithin(53, refused, false); }), text);
+        EXPECT_EQ(test::thrownBy<std::length_error>([&] { openedWithin({53}, refused, false); }), text);
         EXPECT_EQ(test::takeBuffer(refused), "");
 
         const wstring refusedLater = test::leaveBuffer(content);
-        const auto object = openedWithin(53, refusedLater, true);
+        const auto object = openedWithin({53}, refusedLater, true);
         EXPECT_EQ(test::thrownBy<std::length_error>([&] { object->load(); }), text);
         EXPECT_FALSE(object->isLoaded());
         EXPECT_EQ(test::takeBuffer(refusedLater), "");
 
-        EXPECT_TRUE(openedWithin(54, test::leaveBuffer(content), false)->isLoaded());
+        EXPECT_TRUE(openedWithin({54}, test::leaveBuffer(content), false)->isLoaded());
     }
 }
 

@@ -271,7 +271,7 @@ TEST_F(SentBodies, ThatWereDamagedAreAnError)
     EXPECT_THROW(readDamaged(), std::runtime_error);
 }
 
-TEST_F(SentBodies, AboveTheSizeLimitThrow)
+TEST_F(SentBodies, AboveTheLimitThrow)
 {
     const std::uint64_t size = test::saved(m_bodies.list()).size();
     for (const bool compress : {false, true})
@@ -279,12 +279,12 @@ TEST_F(SentBodies, AboveTheSizeLimitThrow)
         send(compress);
         {
             ExcBlockGeometry geometry = received();
-            geometry.setSizeLimit(size - 1);
+            geometry.setReadRules({size - 1});
             Bodies bodies;
             Ids ids;
             EXPECT_THROW(geometry.getGeometry(bodies.list(), ids), std::length_error);
             EXPECT_EQ(bodies.list().count() + static_cast<int>(ids.size()), 0);
-            geometry.setSizeLimit(size);
+            geometry.setReadRules({size});
             expectBodies(geometry);
         }
         EXPECT_FALSE(isInSystem());

@@ -5,8 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 #include <stdexcept>
+#include <thread>
 
 #ifdef __linux__
 #include <fcntl.h>
@@ -22,9 +24,9 @@ namespace
 
 using Buffer = SharedBuffer<char>;
 
-std::string textOf(const SharedView& view)
+std::string textOf(const SharedCopy& content)
 {
-    return {view.data(), view.size()};
+    return {content.data(), content.size()};
 }
 
 TEST(Narrow, KeepsAscii)
@@ -75,7 +77,7 @@ TEST(SharedBuffer, RefusesToWorkUnopened)
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.write("a", 1); }), unopened);
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.fill(1, [](char*) {}); }), unopened);
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.read(bytes); }), unopened);
-    EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.view(); }), unopened);
+    EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.copy(); }), unopened);
     EXPECT_EQ(test::thrownBy<SharedMemoryException>([&] { buffer.clear(); }), unopened);
 }
 
@@ -114,20 +116,22 @@ TEST(SharedBuffer, IsSeenThroughTwoHandlesAndCleared)
     EXPECT_TRUE(bytes.empty());
 }
 
-TEST(SharedBuffer, IsFilledAndSeenInPlace)
+TEST(SharedBuffer, IsCopiedAsItWasAndInPart)
 {
     Buffer buffer;
     buffer.open(vrx::IExchangeObject::generateUUID(), true);
-    EXPECT_EQ(buffer.view().size(), 0U);
-    SharedView seen;
+    EXPECT_EQ(buffer.copy().size(), 0U);
+    SharedCopy early;
     buffer.fill(6, [&](char* out) {
         std::memcpy(out, "filled", 6);
-        seen = buffer.view();
+        early = buffer.copy();
         std::memcpy(out, "FILL", 4);
     });
-    EXPECT_EQ(textOf(seen), "FILLed");
-    const SharedView moved = std::move(seen);
-    EXPECT_EQ(textOf(moved), "FILLed");
+    const SharedCopy moved = std::move(early);
+    EXPECT_EQ(textOf(moved), "filled");
+    EXPECT_EQ(textOf(buffer.copy(4)), "FILL");
+    EXPECT_EQ(textOf(buffer.copy(7)), "FILLed");
+    EXPECT_EQ(buffer.size(), 6U);
 }
 
 TEST(SharedBuffer, ThatCanNotBeFilledIsLeftEmpty)
@@ -140,9 +144,9 @@ TEST(SharedBuffer, ThatCanNotBeFilledIsLeftEmpty)
         throw std::out_of_range("no more");
     };
     EXPECT_EQ(test::thrownBy<std::out_of_range>([&] { buffer.fill(100, fail); }), "no more");
-    EXPECT_EQ(buffer.view().size(), 0U);
+    EXPECT_EQ(buffer.copy().size(), 0U);
     buffer.write("again", 5);
-    EXPECT_EQ(textOf(buffer.view()), "again");
+    EXPECT_EQ(textOf(buffer.copy()), "again");
 }
 
 TEST(SharedBuffer, CanNotWriteNothing)
@@ -166,9 +170,9 @@ TEST(SharedBuffer, IsNotMadeByALook)
 
     const wstring name = test::leaveBuffer("left");
     EXPECT_TRUE(buffer.openExisting(name));
-    EXPECT_EQ(textOf(buffer.view()), "left");
+    EXPECT_EQ(textOf(buffer.copy()), "left");
     EXPECT_FALSE(buffer.openExisting(missing)); // which leaves open what is open
-    EXPECT_EQ(textOf(buffer.view()), "left");
+    EXPECT_EQ(textOf(buffer.copy()), "left");
     EXPECT_EQ(test::takeBuffer(name), "left");
 }
 
@@ -272,6 +276,32 @@ private:
     int m_file;
 };
 
+// In a mapping this would be a bus error.
+TEST(SharedBuffer, ThatAnotherMakesShorterEndsNoReader)
+{
+    const wstring name = vrx::IExchangeObject::generateUUID();
+    const std::string content(100000, 'x');
+    Buffer reader;
+    reader.open(name, true);
+    std::atomic<bool> isDone = false;
+    std::thread other([&] {
+        Buffer writer;
+        writer.open(name, false);
+        while (!isDone)
+        {
+            writer.write(content.data(), content.size());
+            writer.clear();
+        }
+    });
+    for (int round = 0; round < 1000; ++round)
+    {
+        const std::string seen = textOf(reader.copy());
+        EXPECT_EQ(seen.find_first_not_of(std::string("x\0", 2)), std::string::npos);
+    }
+    isDone = true;
+    other.join();
+}
+
 // A page that is made by looking at it is one that a full file system can't supply.
 TEST(SharedBuffer, OfWhichPagesAreMissingIsReadWithoutMakingThem)
 {
@@ -284,7 +314,7 @@ TEST(SharedBuffer, OfWhichPagesAreMissingIsReadWithoutMakingThem)
     const blkcnt_t blocks = object.blocks();
     Buffer buffer;
     buffer.open(object.name(), true);
-    EXPECT_TRUE(textOf(buffer.view()) == expected);
+    EXPECT_TRUE(textOf(buffer.copy()) == expected);
     std::vector<char> bytes;
     buffer.read(bytes);
     EXPECT_TRUE(std::equal(bytes.begin(), bytes.end(), expected.begin(), expected.end()));
@@ -299,10 +329,10 @@ TEST(SharedBuffer, OfWhichMostPagesAreMissingCostsThoseThatItHas)
     const blkcnt_t blocks = object.blocks();
     Buffer buffer;
     buffer.open(object.name(), true);
-    const SharedView view = buffer.view();
-    ASSERT_EQ(view.size(), kSize);
-    EXPECT_EQ(std::string(view.data() + kMiddle - 1, 5), std::string("\0abc\0", 5));
-    EXPECT_EQ(view.data()[0] + view.data()[kSize - 1], 0);
+    const SharedCopy content = buffer.copy();
+    ASSERT_EQ(content.size(), kSize);
+    EXPECT_EQ(std::string(content.data() + kMiddle - 1, 5), std::string("\0abc\0", 5));
+    EXPECT_EQ(content.data()[0] + content.data()[kSize - 1], 0);
     EXPECT_EQ(object.blocks(), blocks);
 }
 #endif

@@ -15,6 +15,7 @@
 #include "vrx_api/json/json_fwd.h"
 #include "vrx_api/json/json_object.h"
 #include "vrx_api/json/json_text_io.h"
+#include "vrx_api/json/read_rules.h"
 #include "vrx_api/json/shape.h"
 #include "vrx_api/legacy/component_instance_names.h"
 #include "vrx_api/legacy/material_map.h"

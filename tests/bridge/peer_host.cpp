@@ -116,7 +116,7 @@ void talk(bridge::HostSession& session, const std::string& manner)
     }
     if (manner == "limits")
     {
-        session.setSizeLimit(10);
+        session.setReadRules({10});
     }
     session.setLazy(manner == "is-lazy");
     std::cout << mp::toNarrow(session.info().name()) << '\n';

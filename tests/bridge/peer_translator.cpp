@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <string_view>
 #include <thread>
 
 using namespace vrx;
@@ -29,12 +30,12 @@ std::shared_ptr<ExcProductStructure> structure(const std::string& name)
     return structure;
 }
 
-mp::wstring leftBuffer()
+mp::wstring leftBuffer(std::string_view content = "bodies")
 {
     mp::wstring name = IExchangeObject::generateUUID();
     mp::SharedBuffer<char> buffer;
     buffer.open(name, false);
-    buffer.write("bodies", 6);
+    buffer.write(content.data(), content.size());
     return name;
 }
 
@@ -159,6 +160,15 @@ private:
             m_channel.sendText(WIDE(R"({"exchange_object_name":"exc_block_geometry","exchange_object_data":)"
                                     R"({"block_id":1,"acis_body_ids":[],"shared_acis_buffer_name":")") +
                                leftBuffer() + WIDE("\"}}"));
+        }
+        else if (step == "twice")
+        {
+            m_channel.sendText(WIDE(R"({"exchange_object_name":"exc_log","exchange_object_name":"exc_message"})"));
+        }
+        else if (step == "longer")
+        {
+            constexpr std::string_view kObjectAndMore("\3\0\0\0\0\0\0\0\0\0\0\0\0", 13);
+            m_channel.sendText(envelope(WIDE("exc_product_structure"), leftBuffer(kObjectAndMore)));
         }
         else if (step == "untold")
         {

@@ -4,6 +4,8 @@
 #include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/json_binary_io.h"
 
+#include <boost/interprocess/mapped_region.hpp>
+#include <boost/interprocess/shared_memory_object.hpp>
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -118,18 +120,19 @@ TEST(Buffers, OnlyUnusedOnesAreRemoved)
 }
 
 #ifndef _WIN32
+namespace ipc = boost::interprocess;
+
 TEST(Buffers, MappedOnesAreInUseAndLinksAreLeftAlone)
 {
     const Buffer buffer("12345");
     buffer.makeOld();
-    std::optional<mp::SharedView> view;
+    std::optional<ipc::mapped_region> region;
     {
-        mp::SharedBuffer<char> open;
-        ASSERT_TRUE(open.openExisting(buffer.wide()));
-        view = open.view();
+        const ipc::shared_memory_object open(ipc::open_only, buffer.name().c_str(), ipc::read_only);
+        region.emplace(open, ipc::read_only);
     }
     ASSERT_TRUE(buffer.find()->isOpen);
-    view.reset();
+    region.reset();
 
     buffers::Buffer asked = *buffer.find();
     asked.name = mp::toNarrow(vrx::IExchangeObject::generateUUID());

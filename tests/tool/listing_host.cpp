@@ -35,7 +35,7 @@ void take(const mp::wstring& message, const mp::wstring& name)
     mp::SharedBuffer<char> buffer;
     if (!name.empty() && buffer.openExisting(name))
     {
-        const mp::SharedView content = buffer.view();
+        const mp::SharedCopy content = buffer.copy();
         std::cout << "  " << content.size() << " bytes, "
                   << capture::checksum(0, content.data(), static_cast<std::size_t>(content.size())) << '\n';
         buffer.setRemoveOnClose(true);

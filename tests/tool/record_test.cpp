@@ -100,7 +100,7 @@ public:
             mp::SharedBuffer<char> buffer;
             if (!head.bufferName.empty() && buffer.openExisting(head.bufferName))
             {
-                const mp::SharedView content = buffer.view();
+                const mp::SharedCopy content = buffer.copy();
                 answer.contents.emplace_back(content.data(), content.data() + content.size());
                 answer.messages.back() = replaced(*message, head.bufferName);
                 m_names.push_back(head.bufferName);

@@ -1,6 +1,7 @@
 #include "vrx_api/exchange/binary_check.h"
 
 #include "vrx_api/json/binary_tag.h"
+#include "vrx_api/json/rule_keeper.h"
 
 #include <cstring>
 #include <limits>
@@ -20,9 +21,10 @@ constexpr std::uint64_t kMostUnits = std::numeric_limits<std::uint32_t>::max();
 class Checker
 {
 public:
-    Checker(const char* data, std::size_t size)
+    Checker(const char* data, std::size_t size, const ReadRules& rules)
         : m_data(data)
         , m_end(data + size)
+        , m_rules(rules)
     {
     }
 
@@ -35,12 +37,16 @@ public:
             if (next != m_end || m_nameAlone)
             {
                 m_nameAlone = m_object && !m_nameAlone;
-                next = checkValue(next);
+                next = m_nameAlone && m_rules.isStrict() ? checkName(next) : checkValue(next);
             }
             else
             {
                 close();
             }
+        }
+        if (m_rules.isStrict() && next != m_end)
+        {
+            throw std::invalid_argument(binary_failure::kBytesBehind);
         }
     }
 
@@ -62,6 +68,7 @@ private:
     const char* checkValue(const char* next)
     {
         const auto tag = load<BinaryTag>(next, binary_failure::kNoType);
+        m_rules.values(1);
         next += kTagSize;
         switch (tag)
         {
@@ -94,10 +101,12 @@ private:
         next += sizeof(T);
         constexpr std::size_t kStep = kTagSize + sizeof(T);
         const bool inArray = !m_object && !m_outer.empty();
+        const char* const behindFirst = next;
         for (std::size_t left = inArray ? remaining(next) / kStep : 0; left != 0 && isTag(next, tag); --left)
         {
             next += kStep;
         }
+        m_rules.values(static_cast<std::size_t>(next - behindFirst) / kStep);
         return next;
     }
 
@@ -114,6 +123,17 @@ private:
         return next + count * sizeof(wchar);
     }
 
+    const char* checkName(const char* next)
+    {
+        const char* const behind = checkValue(next);
+        if (!isTag(next, BinaryTag::String))
+        {
+            throw std::invalid_argument(binary_failure::kNameNoString);
+        }
+        m_rules.name(BinaryValue(next).units());
+        return behind;
+    }
+
     const char* open(const char* next, bool object)
     {
         const auto size = load<std::uint64_t>(next, binary_failure::kNoNumber);
@@ -128,11 +148,20 @@ private:
         m_end = next + size;
         m_object = object;
         m_nameAlone = false;
+        m_rules.depth(m_outer.size());
+        if (object && m_rules.isStrict())
+        {
+            m_rules.beginObject();
+        }
         return next;
     }
 
     void close()
     {
+        if (m_object && m_rules.isStrict())
+        {
+            m_rules.endObject();
+        }
         const std::uint64_t container = m_outer.back();
         m_outer.pop_back();
         m_end = m_data + (container >> 2U);
@@ -145,13 +174,14 @@ private:
     bool m_object = false;
     bool m_nameAlone = false;
     std::vector<std::uint64_t> m_outer;
+    RuleKeeper m_rules;
 };
 
 } // namespace
 
-BinaryValue checkBinary(const char* data, std::uint64_t size)
+BinaryValue checkBinary(const char* data, std::uint64_t size, const ReadRules& rules)
 {
-    Checker(data, static_cast<std::size_t>(size)).check();
+    Checker(data, static_cast<std::size_t>(size), rules).check();
     return BinaryValue(data);
 }
 

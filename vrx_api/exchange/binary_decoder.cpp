@@ -304,6 +304,19 @@ std::vector<char> takeValue(std::istream& stream)
     return bytes;
 }
 
+// The value is checked where units have an even address.
+template <class Use>
+void withCheckedValue(const char* data, std::uint64_t size, const ReadRules& rules, const Use& use)
+{
+    if (reinterpret_cast<std::uintptr_t>(data) % alignof(wchar) != 0) // NOLINT: the address itself is asked for
+    {
+        const Bytes aligned(data, data + size);
+        use(checkBinary(aligned.data(), aligned.size(), rules));
+        return;
+    }
+    use(checkBinary(data, size, rules));
+}
+
 } // namespace
 
 void JsonBinaryIO::read(const char* data, std::uint64_t size, JsonValue& value, JsonAllocator& allocator)
@@ -325,16 +338,17 @@ std::istream& JsonBinaryIO::read(std::istream& stream, JsonValue& value, JsonAll
     return stream;
 }
 
-void JsonBinaryIO::read(const char* data, std::uint64_t size, IJsonObject& object)
+void JsonBinaryIO::read(const char* data, std::uint64_t size, JsonValue& value, JsonAllocator& allocator,
+                        const ReadRules& rules)
 {
-    if (reinterpret_cast<std::uintptr_t>(data) % alignof(wchar) != 0) // NOLINT: the address itself is asked for
-    {
-        const Bytes aligned(data, data + size);
-        read(aligned.data(), aligned.size(), object);
-        return;
-    }
-    const BinaryValue value = checkBinary(data, size);
-    kolt::LoggerHolder::levelEnabled(kolt::kTrace) ? readByTree(object, value) : readDirectly(object, value);
+    withCheckedValue(data, size, rules, [&](BinaryValue) { read(data, size, value, allocator); });
+}
+
+void JsonBinaryIO::read(const char* data, std::uint64_t size, IJsonObject& object, const ReadRules& rules)
+{
+    withCheckedValue(data, size, rules, [&object](BinaryValue value) {
+        kolt::LoggerHolder::levelEnabled(kolt::kTrace) ? readByTree(object, value) : readDirectly(object, value);
+    });
 }
 
 } // namespace vrx

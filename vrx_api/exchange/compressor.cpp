@@ -86,12 +86,12 @@ void Compressor::compress(std::string& out, const char* data, std::uint64_t size
     out.assign(bytes.begin(), bytes.end());
 }
 
-void Compressor::decompress(Bytes& out, const char* data, std::uint64_t size, std::uint64_t limit)
+void Compressor::decompress(Bytes& out, const char* data, std::uint64_t size, const ReadRules& rules)
 {
     kolt::trace();
     requireReach(size);
     const std::uint64_t expected = expectedSize(data, size);
-    makeRoom(out, std::min(expected, limit));
+    makeRoom(out, std::min(expected, rules.plainBytes));
     if constexpr (kHasLibdeflate)
     {
         if (out.size() == expected && inflateByLibdeflate(out, data, size))
@@ -99,7 +99,7 @@ void Compressor::decompress(Bytes& out, const char* data, std::uint64_t size, st
             return;
         }
     }
-    inflateByZlib(out, data, size, limit);
+    inflateByZlib(out, data, size, rules);
 }
 
 void Compressor::decompress(std::vector<char>& out, const char* data, std::uint64_t size)

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "vrx_api/exchange/bytes.h"
+#include "vrx_api/json/read_rules.h"
 #include "vrx_api/vrx_api_export.h"
 
 #include <cstdint>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -20,18 +20,16 @@ class VRX_API Compressor
 public:
     Compressor() = delete;
 
-    /// The limit of a reader that takes whatever comes.
-    static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
-
     /// Replaces `out` by the gzip stream of the data; level -1 is zlib's default. Throws `std::runtime_error`.
     static void compress(Bytes& out, const char* data, std::uint64_t size, int level);
     static void compress(std::vector<char>& out, const char* data, std::uint64_t size, int level);
     static void compress(std::string& out, const char* data, std::uint64_t size, int level);
 
     /// Replaces `out` by the plain data. A stream that was cut short gives what could be decompressed; a damaged one
-    /// throws `std::runtime_error`, and more plain data than the limit `std::length_error`. Memory is spent for the
-    /// data that comes, whatever size the stream tells.
-    static void decompress(Bytes& out, const char* data, std::uint64_t size, std::uint64_t limit = kNoLimit);
+    /// throws `std::runtime_error`, as does for a strict reader one without its end or with bytes behind it, and more
+    /// plain data than the limit throws `std::length_error`. Memory is spent for the data that comes, whatever size the
+    /// stream tells.
+    static void decompress(Bytes& out, const char* data, std::uint64_t size, const ReadRules& rules = {});
     static void decompress(std::vector<char>& out, const char* data, std::uint64_t size);
     static void decompress(std::string& out, const char* data, std::uint64_t size);
 

@@ -38,8 +38,8 @@ void IExchangeObject::load()
     }
     mp::SharedBuffer<char> buffer;
     buffer.open(m_source, true);
-    const PlainContent content(buffer, m_sizeLimit);
-    JsonBinaryIO::read(content.data(), content.size(), *this);
+    const PlainContent content(buffer, m_readRules);
+    JsonBinaryIO::read(content.data(), content.size(), *this, m_readRules);
     m_loaded = true;
 }
 

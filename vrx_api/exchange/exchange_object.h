@@ -1,9 +1,8 @@
 #pragma once
 
-#include "vrx_api/exchange/compressor.h"
 #include "vrx_api/json/json_object.h"
+#include "vrx_api/json/read_rules.h"
 
-#include <cstdint>
 #include <memory>
 
 namespace vrx
@@ -33,15 +32,15 @@ public:
 
     /// Fills a binary object from its source, which is removed from the system; does nothing without a source or a
     /// second time. Throws `mp::SharedMemoryException`, `std::length_error` or `std::invalid_argument` for content that
-    /// is no binary JSON, `std::length_error` for content above the size limit, and `std::runtime_error` for damaged
-    /// compressed data.
+    /// is no binary JSON, `std::runtime_error` for damaged compressed data, and for content that breaks the read rules
+    /// `std::length_error` above a limit and `std::invalid_argument` or `std::runtime_error` for what is refused.
     virtual void load();
 
     /// The name of the shared memory buffer that holds this object's content.
     void setSource(const wstring& source) { m_source = source; }
 
-    /// The most bytes that the content may have when it is decompressed. There is no limit until one is set.
-    void setSizeLimit(std::uint64_t bytes) { m_sizeLimit = bytes; }
+    /// What is asked of the content. Nothing is until rules are set.
+    void setReadRules(const ReadRules& rules) { m_readRules = rules; }
 
     /// A new random UUID (RFC 4122, version 4) in its lower-case form of 36 characters.
     static wstring generateUUID();
@@ -55,7 +54,7 @@ protected:
 
     wstring m_source;
     bool m_loaded = false;
-    std::uint64_t m_sizeLimit = Compressor::kNoLimit;
+    ReadRules m_readRules;
 };
 
 } // namespace vrx

@@ -106,7 +106,7 @@ void ExchangeObjectWrapper::readObject(wistream& stream)
 {
     kolt::trace();
     JsonDocument document;
-    readMessage(stream, document);
+    readMessage(stream, document, m_readRules);
 
     const JsonValue* const name = find(document, kEnvelopeName);
     if (name == nullptr || !name->IsString())
@@ -119,10 +119,7 @@ void ExchangeObjectWrapper::readObject(wistream& stream)
     {
         return;
     }
-    if (m_sizeLimit != Compressor::kNoLimit)
-    {
-        m_pObject->setSizeLimit(m_sizeLimit);
-    }
+    m_pObject->setReadRules(m_readRules);
     const JsonValue* const data = find(document, kEnvelopeData);
     if (data == nullptr)
     {

@@ -4,7 +4,6 @@
 #include "vrx_api/exchange/compression.h"
 #include "vrx_api/exchange/exchange_object.h"
 
-#include <cstdint>
 #include <memory>
 
 namespace vrx
@@ -19,8 +18,8 @@ public:
     /// Throws `std::invalid_argument` without an object, and what shared memory, compression and text output throw.
     void writeObject(wostream& stream) const override;
 
-    /// Throws `std::invalid_argument` for a text that is no JSON object, and what `IExchangeObject::load` throws. A
-    /// name that no class has gives a null object.
+    /// Throws `std::invalid_argument` for a text that is no JSON object, and what `JsonTextIO::read` by the read rules
+    /// and `IExchangeObject::load` throw. A name that no class has gives a null object.
     void readObject(wistream& stream) override;
 
     const std::shared_ptr<IExchangeObject>& get() const { return m_pObject; }
@@ -33,14 +32,14 @@ public:
     /// How `writeObject` compresses a binary object.
     void setCompression(ECompression compression) { m_compression = compression; }
 
-    /// The size limit of the objects that `readObject` makes; see `IExchangeObject::setSizeLimit`.
-    void setSizeLimit(std::uint64_t bytes) { m_sizeLimit = bytes; }
+    /// What `readObject` asks of its text, and of the contents of the object that it makes.
+    void setReadRules(const ReadRules& rules) { m_readRules = rules; }
 
 private:
     std::shared_ptr<IExchangeObject> m_pObject;
     bool m_delayedLoading = false;
     ECompression m_compression = ECompression::AsTold;
-    std::uint64_t m_sizeLimit = Compressor::kNoLimit;
+    ReadRules m_readRules;
 };
 
 } // namespace vrx

@@ -2,6 +2,7 @@
 
 #include "vrx_api/exchange/bytes.h"
 #include "vrx_api/json/json_object.h"
+#include "vrx_api/json/read_rules.h"
 #include "vrx_api/vrx_api_export.h"
 
 #include <cstdint>
@@ -33,14 +34,19 @@ public:
     /// Decodes the value at the front of the bytes; throws as the reading of a stream does.
     static void read(const char* data, std::uint64_t size, JsonValue& value, JsonAllocator& allocator);
 
+    /// The same for bytes that keep the rules. The others throw before a value is made: `std::length_error` above a
+    /// limit, `std::invalid_argument` for what a strict reader refuses.
+    static void read(const char* data, std::uint64_t size, JsonValue& value, JsonAllocator& allocator,
+                     const ReadRules& rules);
+
     /// Replaces the bytes by the binary form of an object, as its `writeObject` and the function above make it
     /// together, but without a tree in between. The object and all within it must not change meanwhile, not by a
     /// `writeObject` either. Throws what `writeObject` throws.
     static void write(Bytes& bytes, const IJsonObject& object);
 
-    /// Has an object read its binary form, in the same way. The bytes are checked as a whole before the object takes
-    /// anything.
-    static void read(const char* data, std::uint64_t size, IJsonObject& object);
+    /// Has an object read its binary form, in the same way. The bytes are checked as a whole, and held against the
+    /// rules, before the object takes anything.
+    static void read(const char* data, std::uint64_t size, IJsonObject& object, const ReadRules& rules = {});
 };
 
 } // namespace vrx

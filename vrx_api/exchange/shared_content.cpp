@@ -8,19 +8,40 @@
 namespace vrx
 {
 
-PlainContent::PlainContent(const mp::SharedBuffer<char>& buffer, std::uint64_t limit)
-    : m_view(buffer.view())
+namespace
 {
-    if (Compressor::isCompressed(m_view.data(), m_view.size()))
+
+bool isCompressed(const mp::SharedCopy& content)
+{
+    return Compressor::isCompressed(content.data(), content.size());
+}
+
+void requireSize(std::uint64_t size, std::uint64_t limit)
+{
+    if (size > limit)
     {
-        Compressor::decompress(m_decompressed, m_view.data(), m_view.size(), limit);
-        m_view = mp::SharedView();
-    }
-    else if (m_view.size() > limit)
-    {
-        throw std::length_error("Content of " + std::to_string(m_view.size()) + " bytes is above the limit of " +
+        throw std::length_error("Content of " + std::to_string(size) + " bytes is above the limit of " +
                                 std::to_string(limit) + " bytes");
     }
+}
+
+} // namespace
+
+PlainContent::PlainContent(const mp::SharedBuffer<char>& buffer, const ReadRules& rules)
+{
+    // A look at the beginning spares the copy of what is too large. It decides nothing else: the buffer may change.
+    constexpr std::uint64_t kBeginning = 3;
+    if (buffer.size() > rules.plainBytes && !isCompressed(buffer.copy(kBeginning)))
+    {
+        requireSize(buffer.size(), rules.plainBytes);
+    }
+    m_copy = buffer.copy();
+    if (isCompressed(m_copy))
+    {
+        Compressor::decompress(m_decompressed, m_copy.data(), m_copy.size(), rules);
+        m_copy = mp::SharedCopy();
+    }
+    requireSize(m_copy.size(), rules.plainBytes);
 }
 
 } // namespace vrx

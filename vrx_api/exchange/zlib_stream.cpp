@@ -106,8 +106,9 @@ void deflateByZlib(Bytes& out, const char* data, std::uint64_t size, int level)
     out.resize(written);
 }
 
-void inflateByZlib(Bytes& out, const char* data, std::uint64_t size, std::uint64_t limit)
+void inflateByZlib(Bytes& out, const char* data, std::uint64_t size, const ReadRules& rules)
 {
+    const std::uint64_t limit = rules.plainBytes;
     Inflater inflater;
     z_stream& stream = inflater.stream();
     setInput(stream, data, size);
@@ -131,6 +132,11 @@ void inflateByZlib(Bytes& out, const char* data, std::uint64_t size, std::uint64
             throw std::length_error("Decompressed data is above the limit of " + std::to_string(limit) + " bytes");
         }
     } while (result != Z_STREAM_END && stream.avail_out == 0);
+    if (rules.isStrict && (result != Z_STREAM_END || stream.avail_in != 0))
+    {
+        throw std::runtime_error(result != Z_STREAM_END ? "The compressed data was cut short"
+                                                        : "Bytes stand behind the compressed data");
+    }
     out.resize(written);
 }
 

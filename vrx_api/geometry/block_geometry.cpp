@@ -168,7 +168,7 @@ bool ExcBlockGeometry::getGeometry(ENTITY_LIST& entities, std::vector<std::uint6
         kolt::log(kolt::kError, "Failed to get geometry from shared memory buffer: Invalid buffer object.");
         return false;
     }
-    m_buffer->load(m_sizeLimit);
+    m_buffer->load(m_readRules);
     const outcome restored = callAcis([&] { return api_restore_entity_list_file(m_buffer.get(), entities, nullptr); });
     if (!restored.ok())
     {

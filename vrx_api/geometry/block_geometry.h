@@ -45,8 +45,8 @@ public:
     bool setGeometry(const ENTITY_LIST& entities, bool compress);
 
     /// Restores the bodies, and appends them and their ids, both in the order in which they were saved; as often as
-    /// wanted. A failure is logged and gives false. Throws `mp::SharedMemoryException`, `std::length_error` for more
-    /// bytes than the size limit, and `std::runtime_error` for damaged compressed data.
+    /// wanted. A failure is logged and gives false. Throws `mp::SharedMemoryException`, `std::length_error` for what
+    /// is above the limit of the read rules, and `std::runtime_error` for damaged compressed data.
     bool getGeometry(ENTITY_LIST& entities, std::vector<std::uint64_t>& ids) const;
 
     /// The id of a body: its address, which is unique within one run of the producer and a mere label elsewhere.

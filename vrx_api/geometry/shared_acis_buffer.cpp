@@ -1,6 +1,7 @@
 #include "vrx_api/geometry/shared_acis_buffer.h"
 
 #include "kolt/log.h"
+#include "vrx_api/exchange/compressor.h"
 #include "vrx_api/exchange/shared_content.h"
 
 #include <new>
@@ -44,12 +45,12 @@ void ExcSharedAcisBuffer::flush(bool compress)
     m_sharedBuffer.write(compressed.data(), compressed.size());
 }
 
-void ExcSharedAcisBuffer::load(std::uint64_t sizeLimit)
+void ExcSharedAcisBuffer::load(const ReadRules& rules)
 {
     kolt::trace();
     cleanUp();
     // What an earlier load left, which may have been longer, is replaced.
-    const PlainContent content(m_sharedBuffer, sizeLimit);
+    const PlainContent content(m_sharedBuffer, rules);
     m_stream.str(std::string(content.data(), content.size()));
 }
 

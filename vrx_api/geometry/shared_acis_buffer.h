@@ -1,9 +1,9 @@
 #pragma once
 
 #include "mp/shared_buffer.h"
-#include "vrx_api/exchange/compressor.h"
 #include "vrx_api/geometry/kernel.h"
 #include "vrx_api/json/json_fwd.h"
+#include "vrx_api/json/read_rules.h"
 #include "vrx_api/vrx_api_export.h"
 
 #include <cstdint>
@@ -26,9 +26,9 @@ public:
     void flush(bool compress);
 
     /// Makes the content of the shared memory object, decompressed if it says that it is compressed, the bytes to
-    /// restore from. Throws `std::runtime_error` for damaged compressed data, and `std::length_error` for more bytes
-    /// than the limit.
-    void load(std::uint64_t sizeLimit = Compressor::kNoLimit);
+    /// restore from. Throws `std::runtime_error` for damaged compressed data and for what a strict reader refuses, and
+    /// `std::length_error` for more bytes than the limit.
+    void load(const ReadRules& rules = {});
 
     /// Goes back to the start.
     void cleanUp();

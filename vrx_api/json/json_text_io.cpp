@@ -2,8 +2,10 @@
 
 #include "vrx_api/json/json_children.h"
 #include "vrx_api/json/json_value.h"
+#include "vrx_api/json/rule_keeper.h"
 
 #include <rapidjson/prettywriter.h>
+#include <rapidjson/reader.h>
 
 #include <stdexcept>
 #include <vector>
@@ -198,6 +200,100 @@ void unescapeLoneSurrogates(wstring& text)
     }
 }
 
+// The recursive parser accepts the same texts, but overflows the stack on deep ones.
+constexpr unsigned kFlags = rapidjson::kParseDefaultFlags | rapidjson::kParseIterativeFlag;
+
+// Takes the values of a text as the parser comes to them. Throws what breaks the rules.
+class RuleHandler : public rapidjson::BaseReaderHandler<JsonEncoding, RuleHandler>
+{
+public:
+    using Ch = wchar;
+
+    explicit RuleHandler(const ReadRules& rules)
+        : m_rules(rules)
+    {
+    }
+
+    bool Default()
+    {
+        m_rules.values(1);
+        return true;
+    }
+
+    bool Key(const Ch* units, rapidjson::SizeType size, bool)
+    {
+        if (m_rules.isStrict())
+        {
+            m_rules.name({units, size});
+        }
+        return Default();
+    }
+
+    bool StartObject()
+    {
+        if (m_rules.isStrict())
+        {
+            m_rules.beginObject();
+        }
+        return StartArray();
+    }
+
+    bool EndObject(rapidjson::SizeType)
+    {
+        if (m_rules.isStrict())
+        {
+            m_rules.endObject();
+        }
+        return EndArray(0);
+    }
+
+    bool StartArray()
+    {
+        m_rules.depth(++m_depth);
+        return Default();
+    }
+
+    bool EndArray(rapidjson::SizeType)
+    {
+        --m_depth;
+        return true;
+    }
+
+private:
+    RuleKeeper m_rules;
+    std::uint64_t m_depth = 0;
+};
+
+bool asksForAnything(const ReadRules& rules)
+{
+    return rules.isStrict || rules.values != ReadRules::kNoLimit || rules.depth != ReadRules::kNoLimit;
+}
+
+// The text has no lone surrogates in escapes, and is used up.
+void requireRules(wstring text, const ReadRules& rules)
+{
+    if (rules.isStrict && text.find(wchar{}) != wstring::npos)
+    {
+        throw std::invalid_argument("The text has a NUL in it");
+    }
+    RuleHandler handler(rules);
+    rapidjson::GenericReader<JsonEncoding, JsonEncoding, rapidjson::CrtAllocator> reader;
+    // In place, so that the names stay where they are.
+    rapidjson::GenericInsituStringStream<JsonEncoding> stream(text.data());
+    reader.Parse<kFlags | rapidjson::kParseInsituFlag>(stream, handler);
+}
+
+void parse(const wstring& text, JsonDocument& document)
+{
+    JsonValue before;
+    static_cast<JsonValue&>(document).Swap(before);
+    document.Parse<kFlags>(text.c_str());
+    if (document.HasParseError())
+    {
+        static_cast<JsonValue&>(document).Swap(before);
+    }
+}
+
 } // namespace
 
 wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool pretty)
@@ -216,18 +312,27 @@ wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool
 
 wistream& JsonTextIO::read(wistream& stream, JsonDocument& document)
 {
+    return read(stream, document, {});
+}
+
+wistream& JsonTextIO::read(wistream& stream, JsonDocument& document, const ReadRules& rules)
+{
     wstring text = readAll(stream);
+    check(text, rules);
     unescapeLoneSurrogates(text);
-    JsonValue before;
-    static_cast<JsonValue&>(document).Swap(before);
-    // The recursive parser accepts the same texts, but overflows the stack on deep ones.
-    constexpr unsigned kFlags = rapidjson::kParseDefaultFlags | rapidjson::kParseIterativeFlag;
-    document.Parse<kFlags>(text.c_str());
-    if (document.HasParseError())
-    {
-        static_cast<JsonValue&>(document).Swap(before);
-    }
+    parse(text, document);
     return stream;
+}
+
+void JsonTextIO::check(const wstring& text, const ReadRules& rules)
+{
+    if (!asksForAnything(rules))
+    {
+        return;
+    }
+    wstring own = text;
+    unescapeLoneSurrogates(own);
+    requireRules(std::move(own), rules);
 }
 
 } // namespace vrx

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vrx_api/json/json_fwd.h"
+#include "vrx_api/json/read_rules.h"
 #include "vrx_api/vrx_api_export.h"
 
 namespace vrx
@@ -20,6 +21,13 @@ public:
     /// Parses the stream up to its end or to a NUL. A text that is no JSON leaves the document as it was, with the
     /// error in its parse result.
     static wistream& read(wistream& stream, JsonDocument& document);
+
+    /// The same for a text that keeps the rules. The others throw before a value is made: `std::length_error` above a
+    /// limit, `std::invalid_argument` for what a strict reader refuses.
+    static wistream& read(wistream& stream, JsonDocument& document, const ReadRules& rules);
+
+    /// Holds a text against the rules, and throws as `read` does. What stands in it behind an error is not looked at.
+    static void check(const wstring& text, const ReadRules& rules);
 };
 
 } // namespace vrx

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "vrx_api/json/key.h"
+#include "vrx_api/json/name_marks.h"
 
-#include <bitset>
 #include <cstring>
 #include <optional>
 #include <utility>
@@ -30,7 +30,7 @@ public:
     /// The value of the first member of this name, or one that is not there. A name may be asked for once only.
     Value find(Key key)
     {
-        if (m_next == m_end || !isNamed(*m_next, key) || (m_passed && m_passed->mayHold(key)))
+        if (m_next == m_end || !isNamed(*m_next, key) || (m_passed && mayHold(*m_passed, key)))
         {
             return findAnywhere(key);
         }
@@ -43,32 +43,15 @@ private:
     using Member = typename Value::Member;
     using Place = decltype(std::declval<Value>().members().begin());
 
-    // What is known of the names of a set of members.
-    class Marks
+    static void mark(NameMarks& marks, const Member& member)
     {
-    public:
-        void add(const Member& member)
+        if (member.name.isString())
         {
-            if (member.name.isString())
-            {
-                m_marks.set(markOf(member.name.units()));
-            }
+            marks.add(member.name.units());
         }
+    }
 
-        bool mayHold(Key key) const { return m_marks.test(markOf({key.text, key.size})); }
-
-    private:
-        static constexpr std::size_t kCount = 256;
-
-        static std::size_t markOf(wstring_view name)
-        {
-            const auto unitOf = [name](std::size_t at) { return std::size_t{name[at]}; };
-            const std::size_t size = name.size();
-            return size == 0 ? 0 : (size + 3 * unitOf(0) + 5 * unitOf(size - 1) + 7 * unitOf(size / 2)) % kCount;
-        }
-
-        std::bitset<kCount> m_marks;
-    };
+    static bool mayHold(const NameMarks& marks, Key key) { return marks.mayHold({key.text, key.size}); }
 
     static bool isNamed(const Member& member, Key key)
     {
@@ -87,15 +70,15 @@ private:
             m_names.emplace();
             for (Place member = m_begin; member != m_end; ++member)
             {
-                m_names->add(*member);
+                mark(*m_names, *member);
             }
         }
-        if (!m_names->mayHold(key))
+        if (!mayHold(*m_names, key))
         {
             return Value(nullptr);
         }
         // Members that are passed on the way to one further on are not next any more.
-        Marks passed = m_passed.value_or(Marks());
+        NameMarks passed = m_passed.value_or(NameMarks());
         bool isFurther = false;
         for (Place member = m_begin; member != m_end; ++member)
         {
@@ -112,7 +95,7 @@ private:
             }
             if (isFurther)
             {
-                passed.add(*member);
+                mark(passed, *member);
             }
         }
         return Value(nullptr);
@@ -121,8 +104,8 @@ private:
     Place m_begin;
     Place m_next;
     Place m_end;
-    std::optional<Marks> m_names;
-    std::optional<Marks> m_passed;
+    std::optional<NameMarks> m_names;
+    std::optional<NameMarks> m_passed;
 };
 
 } // namespace vrx

@@ -5,9 +5,9 @@
 namespace vrx
 {
 
-void readMessage(wistream& stream, JsonDocument& document)
+void readMessage(wistream& stream, JsonDocument& document, const ReadRules& rules)
 {
-    JsonTextIO::read(stream, document);
+    JsonTextIO::read(stream, document, rules);
     if (!document.IsObject())
     {
         throw std::invalid_argument("Invalid json document");

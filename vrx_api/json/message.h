@@ -6,8 +6,9 @@
 namespace vrx
 {
 
-/// Reads one whole message from a stream. Throws `std::invalid_argument` when it is no JSON object.
-void readMessage(wistream& stream, JsonDocument& document);
+/// Reads one whole message from a stream. Throws `std::invalid_argument` when it is no JSON object, and what
+/// `JsonTextIO::read` by these rules throws.
+void readMessage(wistream& stream, JsonDocument& document, const ReadRules& rules = {});
 
 /// Writes a message that is no more than its description. Throws as `JsonTextIO::write` does.
 template <class T>

@@ -36,10 +36,10 @@ public:
         mp::SharedBuffer<char> buffer;
         if (!head.bufferName.empty() && buffer.openExisting(head.bufferName))
         {
-            const mp::SharedView view = buffer.view();
-            const auto* const bytes = reinterpret_cast<const Bytef*>(view.data());
-            const uLong checksum = crc32_z(crc32_z(0, nullptr, 0), bytes, view.size());
-            std::cout << mp::toNarrow(head.objectName) << ' ' << view.size() << ' ' << std::hex << std::setw(8)
+            const mp::SharedCopy content = buffer.copy();
+            const auto* const bytes = reinterpret_cast<const Bytef*>(content.data());
+            const uLong checksum = crc32_z(crc32_z(0, nullptr, 0), bytes, content.size());
+            std::cout << mp::toNarrow(head.objectName) << ' ' << content.size() << ' ' << std::hex << std::setw(8)
                       << std::setfill('0') << checksum << std::dec << '\n';
         }
     }

@@ -36,7 +36,7 @@ vrx::Bytes decompressed(const std::vector<char>& bytes, std::uint64_t limit)
     vrx::Bytes plain;
     try
     {
-        vrx::Compressor::decompress(plain, bytes.data(), bytes.size(), limit);
+        vrx::Compressor::decompress(plain, bytes.data(), bytes.size(), {limit});
     }
     catch (const std::length_error& error)
     {
@@ -188,9 +188,9 @@ bool readSharedBuffer(const mp::wstring& name, std::vector<char>& bytes, std::ui
         {
             return false;
         }
-        const mp::SharedView view = buffer.view();
-        requireSize(view.size(), limit);
-        bytes.assign(view.data(), view.data() + view.size());
+        requireSize(buffer.size(), limit);
+        const mp::SharedCopy content = buffer.copy(limit);
+        bytes.assign(content.data(), content.data() + content.size());
         return true;
     }
     catch (const mp::SharedMemoryException& error)

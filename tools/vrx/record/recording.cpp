@@ -180,14 +180,14 @@ void Recording::keepBuffer(const mp::wstring& name)
     }
     m_told.insert(name);
     mp::SharedBuffer<char> buffer;
-    mp::SharedView content;
+    mp::SharedCopy content;
     bool isThere = false;
     try
     {
         isThere = buffer.openExisting(name);
-        content = isThere ? buffer.view() : mp::SharedView();
+        content = isThere ? buffer.copy() : mp::SharedCopy();
     }
-    catch (const mp::SharedMemoryException& failure)
+    catch (const std::exception& failure)
     {
         std::cerr << "vrx record: a buffer cannot be read: " << failure.what() << '\n';
         isThere = false;

@@ -1,0 +1,22 @@
+#include "vrx_api/json/read_rules.h"
+
+namespace vrx
+{
+
+ReadRules ReadRules::strict()
+{
+    ReadRules rules;
+    rules.isStrict = true;
+    return rules;
+}
+
+ReadRules ReadRules::forUntrusted()
+{
+    ReadRules rules = strict();
+    rules.plainBytes = std::uint64_t{2} << 30U;
+    rules.values = 200'000'000;
+    rules.depth = 100;
+    return rules;
+}
+
+} // namespace vrx
