@@ -118,6 +118,10 @@ void talk(bridge::HostSession& session, const std::string& manner)
     {
         session.setReadRules({10});
     }
+    else if (manner == "loads")
+    {
+        session.setReadRules(ReadRules::forUntrusted());
+    }
     session.setLazy(manner == "is-lazy");
     std::cout << mp::toNarrow(session.info().name()) << '\n';
 
