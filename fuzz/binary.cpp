@@ -6,7 +6,7 @@
 using vrx::JsonBinaryIO;
 using vrx::JsonDocument;
 
-const fuzz::InputForm fuzz::inputForm{false, false};
+const fuzz::InputForm fuzz::kInputForm{false, false};
 
 // A stream takes only the first value of its bytes, and must say the same about it as the bytes do.
 static void compareStreamForm(const std::string& form, const JsonDocument& document, bool valid)

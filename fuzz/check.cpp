@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-const fuzz::InputForm fuzz::inputForm{false, true};
+const fuzz::InputForm fuzz::kInputForm{false, true};
 
 namespace
 {

@@ -2,7 +2,7 @@
 #include "fuzz/tree_mutator.h"
 #include "vrx_api/vrx_api_command.h"
 
-const fuzz::InputForm fuzz::inputForm{true, false};
+const fuzz::InputForm fuzz::kInputForm{true, false};
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

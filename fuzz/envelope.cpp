@@ -4,7 +4,7 @@
 #include "vrx_api/exchange/peek_envelope.h"
 #include "vrx_api/vrx_api_exchange_object.h"
 
-const fuzz::InputForm fuzz::inputForm{true, false};
+const fuzz::InputForm fuzz::kInputForm{true, false};
 
 namespace
 {

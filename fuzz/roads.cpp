@@ -5,7 +5,7 @@
 
 #include <optional>
 
-const fuzz::InputForm fuzz::inputForm{false, true};
+const fuzz::InputForm fuzz::kInputForm{false, true};
 
 namespace
 {

@@ -1,10 +1,7 @@
 #include "fuzz/support.h"
-#include "fuzz/tree_mutator.h"
 
 using vrx::JsonDocument;
 using vrx::JsonTextIO;
-
-const fuzz::InputForm fuzz::inputForm{true, false};
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

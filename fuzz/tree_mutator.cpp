@@ -28,7 +28,7 @@ struct Input
     Input(const std::uint8_t* data, std::size_t size)
         : value(data, data + size)
     {
-        if (inputForm.isOfClass)
+        if (kInputForm.isOfClass)
         {
             const std::size_t end = value.find('\n') + 1; // 0 for no line feed
             head = value.substr(0, end);
@@ -42,13 +42,13 @@ struct Input
 
 bool decode(const std::string& value, JsonDocument& tree)
 {
-    return inputForm.isText ? parses(mp::toWide(value), tree) : decodes(value.data(), value.size(), tree);
+    return kInputForm.isText ? parses(mp::toWide(value), tree) : decodes(value.data(), value.size(), tree);
 }
 
 // Nothing for a tree that has no text.
 std::optional<std::string> encode(const JsonDocument& tree)
 {
-    if (!inputForm.isText)
+    if (!kInputForm.isText)
     {
         const vrx::Bytes form = encoded(tree);
         return std::string(form.data(), form.size());
@@ -245,7 +245,7 @@ std::optional<std::string> changed(const std::string& value, Random& random)
     {
         return std::nullopt;
     }
-    if (!inputForm.isText && random() % 4 == 0)
+    if (!kInputForm.isText && random() % 4 == 0)
     {
         return withFormChanged(value, random);
     }

@@ -10,6 +10,6 @@ struct InputForm
     bool isOfClass; ///< The name of a class and a line feed stand before the value.
 };
 
-extern const InputForm inputForm;
+extern const InputForm kInputForm;
 
 } // namespace fuzz
