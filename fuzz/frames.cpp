@@ -2,61 +2,25 @@
 
 #include "bridge/buffer_journal.h"
 #include "bridge/buffer_name.h"
+#include "fuzz/memory_file.h"
 #include "fuzz/support.h"
 #include "vrx_api/exchange/peek_envelope.h"
 
-#include <sys/mman.h>
-#include <unistd.h>
-
+#include <algorithm>
 #include <string>
 
 using vrx::bridge::FrameReader;
-using vrx::bridge::Stream;
 
 namespace
 {
 
-// A file in memory in place of a pipe: the same bytes for every reader, and as quick.
-class MemoryFile
-{
-public:
-    MemoryFile()
-        : m_stream(vrx::bridge::OwnedHandle(::memfd_create("fuzz", MFD_CLOEXEC)))
-    {
-        fuzz::require(m_stream.isOpen());
-    }
-
-    const Stream& stream() const { return m_stream; }
-
-    void fill(const std::string& bytes)
-    {
-        clear();
-        m_stream.writeAll(bytes.data(), bytes.size());
-        ::lseek(descriptor(), 0, SEEK_SET);
-    }
-
-    void clear() { fuzz::require(::ftruncate(descriptor(), 0) == 0 && ::lseek(descriptor(), 0, SEEK_SET) == 0); }
-
-    std::string content() const
-    {
-        std::string bytes(static_cast<std::size_t>(::lseek(descriptor(), 0, SEEK_END)), '\0');
-        fuzz::require(::pread(descriptor(), bytes.data(), bytes.size(), 0) == static_cast<ssize_t>(bytes.size()));
-        return bytes;
-    }
-
-private:
-    int descriptor() const { return static_cast<int>(m_stream.handle().get()); }
-
-    Stream m_stream;
-};
-
 // What is read as frames is written as the same bytes, and what is left is told.
 void crossFrames(const std::string& input)
 {
-    static MemoryFile from;
-    static MemoryFile to;
+    static fuzz::MemoryFile from;
+    static fuzz::MemoryFile to;
     from.fill(input);
-    to.clear();
+    to.fill({});
     FrameReader reader(from.stream());
     try
     {
