@@ -42,10 +42,10 @@ Bytes encode(const Road& road)
     return bytes;
 }
 
-std::shared_ptr<vrx::IExchangeObject> decode(const Road& road)
+std::shared_ptr<vrx::IExchangeObject> decode(const Road& road, const vrx::ReadRules& rules)
 {
     auto object = road.object->clone();
-    vrx::JsonBinaryIO::read(road.binary.data(), road.binary.size(), *object);
+    vrx::JsonBinaryIO::read(road.binary.data(), road.binary.size(), *object, rules);
     return object;
 }
 
@@ -191,7 +191,8 @@ void registerSteps(const Road& road, int iterations)
             object->readObject(*tree);
             return object;
         });
-    steps.add(step::kDecode, nothing, [&road](int) { return decode(road); });
+    steps.add(step::kDecode, nothing, [&road](int) { return decode(road, {}); });
+    steps.add(step::kDecodeStrictly, nothing, [&road](int) { return decode(road, vrx::ReadRules::strict()); });
 }
 
 } // namespace bench

@@ -24,6 +24,7 @@ constexpr const char* kDecompress = "decompress";
 constexpr const char* kDecodeTree = "binary form to tree";
 constexpr const char* kModel = "tree to model";
 constexpr const char* kDecode = "binary form to model";
+constexpr const char* kDecodeStrictly = "binary form to model, strict";
 constexpr const char* kRead = "whole read, default";
 constexpr const char* kReadFast = "whole read, fast";
 constexpr const char* kReadNone = "whole read, none";

@@ -34,6 +34,7 @@ constexpr Line kLines[] = {
     {step::kTakePlain, step::kCopy},
     {step::kDecompress, step::kInflate},
     {step::kDecode, step::kCopy},
+    {step::kDecodeStrictly, step::kCopy},
     {step::kDecodeTree, step::kCopy},
     {step::kModel, step::kCopy},
     {step::kDeflate, nullptr},

@@ -4,7 +4,9 @@
 #include "mp/narrow.h"
 #include "mp/shared_buffer.h"
 
+#include <array>
 #include <cstdlib>
+#include <cstring>
 #include <sstream>
 
 namespace vrx::bridge
@@ -13,9 +15,10 @@ namespace vrx::bridge
 namespace
 {
 
-std::vector<NativeHandle>& keptJournals()
+// They stay the same as long as the process lives, so that buffers may be made in several threads.
+const std::vector<NativeHandle>& keptJournals()
 {
-    static std::vector<NativeHandle> journals;
+    static const std::vector<NativeHandle> journals = inheritedJournals();
     return journals;
 }
 
@@ -40,22 +43,39 @@ BufferJournal::BufferJournal()
 std::vector<mp::wstring> BufferJournal::names() const
 {
     std::vector<mp::wstring> names;
-    const std::string content = contentOf(m_file);
-    std::size_t begin = 0;
-    for (std::size_t end = content.find('\0'); end != std::string::npos; end = content.find('\0', begin))
-    {
-        if (end > begin)
-        {
-            names.push_back(mp::toWide(content.substr(begin, end - begin)));
-        }
-        begin = end + 1;
-    }
+    forEachName([&names](std::string_view name) { names.push_back(mp::toWide(name)); });
     return names;
+}
+
+void BufferJournal::forEachName(const std::function<void(std::string_view)>& use) const
+{
+    std::array<char, 4096> bytes; // NOLINT(cppcoreguidelines-pro-type-member-init): what is read is written before
+    std::size_t kept = 0;         // of a name whose end is still to be read
+    std::size_t count = 0;
+    for (std::size_t offset = 0; offset < kLongestJournal; offset += count)
+    {
+        count = readAt(m_file, offset, &bytes[kept], bytes.size() - kept);
+        if (count == 0)
+        {
+            return;
+        }
+        std::string_view rest(bytes.data(), kept + count);
+        for (std::size_t end = rest.find('\0'); end != std::string_view::npos; end = rest.find('\0'))
+        {
+            if (end > 0)
+            {
+                use(rest.substr(0, end));
+            }
+            rest.remove_prefix(end + 1);
+        }
+        // No name is as long as that.
+        kept = rest.size() < bytes.size() ? rest.size() : 0;
+        std::memmove(bytes.data(), rest.data(), kept);
+    }
 }
 
 void keepInheritedJournals()
 {
-    keptJournals() = inheritedJournals();
     mp::setSharedBufferWatcher(keptJournals().empty() ? nullptr : note);
 }
 

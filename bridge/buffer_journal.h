@@ -3,7 +3,9 @@
 #include "bridge/handle.h"
 #include "mp/wide.h"
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vrx::bridge
@@ -21,6 +23,9 @@ public:
     /// What was noted up to now.
     std::vector<mp::wstring> names() const;
 
+    /// The same, one after the other in the system's narrow code page. It needs no memory.
+    void forEachName(const std::function<void(std::string_view)>& use) const;
+
     /// What a child inherits.
     NativeHandle inherited() const { return m_inherited.get(); }
 
@@ -30,7 +35,7 @@ private:
 };
 
 /// From now on this process notes its shared buffers in the journals that it was started with. Without one nothing
-/// happens.
+/// happens. Any thread may call it, while others make buffers.
 VRX_BRIDGE void keepInheritedJournals();
 
 } // namespace vrx::bridge

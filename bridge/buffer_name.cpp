@@ -9,25 +9,37 @@ namespace
 {
 
 // Where the form has an x there is any digit, where it has a v the variant.
-bool fits(mp::wchar unit, mp::wchar form)
+template <class Unit>
+bool fits(Unit unit, char form)
 {
     switch (form)
     {
-    case WIDE('x'):
-        return (unit >= WIDE('0') && unit <= WIDE('9')) || (unit >= WIDE('a') && unit <= WIDE('f'));
-    case WIDE('v'):
-        return unit == WIDE('8') || unit == WIDE('9') || unit == WIDE('a') || unit == WIDE('b');
+    case 'x':
+        return (unit >= Unit('0') && unit <= Unit('9')) || (unit >= Unit('a') && unit <= Unit('f'));
+    case 'v':
+        return unit == Unit('8') || unit == Unit('9') || unit == Unit('a') || unit == Unit('b');
     default:
-        return unit == form;
+        return unit == Unit(form);
     }
+}
+
+template <class Text>
+bool hasForm(const Text& name)
+{
+    constexpr std::string_view kForm = "xxxxxxxx-xxxx-4xxx-vxxx-xxxxxxxxxxxx";
+    return std::equal(name.begin(), name.end(), kForm.begin(), kForm.end(), fits<typename Text::value_type>);
 }
 
 } // namespace
 
 bool isBufferName(const mp::wstring& name)
 {
-    const mp::wstring form = WIDE("xxxxxxxx-xxxx-4xxx-vxxx-xxxxxxxxxxxx");
-    return std::equal(name.begin(), name.end(), form.begin(), form.end(), fits);
+    return hasForm(name);
+}
+
+bool isBufferName(std::string_view narrowName)
+{
+    return hasForm(narrowName);
 }
 
 } // namespace vrx::bridge

@@ -6,7 +6,8 @@ namespace vrx::bridge
 {
 
 /// While there is one, SIGINT, SIGTERM and SIGHUP cancel this session instead of ending the process; on Windows,
-/// Ctrl+C, Ctrl+Break and the closing of the console do. A signal that the process ignores stays ignored.
+/// Ctrl+C, Ctrl+Break and the closing of the console do. A signal that the process ignores stays ignored. The interrupt
+/// may come to any thread; when this object is gone, none reaches the session any more.
 class VRX_BRIDGE CancelOnInterrupt
 {
 public:

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstddef>
 #include <stdexcept>
+#include <thread>
 
 namespace vrx::bridge
 {
@@ -16,16 +17,20 @@ constexpr std::array<int, 3> kInterrupts = {SIGINT, SIGTERM, SIGHUP};
 
 std::array<struct sigaction, kInterrupts.size()> actionsBefore = {};
 std::atomic<HostSession*> cancelledSession = nullptr;
+std::atomic<int> runningHandlers = 0;
 std::atomic<bool> interrupted = false;
-static_assert(std::atomic<HostSession*>::is_always_lock_free, "a signal handler reads it");
+static_assert(std::atomic<HostSession*>::is_always_lock_free && std::atomic<int>::is_always_lock_free,
+              "a signal handler uses them");
 
 extern "C" void cancelSession(int)
 {
+    ++runningHandlers;
     interrupted = true;
     if (HostSession* const session = cancelledSession)
     {
         session->cancel();
     }
+    --runningHandlers;
 }
 
 } // namespace
@@ -58,6 +63,11 @@ CancelOnInterrupt::~CancelOnInterrupt()
         sigaction(kInterrupts[i], &actionsBefore[i], nullptr);
     }
     cancelledSession = nullptr;
+    // One in another thread may have taken the session just before, which is destroyed next.
+    while (runningHandlers != 0)
+    {
+        std::this_thread::yield();
+    }
 }
 
 bool CancelOnInterrupt::wasInterrupted()

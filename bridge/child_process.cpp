@@ -15,10 +15,10 @@ constexpr std::chrono::seconds kTimeToEnd{2}; // for one that was asked to
 
 ChildProcess::~ChildProcess()
 {
-    end(std::chrono::milliseconds(0));
+    finish(std::chrono::milliseconds(0));
 }
 
-bool ChildProcess::wait(std::chrono::milliseconds limit)
+bool ChildProcess::wait(std::chrono::milliseconds limit) noexcept
 {
     using std::chrono::milliseconds;
     constexpr milliseconds kLongestPause{20};
@@ -39,6 +39,12 @@ bool ChildProcess::wait(std::chrono::milliseconds limit)
 
 std::string ChildProcess::end(std::chrono::milliseconds grace)
 {
+    finish(grace);
+    return endInWords();
+}
+
+void ChildProcess::finish(std::chrono::milliseconds grace) noexcept
+{
     m_input.close();
     m_output.close();
     if (!wait(grace))
@@ -51,7 +57,6 @@ std::string ChildProcess::end(std::chrono::milliseconds grace)
         }
     }
     release();
-    return endInWords();
 }
 
 } // namespace vrx::bridge

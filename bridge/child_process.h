@@ -40,11 +40,17 @@ public:
     void kill() noexcept;
 
     /// Waits for its end, at most for this long, and tells whether it has ended.
-    bool wait(std::chrono::milliseconds limit);
+    bool wait(std::chrono::milliseconds limit) noexcept;
 
     /// Closes the pipes, which ends a healthy child, asks one that still runs after the grace to end, kills it two
     /// seconds later, and tells in words how it ended.
     std::string end(std::chrono::milliseconds grace = std::chrono::seconds(1));
+
+    /// The same without the words, for which there may be no memory.
+    void finish(std::chrono::milliseconds grace = std::chrono::seconds(1)) noexcept;
+
+    /// How it ended, behind `finish`.
+    std::string endInWords() const;
 
     /// What it gave when it exited by itself; nothing while it runs, and when it was killed.
     std::optional<int> exitCode() const;
@@ -52,7 +58,6 @@ public:
 private:
     bool hasEnded() noexcept;
     void release() noexcept;
-    std::string endInWords() const;
 
     Stream m_input;
     Stream m_output;

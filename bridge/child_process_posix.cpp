@@ -56,6 +56,14 @@ std::vector<std::string> environmentWith(const BufferJournal* journal)
     return entries;
 }
 
+void require(int error)
+{
+    if (error != 0)
+    {
+        throw std::runtime_error(systemErrorText("cannot start a program", error));
+    }
+}
+
 // What the child opens and closes, and how it takes signals: as if this process had changed nothing of them.
 class SpawnPlan
 {
@@ -83,13 +91,13 @@ public:
 
     void put(NativeHandle from, NativeHandle to)
     {
-        posix_spawn_file_actions_adddup2(&m_actions, static_cast<int>(from), static_cast<int>(to));
+        require(posix_spawn_file_actions_adddup2(&m_actions, static_cast<int>(from), static_cast<int>(to)));
     }
 
     // What is written there is dropped.
     void openNothing(int descriptor)
     {
-        posix_spawn_file_actions_addopen(&m_actions, descriptor, "/dev/null", O_WRONLY, 0);
+        require(posix_spawn_file_actions_addopen(&m_actions, descriptor, "/dev/null", O_WRONLY, 0));
     }
 
     pid_t start(std::vector<std::string> command, std::vector<std::string> environment)

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <streambuf>
+#include <utility>
 
 namespace vrx::bridge
 {
@@ -18,6 +20,30 @@ std::uint32_t byteAt(const std::string& bytes, std::size_t place)
 {
     return static_cast<unsigned char>(bytes[place]);
 }
+
+// What is written to it can be taken without a copy. A message that has made shared memory must not be lost because
+// there is no memory for one.
+class TextBuffer : public std::basic_streambuf<mp::wchar>
+{
+public:
+    mp::wstring take() { return std::move(m_text); }
+
+protected:
+    int_type overflow(int_type unit) override
+    {
+        m_text.push_back(traits_type::to_char_type(unit));
+        return traits_type::not_eof(unit);
+    }
+
+    std::streamsize xsputn(const mp::wchar* units, std::streamsize count) override
+    {
+        m_text.append(units, static_cast<std::size_t>(count));
+        return count;
+    }
+
+private:
+    mp::wstring m_text;
+};
 
 } // namespace
 
@@ -98,9 +124,10 @@ void writeFrame(const Stream& stream, const mp::wstring& message, const Wait& wa
 
 mp::wstring toText(const mp::ISerializable& message)
 {
-    mp::wstringstream stream;
+    TextBuffer buffer;
+    mp::wostream stream(&buffer);
     message.writeObject(stream);
-    return stream.str();
+    return buffer.take();
 }
 
 void fromText(const mp::wstring& text, mp::ISerializable& message)

@@ -1,7 +1,9 @@
 #include "bridge/host_session.h"
 
+#include "bridge/buffer_name.h"
 #include "kolt/log.h"
 #include "mp/narrow.h"
+#include "mp/shared_buffer.h"
 
 #include <algorithm>
 #include <exception>
@@ -88,7 +90,7 @@ HostSession::~HostSession()
 {
     if (m_end.empty())
     {
-        m_translator.end();
+        m_translator.finish();
         removeBuffers();
     }
 }
@@ -228,7 +230,7 @@ void HostSession::sendCommand(const Command& command, Listener& listener)
 bool HostSession::send(const mp::ISerializable& message)
 {
     const mp::wstring text = toText(message);
-    m_undelivered.add(peekEnvelope(text).bufferName);
+    m_undelivered.addFrom(text);
     try
     {
         writeFrame(m_translator.input(), text, wait());
@@ -242,9 +244,13 @@ bool HostSession::send(const mp::ISerializable& message)
     {
         fail(TranslatorFailure::EKind::Cancelled, "The translator's work was cancelled.");
     }
-    catch (const StreamError&)
+    catch (const NoReader&)
     {
         return false;
+    }
+    catch (const StreamError& failure)
+    {
+        fail(TranslatorFailure::EKind::Died, std::string("The translator can not be told: ") + failure.what());
     }
 }
 
@@ -371,7 +377,7 @@ void HostSession::load(IExchangeObject& object, const mp::wstring& buffer)
              std::string("What the translator sent can not be loaded: ") + failure.what());
     }
     m_undelivered.delivered(buffer);
-    m_loaded.insert(buffer);
+    m_loaded.insert(mp::toNarrow(buffer));
 }
 
 void HostSession::fail(TranslatorFailure::EKind kind, const std::string& text)
@@ -383,7 +389,7 @@ void HostSession::fail(TranslatorFailure::EKind kind, const std::string& text)
 // It gets a moment to end by itself, so that the text tells how it did.
 void HostSession::failAsDead(const std::string& text, const std::string& reason)
 {
-    m_end = m_translator.end();
+    finishTranslator();
     removeBuffers();
     throw TranslatorFailure(TranslatorFailure::EKind::Died, text + m_end + reason + '.', m_end);
 }
@@ -401,8 +407,21 @@ void HostSession::stop() noexcept
         m_translator.kill();
         drain(kLastBytes);
     }
-    m_end = m_translator.end();
+    finishTranslator();
     removeBuffers();
+}
+
+void HostSession::finishTranslator() noexcept
+{
+    m_translator.finish();
+    try
+    {
+        m_end = m_translator.endInWords();
+    }
+    catch (const std::exception&)
+    {
+        m_end = "it ended"; // short enough to need no memory
+    }
 }
 
 // Reads on for the names of shared memory only, and tells whether the translator's output has come to its end.
@@ -429,13 +448,12 @@ void HostSession::removeBuffers() noexcept
 {
     try
     {
-        for (const mp::wstring& name : m_journal.names())
-        {
-            if (m_loaded.count(name) == 0)
+        m_journal.forEachName([this](std::string_view name) {
+            if (isBufferName(name) && m_loaded.find(name) == m_loaded.end())
             {
-                m_undelivered.add(name);
+                mp::SharedBuffer<char>::remove(name);
             }
-        }
+        });
     }
     catch (const std::exception& failure)
     {

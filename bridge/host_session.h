@@ -26,7 +26,8 @@ namespace vrx::bridge
 /// A running translator: sends commands, hands on what comes back. Each operation throws TranslatorFailure when the
 /// translator dies, is silent for too long, breaks the protocol, or the host cancels; the translator has ended then.
 /// When the session ends, in whatever way, all shared memory that the translator left and the session has not loaded is
-/// removed from the system.
+/// removed from the system. One thread at a time uses a session, but for `cancel` and `isCancelled`; different sessions
+/// work in different threads at once.
 class VRX_BRIDGE HostSession
 {
 public:
@@ -95,6 +96,7 @@ private:
     [[noreturn]] void fail(TranslatorFailure::EKind kind, const std::string& text);
     [[noreturn]] void failAsDead(const std::string& text, const std::string& reason = {});
     void stop() noexcept;
+    void finishTranslator() noexcept;
     bool drain(std::chrono::milliseconds limit) noexcept;
     void removeBuffers() noexcept;
 
@@ -105,7 +107,8 @@ private:
     std::atomic<bool> m_isCancelled = false;
 
     UndeliveredBuffers m_undelivered; // either way
-    std::set<mp::wstring> m_loaded;   // buffers, which are the listener's affair
+    // The names, in the narrow code page, of buffers which are the listener's affair
+    std::set<std::string, std::less<>> m_loaded;
     BufferJournal m_journal;
     ChildProcess m_translator;
     FrameReader m_messages{m_translator.output()};

@@ -21,7 +21,8 @@ OwnedHandle makeJournalFile(OwnedHandle& inherited);
 /// More than any healthy child writes; what stands behind that is not read.
 constexpr std::size_t kLongestJournal = std::size_t{64} << 20U;
 
-std::string contentOf(const OwnedHandle& file);
+/// Reads up to so many bytes that stand behind the first `offset`; none at the end.
+std::size_t readAt(const OwnedHandle& file, std::size_t offset, char* bytes, std::size_t size);
 
 /// In one piece, whoever else writes.
 void append(NativeHandle file, std::string_view bytes);

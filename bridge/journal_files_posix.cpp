@@ -37,21 +37,18 @@ OwnedHandle makeJournalFile(OwnedHandle& inherited)
     return first;
 }
 
-std::string contentOf(const OwnedHandle& file)
+std::size_t readAt(const OwnedHandle& file, std::size_t offset, char* bytes, std::size_t size)
 {
-    std::string content;
-    char bytes[4096];
     ssize_t count = 0;
     do
     {
-        count = ::pread(static_cast<int>(file.get()), bytes, sizeof(bytes), static_cast<off_t>(content.size()));
-        if (count < 0 && errno != EINTR)
-        {
-            fail("cannot read the journal of shared memory");
-        }
-        content.append(bytes, count > 0 ? static_cast<std::size_t>(count) : 0);
-    } while (count != 0 && content.size() < kLongestJournal);
-    return content;
+        count = ::pread(static_cast<int>(file.get()), bytes, size, static_cast<off_t>(offset));
+    } while (count < 0 && errno == EINTR);
+    if (count < 0)
+    {
+        fail("cannot read the journal of shared memory");
+    }
+    return static_cast<std::size_t>(count);
 }
 
 void append(NativeHandle file, std::string_view bytes)

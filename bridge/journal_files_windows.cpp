@@ -44,24 +44,17 @@ OwnedHandle makeJournalFile(OwnedHandle& inherited)
     return file;
 }
 
-std::string contentOf(const OwnedHandle& file)
+std::size_t readAt(const OwnedHandle& file, std::size_t offset, char* bytes, std::size_t size)
 {
-    if (SetFilePointer(windowsHandle(file), 0, nullptr, FILE_BEGIN) != 0)
+    LARGE_INTEGER place = {};
+    place.QuadPart = static_cast<LONGLONG>(offset);
+    DWORD count = 0;
+    if (SetFilePointerEx(windowsHandle(file), place, nullptr, FILE_BEGIN) == 0 ||
+        ReadFile(windowsHandle(file), bytes, static_cast<DWORD>(size), &count, nullptr) == 0)
     {
         fail("cannot read the journal of shared memory");
     }
-    std::string content;
-    char bytes[4096];
-    DWORD count = 0;
-    do
-    {
-        if (ReadFile(windowsHandle(file), bytes, sizeof(bytes), &count, nullptr) == 0)
-        {
-            fail("cannot read the journal of shared memory");
-        }
-        content.append(bytes, count);
-    } while (count != 0 && content.size() < kLongestJournal);
-    return content;
+    return count;
 }
 
 void append(NativeHandle file, std::string_view bytes)

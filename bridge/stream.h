@@ -45,8 +45,8 @@ public:
     /// Whether a read would not wait.
     bool isReady() const;
 
-    /// A partner who is gone is an error, and no signal. Throws TimedOut and Cancelled, too; on Windows the wait is
-    /// looked at only before the bytes are written.
+    /// A partner who is gone is an error, and no signal. Throws NoReader, TimedOut and Cancelled, too; on Windows the
+    /// wait is looked at only before the bytes are written.
     void writeAll(const char* bytes, std::size_t size, const Wait& wait = {}) const;
 
 private:

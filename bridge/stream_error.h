@@ -14,6 +14,13 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// Nobody reads any more what is written to a stream.
+class VRX_BRIDGE NoReader : public StreamError
+{
+public:
+    using StreamError::StreamError;
+};
+
 /// What stands on a stream is no message.
 class VRX_BRIDGE NoMessage : public StreamError
 {

@@ -202,6 +202,10 @@ void Stream::writeAll(const char* bytes, std::size_t size, const Wait& wait) con
             piece = std::min<std::size_t>(size, PIPE_BUF); // what a pipe that is ready takes without a further wait
         }
         const ssize_t count = ::write(descriptor, bytes, piece);
+        if (count < 0 && errno == EPIPE)
+        {
+            throw NoReader(systemErrorText("cannot write to the pipe", EPIPE));
+        }
         if (count < 0 && errno != EINTR)
         {
             fail("cannot write to the pipe");

@@ -152,6 +152,10 @@ void Stream::writeAll(const char* bytes, std::size_t size, const Wait& wait) con
         DWORD count = 0;
         if (WriteFile(handle, bytes, static_cast<DWORD>(std::min(size, kPiece)), &count, nullptr) == 0)
         {
+            if (isEnd(GetLastError()) || GetLastError() == ERROR_NO_DATA)
+            {
+                throw NoReader(lastErrorText("cannot write to the pipe"));
+            }
             fail("cannot write to the pipe");
         }
         bytes += count;

@@ -189,7 +189,7 @@ std::optional<mp::wstring> TranslatorChannel::receiveText()
 
 void TranslatorChannel::sendText(const mp::wstring& text)
 {
-    m_undelivered.add(peekEnvelope(text).bufferName);
+    m_undelivered.addFrom(text);
     try
     {
         writeFrame(m_output, text);

@@ -19,7 +19,7 @@ class DelayedTermination;
 /// others print there to standard error. When the channel ends, it closes the output and waits until the host closes
 /// the input, since the host may still be loading; SIGTERM limits this wait. What nobody has loaded then is removed
 /// from the system. From the first command on SIGTERM does not end the process, but the channel does, behind the next
-/// object.
+/// object. One thread at a time uses the channel, for sending, too; `isTerminationDue` is for any thread.
 class VRX_BRIDGE TranslatorChannel
 {
 public:

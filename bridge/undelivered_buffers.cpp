@@ -1,9 +1,13 @@
 #include "bridge/undelivered_buffers.h"
 
 #include "bridge/buffer_name.h"
-#include "kolt/log.h"
+#include "mp/narrow.h"
 #include "mp/shared_buffer.h"
+#include "vrx_api/exchange/envelope_keys.h"
+#include "vrx_api/exchange/peek_envelope.h"
 
+#include <algorithm>
+#include <array>
 #include <exception>
 #include <iterator>
 
@@ -14,15 +18,38 @@ namespace
 {
 
 // One that cannot be opened is another user's.
-bool isThere(const mp::wstring& name)
+bool isThere(const std::string& name)
 {
     try
     {
-        return mp::SharedBuffer<char>().openExisting(name);
+        return mp::SharedBuffer<char>().openExisting(mp::toWide(name));
     }
     catch (const mp::SharedMemoryException&)
     {
         return false;
+    }
+}
+
+// Takes the name from the text as this library writes it, when there is no memory to look into the message.
+void removeNamedIn(const mp::wstring& message)
+{
+    constexpr mp::wstring_view kToValue = WIDE("\": \"");
+    for (const Key key : {kEnvelopeData, kObjectBufferName})
+    {
+        const std::size_t place = message.find(key.text, 0, key.size);
+        if (place == mp::wstring::npos)
+        {
+            continue;
+        }
+        const std::size_t begin = std::min(place + key.size + kToValue.size(), message.size());
+        const mp::wstring_view value = mp::wstring_view(message).substr(begin, kBufferNameSize);
+        std::array<char, kBufferNameSize> name = {};
+        std::transform(value.begin(), value.end(), name.begin(),
+                       [](mp::wchar unit) { return static_cast<char>(unit); });
+        if (isBufferName({name.data(), name.size()}))
+        {
+            mp::SharedBuffer<char>::remove({name.data(), name.size()});
+        }
     }
 }
 
@@ -37,30 +64,36 @@ void UndeliveredBuffers::add(const mp::wstring& name)
 {
     if (isBufferName(name))
     {
-        m_names.insert(name);
+        m_names.insert(mp::toNarrow(name));
+    }
+}
+
+void UndeliveredBuffers::addFrom(const mp::wstring& message)
+{
+    try
+    {
+        add(peekEnvelope(message).bufferName);
+    }
+    catch (const std::exception&)
+    {
+        removeNamedIn(message);
+        throw;
     }
 }
 
 void UndeliveredBuffers::delivered(const mp::wstring& name)
 {
-    m_names.erase(name);
+    m_names.erase(mp::toNarrow(name));
 }
 
-void UndeliveredBuffers::remove(const mp::wstring& name) noexcept
+void UndeliveredBuffers::remove(const mp::wstring& name)
 {
-    if (!isBufferName(name))
+    if (isBufferName(name))
     {
-        return;
+        const std::string narrowName = mp::toNarrow(name);
+        mp::SharedBuffer<char>::remove(narrowName);
+        m_names.erase(narrowName);
     }
-    try
-    {
-        mp::SharedBuffer<char>::remove(name);
-    }
-    catch (const std::exception& failure)
-    {
-        kolt::log(kolt::kWarning, "An undelivered buffer cannot be removed: ", failure.what());
-    }
-    m_names.erase(name);
 }
 
 void UndeliveredBuffers::forgetLoaded()
@@ -73,10 +106,11 @@ void UndeliveredBuffers::forgetLoaded()
 
 void UndeliveredBuffers::removeAll() noexcept
 {
-    while (!m_names.empty())
+    for (const std::string& name : m_names)
     {
-        remove(mp::wstring(*m_names.begin()));
+        mp::SharedBuffer<char>::remove(name);
     }
+    m_names.clear();
 }
 
 } // namespace vrx::bridge

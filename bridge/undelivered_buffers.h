@@ -4,6 +4,7 @@
 #include "mp/wide.h"
 
 #include <set>
+#include <string>
 
 namespace vrx::bridge
 {
@@ -21,20 +22,23 @@ public:
 
     void add(const mp::wstring& name);
 
+    /// Adds the one that a message names, or removes it from the system when that can't be done.
+    void addFrom(const mp::wstring& message);
+
     /// The buffer is the affair of the one who loaded it.
     void delivered(const mp::wstring& name);
 
     /// Removes this one from the system: nobody will load it.
-    void remove(const mp::wstring& name) noexcept;
+    void remove(const mp::wstring& name);
 
     /// Forgets those that are no more in the system, or another user's.
     void forgetLoaded();
 
-    /// Removes those that are left from the system. What can't be removed is logged.
+    /// Removes those that are left from the system. It needs no memory.
     void removeAll() noexcept;
 
 private:
-    std::set<mp::wstring> m_names;
+    std::set<std::string> m_names; // in the narrow form, in which they are removed without memory
 };
 
 } // namespace vrx::bridge

@@ -23,7 +23,7 @@ enum Level : int
     kTrace = 6,
 };
 
-/// Where the lines go.
+/// Where the lines go. A thread holds the lock from the `begin` of a line to its `newLine`.
 class VRX_API ILogger
 {
 public:
@@ -78,7 +78,8 @@ private:
     ILogger& m_logger;
 };
 
-/// The process's logger and its level. Both are plain values: initialise once, before other threads log.
+/// The process's logger and its level. Both are plain values: `initLogger` runs while no other thread uses the library,
+/// as a rule once at the start. The other operations are for any thread.
 class VRX_API LoggerHolder
 {
 public:

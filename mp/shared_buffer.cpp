@@ -13,9 +13,11 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <climits>
 #endif
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
@@ -108,38 +110,61 @@ void readData(int file, char* out, off_t begin, off_t end)
     }
 }
 
+// Where the next data or hole begins; at the end when there is none, or when the object was made shorter.
+off_t next(int kind, int file, off_t begin, off_t end)
+{
+    const off_t found = lseek(file, begin, kind);
+    if (found < 0 && errno != ENXIO)
+    {
+        throw ipc::interprocess_exception(ipc::error_info(errno));
+    }
+    return found < 0 ? end : std::min(found, end);
+}
+
 // Reads the pages that the object has between zeros for those that it lacks. In a mapping the first look at a missing
 // page makes it, and kills the process if the file system is full, or if another program has made the object shorter.
 void copyContent(const ipc::shared_memory_object& object, char* out, std::uint64_t size)
 {
     const int file = object.get_mapping_handle().handle;
     const auto end = static_cast<off_t>(size);
-    off_t hole = 0;
-    for (off_t data = lseek(file, 0, SEEK_DATA); data >= 0 && data < end; data = lseek(file, hole, SEEK_DATA))
+    for (off_t data = next(SEEK_DATA, file, 0, end); data < end;)
     {
-        // The hole behind the data is gone when the object was made shorter in between.
-        hole = lseek(file, data, SEEK_HOLE);
-        if (hole < 0)
-        {
-            return;
-        }
-        readData(file, out, data, std::min(hole, end));
+        const off_t hole = next(SEEK_HOLE, file, data, end);
+        readData(file, out, data, hole);
+        data = next(SEEK_DATA, file, hole, end);
     }
 }
 #endif
 
 // On Windows an object is a file of its name in a folder of the layer below. A name from the other program must not
 // lead out of that folder; elsewhere the system refuses such a name itself.
+#ifdef _WIN32
+bool isPath(std::string_view name)
+{
+    return name.find_first_of("/\\:") != std::string_view::npos;
+}
+#endif
+
 void refusePath(const std::string& name)
 {
 #ifdef _WIN32
-    if (name.find_first_of("/\\:") != std::string::npos)
+    if (isPath(name))
     {
         throw ipc::interprocess_exception(ipc::error_info(ERROR_INVALID_NAME));
     }
 #else
     static_cast<void>(name);
 #endif
+}
+
+// There may be no memory for a text.
+[[noreturn]] void fail(const ipc::interprocess_exception& error)
+{
+    if (*error.what() == '\0')
+    {
+        throw std::bad_alloc();
+    }
+    throw SharedMemoryException(toWide(error.what()));
 }
 
 // Runs an operation of the layer below and turns its exceptions into ours.
@@ -152,7 +177,7 @@ void withTurnedErrors(Operation operation)
     }
     catch (const ipc::interprocess_exception& error)
     {
-        throw SharedMemoryException(toWide(error.what()));
+        fail(error);
     }
 }
 
@@ -202,7 +227,7 @@ SharedBuffer<char>::~SharedBuffer()
     m_object.reset();
     if (m_removeOnClose)
     {
-        ipc::shared_memory_object::remove(m_narrowName.c_str());
+        remove(std::string_view(m_narrowName));
     }
 }
 
@@ -238,7 +263,7 @@ bool SharedBuffer<char>::openExisting(const wstring& name)
         {
             return false;
         }
-        throw SharedMemoryException(toWide(error.what()));
+        fail(error);
     }
     m_object = std::move(existing);
     m_removeOnClose = false;
@@ -249,7 +274,31 @@ bool SharedBuffer<char>::openExisting(const wstring& name)
 
 bool SharedBuffer<char>::remove(const wstring& name)
 {
-    return ipc::shared_memory_object::remove(usableName(name).c_str());
+    const std::string narrowName = usableName(name);
+    return remove(std::string_view(narrowName));
+}
+
+// On POSIX the layer below needs memory for this, which may be just what is missing.
+bool SharedBuffer<char>::remove(std::string_view narrowName) noexcept
+{
+#ifdef _WIN32
+    try
+    {
+        return !isPath(narrowName) && ipc::shared_memory_object::remove(std::string(narrowName).c_str());
+    }
+    catch (const std::bad_alloc&)
+    {
+        return false;
+    }
+#else
+    std::array<char, NAME_MAX + 2> path = {'/'};
+    if (narrowName.size() > NAME_MAX)
+    {
+        return false;
+    }
+    narrowName.copy(&path[1], narrowName.size());
+    return shm_unlink(path.data()) == 0;
+#endif
 }
 
 void SharedBuffer<char>::write(const char* data, std::uint64_t size)

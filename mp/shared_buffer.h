@@ -9,6 +9,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace boost::interprocess
@@ -70,6 +71,9 @@ public:
     /// Takes the object of this name out of the system, and tells whether there was one.
     static bool remove(const wstring& name);
 
+    /// The same with a name in the system's narrow code page. On POSIX it needs no memory.
+    static bool remove(std::string_view narrowName) noexcept;
+
     /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.
     void write(const char* data, std::uint64_t size);
 
@@ -107,7 +111,8 @@ private:
 /// this process dies before it has told of it. What it throws passes through `open`.
 using SharedBufferWatcher = void (*)(const wstring& name);
 
-/// There is one watcher in a process, or none: null.
+/// There is one watcher in a process, or none: null. Any thread may set it at any time. It is called in the threads that
+/// open buffers, perhaps in several at once, and the one before may still be called in them for a moment.
 VRX_API void setSharedBufferWatcher(SharedBufferWatcher watcher);
 
 } // namespace mp

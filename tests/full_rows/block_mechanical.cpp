@@ -38,11 +38,19 @@ std::vector<FullRow> blockMechanicalRows()
                misc.*text + R"(,"mapping_data":)" + mapping.*text + R"(,"mfg_data":)" + features.*text +
                R"(,"entity_data":)" + entities.*text + "}";
     };
+    const std::string original = rowOf("ExcEntity of an original", commonRows).in;
+    const auto feature = [&](const std::string& pattern) {
+        return R"({"id":"i","linked_elements":[)" + original + R"(],"name":"n","pattern":)" +
+               rowOf(pattern, manufacturingRows).in + "}";
+    };
+    const std::string patterns = R"({"block_id":7,"mfg_data":{"has_data":true,"unclassified_features":[)" +
+                                 feature("ExcMfgPatternCircular") + "," + feature("ExcMfgPatternUserDefined") + "]}}";
     return {
         fullRow<ExcBlockMechanicalData>("ExcBlockMechanicalData", block(&FullRow::in))
             .writes(block(&FullRow::out))
             .loudAbout({"mapping_data"})
             .nests({"pmi_data", "mapping_data", "entity_data"}),
+        fullRow<ExcBlockMechanicalData>("ExcBlockMechanicalData of other patterns", patterns),
     };
 }
 

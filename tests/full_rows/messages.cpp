@@ -13,7 +13,7 @@ namespace
 
 // The settings of a command, whose classes only the factories know.
 template <auto Make>
-FullRow settingsRow(const char* title, const char* text)
+FullRow settingsRow(const char* title, const std::string& text)
 {
     FullRow row;
     row.title = title;
@@ -23,6 +23,17 @@ FullRow settingsRow(const char* title, const char* text)
     return std::move(row).throws();
 }
 
+// Of every format that has options.
+std::string formatOptions()
+{
+    std::string text;
+    for (const FullRow& row : formatOptionsRows())
+    {
+        text += (text.empty() ? "" : ",") + row.in;
+    }
+    return R"("format_options":[)" + text + "]";
+}
+
 } // namespace
 
 std::vector<FullRow> messageRows()
@@ -30,21 +41,19 @@ std::vector<FullRow> messageRows()
     const std::string format = R"({"description":"d","extensions":["e"],"filters":["f;g"]})";
     const std::string core = R"({"name":"k","version":"1"})";
     return {
-        settingsRow<Command::newImportOptions>("ImportOptions",
-                                               R"({"file":"f","format_options":[{"operation_type":"import",)"
-                                               R"("format_type":"JT","edges_mode":"all","user_prop_mode":"unknown"}]})")
+        settingsRow<Command::newImportOptions>("ImportOptions", R"({"file":"f",)" + formatOptions() + "}")
             .loudAbout({"format_options"})
             .keeps({"format_options"}),
         settingsRow<Command::newExportOptions>("ExportOptions",
                                                R"({"file":"f","format_version":"v","geometry_flags":-3})"),
         settingsRow<Command::newLegacyImportOptions>(
             "LegacyImportOptions",
-            R"({"file":"f","temporary_dwg":"t","format_options":[{"operation_type":"import",)"
-            R"("format_type":"3D_XML","visu_pmi_mode":"all"}],"use_interop_mp":true,"pmi_mode":"semantic",)"
-            R"("product_structure_mode":"as_blocks","colors_mode":"nearest_index",)"
-            R"("hidden_parts_mode":"import_hide","ins_units_def_source":"microns","ins_units_scaling":true,)"
-            R"("import_acis_with_draftwell":true,"step_rotate_yz":true,"solidworks_rotate_yz":true,)"
-            R"("alternate_search_paths":{"a":"b","c":""},"debug_log":true})")
+            R"({"file":"f","temporary_dwg":"t",)" + formatOptions() +
+                R"(,"use_interop_mp":true,"pmi_mode":"semantic",)"
+                R"("product_structure_mode":"as_blocks","colors_mode":"nearest_index",)"
+                R"("hidden_parts_mode":"import_hide","ins_units_def_source":"microns","ins_units_scaling":true,)"
+                R"("import_acis_with_draftwell":true,"step_rotate_yz":true,"solidworks_rotate_yz":true,)"
+                R"("alternate_search_paths":{"a":"b","c":""},"debug_log":true})")
             .loudAbout({"format_options"})
             .keeps({"format_options"}),
         settingsRow<Command::newLegacyExportOptions>(

@@ -58,9 +58,16 @@ const std::string kPlane =
 const std::string kZoomCamera =
     R"({"type":"orthographic","name":"n","orthographic_zoom_factor":0.5,"eye":[1.0,2.0,3.0],"target":[4.0,5.0,6.0],)"
     R"("up":[7.0,8.0,9.0]})";
-const std::string kCapture =
-    kIds + R"(,"hidden":true,"active":true,"hidden_text":"h","clipping_plane":)" + kPlane + R"(,"camera":)" +
-    kCameraText + R"(,"annotation_ids":["a"],"fta_constructed_geometry_ids":["b"],"bodies":[)" + kEntityText + "]}";
+
+std::string capture(const std::string& camera)
+{
+    return kIds + R"(,"hidden":true,"active":true,"hidden_text":"h","clipping_plane":)" + kPlane + R"(,"camera":)" +
+           camera + R"(,"annotation_ids":["a"],"fta_constructed_geometry_ids":["b"],"bodies":[)" + kEntityText + "]}";
+}
+
+const std::string kCapture = capture(kCameraText);
+const std::string kZoomedScene =
+    R"({"visualization_data":{"units":"meter","captures":[)" + capture(kZoomCamera) + "]}}";
 
 std::string scene(const std::string& pmi)
 {
@@ -107,6 +114,7 @@ std::vector<FullRow> visualizationRows()
         fullRow<ExcVisualizationData>("ExcVisualizationData", scene(kPMI)).writes(scene(kPMIWritten)),
         fullRow<ExcBlockVisualization>("ExcBlockVisualization", ofBlock(kPMI)).writes(ofBlock(kPMIWritten)),
         fullRow<ExcRootAssemblyVisualization>("ExcRootAssemblyVisualization", ofRoot(kPMI)).writes(ofRoot(kPMIWritten)),
+        fullRow<ExcRootAssemblyVisualization>("ExcRootAssemblyVisualization of a zoom", kZoomedScene),
     };
 }
 

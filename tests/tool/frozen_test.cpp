@@ -14,7 +14,7 @@
 namespace
 {
 
-// What each exchange class writes after it has read its full text.
+// What each exchange class writes after it has read its first full text.
 std::map<mp::wstring, std::string> writtenRows()
 {
     std::map<mp::wstring, std::string> rows;
@@ -22,7 +22,7 @@ std::map<mp::wstring, std::string> writtenRows()
     {
         if (const auto object = std::dynamic_pointer_cast<vrx::IExchangeObject>(row.make()))
         {
-            rows[object->objectName()] = row.out;
+            rows.emplace(object->objectName(), row.out);
         }
     }
     return rows;

@@ -10,6 +10,7 @@ namespace vrx
 {
 
 /// Maps the name of an exchange class to its prototype. It is filled while the library is loaded and owns nothing.
+/// `get` and `names` are for any thread; `add` and `remove` only while no other thread uses the registry.
 class VRX_API ExchangeObjectRegistry
 {
 public:

@@ -31,29 +31,25 @@ Bytes compressedForm(const IExchangeObject& object, int level)
     return bytes;
 }
 
-// Leaves content in the system and returns the name under which it is found there.
-wstring leave(std::uint64_t size, const std::function<void(char*)>& make)
+// Makes a buffer that goes with the object, for as long as nobody was told of it.
+void fill(mp::SharedBuffer<char>& buffer, std::uint64_t size, const std::function<void(char*)>& make)
 {
-    wstring name = IExchangeObject::generateUUID();
-    mp::SharedBuffer<char> buffer;
-    buffer.open(name, true);
+    buffer.open(IExchangeObject::generateUUID(), true);
     buffer.fill(size, make);
-    // Nobody would ever be told of a buffer that could not be filled; a filled one is the reader's to remove.
-    buffer.setRemoveOnClose(false);
-    return name;
 }
 
-wstring share(const IExchangeObject& object, ECompression compression)
+void share(mp::SharedBuffer<char>& buffer, const IExchangeObject& object, ECompression compression)
 {
     constexpr int kDefaultLevel = -1;
     constexpr int kFastestLevel = 1;
     if (compression == ECompression::None || !object.compress())
     {
         const BinaryForm form(object);
-        return leave(form.size(), [&form](char* content) { form.write(content); });
+        fill(buffer, form.size(), [&form](char* content) { form.write(content); });
+        return;
     }
     const Bytes bytes = compressedForm(object, compression == ECompression::Fast ? kFastestLevel : kDefaultLevel);
-    return leave(bytes.size(), [&bytes](char* content) { std::copy(bytes.begin(), bytes.end(), content); });
+    fill(buffer, bytes.size(), [&bytes](char* content) { std::copy(bytes.begin(), bytes.end(), content); });
 }
 
 // The object itself, or the name of its buffer.
@@ -90,16 +86,20 @@ void ExchangeObjectWrapper::writeObject(wostream& stream) const
     JsonDocument document(rapidjson::kObjectType);
     JsonAllocator& allocator = document.GetAllocator();
     addMember(document, kEnvelopeName, treeOf(m_pObject->objectName(), allocator), allocator);
+    mp::SharedBuffer<char> buffer;
     if (m_pObject->binary())
     {
         addMember(document, kEnvelopeBinary, JsonValue(true), allocator);
-        addMember(document, kEnvelopeData, treeOf(share(*m_pObject, m_compression), allocator), allocator);
+        share(buffer, *m_pObject, m_compression);
+        addMember(document, kEnvelopeData, treeOf(buffer.name(), allocator), allocator);
     }
     else
     {
         addMember(document, kEnvelopeData, treeOf(*m_pObject, allocator), allocator);
     }
     JsonTextIO::write(stream, document, true);
+    // Its reader removes it.
+    buffer.setRemoveOnClose(false);
 }
 
 void ExchangeObjectWrapper::readObject(wistream& stream)

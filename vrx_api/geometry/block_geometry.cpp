@@ -129,7 +129,8 @@ bool ExcBlockGeometry::setGeometry(const ENTITY_LIST& entities, bool compress)
     m_bodyIds.clear();
     try
     {
-        m_buffer = std::make_shared<ExcSharedAcisBuffer>(generateUUID(), m_own);
+        // A buffer without its bodies goes with this object.
+        m_buffer = std::make_shared<ExcSharedAcisBuffer>(generateUUID(), true);
     }
     catch (const mp::SharedMemoryException& error)
     {
@@ -157,6 +158,7 @@ bool ExcBlockGeometry::setGeometry(const ENTITY_LIST& entities, bool compress)
         kolt::log(kolt::kError, "Failed to flush ACIS data into shared memory buffer: ", error.what());
         return false;
     }
+    m_buffer->setRemoveOnClose(m_own);
     return true;
 }
 

@@ -264,11 +264,6 @@ private:
     std::uint64_t m_depth = 0;
 };
 
-bool asksForAnything(const ReadRules& rules)
-{
-    return rules.isStrict || rules.values != ReadRules::kNoLimit || rules.depth != ReadRules::kNoLimit;
-}
-
 // The text has no lone surrogates in escapes, and is used up.
 void requireRules(wstring text, const ReadRules& rules)
 {
@@ -307,6 +302,10 @@ wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool
     {
         throw std::runtime_error("Cannot write object into json document");
     }
+    if (stream.fail())
+    {
+        throw std::runtime_error("Cannot write json document into stream");
+    }
     return stream;
 }
 
@@ -326,7 +325,7 @@ wistream& JsonTextIO::read(wistream& stream, JsonDocument& document, const ReadR
 
 void JsonTextIO::check(const wstring& text, const ReadRules& rules)
 {
-    if (!asksForAnything(rules))
+    if (!rules.asksForForm())
     {
         return;
     }

@@ -27,6 +27,9 @@ struct VRX_API ReadRules
     /// text with a NUL in it, a member's name that is no string, and a name twice in an object.
     bool isStrict = false;
 
+    /// Whether anything is asked of a text or a binary form.
+    bool asksForForm() const { return isStrict || values != kNoLimit || depth != kNoLimit; }
+
     /// Without limits.
     static ReadRules strict();
 

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace faults
+{
+
+enum class ECalls
+{
+    Allocations,
+    SystemCalls,
+};
+
+enum class EMode
+{
+    Fails,
+    FailsOnward, ///< And all behind it fail, too.
+    IsInterrupted,
+    IsShort,
+    KillsBefore, ///< The process dies before the call,
+    KillsBehind, ///< or behind it.
+};
+
+/// What happens to one call of a process: the one at this place among the calls that it can happen to, counted from 1.
+struct Fault
+{
+    ECalls calls;
+    EMode mode;
+    int place;
+};
+
+/// The fault that is due, and what became of shared memory. The test and the processes that it starts share one plan.
+class FaultPlan
+{
+public:
+    static FaultPlan& instance();
+
+    /// The process that starts the others makes a plan that they can join.
+    static void share();
+
+    /// A started process takes the fault that was meant for it. Does nothing without a plan.
+    static void join();
+
+    /// From now on the calls of this process count, or those of the process that joins.
+    void arm(const Fault& fault);
+    void armForOther(const Fault& fault);
+
+    /// Tells whether the fault has happened.
+    bool disarm();
+
+    /// Counts a call, and tells whether the fault happens to it.
+    bool strikes(ECalls calls, EMode mode);
+
+    /// A shared memory object was made.
+    void noteObject(const char* name);
+
+    struct Object
+    {
+        int process;               ///< That made it.
+        std::array<char, 60> name; ///< Ends with a null character.
+    };
+
+    /// Those that are still in the system.
+    std::vector<Object> leftObjects();
+
+    /// Removes them.
+    void removeObjects();
+
+private:
+    std::atomic<int> m_process; // whose calls count
+    Fault m_fault;
+    std::atomic<int> m_count;
+    std::atomic<int> m_objectCount;
+    std::array<Object, 100> m_objects;
+};
+
+/// While there is one, a fault is due in this process.
+class Armed
+{
+public:
+    explicit Armed(const Fault& fault) { FaultPlan::instance().arm(fault); }
+    Armed(const Armed&) = delete;
+    Armed& operator=(const Armed&) = delete;
+    ~Armed() { FaultPlan::instance().disarm(); }
+};
+
+/// What this process holds.
+struct Holdings
+{
+    long blocks;
+    int files;
+
+    static Holdings now();
+
+    friend bool operator==(const Holdings& a, const Holdings& b) { return a.blocks == b.blocks && a.files == b.files; }
+};
+
+} // namespace faults

@@ -1,0 +1,281 @@
+// The calls of the C library that a fault can happen to, in place of its own: the libraries that this program loads
+// find these first.
+
+#include "tests/faults/fault_plan.h"
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/mman.h>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <cstdarg>
+#include <cstdlib>
+#include <type_traits>
+
+// NOLINTBEGIN: the names, parameters and memory of the C library
+
+using faults::ECalls;
+using faults::EMode;
+using faults::FaultPlan;
+
+namespace
+{
+
+std::atomic<long> liveBlocks = 0; // of memory, that are not freed
+
+bool strikes(EMode mode)
+{
+    return FaultPlan::instance().strikes(ECalls::SystemCalls, mode);
+}
+
+enum class EGives
+{
+    MinusOne, // and errno
+    Error,    // the error itself
+};
+
+/// A function of the C library, the error that a fault gives, and whether a signal can interrupt the call.
+template <class Function>
+class Call
+{
+public:
+    Call(Function*, const char* name, int error, bool isInterruptible = false, EGives gives = EGives::MinusOne)
+        : m_real(reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name)))
+        , m_error(error)
+        , m_isInterruptible(isInterruptible)
+        , m_gives(gives)
+    {
+    }
+
+    template <class... Arguments>
+    auto operator()(Arguments... arguments) const
+    {
+        using Result = std::invoke_result_t<Function, Arguments...>;
+        if (strikes(EMode::KillsBefore))
+        {
+            std::raise(SIGKILL);
+        }
+        if (strikes(EMode::Fails))
+        {
+            return failed<Result>(m_error);
+        }
+        if (m_isInterruptible && strikes(EMode::IsInterrupted))
+        {
+            return failed<Result>(EINTR);
+        }
+        const Result result = m_real(arguments...);
+        if (strikes(EMode::KillsBehind))
+        {
+            std::raise(SIGKILL);
+        }
+        return result;
+    }
+
+private:
+    template <class Result>
+    Result failed(int error) const
+    {
+        if constexpr (std::is_pointer_v<Result>)
+        {
+            errno = error;
+            return MAP_FAILED;
+        }
+        else
+        {
+            errno = m_gives == EGives::MinusOne ? error : errno;
+            return m_gives == EGives::MinusOne ? -1 : error;
+        }
+    }
+
+    Function* m_real;
+    int m_error;
+    bool m_isInterruptible;
+    EGives m_gives;
+};
+
+size_t taken(size_t size)
+{
+    return size > 1 && strikes(EMode::IsShort) ? size / 2 : size;
+}
+
+void* counted(void* block)
+{
+    liveBlocks += block != nullptr ? 1 : 0;
+    return block;
+}
+
+bool hasNoMemory()
+{
+    FaultPlan& plan = FaultPlan::instance();
+    const bool fails =
+        plan.strikes(ECalls::Allocations, EMode::Fails) || plan.strikes(ECalls::Allocations, EMode::FailsOnward);
+    errno = fails ? ENOMEM : errno;
+    return fails;
+}
+
+} // namespace
+
+faults::Holdings faults::Holdings::now()
+{
+    constexpr int kMost = 64;
+    Holdings holdings = {liveBlocks, 0};
+    for (int file = 0; file < kMost; ++file)
+    {
+        holdings.files += ::fcntl(file, F_GETFD) >= 0 ? 1 : 0;
+    }
+    return holdings;
+}
+
+extern "C"
+{
+    void* __libc_malloc(size_t size);
+    void* __libc_calloc(size_t count, size_t size);
+    void* __libc_realloc(void* block, size_t size);
+    void __libc_free(void* block);
+
+    void* malloc(size_t size) noexcept
+    {
+        return hasNoMemory() ? nullptr : counted(__libc_malloc(size));
+    }
+    void* calloc(size_t count, size_t size) noexcept
+    {
+        return hasNoMemory() ? nullptr : counted(__libc_calloc(count, size));
+    }
+    void* realloc(void* block, size_t size) noexcept
+    {
+        if (hasNoMemory())
+        {
+            return nullptr;
+        }
+        return block == nullptr ? counted(__libc_realloc(block, size)) : __libc_realloc(block, size);
+    }
+    void free(void* block) noexcept
+    {
+        liveBlocks -= block != nullptr ? 1 : 0;
+        __libc_free(block);
+    }
+
+    int open(const char* path, int flags, ...)
+    {
+        static const Call call(static_cast<int (*)(const char*, int, mode_t)>(nullptr), "open", ENFILE);
+        va_list rest;
+        va_start(rest, flags);
+        const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
+        va_end(rest);
+        return call(path, flags, mode);
+    }
+    int shm_open(const char* name, int flags, mode_t mode)
+    {
+        static const Call call(&::shm_open, "shm_open", EMFILE);
+        if ((flags & O_CREAT) != 0)
+        {
+            FaultPlan::instance().noteObject(name + 1);
+        }
+        return call(name, flags, mode);
+    }
+    int shm_unlink(const char* name)
+    {
+        static const Call call(&::shm_unlink, "shm_unlink", EACCES);
+        return call(name);
+    }
+    int fchmod(int file, mode_t mode) noexcept
+    {
+        static const Call call(&::fchmod, "fchmod", EPERM);
+        return call(file, mode);
+    }
+    int fstat(int file, struct stat* status) noexcept
+    {
+        static const Call call(&::fstat, "fstat", ENOMEM);
+        return call(file, status);
+    }
+    int ftruncate(int file, off_t size) noexcept
+    {
+        static const Call call(&::ftruncate, "ftruncate", EIO);
+        return call(file, size);
+    }
+    int posix_fallocate(int file, off_t offset, off_t size)
+    {
+        static const Call call(&::posix_fallocate, "posix_fallocate", ENOSPC, true, EGives::Error);
+        return call(file, offset, size);
+    }
+    void* mmap(void* place, size_t size, int protection, int flags, int file, off_t offset) noexcept
+    {
+        static const Call call(&::mmap, "mmap", ENOMEM);
+        return call(place, size, protection, flags, file, offset);
+    }
+    int madvise(void* place, size_t size, int advice) noexcept
+    {
+        static const Call call(&::madvise, "madvise", ENOMEM);
+        return call(place, size, advice);
+    }
+    off_t lseek(int file, off_t offset, int whence) noexcept
+    {
+        static const Call call(&::lseek, "lseek", EINVAL);
+        return call(file, offset, whence);
+    }
+    ssize_t pread(int file, void* bytes, size_t size, off_t offset)
+    {
+        static const Call call(&::pread, "pread", EIO, true);
+        return call(file, bytes, taken(size), offset);
+    }
+    ssize_t getrandom(void* bytes, size_t size, unsigned flags)
+    {
+        static const Call call(&::getrandom, "getrandom", ENOSYS, true);
+        return call(bytes, taken(size), flags);
+    }
+    int memfd_create(const char* name, unsigned flags) noexcept
+    {
+        static const Call call(&::memfd_create, "memfd_create", EMFILE);
+        return call(name, flags);
+    }
+    int pipe2(int* ends, int flags) noexcept
+    {
+        static const Call call(&::pipe2, "pipe2", EMFILE);
+        return call(ends, flags);
+    }
+    int dup2(int from, int to) noexcept
+    {
+        static const Call call(&::dup2, "dup2", EBUSY, true);
+        return call(from, to);
+    }
+    int fcntl(int file, int command, ...)
+    {
+        static const Call call(static_cast<int (*)(int, int, void*)>(nullptr), "fcntl", EMFILE);
+        va_list rest;
+        va_start(rest, command);
+        void* const argument = va_arg(rest, void*);
+        va_end(rest);
+        return call(file, command, argument);
+    }
+    ssize_t read(int file, void* bytes, size_t size)
+    {
+        static const Call call(&::read, "read", EIO, true);
+        return call(file, bytes, taken(size));
+    }
+    ssize_t write(int file, const void* bytes, size_t size)
+    {
+        static const Call call(&::write, "write", ENOMEM, true);
+        return call(file, bytes, taken(size));
+    }
+    int poll(pollfd* files, nfds_t count, int timeout)
+    {
+        static const Call call(&::poll, "poll", ENOMEM, true);
+        return call(files, count, timeout);
+    }
+    int posix_spawnp(pid_t* process, const char* file, const posix_spawn_file_actions_t* actions,
+                     const posix_spawnattr_t* attributes, char* const* arguments, char* const* environment)
+    {
+        static const Call call(&::posix_spawnp, "posix_spawnp", EAGAIN, false, EGives::Error);
+        return call(process, file, actions, attributes, arguments, environment);
+    }
+}
+
+// NOLINTEND

@@ -1,0 +1,73 @@
+// A translator that joins the plan of faults. An exception without a text ends it by a signal.
+
+#include "bridge/bridge.h"
+#include "tests/faults/fault_plan.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
+
+#include <cstdlib>
+#include <exception>
+
+using namespace vrx;
+
+namespace
+{
+
+void import(bridge::TranslatorChannel& channel)
+{
+    const auto structure = std::make_shared<ExcProductStructure>();
+    structure->setProductName(WIDE("imported"));
+    channel.message(WIDE("reads"));
+    channel.send(structure);
+    channel.send(Result());
+}
+
+void receive(bridge::TranslatorChannel& channel)
+{
+    while (const auto object = channel.receiveObject())
+    {
+        channel.message(std::dynamic_pointer_cast<ExcProductStructure>(object)->productName());
+    }
+    channel.send(Result());
+}
+
+void translate()
+{
+    bridge::TranslatorChannel channel;
+    while (const std::optional<Command> command = channel.receive())
+    {
+        switch (command->type())
+        {
+        case Command::EType::Info:
+            channel.send(FerrantInfo());
+            break;
+        case Command::EType::Import:
+            import(channel);
+            break;
+        case Command::EType::Export:
+            receive(channel);
+            break;
+        default:
+            channel.send(Result());
+        }
+    }
+}
+
+} // namespace
+
+int main()
+{
+    faults::FaultPlan::join();
+    try
+    {
+        translate();
+    }
+    catch (const std::exception& failure)
+    {
+        if (*failure.what() == '\0')
+        {
+            std::abort();
+        }
+        return 3;
+    }
+    return 0;
+}

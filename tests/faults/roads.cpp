@@ -1,0 +1,266 @@
+#include "tests/faults/roads.h"
+
+#include "bridge/bridge.h"
+#include "tests/full_rows/full_rows.h"
+#include "tests/support/bodies.h"
+#include "tests/support/json_text.h"
+#include "vrx_api/vrx_api.h"
+
+#include <stdexcept>
+
+using namespace vrx;
+
+namespace faults
+{
+
+namespace
+{
+
+std::shared_ptr<IExchangeObject> objectOf(const mp::ISerializable& message)
+{
+    return dynamic_cast<const ExchangeObjectWrapper&>(message).get();
+}
+
+std::string contentOf(const mp::ISerializable& message)
+{
+    const bool isEnvelope = dynamic_cast<const ExchangeObjectWrapper*>(&message) != nullptr;
+    return isEnvelope ? test::written(*objectOf(message)) : test::written(message);
+}
+
+using MakeMessage = std::function<std::shared_ptr<mp::ISerializable>()>;
+
+class Message : public Road
+{
+public:
+    Message(const std::shared_ptr<mp::ISerializable>& filled, MakeMessage makeEmpty, bool reads)
+        : m_filled(filled)
+        , m_makeEmpty(std::move(makeEmpty))
+        , m_reads(reads)
+    {
+    }
+
+    void prepare() override
+    {
+        m_stream = std::make_unique<mp::wstringstream>();
+        m_read = m_makeEmpty();
+        if (m_reads)
+        {
+            write();
+        }
+    }
+    void run() override { m_reads ? read() : write(); }
+    std::string result() override
+    {
+        if (!m_reads)
+        {
+            read();
+        }
+        return contentOf(*m_read);
+    }
+    void forget() override
+    {
+        m_stream.reset();
+        m_read.reset();
+    }
+
+private:
+    void write() { m_filled->writeObject(*m_stream); }
+    void read()
+    {
+        m_stream->seekg(0);
+        m_read->readObject(*m_stream);
+    }
+
+    std::shared_ptr<mp::ISerializable> m_filled;
+    MakeMessage m_makeEmpty;
+    bool m_reads;
+    std::unique_ptr<mp::wstringstream> m_stream;
+    std::shared_ptr<mp::ISerializable> m_read;
+};
+
+// A failure of bodies is told by false.
+void require(bool isDone)
+{
+    if (!isDone)
+    {
+        throw std::runtime_error("there are no bodies");
+    }
+}
+
+class Bodies : public Road
+{
+public:
+    Bodies(bool compresses, bool reads)
+        : m_compresses(compresses)
+        , m_reads(reads)
+    {
+        m_saved.addBrick("one");
+        m_saved.addBrick("two");
+    }
+
+    void prepare() override
+    {
+        m_stream = std::make_unique<mp::wstringstream>();
+        if (m_reads)
+        {
+            write();
+        }
+    }
+    void run() override { m_reads ? read() : write(); }
+    std::string result() override
+    {
+        if (!m_reads)
+        {
+            read();
+        }
+        return m_restored->describe();
+    }
+    void forget() override
+    {
+        m_stream.reset();
+        m_restored.reset();
+    }
+
+private:
+    void write()
+    {
+        const auto geometry = std::make_shared<ExcBlockGeometry>();
+        require(geometry->setGeometry(m_saved.list(), m_compresses));
+        geometry->own(true); // until the reader is told of them
+        ExchangeObjectWrapper envelope;
+        envelope.set(geometry);
+        envelope.writeObject(*m_stream);
+        geometry->own(false);
+    }
+    void read()
+    {
+        m_stream->seekg(0);
+        ExchangeObjectWrapper envelope;
+        envelope.readObject(*m_stream);
+        const auto geometry = std::dynamic_pointer_cast<ExcBlockGeometry>(envelope.get());
+        geometry->load();
+        m_restored = std::make_unique<test::Bodies>();
+        std::vector<std::uint64_t> ids;
+        require(geometry->getGeometry(m_restored->list(), ids));
+    }
+
+    bool m_compresses;
+    bool m_reads;
+    test::Bodies m_saved;
+    std::unique_ptr<mp::wstringstream> m_stream;
+    std::unique_ptr<test::Bodies> m_restored;
+};
+
+std::shared_ptr<ExcProductStructure> structure(const mp::wstring& name)
+{
+    auto structure = std::make_shared<ExcProductStructure>();
+    structure->setProductName(name);
+    return structure;
+}
+
+// Hears all that a translator sends, as one text.
+class Ear : public bridge::Listener
+{
+public:
+    void onMessage(const mp::wstring& text) override { m_told += "message " + mp::toNarrow(text) + '\n'; }
+    void onObject(const std::shared_ptr<IExchangeObject>& object) override { m_told += test::written(*object) + '\n'; }
+
+    const std::string& told() const { return m_told; }
+
+private:
+    std::string m_told;
+};
+
+/// A host with its translator.
+class Session : public Road
+{
+public:
+    void run() override
+    {
+        bridge::HostSession session({VRX_FAULTS_PEER});
+        session.setTimeLimit(std::chrono::seconds(10));
+        Ear ear;
+        session.info();
+        const auto importOptions = Command::newImportOptions();
+        session.importFile(importOptions, ear);
+        const auto exportOptions = Command::newExportOptions();
+        std::shared_ptr<IExchangeObject> next = structure(WIDE("exported"));
+        session.exportFile(
+            exportOptions, [&next] { return std::exchange(next, nullptr); }, ear);
+        m_told = ear.told();
+    }
+    std::string result() override { return m_told; }
+    void forget() override { m_told = std::string(); }
+
+private:
+    std::string m_told;
+};
+
+class Roads
+{
+public:
+    void add(const std::string& title, const std::shared_ptr<mp::ISerializable>& filled, const MakeMessage& makeEmpty)
+    {
+        all.push_back({title + " written", std::make_shared<Message>(filled, makeEmpty, false), EManner::Writes});
+        all.push_back({title + " read", std::make_shared<Message>(filled, makeEmpty, true), EManner::Reads});
+    }
+
+    template <class T>
+    void addMessage(const std::string& title, const std::string& text)
+    {
+        const auto filled = std::make_shared<T>();
+        test::readText(*filled, text);
+        add(title, filled, std::make_shared<T>);
+    }
+
+    void addObject(const std::string& title, const std::shared_ptr<IExchangeObject>& object,
+                   ECompression compression = ECompression::AsTold)
+    {
+        const auto filled = std::make_shared<ExchangeObjectWrapper>();
+        filled->set(object);
+        filled->setCompression(compression);
+        add(title, filled, std::make_shared<ExchangeObjectWrapper>);
+    }
+
+    void addBodies(const std::string& title, bool compresses)
+    {
+        all.push_back({title + " written", std::make_shared<Bodies>(compresses, false), EManner::Writes});
+        all.push_back({title + " read", std::make_shared<Bodies>(compresses, true), EManner::Reads});
+    }
+
+    std::vector<NamedRoad> all;
+};
+
+} // namespace
+
+std::vector<NamedRoad> allRoads()
+{
+    Roads roads;
+    for (const test::FullRow& row : test::allFullRows())
+    {
+        if (const auto object = std::dynamic_pointer_cast<IExchangeObject>(row.make()))
+        {
+            test::readText(*object, row.in);
+            roads.addObject(row.title, object);
+        }
+    }
+    // Small objects are compressed in another way.
+    const auto large = structure(mp::wstring(10000, 'a'));
+    roads.addObject("large object", large);
+    roads.addObject("large object fast", large, ECompression::Fast);
+    roads.addObject("large object plain", large, ECompression::None);
+    roads.addBodies("bodies", false);
+    roads.addBodies("bodies compressed", true);
+    roads.addMessage<Command>("command", R"({"ferrant_interface":"connect","command":"import","options":{"file":"f",)"
+                                         R"("format_options":[{"operation_type":"import","format_type":"JT",)"
+                                         R"("edges_mode":"all","user_prop_mode":"unknown"}]}})");
+    roads.addMessage<Result>("result", R"({"code":"warning","message":"m","is_finished":true})");
+    roads.addMessage<FerrantInfo>("translator description",
+                                  R"({"name":"n","version":"v","thirdparty_cores":[{"name":"k","version":"1"}],)"
+                                  R"("import_formats":[{"description":"d","extensions":["e"],"filters":["f;g"]}]})");
+    roads.all.push_back({"host", std::make_shared<Session>(), EManner::Writes});
+    roads.all.push_back({"translator", std::make_shared<Session>(), EManner::HasOtherWrite});
+    return roads.all;
+}
+
+} // namespace faults
