@@ -32,7 +32,7 @@ public:
         rewind();
     }
 
-    void rewind() { require(::lseek(descriptor(), 0, SEEK_SET) == 0); }
+    void rewind() const { require(::lseek(descriptor(), 0, SEEK_SET) == 0); }
 
     std::string content() const
     {
