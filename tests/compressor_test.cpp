@@ -95,6 +95,9 @@ TEST(Compressor, RoundTrips)
             }
         }
     }
+    std::vector<char> bytes = {'o', 'l', 'd'};
+    Compressor::compress(bytes, "abc", 3, -1);
+    EXPECT_EQ(decompressed({bytes.begin(), bytes.end()}), "abc");
     EXPECT_EQ(compressed("").size(), 20U);
     EXPECT_EQ(compressed("a").substr(0, 2), test::bytes("1F8B"));
 }

@@ -6,6 +6,7 @@
 #include "vrx_api/common/misc_data.h"
 #include "vrx_api/common/vector.h"
 #include "vrx_api/exchange/exchange_object.h"
+#include "vrx_api/exchange/message_object.h"
 #include "vrx_api/json/direct.h"
 #include "vrx_api/visualization/visu_mesh.h"
 #include "vrx_api/visualization/visu_node.h"
@@ -342,6 +343,16 @@ TEST(DirectRoadOfOwnClasses, PassesTheirErrorsOn)
 }
 
 // A number before a long text must not be taken for the first of many.
+TEST(DirectRoadOfMessages, TakesBytesThatLieAtAnOddPlace)
+{
+    const LogLevel set(kolt::kDebug);
+    const std::string form = formOf(R"({"message":"abc"})");
+    const std::string odd = ' ' + form;
+    ExcMessage message;
+    kDirectRoad.read(message, odd.data() + 1, form.size());
+    EXPECT_EQ(message.get(), WIDE("abc"));
+}
+
 TEST(DirectRoadOfArrays, ReservesForWhatIsThere)
 {
     const std::string form = formOf("[7,\"" + std::string(10000, 'x') + "\"]");

@@ -48,6 +48,16 @@ TEST(JsonTextIO, ReadsOneValueUpToTheEndOrANul)
     EXPECT_EQ(textOf(parsed(std::string_view("[1]\0]", 5))), "[1]");
 }
 
+TEST(JsonTextIO, ReadsNothingFromAStreamThatHasFailed)
+{
+    JsonDocument document = parsed("[1]");
+    mp::wistringstream stream(WIDE("[2]"));
+    stream.setstate(std::ios_base::failbit);
+    JsonTextIO::read(stream, document);
+    EXPECT_EQ(textOf(document), "[1]");
+    EXPECT_TRUE(document.HasParseError());
+}
+
 TEST(JsonTextIO, TakesTheEscapeOfALoneLowSurrogateForItsUnit)
 {
     const std::pair<const char*, wstring> rows[] = {

@@ -51,6 +51,14 @@ TEST(ChildProcess, IsKilledWhenItDoesNotEnd)
 }
 
 #ifndef _WIN32
+TEST(ChildProcess, IsKilledWhenItDoesNotHear)
+{
+    ChildProcess child({"sh", "-c", "trap '' TERM; echo ready; while :; do sleep 1; done"});
+    char text[16] = "";
+    ASSERT_GT(child.output().readSome(text, sizeof(text)), 0U);
+    EXPECT_EQ(child.end(milliseconds(1)), "it was ended by signal 9 (Killed)");
+}
+
 TEST(ChildProcess, CanBeKilledWithWhatItsStarterLeaves)
 {
     const std::string script = "(trap '' TERM; echo ready; exec \"$0\" hang) & wait";

@@ -73,6 +73,16 @@ TEST_F(Frames, AreNoTextWithoutACount)
     EXPECT_THROW(readFrame(reader()), NoMessage);
 }
 
+TEST_F(Frames, AreNoLongerThanAMessageMayBe)
+{
+    constexpr std::size_t kMostUnits = 1U << 26;
+    EXPECT_THROW(writeFrame(writer(), mp::wstring(kMostUnits + 1, WIDE('x'))), StreamError);
+    put(std::string("\1\0\0\4", 4));
+    EXPECT_THROW(readFrame(reader()), NoMessage);
+    put(std::string("\0\0\0\4", 4));
+    EXPECT_THROW(readFrame(reader(), {steady_clock::now() + milliseconds(20), nullptr}), TimedOut);
+}
+
 TEST_F(Frames, GoOnWhereAWaitWasGivenUp)
 {
     FrameReader frames(reader());

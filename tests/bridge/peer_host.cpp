@@ -26,7 +26,10 @@ public:
     {
     }
 
+    void onProgress(const ExcProgress& progress) override { std::cout << "progress " << progress.progress() << '\n'; }
     void onMessage(const mp::wstring& text) override { std::cout << "message " << mp::toNarrow(text) << '\n'; }
+    void onLog(const mp::wstring& text) override { std::cout << "log " << mp::toNarrow(text) << '\n'; }
+    void onStage(ExcStageFinished::EStage stage) override { std::cout << "stage " << static_cast<int>(stage) << '\n'; }
 
     void onObject(const std::shared_ptr<IExchangeObject>& object) override
     {

@@ -58,9 +58,10 @@ public:
                 sendInfo(steps);
                 break;
             case Command::EType::Import:
-                import(steps);
+                import(*command, steps);
                 break;
             case Command::EType::Export:
+                tellLegacy(*command);
                 receive(steps);
                 break;
             default:
@@ -74,6 +75,12 @@ public:
 private:
     void sendInfo(const std::vector<std::string>& steps)
     {
+        if (steps == std::vector<std::string>{"untold", "command"})
+        {
+            doStep("untold");
+            doStep("command");
+            return;
+        }
         if (steps == std::vector<std::string>{"unable"})
         {
             m_channel.log(WIDE("looked for a licence"));
@@ -88,8 +95,17 @@ private:
         m_channel.send(info);
     }
 
-    void import(const std::vector<std::string>& steps)
+    void tellLegacy(const Command& command)
     {
+        if (command.internalInterface() == EFerrantInterface::Legacy)
+        {
+            m_channel.message(WIDE("by the older interface"));
+        }
+    }
+
+    void import(const Command& command, const std::vector<std::string>& steps)
+    {
+        tellLegacy(command);
         try
         {
             for (const std::string& step : steps)
@@ -135,6 +151,18 @@ private:
         {
             sendBytes("a stray line of text");
         }
+        else if (step == "progress")
+        {
+            const auto progress = std::make_shared<ExcProgress>();
+            progress->setProgress(3);
+            m_channel.send(progress);
+            m_channel.send(std::make_shared<ExcStageFinished>(ExcStageFinished::EStage::Mechanical));
+            m_channel.log(WIDE("half of it"));
+        }
+        else if (step == "no-code")
+        {
+            m_channel.sendText(WIDE(R"({"code":[],"message":"hm"})"));
+        }
         else if (step == "cut")
         {
             sendBytes(std::string("\2\0\0\0A\0", 6));
@@ -169,6 +197,12 @@ private:
         {
             constexpr std::string_view kObjectAndMore("\3\0\0\0\0\0\0\0\0\0\0\0\0", 13);
             m_channel.sendText(envelope(WIDE("exc_product_structure"), leftBuffer(kObjectAndMore)));
+        }
+        else if (step == "limit")
+        {
+            ReadRules rules = ReadRules::strict();
+            rules.values = 6; // a ping has five, an envelope has seven
+            m_channel.setReadRules(rules);
         }
         else if (step == "untold")
         {

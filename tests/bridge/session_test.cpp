@@ -34,6 +34,11 @@ const SessionCase kCases[] = {
      {"stray", "one", "stray", "two"},
      "message now one\nexc_product_structure one\nmessage now two\nexc_product_structure two\nresult 1\nping 1\n",
      2},
+    {"Progress",
+     "loads",
+     {"progress", "one"},
+     "progress 3\nstage 5\nlog half of it\nmessage now one\nexc_product_structure one\nresult 1\nping 1\n",
+     1},
     {"Bodies", "loads", {"bodies"}, "exc_block_geometry\nresult 1\nping 1\n", 1},
     {"LazyHost",
      "is-lazy",
@@ -63,9 +68,14 @@ const SessionCase kCases[] = {
      "failure 3 The translator sent no message: what stands on the pipe is no message\n",
      1},
     {"AnotherMessage", "loads", {"command"}, "failure 3 The translator sent neither an object nor a result.\n", 0},
+    {"ResultWithoutACode",
+     "loads",
+     {"no-code"},
+     "failure 3 The translator sent no result: Json document has no result code.\n",
+     0},
     {"SecondAnswer",
      "dawdles",
-     {"answer"},
+     {"answer", "progress"},
      "result 3\nping failure 3 The translator sent an answer that nobody had asked for.\n",
      0},
     {"MissingBuffer",
@@ -129,21 +139,77 @@ TEST(SessionStart, FailsWithTheProgramsName)
     }
 }
 
-TEST(SessionStart, TellsWhyATranslatorDoesNotSayWhatItIs)
+// What an operation that fails says, behind the number of its kind.
+template <class Operation>
+std::string failureOf(Operation operation)
 {
-    vrx::bridge::HostSession session({VRX_BRIDGE_TEST_PEER, "translator", "unable"});
     try
     {
-        session.info();
-        FAIL() << "has a description";
+        operation();
     }
     catch (const vrx::bridge::TranslatorFailure& failure)
     {
-        EXPECT_STREQ(failure.what(), "The translator does not say what it is: no licence");
+        return std::to_string(static_cast<int>(failure.kind())) + ' ' + failure.what();
     }
+    return "none";
+}
+
+TEST(SessionStart, TellsWhyATranslatorDoesNotSayWhatItIs)
+{
+    vrx::bridge::HostSession unable({VRX_BRIDGE_TEST_PEER, "translator", "unable"});
+    EXPECT_EQ(failureOf([&] { unable.info(); }), "3 The translator does not say what it is: no licence");
+    EXPECT_THAT(failureOf([&] { unable.ping(); }), StartsWith("0 The translator has ended: it "));
+    vrx::bridge::HostSession confused({VRX_BRIDGE_TEST_PEER, "translator", "untold", "command"});
+    EXPECT_EQ(failureOf([&] { confused.info(); }), "3 The translator does not say what it is.");
+}
+
+class Messages : public vrx::bridge::Listener
+{
+public:
+    void onMessage(const mp::wstring& text) override { m_texts.push_back(text); }
+    const std::vector<mp::wstring>& texts() const { return m_texts; }
+
+private:
+    std::vector<mp::wstring> m_texts;
+};
+
+TEST(SessionCommand, GoesByTheInterfaceOfItsOptions)
+{
+    using vrx::Command;
+    vrx::bridge::HostSession session({VRX_BRIDGE_TEST_PEER, "translator"});
+    session.setTimeLimit(std::chrono::milliseconds::max());
+    Messages messages;
+    const auto nothing = [] { return nullptr; };
+    session.importFile(Command::newImportOptions(), messages);
+    session.exportFile(Command::newExportOptions(), nothing, messages);
+    EXPECT_TRUE(messages.texts().empty());
+    session.importFile(Command::newLegacyImportOptions(), messages);
+    session.exportFile(Command::newLegacyExportOptions(), nothing, messages);
+    EXPECT_EQ(messages.texts(), std::vector<mp::wstring>(2, WIDE("by the older interface")));
 }
 
 #ifndef _WIN32
+std::string failureOfLongCommand(vrx::bridge::HostSession& session)
+{
+    const auto options = vrx::Command::newImportOptions();
+    options->setFile(mp::wstring(3000000, WIDE('x')));
+    vrx::bridge::Listener listener;
+    return failureOf([&] { session.importFile(options, listener); });
+}
+
+TEST(SessionCommand, FailsWhenTheTranslatorDoesNotTakeIt)
+{
+    vrx::bridge::HostSession deaf({"sh", "-c", "exec <&-; exec sleep 60"});
+    EXPECT_EQ(failureOfLongCommand(deaf),
+              "0 The translator does not take commands: it was ended by signal 15 (Terminated).");
+    vrx::bridge::HostSession hanging({VRX_BRIDGE_TEST_PEER, "hang"});
+    hanging.setTimeLimit(std::chrono::milliseconds(20));
+    EXPECT_EQ(failureOfLongCommand(hanging), "1 The translator did not take a message in time.");
+    vrx::bridge::HostSession cancelled({VRX_BRIDGE_TEST_PEER, "hang"});
+    cancelled.cancel();
+    EXPECT_EQ(failureOfLongCommand(cancelled), "2 The translator's work was cancelled.");
+}
+
 // As a program with windows starts it.
 TEST(SessionStart, NeedsNoStandardError)
 {
@@ -151,6 +217,8 @@ TEST(SessionStart, NeedsNoStandardError)
     EXPECT_EQ(session.info().name(), WIDE("peer"));
     vrx::bridge::Listener listener;
     EXPECT_EQ(session.importFile(vrx::Command::newImportOptions(), listener).code(), vrx::Result::ECode::Ok);
+    vrx::bridge::ChildProcess host({"/bin/sh", "-c", "exec \"$0\" host loads stray 2>&-", VRX_BRIDGE_TEST_PEER});
+    EXPECT_EQ(test::readAll(host.output()), "peer\nresult 1\nping 1\n");
 }
 
 TEST(SessionEnd, ByAnInterruptLeavesWhatIsIgnored)
@@ -162,8 +230,10 @@ TEST(SessionEnd, ByAnInterruptLeavesWhatIsIgnored)
         EXPECT_THROW(vrx::bridge::CancelOnInterrupt{session}, std::logic_error);
         std::raise(SIGHUP);
         EXPECT_FALSE(session.isCancelled());
+        EXPECT_FALSE(vrx::bridge::CancelOnInterrupt::wasInterrupted());
         std::raise(SIGINT);
         EXPECT_TRUE(session.isCancelled());
+        EXPECT_TRUE(vrx::bridge::CancelOnInterrupt::wasInterrupted());
     }
     std::signal(SIGHUP, SIG_DFL);
 }

@@ -1,0 +1,188 @@
+#!/usr/bin/python3
+"""Tells which planted faults no test sees.
+
+usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--unseen] [--jobs N] [--file PART]
+
+Runs each test of BUILD once to learn which faults it comes by, then each fault with the tests that come by it, the
+quick ones first, until one fails. --sample: only so many faults, taken by chance; --unseen: those only that the last
+run did not see; --file: those of files whose name has this part. RESULTS keeps what was seen.
+"""
+
+import argparse
+import collections
+import concurrent.futures
+import json
+import os
+import pathlib
+import random
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+
+HERE = pathlib.Path(__file__).resolve().parent
+FIRST_TESTS = 12
+MEMORY = 6 << 20  # kilobytes of address space
+
+# Each test has the processes, the shared memory and the temporary files for itself, and all of them end with it.
+APART = ["unshare", "--mount", "--pid", "--fork", "--kill-child", "--mount-proc"] + \
+    ([] if os.geteuid() == 0 else ["--map-root-user"])
+WITHIN = """mount -t tmpfs -o size=1g tmpfs /dev/shm && mount -t tmpfs -o size=1g tmpfs /tmp || exit 125
+ulimit -v "$1" -t "$2" -c 0; limit=$3; shift 3; timeout -k 1 "$limit" "$@"; exit $?"""
+
+
+class Test:
+    """A test that ctest knows; `filter` is its name in a GoogleTest program."""
+
+    def __init__(self, entry):
+        properties = {item["name"]: item["value"] for item in entry.get("properties", [])}
+        self.name = entry["name"]
+        self.command = entry.get("command", [])
+        self.folder = properties.get("WORKING_DIRECTORY", ".")
+        self.filter = next((word.split("=", 1)[1] for word in self.command if word.startswith("--gtest_filter=")), None)
+        self.seconds = 0.0
+        self.faults = set()
+
+
+def run(command, folder, seconds, environment):
+    """True when the command succeeds within the limits. Time in a queue for the processor counts little."""
+    limits = [str(MEMORY), str(int(10 + 10 * seconds)), str(int(30 + 20 * seconds))]
+    return subprocess.run(APART + ["sh", "-c", WITHIN, "sh"] + limits + command, cwd=folder,
+                          env={**os.environ, **environment}, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                          stderr=subprocess.DEVNULL, check=False).returncode == 0
+
+
+def tests_of(build):
+    listing = subprocess.run(["ctest", "--test-dir", build, "--show-only=json-v1"], check=True, capture_output=True,
+                             text=True).stdout
+    return [test for test in map(Test, json.loads(listing)["tests"]) if test.command]
+
+
+def record(test, size):
+    """Learns which faults a test comes by; they may be in any of its processes."""
+    with tempfile.NamedTemporaryFile(dir=os.getcwd()) as reached:
+        reached.write(bytes(size))
+        reached.flush()
+        begin = time.monotonic()
+        passed = run(test.command, test.folder, 100, {"VRX_FAULT_RECORD": reached.name})
+        test.seconds = time.monotonic() - begin
+        test.faults = {number for number, byte in enumerate(pathlib.Path(reached.name).read_bytes()) if byte}
+    return passed
+
+
+def programs(tests):
+    """Commands for these tests: those of one program run in one process."""
+    together = collections.defaultdict(list)
+    for test in tests:
+        if test.filter:
+            together[test.command[0], test.folder].append(test)
+        else:
+            yield test.command, test.folder, test.seconds
+    for (program, folder), group in together.items():
+        names = ":".join(test.filter for test in group)
+        yield [program, "--gtest_filter=" + names, "--gtest_fail_fast"], folder, sum(test.seconds for test in group)
+
+
+def is_seen(number, tests):
+    tests = sorted(tests, key=lambda test: test.seconds)
+    for part in (tests[:FIRST_TESTS], tests[FIRST_TESTS:]):
+        for command, folder, seconds in sorted(programs(part), key=lambda item: item[2]):
+            if not run(command, folder, seconds, {"VRX_FAULT": str(number)}):
+                return True
+    return False
+
+
+def key_of(fault):
+    return tuple(fault[part] for part in ("file", "kind", "code", "nth"))
+
+
+def without_difference():
+    """What equivalent.txt tells: a file, below it the kind and the code of faults and their lines, and the reason."""
+    found = {}
+    file = kind = code = ""
+    for line in (HERE / "equivalent.txt").read_text().splitlines():
+        depth = (len(line) - len(line.lstrip())) // 4
+        if depth == 0:
+            file = line
+        elif depth == 1:
+            kind, code = line.strip().split(": ", 1)
+        elif depth == 2:
+            found[file, kind, code] = line.strip()
+    return found
+
+
+def report(faults, results):
+    equivalent = without_difference()
+    tables = collections.defaultdict(collections.Counter)
+    unseen = []
+    for fault in faults:
+        key = key_of(fault)
+        table = tables[str(pathlib.PurePath(fault["file"]).parent)]
+        table["planted"] += 1
+        outcome = results.get(key)
+        if outcome is None:
+            continue
+        is_equivalent = outcome != "seen" and (key[:3] in equivalent)
+        table["tried"] += 1
+        table["reached"] += outcome != "not reached"
+        table["equivalent"] += is_equivalent
+        table["seen"] += outcome == "seen"
+        if outcome != "seen" and not is_equivalent:
+            unseen.append((fault, outcome))
+    for fault, outcome in unseen:
+        print(f"{fault['file']}:{fault['line']}: {fault['kind']}: {fault['code'][:100]}"
+              + (" (not reached)" if outcome == "not reached" else ""))
+    columns = ("planted", "tried", "reached", "equivalent", "seen")
+    print(f"{'':20}" + "".join(f"{column:>12}" for column in columns) + f"{'rate':>8}")
+    tables["all"] = sum(tables.values(), collections.Counter())
+    for folder, table in tables.items():
+        rate = 100 * table["seen"] / max(table["tried"] - table["equivalent"], 1)
+        print(f"{folder:20}" + "".join(f"{table[column]:12}" for column in columns) + f"{rate:7.1f}%")
+    return rate
+
+
+def main():
+    options = argparse.ArgumentParser()
+    for name in ("build", "faults", "results"):
+        options.add_argument(name)
+    options.add_argument("--sample", type=int)
+    options.add_argument("--seed", type=int, default=1)
+    options.add_argument("--jobs", type=int, default=2)
+    options.add_argument("--unseen", action="store_true")
+    options.add_argument("--file", default="")
+    given = options.parse_args()
+
+    faults = json.loads(pathlib.Path(given.faults).read_text())
+    results_path = pathlib.Path(given.results)
+    kept = json.loads(results_path.read_text()) if results_path.is_file() else []
+    last = {tuple(key): outcome for *key, outcome in kept}
+    results = dict(last) if given.unseen or given.file else {}
+    tests = tests_of(given.build)
+    lock = threading.Lock()
+    with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
+        size = 1 + max(fault["number"] for fault in faults)
+        broken = [test.name for test, passed in
+                  zip(tests, pool.map(lambda test: record(test, size), tests)) if not passed]
+        if broken:
+            print("These fail without a fault and see none:", *broken, sep="\n    ")
+        tests = [test for test in tests if test.name not in broken]
+        print(f"{len(tests)} tests recorded", flush=True)
+
+        def attempt(fault):
+            able = [test for test in tests if fault["number"] in test.faults]
+            outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able) else "not seen"
+            with lock:
+                results[key_of(fault)] = outcome
+                results_path.write_text(json.dumps([[*key, result] for key, result in results.items()], indent=0))
+
+        chosen = [fault for fault in faults if given.file in fault["file"]]
+        if given.unseen:
+            chosen = [fault for fault in chosen if last.get(key_of(fault), "seen") != "seen"]
+        if given.sample:
+            chosen = random.Random(given.seed).sample(chosen, min(given.sample, len(chosen)))
+        list(pool.map(attempt, chosen))
+    return 0 if report(faults, results) >= 90 else 1
+
+
+sys.exit(main())
