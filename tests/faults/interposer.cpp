@@ -145,18 +145,18 @@ faults::Holdings faults::Holdings::now()
 
 extern "C"
 {
-    void* __libc_malloc(size_t size);
-    void* __libc_calloc(size_t count, size_t size);
-    void* __libc_realloc(void* block, size_t size);
-    void __libc_free(void* block);
+    void* realMalloc(size_t size) __asm__("__libc_malloc");
+    void* realCalloc(size_t count, size_t size) __asm__("__libc_calloc");
+    void* realRealloc(void* block, size_t size) __asm__("__libc_realloc");
+    void realFree(void* block) __asm__("__libc_free");
 
     void* malloc(size_t size) noexcept
     {
-        return hasNoMemory() ? nullptr : counted(__libc_malloc(size));
+        return hasNoMemory() ? nullptr : counted(realMalloc(size));
     }
     void* calloc(size_t count, size_t size) noexcept
     {
-        return hasNoMemory() ? nullptr : counted(__libc_calloc(count, size));
+        return hasNoMemory() ? nullptr : counted(realCalloc(count, size));
     }
     void* realloc(void* block, size_t size) noexcept
     {
@@ -164,12 +164,12 @@ extern "C"
         {
             return nullptr;
         }
-        return block == nullptr ? counted(__libc_realloc(block, size)) : __libc_realloc(block, size);
+        return block == nullptr ? counted(realRealloc(block, size)) : realRealloc(block, size);
     }
     void free(void* block) noexcept
     {
         liveBlocks -= block != nullptr ? 1 : 0;
-        __libc_free(block);
+        realFree(block);
     }
 
     int open(const char* path, int flags, ...)

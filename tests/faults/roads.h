@@ -45,7 +45,7 @@ struct NamedRoad
     std::shared_ptr<Road> road;
     EManner manner;
 
-    friend std::ostream& operator<<(std::ostream& stream, const NamedRoad& road) { return stream << road.title; }
+    friend std::ostream& operator<<(std::ostream& stream, const NamedRoad& named) { return stream << named.title; }
 };
 
 std::vector<NamedRoad> allRoads();

@@ -30,12 +30,12 @@ inline void* allocated(void* memory)
 
 inline void* malloc(size_t size)
 {
-    return allocated(::std::malloc(size));
+    return allocated(::std::malloc(size)); // NOLINT(cppcoreguidelines-no-malloc): RapidJSON frees it
 }
 
 inline void* realloc(void* memory, size_t size)
 {
-    return allocated(::std::realloc(memory, size));
+    return allocated(::std::realloc(memory, size)); // NOLINT(cppcoreguidelines-no-malloc): RapidJSON frees it
 }
 
 } // namespace rapidjson::std
