@@ -1,16 +1,21 @@
 #!/usr/bin/python3
 """Tells which planted faults no test sees.
 
-usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--unseen] [--jobs N] [--file PART]
+usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--unseen] [--file PART] [--recorded] [--jobs N]
+                     [--budget SECONDS] [--thin N]
 
-Runs each test of BUILD once to learn which faults it comes by, then each fault with the tests that come by it, the
-quick ones first, until one fails. --sample: only so many faults, taken by chance; --unseen: those only that the last
-run did not see; --file: those of files whose name has this part. RESULTS keeps what was seen.
+Runs each test of BUILD once to learn which faults it comes by, then each fault with the tests that come by it, until
+one fails: first those that are quick and come by few faults. --budget: at most so many seconds of tests for one fault;
+--thin: of a test that has more than 30 parameters every so-many-th is used; both can only make fewer faults seen.
+ --sample: only so many faults, taken by chance; --unseen: those only that the last
+run did not see; --file: those of files whose name has this part; --recorded: what is known of a test from the last run
+is not learnt again. RESULTS keeps what was seen.
 """
 
 import argparse
 import collections
 import concurrent.futures
+import itertools
 import json
 import os
 import pathlib
@@ -59,16 +64,33 @@ def tests_of(build):
     return [test for test in map(Test, json.loads(listing)["tests"]) if test.command]
 
 
-def record(test, size):
+def record(test, size, folder):
     """Learns which faults a test comes by; they may be in any of its processes."""
-    with tempfile.NamedTemporaryFile(dir=os.getcwd()) as reached:
+    with tempfile.NamedTemporaryFile(dir=folder) as reached:
         reached.write(bytes(size))
         reached.flush()
-        begin = time.monotonic()
+        start = time.monotonic()
         passed = run(test.command, test.folder, 100, {"VRX_FAULT_RECORD": reached.name})
-        test.seconds = time.monotonic() - begin
+        test.seconds = time.monotonic() - start
         test.faults = {number for number, byte in enumerate(pathlib.Path(reached.name).read_bytes()) if byte}
     return passed
+
+
+def record_all(tests, size, folder, pool, is_known):
+    """The tests that pass, with what they come by. What is known is kept in a file."""
+    path = folder / "reached.json"
+    known = json.loads(path.read_text()) if is_known and path.is_file() else {}
+    for test in tests:
+        if test.name in known:
+            test.seconds, test.faults = known[test.name][0], set(known[test.name][1])
+    new = [test for test in tests if test.name not in known]
+    failed = {test.name for test, passed in zip(new, pool.map(lambda test: record(test, size, folder), new))
+              if not passed}
+    if failed:
+        print("These fail without a fault and see none:", *sorted(failed), sep="\n    ")
+    tests = [test for test in tests if test.name not in failed]
+    path.write_text(json.dumps({test.name: [test.seconds, sorted(test.faults)] for test in tests}))
+    return tests
 
 
 def programs(tests):
@@ -84,8 +106,18 @@ def programs(tests):
         yield [program, "--gtest_filter=" + names, "--gtest_fail_fast"], folder, sum(test.seconds for test in group)
 
 
-def is_seen(number, tests):
-    tests = sorted(tests, key=lambda test: test.seconds)
+def thinned(tests, step):
+    """The tests, without most parameters of those that have many."""
+    families = collections.defaultdict(list)
+    for test in tests:
+        families[test.command[0], (test.filter or test.name).rpartition("/")[0] or test.name].append(test)
+    return [test for family in families.values() for test in family[::step if len(family) > 30 else 1]]
+
+
+def is_seen(number, tests, budget):
+    tests = sorted(tests, key=lambda test: test.seconds * len(test.faults))
+    spent = itertools.accumulate(test.seconds for test in tests)
+    tests = [test for test, seconds in zip(tests, spent) if seconds <= budget or test is tests[0]]
     for part in (tests[:FIRST_TESTS], tests[FIRST_TESTS:]):
         for command, folder, seconds in sorted(programs(part), key=lambda item: item[2]):
             if not run(command, folder, seconds, {"VRX_FAULT": str(number)}):
@@ -149,7 +181,10 @@ def main():
     options.add_argument("--sample", type=int)
     options.add_argument("--seed", type=int, default=1)
     options.add_argument("--jobs", type=int, default=2)
-    options.add_argument("--unseen", action="store_true")
+    options.add_argument("--thin", type=int, default=1)
+    options.add_argument("--budget", type=float, default=float("inf"))
+    for name in ("--unseen", "--recorded"):
+        options.add_argument(name, action="store_true")
     options.add_argument("--file", default="")
     given = options.parse_args()
 
@@ -158,20 +193,15 @@ def main():
     kept = json.loads(results_path.read_text()) if results_path.is_file() else []
     last = {tuple(key): outcome for *key, outcome in kept}
     results = dict(last) if given.unseen or given.file else {}
-    tests = tests_of(given.build)
     lock = threading.Lock()
     with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
         size = 1 + max(fault["number"] for fault in faults)
-        broken = [test.name for test, passed in
-                  zip(tests, pool.map(lambda test: record(test, size), tests)) if not passed]
-        if broken:
-            print("These fail without a fault and see none:", *broken, sep="\n    ")
-        tests = [test for test in tests if test.name not in broken]
+        tests = record_all(thinned(tests_of(given.build), given.thin), size, results_path.resolve().parent, pool, given.recorded)
         print(f"{len(tests)} tests recorded", flush=True)
 
         def attempt(fault):
             able = [test for test in tests if fault["number"] in test.faults]
-            outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able) else "not seen"
+            outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able, given.budget) else "not seen"
             with lock:
                 results[key_of(fault)] = outcome
                 results_path.write_text(json.dumps([[*key, result] for key, result in results.items()], indent=0))
