@@ -1,15 +1,15 @@
 #!/usr/bin/python3
 """Tells which planted faults no test sees.
 
-usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--unseen] [--file PART] [--recorded] [--jobs N]
+usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--again] [--file PART] [--recorded] [--jobs N]
                      [--budget SECONDS] [--thin N]
 
 Runs each test of BUILD once to learn which faults it comes by, then each fault with the tests that come by it, until
 one fails: first those that are quick and come by few faults. --budget: at most so many seconds of tests for one fault;
 --thin: of a test that has more than 30 parameters every so-many-th is used; both can only make fewer faults seen.
- --sample: only so many faults, taken by chance; --unseen: those only that the last
-run did not see; --file: those of files whose name has this part; --recorded: what is known of a test from the last run
-is not learnt again. RESULTS keeps what was seen.
+--sample: only so many faults, taken by chance; --again: what the last run saw is not tried again; --file: those of files
+whose name has this part; --recorded: what is known of a test from the last run is not learnt again. RESULTS keeps what
+was seen.
 """
 
 import argparse
@@ -58,6 +58,13 @@ def run(command, folder, seconds, environment):
                           stderr=subprocess.DEVNULL, check=False).returncode == 0
 
 
+def keep(path, data):
+    """An interrupted run leaves the file whole."""
+    new = path.with_suffix(".new")
+    new.write_text(json.dumps(data, indent=0))
+    new.replace(path)
+
+
 def tests_of(build):
     listing = subprocess.run(["ctest", "--test-dir", build, "--show-only=json-v1"], check=True, capture_output=True,
                              text=True).stdout
@@ -89,7 +96,13 @@ def record_all(tests, size, folder, pool, is_known):
     if failed:
         print("These fail without a fault and see none:", *sorted(failed), sep="\n    ")
     tests = [test for test in tests if test.name not in failed]
-    path.write_text(json.dumps({test.name: [test.seconds, sorted(test.faults)] for test in tests}))
+    keep(path, {test.name: [test.seconds, sorted(test.faults)] for test in tests})
+    # Most of the time goes to the start of the program, which tests that run together have once.
+    starts = {}
+    for test in tests:
+        starts[test.command[0]] = min(test.seconds, starts.get(test.command[0], test.seconds))
+    for test in tests:
+        test.seconds += 0.01 - starts[test.command[0]]
     return tests
 
 
@@ -183,7 +196,7 @@ def main():
     options.add_argument("--jobs", type=int, default=2)
     options.add_argument("--thin", type=int, default=1)
     options.add_argument("--budget", type=float, default=float("inf"))
-    for name in ("--unseen", "--recorded"):
+    for name in ("--again", "--recorded"):
         options.add_argument(name, action="store_true")
     options.add_argument("--file", default="")
     given = options.parse_args()
@@ -192,7 +205,7 @@ def main():
     results_path = pathlib.Path(given.results)
     kept = json.loads(results_path.read_text()) if results_path.is_file() else []
     last = {tuple(key): outcome for *key, outcome in kept}
-    results = dict(last) if given.unseen or given.file else {}
+    results = dict(last) if given.again or given.file else {}
     lock = threading.Lock()
     with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
         size = 1 + max(fault["number"] for fault in faults)
@@ -204,14 +217,12 @@ def main():
             outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able, given.budget) else "not seen"
             with lock:
                 results[key_of(fault)] = outcome
-                results_path.write_text(json.dumps([[*key, result] for key, result in results.items()], indent=0))
+                keep(results_path, [[*key, result] for key, result in results.items()])
 
         chosen = [fault for fault in faults if given.file in fault["file"]]
-        if given.unseen:
-            chosen = [fault for fault in chosen if last.get(key_of(fault), "seen") != "seen"]
         if given.sample:
             chosen = random.Random(given.seed).sample(chosen, min(given.sample, len(chosen)))
-        list(pool.map(attempt, chosen))
+        list(pool.map(attempt, [fault for fault in chosen if not given.again or last.get(key_of(fault)) != "seen"]))
     return 0 if report(faults, results) >= 90 else 1
 
 
