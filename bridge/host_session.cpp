@@ -451,7 +451,7 @@ void HostSession::removeBuffers() noexcept
         m_journal.forEachName([this](std::string_view name) {
             if (isBufferName(name) && m_loaded.find(name) == m_loaded.end())
             {
-                mp::SharedBuffer<char>::remove(name);
+                mp::SharedBuffer<char>::removeNarrow(name);
             }
         });
     }

@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <exception>
+#include <stdexcept>
 #include <utility>
 
 namespace vrx::bridge
@@ -57,11 +58,7 @@ void TranslatorChannel::awaitHostsEnd(const Wait& wait) noexcept
 
 std::optional<Command> TranslatorChannel::receive()
 {
-    // Those of an export that was answered before it had got all.
-    while (const std::optional<mp::wstring> object = receiveObjectText())
-    {
-        m_undelivered.remove(peekEnvelope(*object).bufferName);
-    }
+    passOverObjects();
     // A host that goes on has loaded most of what it was told of.
     m_undelivered.forgetLoaded();
     while (const std::optional<mp::wstring> text = receiveCommandText())
@@ -84,6 +81,26 @@ std::optional<Command> TranslatorChannel::receive()
         }
     }
     return std::nullopt;
+}
+
+// Those of an export that was answered before it had got all. Nobody asks for them any more, so that one which breaks
+// the rules is no failure.
+void TranslatorChannel::passOverObjects()
+{
+    while (m_hasObjectsToCome)
+    {
+        try
+        {
+            if (const std::optional<mp::wstring> object = receiveObjectText())
+            {
+                m_undelivered.remove(peekEnvelope(*object).bufferName);
+            }
+        }
+        catch (const std::logic_error& failure)
+        {
+            kolt::log(kolt::kDebug, "An object that nobody asks for is passed over: ", failure.what());
+        }
+    }
 }
 
 std::optional<mp::wstring> TranslatorChannel::receiveCommandText()

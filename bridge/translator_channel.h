@@ -29,8 +29,7 @@ public:
     virtual ~TranslatorChannel();
 
     /// The next command, or nothing when there will be no more. A text that is no command, or breaks the read rules, is
-    /// answered here. Throws
-    /// StreamError when the pipe breaks.
+    /// answered here. Throws StreamError when the pipe breaks.
     std::optional<Command> receive();
 
     /// The next object of an export, loaded, or null behind the last. One that no class has is passed over. Throws
@@ -63,6 +62,7 @@ public:
     static bool isTerminationDue();
 
 private:
+    void passOverObjects();
     std::optional<mp::wstring> receiveCommandText();
     std::optional<mp::wstring> receiveObjectText();
     void awaitHostsEnd(const Wait& wait) noexcept;

@@ -48,7 +48,7 @@ void removeNamedIn(const mp::wstring& message)
                        [](mp::wchar unit) { return static_cast<char>(unit); });
         if (isBufferName({name.data(), name.size()}))
         {
-            mp::SharedBuffer<char>::remove({name.data(), name.size()});
+            mp::SharedBuffer<char>::removeNarrow({name.data(), name.size()});
         }
     }
 }
@@ -91,7 +91,7 @@ void UndeliveredBuffers::remove(const mp::wstring& name)
     if (isBufferName(name))
     {
         const std::string narrowName = mp::toNarrow(name);
-        mp::SharedBuffer<char>::remove(narrowName);
+        mp::SharedBuffer<char>::removeNarrow(narrowName);
         m_names.erase(narrowName);
     }
 }
@@ -108,7 +108,7 @@ void UndeliveredBuffers::removeAll() noexcept
 {
     for (const std::string& name : m_names)
     {
-        mp::SharedBuffer<char>::remove(name);
+        mp::SharedBuffer<char>::removeNarrow(name);
     }
     m_names.clear();
 }

@@ -2,11 +2,14 @@
 #include "checking/tree_checker.h"
 #include "classes/class_named.h"
 #include "fuzz/support.h"
+#include "fuzz/tree_mutator.h"
 #include "json/parse.h"
 #include "json/utf.h"
 
 #include <string>
 #include <vector>
+
+const fuzz::InputForm fuzz::kInputForm{false, true};
 
 namespace
 {

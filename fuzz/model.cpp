@@ -1,5 +1,8 @@
 #include "fuzz/support.h"
+#include "fuzz/tree_mutator.h"
 #include "vrx_api/exchange/exchange_object_registry.h"
+
+const fuzz::InputForm fuzz::kInputForm{false, true};
 
 // The name of an exchange class and a line feed, then the binary form of its tree.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

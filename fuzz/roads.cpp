@@ -1,67 +1,62 @@
 #include "fuzz/support.h"
-#include "tests/support/form_changes.h"
+#include "fuzz/tree_mutator.h"
 #include "tests/support/two_roads.h"
 #include "vrx_api/exchange/exchange_object_registry.h"
 
 #include <optional>
-#include <random>
 
-extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
+const fuzz::InputForm fuzz::kInputForm{false, true};
 
 namespace
 {
 
-// The name of an exchange class and a line feed, then a binary form.
-struct Input
+using Account = std::vector<std::string>;
+
+Account accountOf(const test::BinaryRoad& road, const vrx::IExchangeObject& prototype, const std::string& form)
 {
-    Input(const std::uint8_t* data, std::size_t size)
-        : all(data, data + size)
-        , nameEnd(all.find('\n'))
-    {
-    }
+    return test::accountOf(road, *prototype.clone(), form);
+}
 
-    bool hasForm() const { return nameEnd != std::string::npos; }
-    std::string form() const { return all.substr(nameEnd + 1); }
-
-    std::string all;
-    std::size_t nameEnd;
-};
-
-// The input with one value of its form changed, or nothing when the form is none.
-std::optional<std::string> changed(const Input& input, std::minstd_rand& random)
+// What an object writes that has read the tree.
+std::string writtenAfter(const vrx::IExchangeObject& prototype, const vrx::JsonValue& tree)
 {
-    static const std::vector<test::FormChange> changes = test::formChanges();
-    vrx::JsonDocument document;
-    const std::string form = input.hasForm() ? input.form() : std::string();
-    if (!fuzz::decodes(form.data(), form.size(), document))
+    const auto object = prototype.clone();
+    const std::string failure = test::failureOf([&] { object->readObject(tree); });
+    return failure + test::writtenBy(test::kTreeRoad, *object);
+}
+
+// The tree of a text and that of its binary form make the same object.
+void compareTextRoad(const vrx::IExchangeObject& prototype, const std::string& form)
+{
+    vrx::JsonDocument tree;
+    const std::optional<mp::wstring> text =
+        fuzz::decodes(form.data(), form.size(), tree) ? fuzz::textOf(tree) : std::nullopt;
+    vrx::JsonDocument byText;
+    if (!text || !fuzz::parses(*text, byText))
     {
-        return std::nullopt;
+        return;
     }
-    const char* at = form.data();
-    test::FormValue root{vrx::BinaryTag::Array, {}, {test::takeValue(at)}};
-    std::vector<test::FormPlace> places;
-    addPlaces(root, places);
-    const auto any = [&](const auto& list) -> const auto&
+    const vrx::Bytes same = fuzz::encoded(byText);
+    vrx::JsonDocument byForm;
+    fuzz::require(fuzz::decodes(same.data(), same.size(), byForm));
+    fuzz::require(writtenAfter(prototype, byText) == writtenAfter(prototype, byForm));
+}
+
+// A form that a strict reader takes makes the same object by default.
+void compareStrictReader(const vrx::IExchangeObject& prototype, const std::string& form)
+{
+    const auto strictly = prototype.clone();
+    try
     {
-        return list[random() % list.size()];
-    };
-    const test::FormPlace place = any(places);
-    if (random() % 8 == 0)
-    {
-        const test::FormPlace other = any(places);
-        const test::FormValue value = other.parent->children[other.index];
-        place.parent->children[place.index] = value;
+        vrx::JsonBinaryIO::read(form.data(), form.size(), *strictly, vrx::ReadRules::strict());
     }
-    else
+    catch (const std::exception&)
     {
-        any(changes)(*place.parent, place.index);
+        return;
     }
-    std::string output = input.all.substr(0, input.nameEnd + 1);
-    for (const test::FormValue& value : root.children)
-    {
-        append(output, value);
-    }
-    return output;
+    const auto byDefault = prototype.clone();
+    vrx::JsonBinaryIO::read(form.data(), form.size(), *byDefault);
+    fuzz::require(test::writeDirectly(*strictly) == test::writeDirectly(*byDefault));
 }
 
 } // namespace
@@ -73,39 +68,25 @@ extern "C" int LLVMFuzzerInitialize(int*, char***)
     return 0;
 }
 
-extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
-                                               unsigned int seed)
-{
-    std::minstd_rand random(seed);
-    if (random() % 2 == 0)
-    {
-        const std::optional<std::string> output = changed(Input(data, size), random);
-        if (output && output->size() <= maxSize)
-        {
-            std::copy(output->begin(), output->end(), data);
-            return output->size();
-        }
-    }
-    return LLVMFuzzerMutate(data, size, maxSize);
-}
-
-// An object must say and become the same by both roads.
+// The name of an exchange class and a line feed, then a binary form. An object must say and become the same by all
+// roads.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const Input input(data, size);
-    if (!input.hasForm())
+    const std::string input(data, data + size);
+    const std::size_t nameEnd = input.find('\n');
+    if (nameEnd == std::string::npos)
     {
         return -1;
     }
-    const std::string name = input.all.substr(0, input.nameEnd);
-    const auto prototype = vrx::ExchangeObjectRegistry::instance().get(mp::toWide(name));
+    const auto prototype = vrx::ExchangeObjectRegistry::instance().get(mp::toWide(input.substr(0, nameEnd)));
     if (prototype == nullptr)
     {
         return -1;
     }
     test::LogFile::instance().clear();
-    const std::string form = input.form();
-    const auto byTree = test::accountOf(test::kTreeRoad, *prototype->clone(), form);
-    fuzz::require(test::accountOf(test::kDirectRoad, *prototype->clone(), form) == byTree);
+    const std::string form = input.substr(nameEnd + 1);
+    fuzz::require(accountOf(test::kDirectRoad, *prototype, form) == accountOf(test::kTreeRoad, *prototype, form));
+    compareTextRoad(*prototype, form);
+    compareStrictReader(*prototype, form);
     return 0;
 }

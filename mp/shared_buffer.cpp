@@ -32,12 +32,6 @@ namespace
 
 namespace ipc = boost::interprocess;
 
-#ifdef _WIN32
-constexpr ipc::native_error_t kNoMemory = ERROR_NOT_ENOUGH_MEMORY;
-#else
-constexpr ipc::native_error_t kNoMemory = ENOMEM;
-#endif
-
 // CAD data is not for every user of the machine.
 ipc::permissions ownerOnly()
 {
@@ -80,61 +74,6 @@ void mapAllPages(const ipc::mapped_region& region)
     static_cast<void>(region);
 #endif
 }
-
-#ifdef _WIN32
-// Nobody can make an object shorter while it is mapped.
-void copyContent(const ipc::shared_memory_object& object, char* out, std::uint64_t size)
-{
-    const ipc::mapped_region region(object, ipc::read_only, 0, static_cast<std::size_t>(size));
-    std::memcpy(out, region.get_address(), region.get_size());
-}
-#else
-// Reads up to `end`, or less if the object ends before.
-void readData(int file, char* out, off_t begin, off_t end)
-{
-    while (begin < end)
-    {
-        const ssize_t count = pread(file, out + begin, static_cast<std::size_t>(end - begin), begin);
-        if (count == 0)
-        {
-            return;
-        }
-        if (count > 0)
-        {
-            begin += count;
-        }
-        else if (errno != EINTR)
-        {
-            throw ipc::interprocess_exception(ipc::error_info(errno));
-        }
-    }
-}
-
-// Where the next data or hole begins; at the end when there is none, or when the object was made shorter.
-off_t next(int kind, int file, off_t begin, off_t end)
-{
-    const off_t found = lseek(file, begin, kind);
-    if (found < 0 && errno != ENXIO)
-    {
-        throw ipc::interprocess_exception(ipc::error_info(errno));
-    }
-    return found < 0 ? end : std::min(found, end);
-}
-
-// Reads the pages that the object has between zeros for those that it lacks. In a mapping the first look at a missing
-// page makes it, and kills the process if the file system is full, or if another program has made the object shorter.
-void copyContent(const ipc::shared_memory_object& object, char* out, std::uint64_t size)
-{
-    const int file = object.get_mapping_handle().handle;
-    const auto end = static_cast<off_t>(size);
-    for (off_t data = next(SEEK_DATA, file, 0, end); data < end;)
-    {
-        const off_t hole = next(SEEK_HOLE, file, data, end);
-        readData(file, out, data, hole);
-        data = next(SEEK_DATA, file, hole, end);
-    }
-}
-#endif
 
 // On Windows an object is a file of its name in a folder of the layer below. A name from the other program must not
 // lead out of that folder; elsewhere the system refuses such a name itself.
@@ -201,21 +140,6 @@ void setSharedBufferWatcher(SharedBufferWatcher watcher)
     sharedBufferWatcher = watcher;
 }
 
-void SharedCopy::Release::operator()(char* bytes) const noexcept
-{
-    std::free(bytes); // NOLINT(cppcoreguidelines-no-malloc): its counterpart is calloc
-}
-
-SharedCopy::SharedCopy(std::uint64_t size)
-    : m_bytes(static_cast<char*>(std::calloc(static_cast<std::size_t>(size), 1))) // NOLINT(cppcoreguidelines-no-malloc)
-    , m_size(size)
-{
-    if (m_bytes == nullptr && size != 0)
-    {
-        throw ipc::interprocess_exception(ipc::error_info(kNoMemory));
-    }
-}
-
 SharedBuffer<char>::SharedBuffer() = default;
 
 SharedBuffer<char>::~SharedBuffer()
@@ -227,7 +151,7 @@ SharedBuffer<char>::~SharedBuffer()
     m_object.reset();
     if (m_removeOnClose)
     {
-        remove(std::string_view(m_narrowName));
+        removeNarrow(m_narrowName);
     }
 }
 
@@ -274,12 +198,11 @@ bool SharedBuffer<char>::openExisting(const wstring& name)
 
 bool SharedBuffer<char>::remove(const wstring& name)
 {
-    const std::string narrowName = usableName(name);
-    return remove(std::string_view(narrowName));
+    return removeNarrow(usableName(name));
 }
 
 // On POSIX the layer below needs memory for this, which may be just what is missing.
-bool SharedBuffer<char>::remove(std::string_view narrowName) noexcept
+bool SharedBuffer<char>::removeNarrow(std::string_view narrowName) noexcept
 {
 #ifdef _WIN32
     try
@@ -342,10 +265,7 @@ SharedCopy SharedBuffer<char>::copy(std::uint64_t most) const
     SharedCopy content;
     if (const std::uint64_t wanted = std::min(size(), most))
     {
-        withTurnedErrors([&] {
-            content = SharedCopy(wanted);
-            copyContent(object(), content.m_bytes.get(), wanted);
-        });
+        withTurnedErrors([&] { content = SharedCopy(object(), wanted); });
     }
     return content;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mp/exception.h"
+#include "mp/shared_copy.h"
 #include "mp/wide.h"
 #include "vrx_api/vrx_api_export.h"
 
@@ -22,31 +23,6 @@ namespace mp
 
 template <class T>
 class SharedBuffer;
-
-/// The content of a shared buffer as it was when it was copied, in memory of this process alone: what another program
-/// does to the buffer later does not reach it.
-class VRX_API SharedCopy
-{
-public:
-    SharedCopy() = default;
-
-    const char* data() const { return m_bytes.get(); }
-    std::uint64_t size() const { return m_bytes == nullptr ? 0 : m_size; }
-
-private:
-    friend class SharedBuffer<char>;
-
-    struct Release
-    {
-        void operator()(char* bytes) const noexcept;
-    };
-
-    /// Zeros, which take no memory before they are written.
-    explicit SharedCopy(std::uint64_t size);
-
-    std::unique_ptr<char, Release> m_bytes;
-    std::uint64_t m_size = 0;
-};
 
 /// A named block of bytes that outlives the process that made it: one process writes it, another reads and removes it.
 /// The content is exactly the bytes given to `write`; the size of the object is the length of the data.
@@ -72,7 +48,7 @@ public:
     static bool remove(const wstring& name);
 
     /// The same with a name in the system's narrow code page. On POSIX it needs no memory.
-    static bool remove(std::string_view narrowName) noexcept;
+    static bool removeNarrow(std::string_view narrowName) noexcept;
 
     /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.
     void write(const char* data, std::uint64_t size);
@@ -111,8 +87,8 @@ private:
 /// this process dies before it has told of it. What it throws passes through `open`.
 using SharedBufferWatcher = void (*)(const wstring& name);
 
-/// There is one watcher in a process, or none: null. Any thread may set it at any time. It is called in the threads that
-/// open buffers, perhaps in several at once, and the one before may still be called in them for a moment.
+/// There is one watcher in a process, or none: null. Any thread may set it at any time. It is called in the threads
+/// that open buffers, perhaps in several at once, and the one before may still be called in them for a moment.
 VRX_API void setSharedBufferWatcher(SharedBufferWatcher watcher);
 
 } // namespace mp

@@ -6,6 +6,7 @@
 #include "mp/narrow.h"
 #include "mp/serializable.h"
 #include "mp/shared_buffer.h"
+#include "mp/shared_copy.h"
 #include "mp/wide.h"
 #include "vrx_api/vrx_api_command.h"
 #include "vrx_api/vrx_api_exchange_common.h"

@@ -19,6 +19,13 @@ TEST(Export, MayBeAnsweredBeforeItsEnd)
     EXPECT_EQ(road.left, 0U);
 }
 
+TEST(Export, IsOverForOneWhoRefusesWhatIsLeftOfIt)
+{
+    const test::Road road = test::road("exports", {"limit"});
+    EXPECT_EQ(road.told, "peer\nmessage one\nresult 3\nping 1\n");
+    EXPECT_EQ(road.left, 0U);
+}
+
 TEST(Export, IsAnsweredByOneThatEndsAtOnce)
 {
     const test::Road road = test::road("exports-slowly", {"answer", "exit"});

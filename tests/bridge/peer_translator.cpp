@@ -198,6 +198,12 @@ private:
             constexpr std::string_view kObjectAndMore("\3\0\0\0\0\0\0\0\0\0\0\0\0", 13);
             m_channel.sendText(envelope(WIDE("exc_product_structure"), leftBuffer(kObjectAndMore)));
         }
+        else if (step == "limit")
+        {
+            ReadRules rules = ReadRules::strict();
+            rules.values = 6; // a ping has five, an envelope has seven
+            m_channel.setReadRules(rules);
+        }
         else if (step == "untold")
         {
             leftBuffer();

@@ -121,7 +121,7 @@ void FaultPlan::removeObjects()
 {
     for (const Object& object : leftObjects())
     {
-        mp::SharedBuffer<char>::remove(std::string_view(object.name.data()));
+        mp::SharedBuffer<char>::removeNarrow(object.name.data());
     }
 }
 

@@ -10,11 +10,13 @@
 namespace test
 {
 
-/// What zlib makes of a stream: the data as far as it goes, and the text of the error that ends it, if one does.
+/// What zlib makes of a stream: the data as far as it goes, the text of the error that ends it, if one does, and
+/// whether the stream ends just where its bytes do.
 struct Inflated
 {
     std::string data;
     std::string error;
+    bool isWhole = false;
 };
 
 constexpr int kRawWindow = -15;
@@ -44,6 +46,7 @@ inline Inflated plainInflate(const std::string& stream, int window = kAnyWindow)
     {
         result.error = zlib.msg != nullptr ? zlib.msg : zError(code);
     }
+    result.isWhole = code == Z_STREAM_END && zlib.avail_in == 0;
     inflateEnd(&zlib);
     return result;
 }

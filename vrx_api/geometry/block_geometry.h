@@ -17,8 +17,8 @@ class ExcSharedAcisBuffer;
 
 /// The bodies of one block, in the kernel's own format in a shared memory buffer that the JSON form names, with an id
 /// for each body. Copies share the buffer, which is closed when the last of them goes; a buffer that `load` opened is
-/// then removed from the system. Copies count as one object to threads, and the kernel's own rules for threads hold where
-/// bodies are saved and restored.
+/// then removed from the system. Copies count as one object to threads, and the kernel's own rules for threads hold
+/// where bodies are saved and restored.
 class VRX_API ExcBlockGeometry : public IExchangeObject
 {
 public:

@@ -9,8 +9,8 @@ namespace vrx
 
 /// The contract of every piece of data that crosses: it reads itself from a JSON value and writes itself to one.
 /// A model class accepts bad input: a key that is missing or of another kind leaves its field as it is. Logged is a
-/// wrong kind of the whole value, and little else. A class that throws says so. One thread at a time uses an object, for
-/// writing, too.
+/// wrong kind of the whole value, and little else. A class that throws says so. One thread at a time uses an object,
+/// for writing, too.
 class VRX_API IJsonObject
 {
 public:

@@ -6,7 +6,7 @@
 #define RAPIDJSON_HAS_STDSTRING 0
 #endif
 
-#ifdef vrx_api_EXPORTS
+#ifdef VRX_API_OWN_SOURCES
 #include <cstddef>
 #include <cstdlib>
 #include <new>

@@ -12,7 +12,7 @@ namespace capture
 namespace
 {
 
-constexpr std::uint64_t kPiece = 1U << 20U;
+constexpr std::uint64_t kPiece = 1U << 16U;
 
 // The parts of a payload, one after the other.
 class Parts
