@@ -78,16 +78,6 @@ private:
     std::array<Object, 100> m_objects;
 };
 
-/// While there is one, a fault is due in this process.
-class Armed
-{
-public:
-    explicit Armed(const Fault& fault) { FaultPlan::instance().arm(fault); }
-    Armed(const Armed&) = delete;
-    Armed& operator=(const Armed&) = delete;
-    ~Armed() { FaultPlan::instance().disarm(); }
-};
-
 /// What this process holds.
 struct Holdings
 {
@@ -95,8 +85,6 @@ struct Holdings
     int files;
 
     static Holdings now();
-
-    friend bool operator==(const Holdings& a, const Holdings& b) { return a.blocks == b.blocks && a.files == b.files; }
 };
 
 } // namespace faults

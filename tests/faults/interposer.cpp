@@ -106,6 +106,15 @@ size_t taken(size_t size)
     return size > 1 && strikes(EMode::IsShort) ? size / 2 : size;
 }
 
+const char* noted(const char* name, int flags)
+{
+    if ((flags & O_CREAT) != 0)
+    {
+        FaultPlan::instance().noteObject(name + 1);
+    }
+    return name;
+}
+
 void* counted(void* block)
 {
     liveBlocks += block != nullptr ? 1 : 0;
@@ -172,80 +181,6 @@ extern "C"
         va_end(rest);
         return call(path, flags, mode);
     }
-    int shm_open(const char* name, int flags, mode_t mode)
-    {
-        static const Call call(&::shm_open, "shm_open", EMFILE);
-        if ((flags & O_CREAT) != 0)
-        {
-            FaultPlan::instance().noteObject(name + 1);
-        }
-        return call(name, flags, mode);
-    }
-    int shm_unlink(const char* name)
-    {
-        static const Call call(&::shm_unlink, "shm_unlink", EACCES);
-        return call(name);
-    }
-    int fchmod(int file, mode_t mode) noexcept
-    {
-        static const Call call(&::fchmod, "fchmod", EPERM);
-        return call(file, mode);
-    }
-    int fstat(int file, struct stat* status) noexcept
-    {
-        static const Call call(&::fstat, "fstat", ENOMEM);
-        return call(file, status);
-    }
-    int ftruncate(int file, off_t size) noexcept
-    {
-        static const Call call(&::ftruncate, "ftruncate", EIO);
-        return call(file, size);
-    }
-    int posix_fallocate(int file, off_t offset, off_t size)
-    {
-        static const Call call(&::posix_fallocate, "posix_fallocate", ENOSPC, true, EGives::Error);
-        return call(file, offset, size);
-    }
-    void* mmap(void* place, size_t size, int protection, int flags, int file, off_t offset) noexcept
-    {
-        static const Call call(&::mmap, "mmap", ENOMEM);
-        return call(place, size, protection, flags, file, offset);
-    }
-    int madvise(void* place, size_t size, int advice) noexcept
-    {
-        static const Call call(&::madvise, "madvise", ENOMEM);
-        return call(place, size, advice);
-    }
-    off_t lseek(int file, off_t offset, int whence) noexcept
-    {
-        static const Call call(&::lseek, "lseek", EINVAL);
-        return call(file, offset, whence);
-    }
-    ssize_t pread(int file, void* bytes, size_t size, off_t offset)
-    {
-        static const Call call(&::pread, "pread", EIO, true);
-        return call(file, bytes, taken(size), offset);
-    }
-    ssize_t getrandom(void* bytes, size_t size, unsigned flags)
-    {
-        static const Call call(&::getrandom, "getrandom", ENOSYS, true);
-        return call(bytes, taken(size), flags);
-    }
-    int memfd_create(const char* name, unsigned flags) noexcept
-    {
-        static const Call call(&::memfd_create, "memfd_create", EMFILE);
-        return call(name, flags);
-    }
-    int pipe2(int* ends, int flags) noexcept
-    {
-        static const Call call(&::pipe2, "pipe2", EMFILE);
-        return call(ends, flags);
-    }
-    int dup2(int from, int to) noexcept
-    {
-        static const Call call(&::dup2, "dup2", EBUSY, true);
-        return call(from, to);
-    }
     int fcntl(int file, int command, ...)
     {
         static const Call call(static_cast<int (*)(int, int, void*)>(nullptr), "fcntl", EMFILE);
@@ -255,27 +190,38 @@ extern "C"
         va_end(rest);
         return call(file, command, argument);
     }
-    ssize_t read(int file, void* bytes, size_t size)
-    {
-        static const Call call(&::read, "read", EIO, true);
-        return call(file, bytes, taken(size));
+
+// The function with its parameters and what it hands on, the error that a fault gives, and the rest of a Call.
+#define CALL(result, name, parameters, arguments, ...)       \
+    result name parameters                                   \
+    {                                                        \
+        static const Call call(&::name, #name, __VA_ARGS__); \
+        return call arguments;                               \
     }
-    ssize_t write(int file, const void* bytes, size_t size)
-    {
-        static const Call call(&::write, "write", ENOMEM, true);
-        return call(file, bytes, taken(size));
-    }
-    int poll(pollfd* files, nfds_t count, int timeout)
-    {
-        static const Call call(&::poll, "poll", ENOMEM, true);
-        return call(files, count, timeout);
-    }
-    int posix_spawnp(pid_t* process, const char* file, const posix_spawn_file_actions_t* actions,
-                     const posix_spawnattr_t* attributes, char* const* arguments, char* const* environment)
-    {
-        static const Call call(&::posix_spawnp, "posix_spawnp", EAGAIN, false, EGives::Error);
-        return call(process, file, actions, attributes, arguments, environment);
-    }
+    // clang-format off
+    CALL(int, shm_open, (const char* name, int flags, mode_t mode), (noted(name, flags), flags, mode), EMFILE)
+    CALL(int, shm_unlink, (const char* name), (name), EACCES)
+    CALL(int, fchmod, (int file, mode_t mode) noexcept, (file, mode), EPERM)
+    CALL(int, fstat, (int file, struct stat* status) noexcept, (file, status), ENOMEM)
+    CALL(int, ftruncate, (int file, off_t size) noexcept, (file, size), EIO)
+    CALL(int, posix_fallocate, (int file, off_t place, off_t size), (file, place, size), ENOSPC, true, EGives::Error)
+    CALL(void*, mmap, (void* at, size_t size, int rights, int flags, int file, off_t place) noexcept,
+         (at, size, rights, flags, file, place), ENOMEM)
+    CALL(int, madvise, (void* at, size_t size, int advice) noexcept, (at, size, advice), ENOMEM)
+    CALL(off_t, lseek, (int file, off_t place, int whence) noexcept, (file, place, whence), EINVAL)
+    CALL(ssize_t, pread, (int file, void* bytes, size_t size, off_t place), (file, bytes, taken(size), place), EIO, true)
+    CALL(ssize_t, getrandom, (void* bytes, size_t size, unsigned flags), (bytes, taken(size), flags), ENOSYS, true)
+    CALL(int, memfd_create, (const char* name, unsigned flags) noexcept, (name, flags), EMFILE)
+    CALL(int, pipe2, (int* ends, int flags) noexcept, (ends, flags), EMFILE)
+    CALL(int, dup2, (int from, int to) noexcept, (from, to), EBUSY, true)
+    CALL(ssize_t, read, (int file, void* bytes, size_t size), (file, bytes, taken(size)), EIO, true)
+    CALL(ssize_t, write, (int file, const void* bytes, size_t size), (file, bytes, taken(size)), ENOMEM, true)
+    CALL(int, poll, (pollfd* files, nfds_t count, int limit), (files, count, limit), ENOMEM, true)
+    CALL(int, posix_spawnp,
+         (pid_t* process, const char* file, const posix_spawn_file_actions_t* actions, const posix_spawnattr_t* attributes,
+          char* const* arguments, char* const* environment),
+         (process, file, actions, attributes, arguments, environment), EAGAIN, false, EGives::Error)
+    // clang-format on
 }
 
 // NOLINTEND

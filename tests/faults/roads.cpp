@@ -16,138 +16,137 @@ namespace faults
 namespace
 {
 
-std::shared_ptr<IExchangeObject> objectOf(const mp::ISerializable& message)
-{
-    return dynamic_cast<const ExchangeObjectWrapper&>(message).get();
-}
-
 std::string contentOf(const mp::ISerializable& message)
 {
-    const bool isEnvelope = dynamic_cast<const ExchangeObjectWrapper*>(&message) != nullptr;
-    return isEnvelope ? test::written(*objectOf(message)) : test::written(message);
+    return test::written(message);
 }
 
-using MakeMessage = std::function<std::shared_ptr<mp::ISerializable>()>;
+std::string contentOf(const ExchangeObjectWrapper& envelope)
+{
+    return test::written(*envelope.get());
+}
 
-class Message : public Road
+// A message that is written to a stream and read from it again, of which one meets the faults.
+class OneWay : public Road
 {
 public:
-    Message(const std::shared_ptr<mp::ISerializable>& filled, MakeMessage makeEmpty, bool reads)
-        : m_filled(filled)
-        , m_makeEmpty(std::move(makeEmpty))
-        , m_reads(reads)
+    explicit OneWay(EManner manner)
+        : m_reads(manner == EManner::Reads)
     {
     }
 
     void prepare() override
     {
         m_stream = std::make_unique<mp::wstringstream>();
-        m_read = m_makeEmpty();
         if (m_reads)
         {
-            write();
+            write(*m_stream);
         }
     }
-    void run() override { m_reads ? read() : write(); }
+    void run() override { m_reads ? read() : write(*m_stream); }
     std::string result() override
     {
         if (!m_reads)
         {
             read();
         }
-        return contentOf(*m_read);
+        return content();
     }
     void forget() override
     {
         m_stream.reset();
-        m_read.reset();
+        forgetRead();
     }
 
+protected:
+    virtual void write(mp::wostream& stream) = 0;
+    virtual void read(mp::wistream& stream) = 0;
+    virtual std::string content() const = 0;
+    virtual void forgetRead() = 0;
+
 private:
-    void write() { m_filled->writeObject(*m_stream); }
     void read()
     {
         m_stream->seekg(0);
-        m_read->readObject(*m_stream);
+        read(*m_stream);
     }
 
-    std::shared_ptr<mp::ISerializable> m_filled;
-    MakeMessage m_makeEmpty;
     bool m_reads;
     std::unique_ptr<mp::wstringstream> m_stream;
-    std::shared_ptr<mp::ISerializable> m_read;
 };
 
-// A failure of bodies is told by false.
-void require(bool isDone)
-{
-    if (!isDone)
-    {
-        throw std::runtime_error("there are no bodies");
-    }
-}
-
-class Bodies : public Road
+template <class T>
+class Message : public OneWay
 {
 public:
-    Bodies(bool compresses, bool reads)
-        : m_compresses(compresses)
-        , m_reads(reads)
+    Message(EManner manner, std::shared_ptr<T> filled)
+        : OneWay(manner)
+        , m_filled(std::move(filled))
+    {
+    }
+
+protected:
+    void write(mp::wostream& stream) override { m_filled->writeObject(stream); }
+    void read(mp::wistream& stream) override
+    {
+        m_read = std::make_unique<T>();
+        m_read->readObject(stream);
+    }
+    std::string content() const override { return contentOf(*m_read); }
+    void forgetRead() override { m_read.reset(); }
+
+private:
+    std::shared_ptr<T> m_filled;
+    std::unique_ptr<T> m_read;
+};
+
+class Bodies : public OneWay
+{
+public:
+    Bodies(EManner manner, bool compresses)
+        : OneWay(manner)
+        , m_compresses(compresses)
     {
         m_saved.addBrick("one");
         m_saved.addBrick("two");
     }
 
-    void prepare() override
-    {
-        m_stream = std::make_unique<mp::wstringstream>();
-        if (m_reads)
-        {
-            write();
-        }
-    }
-    void run() override { m_reads ? read() : write(); }
-    std::string result() override
-    {
-        if (!m_reads)
-        {
-            read();
-        }
-        return m_restored->describe();
-    }
-    void forget() override
-    {
-        m_stream.reset();
-        m_restored.reset();
-    }
-
-private:
-    void write()
+protected:
+    void write(mp::wostream& stream) override
     {
         const auto geometry = std::make_shared<ExcBlockGeometry>();
         require(geometry->setGeometry(m_saved.list(), m_compresses));
         geometry->own(true); // until the reader is told of them
         ExchangeObjectWrapper envelope;
         envelope.set(geometry);
-        envelope.writeObject(*m_stream);
+        envelope.writeObject(stream);
         geometry->own(false);
     }
-    void read()
+    void read(mp::wistream& stream) override
     {
-        m_stream->seekg(0);
         ExchangeObjectWrapper envelope;
-        envelope.readObject(*m_stream);
+        envelope.readObject(stream);
         const auto geometry = std::dynamic_pointer_cast<ExcBlockGeometry>(envelope.get());
         geometry->load();
         m_restored = std::make_unique<test::Bodies>();
         std::vector<std::uint64_t> ids;
         require(geometry->getGeometry(m_restored->list(), ids));
     }
+    std::string content() const override { return m_restored->describe(); }
+    void forgetRead() override { m_restored.reset(); }
+
+private:
+    // A failure of bodies is told by false.
+    static void require(bool isDone)
+    {
+        if (!isDone)
+        {
+            throw std::runtime_error("there are no bodies");
+        }
+    }
 
     bool m_compresses;
-    bool m_reads;
     test::Bodies m_saved;
-    std::unique_ptr<mp::wstringstream> m_stream;
     std::unique_ptr<test::Bodies> m_restored;
 };
 
@@ -199,10 +198,11 @@ private:
 class Roads
 {
 public:
-    void add(const std::string& title, const std::shared_ptr<mp::ISerializable>& filled, const MakeMessage& makeEmpty)
+    template <class T>
+    void add(const std::string& title, const std::shared_ptr<T>& filled)
     {
-        all.push_back({title + " written", std::make_shared<Message>(filled, makeEmpty, false), EManner::Writes});
-        all.push_back({title + " read", std::make_shared<Message>(filled, makeEmpty, true), EManner::Reads});
+        all.push_back({title + " written", std::make_shared<Message<T>>(EManner::Writes, filled), EManner::Writes});
+        all.push_back({title + " read", std::make_shared<Message<T>>(EManner::Reads, filled), EManner::Reads});
     }
 
     template <class T>
@@ -210,7 +210,7 @@ public:
     {
         const auto filled = std::make_shared<T>();
         test::readText(*filled, text);
-        add(title, filled, std::make_shared<T>);
+        add(title, filled);
     }
 
     void addObject(const std::string& title, const std::shared_ptr<IExchangeObject>& object,
@@ -219,13 +219,13 @@ public:
         const auto filled = std::make_shared<ExchangeObjectWrapper>();
         filled->set(object);
         filled->setCompression(compression);
-        add(title, filled, std::make_shared<ExchangeObjectWrapper>);
+        add(title, filled);
     }
 
     void addBodies(const std::string& title, bool compresses)
     {
-        all.push_back({title + " written", std::make_shared<Bodies>(compresses, false), EManner::Writes});
-        all.push_back({title + " read", std::make_shared<Bodies>(compresses, true), EManner::Reads});
+        all.push_back({title + " written", std::make_shared<Bodies>(EManner::Writes, compresses), EManner::Writes});
+        all.push_back({title + " read", std::make_shared<Bodies>(EManner::Reads, compresses), EManner::Reads});
     }
 
     std::vector<NamedRoad> all;
