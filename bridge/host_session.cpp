@@ -296,6 +296,7 @@ mp::wstring HostSession::receive()
     }
     catch (const std::logic_error& failure)
     {
+        UndeliveredBuffers::removeNamedIn(*text);
         fail(TranslatorFailure::EKind::Protocol, std::string("The translator sent no message: ") + failure.what());
     }
     return *text;
@@ -424,6 +425,20 @@ void HostSession::finishTranslator() noexcept
     }
 }
 
+// The shared memory that a message names, which nobody will load any more.
+void HostSession::note(const mp::wstring& text)
+{
+    try
+    {
+        JsonTextIO::check(text, m_readRules);
+        m_undelivered.addFrom(text);
+    }
+    catch (const std::logic_error&)
+    {
+        UndeliveredBuffers::removeNamedIn(text);
+    }
+}
+
 // Reads on for the names of shared memory only, and tells whether the translator's output has come to its end.
 bool HostSession::drain(std::chrono::milliseconds limit) noexcept
 {
@@ -432,8 +447,7 @@ bool HostSession::drain(std::chrono::milliseconds limit) noexcept
         const Wait wait = {std::chrono::steady_clock::now() + limit, nullptr};
         while (const std::optional<mp::wstring> text = m_messages.read(wait))
         {
-            JsonTextIO::check(*text, m_readRules);
-            m_undelivered.add(peekEnvelope(*text).bufferName);
+            note(*text);
         }
         return true;
     }

@@ -97,6 +97,7 @@ private:
     [[noreturn]] void failAsDead(const std::string& text, const std::string& reason = {});
     void stop() noexcept;
     void finishTranslator() noexcept;
+    void note(const mp::wstring& text);
     bool drain(std::chrono::milliseconds limit) noexcept;
     void removeBuffers() noexcept;
 

@@ -132,6 +132,19 @@ std::shared_ptr<IExchangeObject> TranslatorChannel::receiveObject()
     return nullptr;
 }
 
+void TranslatorChannel::requireRules(const mp::wstring& text) const
+{
+    try
+    {
+        JsonTextIO::check(text, m_readRules);
+    }
+    catch (const std::logic_error&)
+    {
+        UndeliveredBuffers::removeNamedIn(text);
+        throw;
+    }
+}
+
 // Nothing behind the last object of an export.
 std::optional<mp::wstring> TranslatorChannel::receiveObjectText()
 {
@@ -145,7 +158,7 @@ std::optional<mp::wstring> TranslatorChannel::receiveObjectText()
         m_hasObjectsToCome = false;
         throw StreamError("the host ended within an export");
     }
-    JsonTextIO::check(*text, m_readRules);
+    requireRules(*text);
     const MessageHead head = peekEnvelope(*text);
     m_undelivered.add(head.bufferName);
     m_hasObjectsToCome = head.kind == EMessageKind::Envelope;

@@ -65,6 +65,7 @@ private:
     void passOverObjects();
     std::optional<mp::wstring> receiveCommandText();
     std::optional<mp::wstring> receiveObjectText();
+    void requireRules(const mp::wstring& text) const;
     void awaitHostsEnd(const Wait& wait) noexcept;
 
     Stream m_input;

@@ -30,29 +30,6 @@ bool isThere(const std::string& name)
     }
 }
 
-// Takes the name from the text as this library writes it, when there is no memory to look into the message.
-void removeNamedIn(const mp::wstring& message)
-{
-    constexpr mp::wstring_view kToValue = WIDE("\": \"");
-    for (const Key key : {kEnvelopeData, kObjectBufferName})
-    {
-        const std::size_t place = message.find(key.text, 0, key.size);
-        if (place == mp::wstring::npos)
-        {
-            continue;
-        }
-        const std::size_t begin = std::min(place + key.size + kToValue.size(), message.size());
-        const mp::wstring_view value = mp::wstring_view(message).substr(begin, kBufferNameSize);
-        std::array<char, kBufferNameSize> name = {};
-        std::transform(value.begin(), value.end(), name.begin(),
-                       [](mp::wchar unit) { return static_cast<char>(unit); });
-        if (isBufferName({name.data(), name.size()}))
-        {
-            mp::SharedBuffer<char>::removeNarrow({name.data(), name.size()});
-        }
-    }
-}
-
 } // namespace
 
 UndeliveredBuffers::~UndeliveredBuffers()
@@ -78,6 +55,29 @@ void UndeliveredBuffers::addFrom(const mp::wstring& message)
     {
         removeNamedIn(message);
         throw;
+    }
+}
+
+// Takes the name from the text as this library writes it, without memory.
+void UndeliveredBuffers::removeNamedIn(const mp::wstring& message) noexcept
+{
+    constexpr mp::wstring_view kToValue = WIDE("\": \"");
+    for (const Key key : {kEnvelopeData, kObjectBufferName})
+    {
+        const std::size_t place = message.find(key.text, 0, key.size);
+        if (place == mp::wstring::npos)
+        {
+            continue;
+        }
+        const std::size_t begin = std::min(place + key.size + kToValue.size(), message.size());
+        const mp::wstring_view value = mp::wstring_view(message).substr(begin, kBufferNameSize);
+        std::array<char, kBufferNameSize> name = {};
+        std::transform(value.begin(), value.end(), name.begin(),
+                       [](mp::wchar unit) { return static_cast<char>(unit); });
+        if (isBufferName({name.data(), name.size()}))
+        {
+            mp::SharedBuffer<char>::removeNarrow({name.data(), name.size()});
+        }
     }
 }
 

@@ -25,6 +25,9 @@ public:
     /// Adds the one that a message names, or removes it from the system when that can't be done.
     void addFrom(const mp::wstring& message);
 
+    /// Removes from the system what a message names that is not to be looked into.
+    static void removeNamedIn(const mp::wstring& message) noexcept;
+
     /// The buffer is the affair of the one who loaded it.
     void delivered(const mp::wstring& name);
 

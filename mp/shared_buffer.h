@@ -26,7 +26,8 @@ class SharedBuffer;
 
 /// A named block of bytes that outlives the process that made it: one process writes it, another reads and removes it.
 /// The content is exactly the bytes given to `write`; the size of the object is the length of the data.
-/// All operations throw `SharedMemoryException`. On POSIX only the user who made an object may open it.
+/// All operations throw `SharedMemoryException`, and `std::bad_alloc`. On POSIX only the user who made an object may
+/// open it.
 template <>
 class VRX_API SharedBuffer<char>
 {
@@ -61,7 +62,7 @@ public:
     void read(std::vector<char>& out) const;
 
     /// The content, or its first bytes, no more than these. No other program can end this one by making the object
-    /// shorter meanwhile: bytes that are there no more are zeros.
+    /// shorter meanwhile: bytes that are there no more are zeros, or on Windows an error.
     SharedCopy copy(std::uint64_t most = std::numeric_limits<std::uint64_t>::max()) const;
 
     /// The size of the content.

@@ -7,7 +7,9 @@
 #include "vrx_api/common/vector.h"
 #include "vrx_api/exchange/exchange_object.h"
 #include "vrx_api/exchange/message_object.h"
+#include "vrx_api/exchange/progress.h"
 #include "vrx_api/json/direct.h"
+#include "vrx_api/structure/block_reference.h"
 #include "vrx_api/visualization/visu_mesh.h"
 #include "vrx_api/visualization/visu_node.h"
 
@@ -343,6 +345,30 @@ TEST(DirectRoadOfOwnClasses, PassesTheirErrorsOn)
 }
 
 // A number before a long text must not be taken for the first of many.
+TEST(DirectRoadOfBools, TakesFalseWhereTrueStood)
+{
+    const LogLevel set(kolt::kDebug);
+    const std::string form = formOf(R"({"hidden":false})");
+    ExcBlockReference reference;
+    reference.setHidden(true);
+    kDirectRoad.read(reference, form.data(), form.size());
+    EXPECT_FALSE(reference.isHidden());
+}
+
+// Also when the search for the member before has passed it.
+TEST(DirectRoadOfMembers, TakesTheFirstOfAName)
+{
+    const LogLevel set(kolt::kDebug);
+    const std::string form = formOf(R"({"progress_max":1,"progress":5,"progress_max":2})");
+    for (const test::BinaryRoad& road : {kTreeRoad, kDirectRoad})
+    {
+        ExcProgress progress;
+        road.read(progress, form.data(), form.size());
+        EXPECT_EQ(progress.progress(), 5);
+        EXPECT_EQ(progress.progressMax(), 1);
+    }
+}
+
 TEST(DirectRoadOfMessages, TakesBytesThatLieAtAnOddPlace)
 {
     const LogLevel set(kolt::kDebug);

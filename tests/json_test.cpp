@@ -42,6 +42,20 @@ TEST(JsonTextIO, KeepsTheKindsOfNumbersAndEscapes)
     EXPECT_EQ(textOf(parsed("[1e0, 100E-2, 20000000000000000000]")), "[1.0,1.0,20000000000000000000.0]");
 }
 
+// Whether or not the buffer of the stream has room for it.
+TEST(JsonTextIO, WritesTheLastUnitAtAnyPlace)
+{
+    for (std::size_t before = 0; before < 300; ++before)
+    {
+        const wstring units = wstring(before, WIDE('a')) + wchar(0xFFFF);
+        JsonDocument document;
+        document.SetString(units.data(), static_cast<rapidjson::SizeType>(units.size()), document.GetAllocator());
+        mp::wostringstream stream;
+        JsonTextIO::write(stream, document, false);
+        ASSERT_TRUE(stream.str() == WIDE('"') + units + WIDE('"')) << before;
+    }
+}
+
 TEST(JsonTextIO, ReadsOneValueUpToTheEndOrANul)
 {
     EXPECT_EQ(textOf(parsed(" \t\r\n[1] \t\r\n")), "[1]");

@@ -57,7 +57,8 @@ TEST(Narrow, ReplacesEachMalformedByte)
 {
     // A lone continuation, a cut sequence, an overlong one, a surrogate, a character behind the last.
     const std::pair<const char*, std::size_t> texts[] = {
-        {"80", 1}, {"E282", 2}, {"C0AF", 2}, {"E08080", 3}, {"EDA080", 3}, {"F4908080", 4}, {"F5", 1}, {"FF", 1},
+        {"80", 1},       {"E282", 2}, {"C0AF", 2},     {"E08080", 3}, {"EDA080", 3},
+        {"F4908080", 4}, {"F5", 1},   {"FC808080", 4}, {"FF", 1},
     };
     for (const auto& [hex, replaced] : texts)
     {

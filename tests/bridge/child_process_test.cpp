@@ -7,6 +7,7 @@
 #include <csignal>
 
 #ifndef _WIN32
+#include <sys/wait.h>
 #include <unistd.h>
 #endif
 
@@ -57,6 +58,7 @@ TEST(ChildProcess, IsKilledWhenItDoesNotHear)
     char text[16] = "";
     ASSERT_GT(child.output().readSome(text, sizeof(text)), 0U);
     EXPECT_EQ(child.end(milliseconds(1)), "it was ended by signal 9 (Killed)");
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "a child is not cleared away";
 }
 
 TEST(ChildProcess, CanBeKilledWithWhatItsStarterLeaves)

@@ -31,9 +31,9 @@ std::ostream& operator<<(std::ostream& stream, const SessionCase& row)
 const SessionCase kCases[] = {
     {"WholeImport",
      "loads",
-     {"stray", "one", "stray", "two"},
+     {"stray", "one", "untold", "stray", "two"},
      "message now one\nexc_product_structure one\nmessage now two\nexc_product_structure two\nresult 1\nping 1\n",
-     2},
+     3},
     {"Progress",
      "loads",
      {"progress", "one"},

@@ -159,10 +159,11 @@ class Planter:
         self.source.constants += sum(child.kind in LITERALS for child in node.walk_preorder())
 
     def is_constant(self, node):
-        if node.kind != Kind.VAR_DECL:
-            return False
-        return "constexpr" in self.source.text(begin(node), node.location.offset).split() or \
-            node.semantic_parent.kind in (Kind.NAMESPACE, Kind.TRANSLATION_UNIT)
+        is_constexpr = "constexpr" in self.source.text(begin(node), node.location.offset).split()
+        if node.kind == Kind.UNEXPOSED_DECL:
+            return is_constexpr  # a template of a variable
+        return node.kind == Kind.VAR_DECL and (
+            is_constexpr or node.semantic_parent.kind in (Kind.NAMESPACE, Kind.TRANSLATION_UNIT))
 
     def plant_at(self, node):
         kind = node.kind

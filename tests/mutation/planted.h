@@ -64,11 +64,11 @@ constexpr T offByOne(int fault, T value)
     }
 }
 
-#define VRX_PLANTED_OPERATOR(name, right, wrong)                                                                       \
-    template <class A, class B>                                                                                        \
-    constexpr auto name(int fault, A a, B b)                                                                           \
-    {                                                                                                                  \
-        return on(fault) ? a wrong b : a right b;                                                                      \
+#define VRX_PLANTED_OPERATOR(name, right, wrong)  \
+    template <class A, class B>                   \
+    constexpr auto name(int fault, A a, B b)      \
+    {                                             \
+        return on(fault) ? a wrong b : a right b; \
     }
 
 VRX_PLANTED_OPERATOR(less, <, <=)

@@ -1,16 +1,21 @@
 #!/usr/bin/python3
 """Tells which planted faults no test sees.
 
-usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--unseen] [--jobs N] [--file PART]
+usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--again] [--file PART] [--recorded] [--jobs N]
+                     [--budget SECONDS] [--thin N]
 
-Runs each test of BUILD once to learn which faults it comes by, then each fault with the tests that come by it, the
-quick ones first, until one fails. --sample: only so many faults, taken by chance; --unseen: those only that the last
-run did not see; --file: those of files whose name has this part. RESULTS keeps what was seen.
+Runs each test of BUILD once to learn which faults it comes by, then each fault with the tests that come by it, until
+one fails: first those that are quick and come by few faults. --budget: at most so many seconds of tests for one fault;
+--thin: of a test that has more than 30 parameters every so-many-th is used; both can only make fewer faults seen.
+--sample: only so many faults, taken by chance; --again: what the last run saw is not tried again; --file: those of files
+whose name has this part; --recorded: what is known of a test from the last run is not learnt again. RESULTS keeps what
+was seen.
 """
 
 import argparse
 import collections
 import concurrent.futures
+import itertools
 import json
 import os
 import pathlib
@@ -53,22 +58,52 @@ def run(command, folder, seconds, environment):
                           stderr=subprocess.DEVNULL, check=False).returncode == 0
 
 
+def keep(path, data):
+    """An interrupted run leaves the file whole."""
+    new = path.with_suffix(".new")
+    new.write_text(json.dumps(data, indent=0))
+    new.replace(path)
+
+
 def tests_of(build):
     listing = subprocess.run(["ctest", "--test-dir", build, "--show-only=json-v1"], check=True, capture_output=True,
                              text=True).stdout
     return [test for test in map(Test, json.loads(listing)["tests"]) if test.command]
 
 
-def record(test, size):
+def record(test, size, folder):
     """Learns which faults a test comes by; they may be in any of its processes."""
-    with tempfile.NamedTemporaryFile(dir=os.getcwd()) as reached:
+    with tempfile.NamedTemporaryFile(dir=folder) as reached:
         reached.write(bytes(size))
         reached.flush()
-        begin = time.monotonic()
+        start = time.monotonic()
         passed = run(test.command, test.folder, 100, {"VRX_FAULT_RECORD": reached.name})
-        test.seconds = time.monotonic() - begin
+        test.seconds = time.monotonic() - start
         test.faults = {number for number, byte in enumerate(pathlib.Path(reached.name).read_bytes()) if byte}
     return passed
+
+
+def record_all(tests, size, folder, pool, is_known):
+    """The tests that pass, with what they come by. What is known is kept in a file."""
+    path = folder / "reached.json"
+    known = json.loads(path.read_text()) if is_known and path.is_file() else {}
+    for test in tests:
+        if test.name in known:
+            test.seconds, test.faults = known[test.name][0], set(known[test.name][1])
+    new = [test for test in tests if test.name not in known]
+    failed = {test.name for test, passed in zip(new, pool.map(lambda test: record(test, size, folder), new))
+              if not passed}
+    if failed:
+        print("These fail without a fault and see none:", *sorted(failed), sep="\n    ")
+    tests = [test for test in tests if test.name not in failed]
+    keep(path, {test.name: [test.seconds, sorted(test.faults)] for test in tests})
+    # Most of the time goes to the start of the program, which tests that run together have once.
+    starts = {}
+    for test in tests:
+        starts[test.command[0]] = min(test.seconds, starts.get(test.command[0], test.seconds))
+    for test in tests:
+        test.seconds += 0.01 - starts[test.command[0]]
+    return tests
 
 
 def programs(tests):
@@ -84,8 +119,18 @@ def programs(tests):
         yield [program, "--gtest_filter=" + names, "--gtest_fail_fast"], folder, sum(test.seconds for test in group)
 
 
-def is_seen(number, tests):
-    tests = sorted(tests, key=lambda test: test.seconds)
+def thinned(tests, step):
+    """The tests, without most parameters of those that have many."""
+    families = collections.defaultdict(list)
+    for test in tests:
+        families[test.command[0], (test.filter or test.name).rpartition("/")[0] or test.name].append(test)
+    return [test for family in families.values() for test in family[::step if len(family) > 30 else 1]]
+
+
+def is_seen(number, tests, budget):
+    tests = sorted(tests, key=lambda test: test.seconds * len(test.faults))
+    spent = itertools.accumulate(test.seconds for test in tests)
+    tests = [test for test, seconds in zip(tests, spent) if seconds <= budget or test is tests[0]]
     for part in (tests[:FIRST_TESTS], tests[FIRST_TESTS:]):
         for command, folder, seconds in sorted(programs(part), key=lambda item: item[2]):
             if not run(command, folder, seconds, {"VRX_FAULT": str(number)}):
@@ -149,7 +194,10 @@ def main():
     options.add_argument("--sample", type=int)
     options.add_argument("--seed", type=int, default=1)
     options.add_argument("--jobs", type=int, default=2)
-    options.add_argument("--unseen", action="store_true")
+    options.add_argument("--thin", type=int, default=1)
+    options.add_argument("--budget", type=float, default=float("inf"))
+    for name in ("--again", "--recorded"):
+        options.add_argument(name, action="store_true")
     options.add_argument("--file", default="")
     given = options.parse_args()
 
@@ -157,31 +205,24 @@ def main():
     results_path = pathlib.Path(given.results)
     kept = json.loads(results_path.read_text()) if results_path.is_file() else []
     last = {tuple(key): outcome for *key, outcome in kept}
-    results = dict(last) if given.unseen or given.file else {}
-    tests = tests_of(given.build)
+    results = dict(last) if given.again or given.file else {}
     lock = threading.Lock()
     with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
         size = 1 + max(fault["number"] for fault in faults)
-        broken = [test.name for test, passed in
-                  zip(tests, pool.map(lambda test: record(test, size), tests)) if not passed]
-        if broken:
-            print("These fail without a fault and see none:", *broken, sep="\n    ")
-        tests = [test for test in tests if test.name not in broken]
+        tests = record_all(thinned(tests_of(given.build), given.thin), size, results_path.resolve().parent, pool, given.recorded)
         print(f"{len(tests)} tests recorded", flush=True)
 
         def attempt(fault):
             able = [test for test in tests if fault["number"] in test.faults]
-            outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able) else "not seen"
+            outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able, given.budget) else "not seen"
             with lock:
                 results[key_of(fault)] = outcome
-                results_path.write_text(json.dumps([[*key, result] for key, result in results.items()], indent=0))
+                keep(results_path, [[*key, result] for key, result in results.items()])
 
         chosen = [fault for fault in faults if given.file in fault["file"]]
-        if given.unseen:
-            chosen = [fault for fault in chosen if last.get(key_of(fault), "seen") != "seen"]
         if given.sample:
             chosen = random.Random(given.seed).sample(chosen, min(given.sample, len(chosen)))
-        list(pool.map(attempt, chosen))
+        list(pool.map(attempt, [fault for fault in chosen if not given.again or last.get(key_of(fault)) != "seen"]))
     return 0 if report(faults, results) >= 90 else 1
 
 

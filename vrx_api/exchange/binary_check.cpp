@@ -162,7 +162,7 @@ private:
         m_object = object;
         m_nameAlone = false;
         m_rules.depth(m_outer.size());
-        if (object && m_rules.isStrict())
+        if (object)
         {
             m_rules.beginObject();
         }
@@ -171,7 +171,7 @@ private:
 
     void close()
     {
-        if (m_object && m_rules.isStrict())
+        if (m_object)
         {
             m_rules.endObject();
         }

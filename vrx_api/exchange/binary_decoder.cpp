@@ -59,7 +59,7 @@ public:
             decode();
             m_begun = true;
         }
-        catch (const std::exception&)
+        catch (const std::logic_error&)
         {
             m_failure = std::current_exception();
             m_begun = closeAfterFailure();
@@ -304,7 +304,7 @@ std::vector<char> takeValue(std::istream& stream)
     return bytes;
 }
 
-// The value is checked where units have an even address.
+// Checks the value at an even address, where its units can be read, and hands it on.
 template <class Use>
 void withCheckedValue(const char* data, std::uint64_t size, const ReadRules& rules, const Use& use)
 {

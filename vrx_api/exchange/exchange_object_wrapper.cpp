@@ -98,8 +98,8 @@ void ExchangeObjectWrapper::writeObject(wostream& stream) const
         addMember(document, kEnvelopeData, treeOf(*m_pObject, allocator), allocator);
     }
     JsonTextIO::write(stream, document, true);
-    // Its reader removes it.
-    buffer.setRemoveOnClose(false);
+    // A stream that takes nothing tells nobody; otherwise the reader removes the buffer.
+    buffer.setRemoveOnClose(stream.fail());
 }
 
 void ExchangeObjectWrapper::readObject(wistream& stream)

@@ -16,32 +16,33 @@ bool isCompressed(const mp::SharedCopy& content)
     return Compressor::isCompressed(content.data(), content.size());
 }
 
-void requireSize(std::uint64_t size, std::uint64_t limit)
+// The most bytes of a stream that holds no more than the limit: what cannot be compressed grows a little.
+std::uint64_t mostCompressed(std::uint64_t limit)
 {
-    if (size > limit)
-    {
-        throw std::length_error("Content of " + std::to_string(size) + " bytes is above the limit of " +
-                                std::to_string(limit) + " bytes");
-    }
+    constexpr std::uint64_t kRoom = std::uint64_t{64} << 10U;
+    return limit > ReadRules::kNoLimit / 2 ? ReadRules::kNoLimit : limit + limit / 8 + kRoom;
 }
 
 } // namespace
 
 PlainContent::PlainContent(const mp::SharedBuffer<char>& buffer, const ReadRules& rules)
 {
-    // A look at the beginning spares the copy of what is too large. It decides nothing else: the buffer may change.
+    // Nothing is copied that is too large. The buffer may change at any time: all else is decided by the copy.
     constexpr std::uint64_t kBeginning = 3;
-    if (buffer.size() > rules.plainBytes && !isCompressed(buffer.copy(kBeginning)))
+    const std::uint64_t size = buffer.size();
+    const std::uint64_t limit =
+        isCompressed(buffer.copy(kBeginning)) ? mostCompressed(rules.plainBytes) : rules.plainBytes;
+    if (size > limit)
     {
-        requireSize(buffer.size(), rules.plainBytes);
+        throw std::length_error("Content of " + std::to_string(size) + " bytes is above the limit of " +
+                                std::to_string(rules.plainBytes) + " bytes");
     }
-    m_copy = buffer.copy();
+    m_copy = buffer.copy(size);
     if (isCompressed(m_copy))
     {
         Compressor::decompress(m_decompressed, m_copy.data(), m_copy.size(), rules);
         m_copy = mp::SharedCopy();
     }
-    requireSize(m_copy.size(), rules.plainBytes);
 }
 
 } // namespace vrx

@@ -47,7 +47,8 @@ public:
 
     /// Restores the bodies, and appends them and their ids, both in the order in which they were saved; as often as
     /// wanted. A failure is logged and gives false. Throws `mp::SharedMemoryException`, `std::length_error` for what
-    /// is above the limit of the read rules, and `std::runtime_error` for damaged compressed data.
+    /// is above the limit of the read rules, and `std::runtime_error` for damaged compressed data and what a strict
+    /// reader refuses.
     bool getGeometry(ENTITY_LIST& entities, std::vector<std::uint64_t>& ids) const;
 
     /// The id of a body: its address, which is unique within one run of the producer and a mere label elsewhere.

@@ -222,44 +222,39 @@ public:
 
     bool Key(const Ch* units, rapidjson::SizeType size, bool)
     {
-        if (m_rules.isStrict())
-        {
-            m_rules.name({units, size});
-        }
+        m_rules.name({units, size});
         return Default();
     }
 
     bool StartObject()
     {
-        if (m_rules.isStrict())
-        {
-            m_rules.beginObject();
-        }
-        return StartArray();
+        m_rules.beginObject();
+        return begin();
     }
 
     bool EndObject(rapidjson::SizeType)
     {
-        if (m_rules.isStrict())
-        {
-            m_rules.endObject();
-        }
-        return EndArray(0);
+        m_rules.endObject();
+        return end();
     }
 
-    bool StartArray()
+    bool StartArray() { return begin(); }
+
+    bool EndArray(rapidjson::SizeType) { return end(); }
+
+private:
+    bool begin()
     {
         m_rules.depth(++m_depth);
         return Default();
     }
 
-    bool EndArray(rapidjson::SizeType)
+    bool end()
     {
         --m_depth;
         return true;
     }
 
-private:
     RuleKeeper m_rules;
     std::uint64_t m_depth = 0;
 };
@@ -293,6 +288,7 @@ void parse(const wstring& text, JsonDocument& document)
 
 wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool pretty)
 {
+    const bool failedBefore = stream.fail();
     WideBuffer buffer;
     const bool complete = writeText(buffer, document, pretty);
     makeRoom(stream, buffer.text);
@@ -302,7 +298,7 @@ wostream& JsonTextIO::write(wostream& stream, const JsonDocument& document, bool
     {
         throw std::runtime_error("Cannot write object into json document");
     }
-    if (stream.fail())
+    if (stream.fail() && !failedBefore)
     {
         throw std::runtime_error("Cannot write json document into stream");
     }

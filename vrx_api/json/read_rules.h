@@ -18,6 +18,7 @@ struct VRX_API ReadRules
     std::uint64_t plainBytes = kNoLimit;
 
     /// The most values of a text or a binary form: objects, arrays, members' names, strings, numbers, bools and nulls.
+    /// In a model a number takes its own size and an object some hundred bytes.
     std::uint64_t values = kNoLimit;
 
     /// The most objects and arrays within each other.

@@ -9,7 +9,7 @@
 namespace vrx
 {
 
-void RuleKeeper::endObject()
+void RuleKeeper::requireNamesOnce()
 {
     const auto first = m_names.begin() + static_cast<std::ptrdiff_t>(m_objects.back().firstName);
     if (m_objects.back().mayHoldTwice)
@@ -18,7 +18,9 @@ void RuleKeeper::endObject()
         const auto twice = std::adjacent_find(first, m_names.end());
         if (twice != m_names.end())
         {
-            throw std::invalid_argument("An object has two members of the name " + mp::toNarrow(wstring(*twice)));
+            constexpr std::size_t kMostUnits = 100;
+            throw std::invalid_argument("An object has two members of the name " +
+                                        mp::toNarrow(wstring(twice->substr(0, kMostUnits))));
         }
     }
     m_names.erase(first, m_names.end());

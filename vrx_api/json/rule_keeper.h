@@ -40,16 +40,32 @@ public:
         }
     }
 
-    // Of strict readers only: an object begins, has a name, which stays where it is, and ends.
-    void beginObject() { m_objects.push_back({m_names.size(), {}, false}); }
+    /// For strict readers: an object begins, has a name, which stays where it is, and ends.
+    void beginObject()
+    {
+        if (isStrict())
+        {
+            m_objects.push_back({m_names.size(), {}, false});
+        }
+    }
     void name(wstring_view name)
     {
+        if (!isStrict())
+        {
+            return;
+        }
         Object& object = m_objects.back();
         object.mayHoldTwice = object.mayHoldTwice || object.marks.mayHold(name);
         object.marks.add(name);
         m_names.push_back(name);
     }
-    void endObject();
+    void endObject()
+    {
+        if (isStrict())
+        {
+            requireNamesOnce();
+        }
+    }
 
 private:
     struct Object
@@ -59,6 +75,7 @@ private:
         bool mayHoldTwice;
     };
 
+    void requireNamesOnce();
     [[noreturn]] void failByValues() const;
     [[noreturn]] void failByDepth() const;
 
