@@ -62,6 +62,41 @@ TEST(JsonTextIO, ReadsOneValueUpToTheEndOrANul)
     EXPECT_EQ(textOf(parsed(std::string_view("[1]\0]", 5))), "[1]");
 }
 
+// Gives one unit after the other, and never tells how many there are.
+class UnitByUnit : public std::basic_streambuf<wchar>
+{
+public:
+    explicit UnitByUnit(wstring text)
+        : m_text(std::move(text))
+    {
+    }
+
+protected:
+    int_type underflow() override
+    {
+        return m_next < m_text.size() ? traits_type::to_int_type(m_text[m_next]) : traits_type::eof();
+    }
+    int_type uflow() override
+    {
+        const int_type unit = underflow();
+        m_next += traits_type::eq_int_type(unit, traits_type::eof()) ? 0 : 1;
+        return unit;
+    }
+
+private:
+    wstring m_text;
+    std::size_t m_next = 0;
+};
+
+TEST(JsonTextIO, ReadsAStreamThatDoesNotTellItsSize)
+{
+    UnitByUnit buffer(WIDE(R"({"a":[1,2]})"));
+    mp::wistream stream(&buffer);
+    JsonDocument document;
+    JsonTextIO::read(stream, document);
+    EXPECT_EQ(textOf(document), R"({"a":[1,2]})");
+}
+
 TEST(JsonTextIO, ReadsNothingFromAStreamThatHasFailed)
 {
     JsonDocument document = parsed("[1]");
@@ -75,7 +110,7 @@ TEST(JsonTextIO, ReadsNothingFromAStreamThatHasFailed)
 TEST(JsonTextIO, TakesTheEscapeOfALoneLowSurrogateForItsUnit)
 {
     const std::pair<const char*, wstring> rows[] = {
-        {R"("\uDc0f\udFFFa")", {0xDC0F, 0xDFFF, u'a'}},
+        {R"("\uDc0f\udFFFa\uDCA9")", {0xDC0F, 0xDFFF, u'a', 0xDCA9}},
         {R"("\ud800\udc00\udc00")", {0xD800, 0xDC00, 0xDC00}},
         {R"("\u0000\uDC00\\udc00")", {0, 0xDC00, u'\\', u'u', u'd', u'c', u'0', u'0'}},
     };

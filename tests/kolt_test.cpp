@@ -61,13 +61,13 @@ TEST_F(LoggerHolderTest, LevelZeroDoesNothing)
 
 TEST_F(LoggerHolderTest, BeginsAFileAndAppendsToIt)
 {
-    LoggerHolder::initLogger(2, m_path.string());
-    EXPECT_THAT(enabledLevels(), ElementsAre(true, true, false, false, false, false));
+    LoggerHolder::initLogger(1, m_path.string());
+    EXPECT_THAT(enabledLevels(), ElementsAre(true, false, false, false, false, false));
     LoggerHolder::initLogger(3, m_path.string());
     test::LogFile::close();
     const char* const separator = R"(\[INFO\]    \[.......... ........\] =+)";
     EXPECT_THAT(linesOf(m_path),
-                ElementsAre(MatchesRegex(separator), testing::EndsWith("] Logger initialized with level 2"),
+                ElementsAre(MatchesRegex(separator), testing::EndsWith("] Logger initialized with level 1"),
                             MatchesRegex(separator), testing::EndsWith("] Logger initialized with level 3")));
     const std::string first = linesOf(m_path).front();
     EXPECT_EQ(first.substr(first.find('=')), std::string(102, '='));

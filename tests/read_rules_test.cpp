@@ -133,6 +133,7 @@ TEST(ReadRules, RefuseWhatOnlyOneFormCanHold)
     };
     EXPECT_EQ(errorOfForm("02000000"), "nothing");
     EXPECT_EQ(errorOfForm("02000000 00"), "Bytes stand behind the value");
+    EXPECT_EQ(errorOfForm("06000000 01000000 06000000 02000000"), "Bytes stand behind the value");
     EXPECT_EQ(errorOfForm("04000000 0400000000000000 00000000 02000000"), "Bytes stand behind the value");
     EXPECT_EQ(errorOfForm("03000000 0800000000000000 02000000 02000000"), "The name of a member is no string");
     EXPECT_EQ(errorOfForm("03000000 1000000000000000 03000000 0000000000000000 02000000"),
@@ -164,6 +165,7 @@ TEST(ReadRules, RefuseACompressedStreamWithoutItsEndOrWithMoreBehindIt)
         };
         EXPECT_EQ(read(stream), "nothing");
         EXPECT_EQ(read(stream + '\0'), "Bytes stand behind the compressed data");
+        EXPECT_EQ(read(stream + stream.substr(stream.size() - 4)), "Bytes stand behind the compressed data");
         for (std::size_t cut = 1; cut < stream.size() - 2; cut += 1 + stream.size() / 100)
         {
             EXPECT_EQ(read(stream.substr(0, stream.size() - cut)), "The compressed data was cut short") << cut;

@@ -64,11 +64,17 @@ TEST(StatusObjects, WriteNoTraceLinesButForTheStage)
 
 TEST(StatusObjects, CompareAndConvert)
 {
-    ExcProgress one;
-    ExcProgress other;
-    EXPECT_TRUE(one == other);
-    other.setStage(WIDE("s"));
-    EXPECT_FALSE(one == other);
+    EXPECT_TRUE(ExcProgress() == ExcProgress());
+    ExcProgress progress;
+    progress.setProgress(1);
+    ExcProgress most;
+    most.setProgressMax(1);
+    ExcProgress stage;
+    stage.setStage(WIDE("s"));
+    for (const ExcProgress& other : {progress, most, stage})
+    {
+        EXPECT_FALSE(ExcProgress() == other);
+    }
     EXPECT_EQ(test::written(ExcMessage(WIDE("text"))), test::written(ExcLog(wstring(WIDE("text")))));
 }
 

@@ -61,6 +61,16 @@ TEST(ChildProcess, IsKilledWhenItDoesNotHear)
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "a child is not cleared away";
 }
 
+TEST(ChildProcess, EndsWithItsObject)
+{
+    char number[16] = "";
+    {
+        const ChildProcess child({"sh", "-c", "echo $$; exec sleep 60"});
+        ASSERT_GT(child.output().readSome(number, sizeof(number) - 1), 0U);
+    }
+    EXPECT_EQ(::kill(std::stoi(number), 0), -1);
+}
+
 TEST(ChildProcess, CanBeKilledWithWhatItsStarterLeaves)
 {
     const std::string script = "(trap '' TERM; echo ready; exec \"$0\" hang) & wait";

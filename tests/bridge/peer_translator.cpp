@@ -119,6 +119,10 @@ private:
             return;
         }
         m_channel.send(Result());
+        if (m_isLate)
+        {
+            m_channel.log(WIDE("and that was it"));
+        }
     }
 
     void receive(const std::vector<std::string>& steps)
@@ -226,6 +230,10 @@ private:
         {
             m_isLeaving = true;
         }
+        else if (step == "late")
+        {
+            m_isLate = true;
+        }
         else if (step == "die")
         {
             killSelf();
@@ -250,6 +258,7 @@ private:
     bridge::Stream m_output = bridge::Stream::standardOutput(); // before the channel takes it
     bridge::TranslatorChannel m_channel;
     bool m_isLeaving = false; // behind the answer
+    bool m_isLate = false;    // with a line of its log
 };
 
 } // namespace

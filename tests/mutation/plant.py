@@ -104,8 +104,10 @@ class Source:
         number = self.first_number + len(self.faults)
         code = " ".join(self.text(begin(node), end(node)).split())
         self.alike[kind, code] = nth = self.alike.get((kind, code), 0) + 1
-        self.faults.append({"number": number, "file": self.name, "line": self.bytes.count(b"\n", 0, begin(node)) + 1,
-                            "kind": kind, "code": code, "nth": nth})
+        line = self.bytes.count(b"\n", 0, begin(node)) + 1
+        text = self.bytes.splitlines()[line - 1].decode().strip()
+        self.faults.append({"number": number, "file": self.name, "line": line, "kind": kind, "code": code, "nth": nth,
+                            "text": text})
         on = f"vrx_planted::on({number})"
         # What closes stands before what opens; of what opens, the wider stands first, and of what closes, last.
         order, width = len(self.pieces), end(node) - begin(node)

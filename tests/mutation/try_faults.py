@@ -1,21 +1,20 @@
 #!/usr/bin/python3
 """Tells which planted faults no test sees.
 
-usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--again] [--file PART] [--recorded] [--jobs N]
-                     [--budget SECONDS] [--thin N]
+usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--again] [--untried] [--file PART] [--recorded] [--jobs N]
+                     [--most N] [--thin N]
 
 Runs each test of BUILD once to learn which faults it comes by, then each fault with the tests that come by it, until
-one fails: first those that are quick and come by few faults. --budget: at most so many seconds of tests for one fault;
---thin: of a test that has more than 30 parameters every so-many-th is used; both can only make fewer faults seen.
---sample: only so many faults, taken by chance; --again: what the last run saw is not tried again; --file: those of files
-whose name has this part; --recorded: what is known of a test from the last run is not learnt again. RESULTS keeps what
-was seen.
+one fails: first those that are quick and come by few faults. --most: at most so many tests for one fault; --thin: of a test
+that has more than 30 parameters every so-many-th is used; both can only make fewer faults seen.
+--sample: only so many faults, taken by chance; --file: those of files whose name has this part; --again: what the last
+run saw is not tried again; --untried: what the last run tried is not; --recorded: what is known of a test from the last
+run is not learnt again. RESULTS keeps what was seen.
 """
 
 import argparse
 import collections
 import concurrent.futures
-import itertools
 import json
 import os
 import pathlib
@@ -28,6 +27,7 @@ import time
 
 HERE = pathlib.Path(__file__).resolve().parent
 FIRST_TESTS = 12
+NOISE = 2  # seconds that a test takes on a busy machine
 MEMORY = 6 << 20  # kilobytes of address space
 
 # Each test has the processes, the shared memory and the temporary files for itself, and all of them end with it.
@@ -97,12 +97,6 @@ def record_all(tests, size, folder, pool, is_known):
         print("These fail without a fault and see none:", *sorted(failed), sep="\n    ")
     tests = [test for test in tests if test.name not in failed]
     keep(path, {test.name: [test.seconds, sorted(test.faults)] for test in tests})
-    # Most of the time goes to the start of the program, which tests that run together have once.
-    starts = {}
-    for test in tests:
-        starts[test.command[0]] = min(test.seconds, starts.get(test.command[0], test.seconds))
-    for test in tests:
-        test.seconds += 0.01 - starts[test.command[0]]
     return tests
 
 
@@ -127,11 +121,9 @@ def thinned(tests, step):
     return [test for family in families.values() for test in family[::step if len(family) > 30 else 1]]
 
 
-def is_seen(number, tests, budget):
-    tests = sorted(tests, key=lambda test: test.seconds * len(test.faults))
-    spent = itertools.accumulate(test.seconds for test in tests)
-    tests = [test for test, seconds in zip(tests, spent) if seconds <= budget or test is tests[0]]
-    for part in (tests[:FIRST_TESTS], tests[FIRST_TESTS:]):
+def is_seen(number, tests, most):
+    tests = sorted(tests, key=lambda test: max(test.seconds, NOISE) * len(test.faults))
+    for part in (tests[:FIRST_TESTS], tests[FIRST_TESTS:most]):
         for command, folder, seconds in sorted(programs(part), key=lambda item: item[2]):
             if not run(command, folder, seconds, {"VRX_FAULT": str(number)}):
                 return True
@@ -143,17 +135,17 @@ def key_of(fault):
 
 
 def without_difference():
-    """What equivalent.txt tells: a file, below it the kind and the code of faults and their lines, and the reason."""
-    found = {}
-    file = kind = code = ""
-    for line in (HERE / "equivalent.txt").read_text().splitlines():
-        depth = (len(line) - len(line.lstrip())) // 4
+    """What equivalent.txt tells: below a file its lines, below each line the kinds and the code of faults, and why."""
+    found = set()
+    file = line = ""
+    for row in (HERE / "equivalent.txt").read_text().splitlines():
+        depth = (len(row) - len(row.lstrip())) // 4
         if depth == 0:
-            file = line
+            file = row
         elif depth == 1:
-            kind, code = line.strip().split(": ", 1)
+            line = row.strip()
         elif depth == 2:
-            found[file, kind, code] = line.strip()
+            found.add((file, line, row.strip()))
     return found
 
 
@@ -168,7 +160,8 @@ def report(faults, results):
         outcome = results.get(key)
         if outcome is None:
             continue
-        is_equivalent = outcome != "seen" and (key[:3] in equivalent)
+        place = (fault["file"], fault["text"], f"{fault['kind']}: {fault['code']}")
+        is_equivalent = outcome != "seen" and place in equivalent
         table["tried"] += 1
         table["reached"] += outcome != "not reached"
         table["equivalent"] += is_equivalent
@@ -195,8 +188,8 @@ def main():
     options.add_argument("--seed", type=int, default=1)
     options.add_argument("--jobs", type=int, default=2)
     options.add_argument("--thin", type=int, default=1)
-    options.add_argument("--budget", type=float, default=float("inf"))
-    for name in ("--again", "--recorded"):
+    options.add_argument("--most", type=int)
+    for name in ("--again", "--untried", "--recorded"):
         options.add_argument(name, action="store_true")
     options.add_argument("--file", default="")
     given = options.parse_args()
@@ -205,7 +198,7 @@ def main():
     results_path = pathlib.Path(given.results)
     kept = json.loads(results_path.read_text()) if results_path.is_file() else []
     last = {tuple(key): outcome for *key, outcome in kept}
-    results = dict(last) if given.again or given.file else {}
+    results = dict(last) if given.again or given.untried or given.file else {}
     lock = threading.Lock()
     with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
         size = 1 + max(fault["number"] for fault in faults)
@@ -214,7 +207,7 @@ def main():
 
         def attempt(fault):
             able = [test for test in tests if fault["number"] in test.faults]
-            outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able, given.budget) else "not seen"
+            outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able, given.most) else "not seen"
             with lock:
                 results[key_of(fault)] = outcome
                 keep(results_path, [[*key, result] for key, result in results.items()])
@@ -222,7 +215,8 @@ def main():
         chosen = [fault for fault in faults if given.file in fault["file"]]
         if given.sample:
             chosen = random.Random(given.seed).sample(chosen, min(given.sample, len(chosen)))
-        list(pool.map(attempt, [fault for fault in chosen if not given.again or last.get(key_of(fault)) != "seen"]))
+        done = {key for key, outcome in last.items() if given.untried or (given.again and outcome == "seen")}
+        list(pool.map(attempt, [fault for fault in chosen if key_of(fault) not in done]))
     return 0 if report(faults, results) >= 90 else 1
 
 
