@@ -79,7 +79,7 @@ protected:
     int_type uflow() override
     {
         const int_type unit = underflow();
-        m_next += traits_type::eq_int_type(unit, traits_type::eof()) ? 0 : 1;
+        m_next += traits_type::eq_int_type(unit, traits_type::eof()) ? 0U : 1U;
         return unit;
     }
 
