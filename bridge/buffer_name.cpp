@@ -32,7 +32,7 @@ bool hasForm(const Text& name)
 
 } // namespace
 
-bool isBufferName(const mp::wstring& name)
+bool isBufferName(mp::wstring_view name)
 {
     return hasForm(name);
 }

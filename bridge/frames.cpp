@@ -46,6 +46,11 @@ private:
     mp::wstring m_text;
 };
 
+std::string aboveLimit(std::size_t units)
+{
+    return std::to_string(units) + " units are above the limit of " + std::to_string(kMaxUnits);
+}
+
 } // namespace
 
 // False at the end of the stream. Memory grows with what really arrives.
@@ -80,7 +85,7 @@ std::optional<mp::wstring> FrameReader::read(const Wait& wait)
         }
         if (units > kMaxUnits)
         {
-            throw NoMessage("what stands on the pipe is no message");
+            throw NoMessage("what stands on the pipe is no message: " + aboveLimit(units));
         }
         isWhole = fill(kHeadSize + std::size_t{units} * 2, wait);
     }
@@ -107,7 +112,7 @@ void writeFrame(const Stream& stream, const mp::wstring& message, const Wait& wa
 {
     if (message.size() > kMaxUnits)
     {
-        throw std::length_error("A message of " + std::to_string(message.size()) + " units is too long for the pipe");
+        throw std::length_error("A message can't be sent: " + aboveLimit(message.size()));
     }
     std::string bytes;
     bytes.reserve(kHeadSize + message.size() * 2);

@@ -260,19 +260,12 @@ bool HostSession::sendObject(const std::shared_ptr<IExchangeObject>& object)
     ExchangeObjectWrapper envelope;
     envelope.set(object);
     envelope.setCompression(m_compression);
-    try
+    // The bodies of a block are in shared memory before there is a text that names it.
+    if (const auto bodies = std::dynamic_pointer_cast<ExcBlockGeometry>(object))
     {
-        return send(envelope);
+        m_undelivered.add(bodies->bufferName());
     }
-    catch (...)
-    {
-        // The bodies of a block are in shared memory before anybody is told of them.
-        if (const auto bodies = std::dynamic_pointer_cast<ExcBlockGeometry>(object))
-        {
-            bodies->own(true);
-        }
-        throw;
-    }
+    return send(envelope);
 }
 
 mp::wstring HostSession::receive()

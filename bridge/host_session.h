@@ -63,7 +63,8 @@ public:
     Result importFile(const std::shared_ptr<ImportOptions>& options, Listener& listener);
 
     /// The listener hears of the progress after each object. The translator may answer before it has got all objects,
-    /// and end. What it sends while one object is on its way must fit in a pipe, which is a megabyte or less: some
+    /// and end. An export that fails removes what it has sent and nobody has loaded, the bodies of blocks, too. What
+    /// the translator sends while one object is on its way must fit in a pipe, which is a megabyte or less: some
     /// hundred messages.
     Result exportFile(const std::shared_ptr<ExportOptions>& options, const ObjectSource& nextObject,
                       Listener& listener);

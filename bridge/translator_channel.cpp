@@ -158,15 +158,19 @@ std::optional<mp::wstring> TranslatorChannel::receiveObjectText()
         m_hasObjectsToCome = false;
         throw StreamError("the host ended within an export");
     }
-    requireRules(*text);
     const MessageHead head = peekEnvelope(*text);
-    m_undelivered.add(head.bufferName);
     m_hasObjectsToCome = head.kind == EMessageKind::Envelope;
     if (head.kind == EMessageKind::Command)
     {
         m_next = text; // from a host that does not tell the end
     }
-    return m_hasObjectsToCome ? text : std::nullopt;
+    if (!m_hasObjectsToCome)
+    {
+        return std::nullopt;
+    }
+    requireRules(*text);
+    m_undelivered.add(head.bufferName);
+    return text;
 }
 
 void TranslatorChannel::send(const Result& result)

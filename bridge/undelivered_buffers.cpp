@@ -10,6 +10,7 @@
 #include <array>
 #include <exception>
 #include <iterator>
+#include <new>
 
 namespace vrx::bridge
 {
@@ -30,6 +31,18 @@ bool isThere(const std::string& name)
     }
 }
 
+// On POSIX it needs no memory.
+void removeBuffer(mp::wstring_view name) noexcept
+{
+    if (isBufferName(name))
+    {
+        std::array<char, kBufferNameSize> narrow = {};
+        std::transform(name.begin(), name.end(), narrow.begin(),
+                       [](mp::wchar unit) { return static_cast<char>(unit); });
+        mp::SharedBuffer<char>::removeNarrow({narrow.data(), narrow.size()});
+    }
+}
+
 } // namespace
 
 UndeliveredBuffers::~UndeliveredBuffers()
@@ -39,9 +52,18 @@ UndeliveredBuffers::~UndeliveredBuffers()
 
 void UndeliveredBuffers::add(const mp::wstring& name)
 {
-    if (isBufferName(name))
+    if (!isBufferName(name))
+    {
+        return;
+    }
+    try
     {
         m_names.insert(mp::toNarrow(name));
+    }
+    catch (const std::bad_alloc&)
+    {
+        removeBuffer(name);
+        throw;
     }
 }
 
@@ -70,14 +92,7 @@ void UndeliveredBuffers::removeNamedIn(const mp::wstring& message) noexcept
             continue;
         }
         const std::size_t begin = std::min(place + key.size + kToValue.size(), message.size());
-        const mp::wstring_view value = mp::wstring_view(message).substr(begin, kBufferNameSize);
-        std::array<char, kBufferNameSize> name = {};
-        std::transform(value.begin(), value.end(), name.begin(),
-                       [](mp::wchar unit) { return static_cast<char>(unit); });
-        if (isBufferName({name.data(), name.size()}))
-        {
-            mp::SharedBuffer<char>::removeNarrow({name.data(), name.size()});
-        }
+        removeBuffer(mp::wstring_view(message).substr(begin, kBufferNameSize));
     }
 }
 

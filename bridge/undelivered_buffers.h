@@ -20,9 +20,8 @@ public:
     UndeliveredBuffers& operator=(const UndeliveredBuffers&) = delete;
     ~UndeliveredBuffers();
 
+    /// Adds a buffer, or the one that a message names. When that can't be done, it is removed from the system.
     void add(const mp::wstring& name);
-
-    /// Adds the one that a message names, or removes it from the system when that can't be done.
     void addFrom(const mp::wstring& message);
 
     /// Removes from the system what a message names that is not to be looked into.
@@ -37,7 +36,7 @@ public:
     /// Forgets those that are no more in the system, or another user's.
     void forgetLoaded();
 
-    /// Removes those that are left from the system. It needs no memory.
+    /// Removes those that are left from the system. On POSIX it needs no memory.
     void removeAll() noexcept;
 
 private:

@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -26,8 +25,9 @@ class SharedBuffer;
 
 /// A named block of bytes that outlives the process that made it: one process writes it, another reads and removes it.
 /// The content is exactly the bytes given to `write`; the size of the object is the length of the data.
-/// All operations throw `SharedMemoryException`, and `std::bad_alloc`. On POSIX only the user who made an object may
-/// open it. One thread at a time uses an object of this class; its static functions are for any thread.
+/// Operations throw `SharedMemoryException` and `std::bad_alloc` unless they are noexcept. On POSIX only the user who
+/// made an object may open it. One thread at a time uses an object of this class; its static functions are for any
+/// thread.
 template <>
 class VRX_API SharedBuffer<char>
 {
@@ -48,7 +48,8 @@ public:
     /// Takes the object of this name out of the system, and tells whether there was one.
     static bool remove(const wstring& name);
 
-    /// The same with a name in the system's narrow code page. On POSIX it needs no memory.
+    /// The same with a name in the system's narrow code page; false also for what is no name. On POSIX it needs no
+    /// memory.
     static bool removeNarrow(std::string_view narrowName) noexcept;
 
     /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.
@@ -63,7 +64,7 @@ public:
 
     /// The content, or its first bytes, no more than these. No other program can end this one by making the object
     /// shorter meanwhile: bytes that are there no more are zeros, or on Windows an error.
-    SharedCopy copy(std::uint64_t most = std::numeric_limits<std::uint64_t>::max()) const;
+    SharedCopy copy(std::uint64_t most = ~std::uint64_t{0}) const;
 
     /// The size of the content.
     std::uint64_t size() const;

@@ -30,7 +30,8 @@ constexpr ipc::native_error_t kNoMemory = ERROR_NOT_ENOUGH_MEMORY;
 constexpr ipc::native_error_t kNoMemory = ENOMEM;
 #endif
 
-// Zeros take no memory before they are written.
+// Where there is no room for them, the buffer could not be mapped either: it is that error. Zeros take no memory before
+// they are written.
 char* allocate(std::uint64_t size, bool zeros)
 {
     const auto count = static_cast<std::size_t>(size);

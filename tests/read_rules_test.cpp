@@ -30,9 +30,17 @@ ReadRules upToDepth(std::uint64_t count)
     return rules;
 }
 
+ReadRules upToObjects(std::uint64_t count)
+{
+    ReadRules rules;
+    rules.objects = count;
+    return rules;
+}
+
 struct Extent
 {
     std::uint64_t values = 1;
+    std::uint64_t objects = 0;
     std::uint64_t depth = 0;
 };
 
@@ -43,6 +51,7 @@ Extent extentOf(const JsonValue& value)
     const auto take = [&extent](const JsonValue& child) {
         const Extent inner = extentOf(child);
         extent.values += inner.values;
+        extent.objects += inner.objects;
         extent.depth = std::max(extent.depth, inner.depth);
     };
     if (value.IsObject())
@@ -60,7 +69,9 @@ Extent extentOf(const JsonValue& value)
             take(element);
         }
     }
-    extent.depth += value.IsObject() || value.IsArray() ? 1U : 0U;
+    const std::uint64_t own = value.IsObject() || value.IsArray() ? 1U : 0U;
+    extent.objects += own;
+    extent.depth += own;
     return extent;
 }
 
@@ -97,6 +108,9 @@ TEST(ReadRules, LimitTheValuesAndTheDepthOfTextsAndBinaryForms)
         EXPECT_EQ(errorOf(text, upToValues(extent.values)), "nothing");
         EXPECT_EQ(errorOf(text, upToValues(extent.values - 1)),
                   "The number of values is above the limit of " + std::to_string(extent.values - 1));
+        EXPECT_EQ(errorOf(text, upToObjects(extent.objects)), "nothing");
+        EXPECT_EQ(errorOf(text, upToObjects(extent.objects - 1)),
+                  "The number of objects and arrays is above the limit of " + std::to_string(extent.objects - 1));
         EXPECT_EQ(errorOf(text, upToDepth(extent.depth)), "nothing");
         EXPECT_EQ(errorOf(text, upToDepth(extent.depth - 1)),
                   "The depth is above the limit of " + std::to_string(extent.depth - 1));

@@ -123,6 +123,14 @@ TEST_F(Translator, FailsWhenAnObjectHasANameTwice)
     EXPECT_THAT(test::readAll(process().output()), testing::IsEmpty());
 }
 
+TEST_F(Translator, AnswersACommandAgainstTheRulesThatEndsAnExport)
+{
+    putExport();
+    put(WIDE(R"({"command":"ping","command":"ping"})"));
+    EXPECT_EQ(result().code(), vrx::Result::ECode::Ok);
+    EXPECT_EQ(result().message(), WIDE("This is no command: An object has two members of the name command"));
+}
+
 TEST_F(Translator, FailsWhenTheHostEndsWithinAnExport)
 {
     putExport();

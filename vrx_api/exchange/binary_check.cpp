@@ -23,7 +23,7 @@ struct NoRules
 {
     static constexpr bool isStrict() { return false; }
     static void values(std::uint64_t) {}
-    static void depth(std::uint64_t) {}
+    static void begin(std::uint64_t) {}
     static void beginObject() {}
     static void name(wstring_view) {}
     static void endObject() {}
@@ -161,7 +161,7 @@ private:
         m_end = next + size;
         m_object = object;
         m_nameAlone = false;
-        m_rules.depth(m_outer.size());
+        m_rules.begin(m_outer.size());
         if (object)
         {
             m_rules.beginObject();

@@ -32,7 +32,8 @@ public:
     /// How `writeObject` compresses a binary object.
     void setCompression(ECompression compression) { m_compression = compression; }
 
-    /// What `readObject` asks of its text, and of the contents of the object that it makes.
+    /// What `readObject` asks of its text, and of the contents of the object that it makes. It does not touch the
+    /// shared memory that a text names which breaks the rules.
     void setReadRules(const ReadRules& rules) { m_readRules = rules; }
 
 private:

@@ -23,21 +23,25 @@ std::uint64_t mostCompressed(std::uint64_t limit)
     return limit > ReadRules::kNoLimit / 2 ? ReadRules::kNoLimit : limit + limit / 8 + kRoom;
 }
 
-} // namespace
-
-PlainContent::PlainContent(const mp::SharedBuffer<char>& buffer, const ReadRules& rules)
+void requireSize(std::uint64_t size, bool isCompressed, const ReadRules& rules)
 {
-    // Nothing is copied that is too large. The buffer may change at any time: all else is decided by the copy.
-    constexpr std::uint64_t kBeginning = 3;
-    const std::uint64_t size = buffer.size();
-    const std::uint64_t limit =
-        isCompressed(buffer.copy(kBeginning)) ? mostCompressed(rules.plainBytes) : rules.plainBytes;
-    if (size > limit)
+    if (size > (isCompressed ? mostCompressed(rules.plainBytes) : rules.plainBytes))
     {
         throw std::length_error("Content of " + std::to_string(size) + " bytes is above the limit of " +
                                 std::to_string(rules.plainBytes) + " bytes");
     }
+}
+
+} // namespace
+
+PlainContent::PlainContent(const mp::SharedBuffer<char>& buffer, const ReadRules& rules)
+{
+    // Nothing is copied that is too large. The buffer may change at any time: it is the copy that counts.
+    constexpr std::uint64_t kBeginning = 3;
+    const std::uint64_t size = buffer.size();
+    requireSize(size, isCompressed(buffer.copy(kBeginning)), rules);
     m_copy = buffer.copy(size);
+    requireSize(m_copy.size(), isCompressed(m_copy), rules);
     if (isCompressed(m_copy))
     {
         Compressor::decompress(m_decompressed, m_copy.data(), m_copy.size(), rules);

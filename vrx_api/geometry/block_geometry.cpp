@@ -123,6 +123,11 @@ void ExcBlockGeometry::own(bool value)
     }
 }
 
+const wstring& ExcBlockGeometry::bufferName() const
+{
+    return m_buffer == nullptr ? m_source : m_buffer->name();
+}
+
 bool ExcBlockGeometry::setGeometry(const ENTITY_LIST& entities, bool compress)
 {
     kolt::trace();

@@ -40,6 +40,9 @@ public:
     /// Whether the buffer is removed from the system when the last copy of this object goes.
     void own(bool value);
 
+    /// The name of the buffer in shared memory, or empty while there is none.
+    const wstring& bufferName() const;
+
     /// Saves the bodies into a new buffer. A failure is logged and gives false; only a user's interrupt of the kernel,
     /// or a kernel that can't be entered, passes out as the kernel's exception, here and in `getGeometry`. Throws
     /// `std::length_error` when 4 GiB or more are to be compressed.

@@ -245,7 +245,7 @@ public:
 private:
     bool begin()
     {
-        m_rules.depth(++m_depth);
+        m_rules.begin(++m_depth);
         return Default();
     }
 

@@ -16,11 +16,12 @@ public:
 
     /// Writes the document; with `pretty` one member stands on a line and an array stays on one.
     /// Throws `std::runtime_error` for what JSON has no text for: a number that is not finite, or a name that is no
-    /// string. What stands before it is on the stream by then.
+    /// string; and for a stream that fails while it takes the text. What stands before that is on the stream by then. A
+    /// stream that had failed before takes nothing.
     static wostream& write(wostream& stream, const JsonDocument& document, bool pretty);
 
     /// Parses the stream up to its end or to a NUL. A text that is no JSON leaves the document as it was, with the
-    /// error in its parse result.
+    /// error in its parse result. Throws `std::bad_alloc`, which leaves null in it.
     static wistream& read(wistream& stream, JsonDocument& document);
 
     /// The same for a text that keeps the rules. The others throw before a value is made: `std::length_error` above a

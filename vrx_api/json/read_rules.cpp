@@ -22,6 +22,7 @@ ReadRules ReadRules::forUntrusted()
     ReadRules rules = strict();
     rules.plainBytes = std::uint64_t{2} << 30U;
     rules.values = 200'000'000;
+    rules.objects = 20'000'000;
     rules.depth = 100;
     return rules;
 }

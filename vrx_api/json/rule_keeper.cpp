@@ -32,6 +32,12 @@ void RuleKeeper::failByValues() const
     throw std::length_error("The number of values is above the limit of " + std::to_string(m_rules.values));
 }
 
+void RuleKeeper::failByObjects() const
+{
+    throw std::length_error("The number of objects and arrays is above the limit of " +
+                            std::to_string(m_rules.objects));
+}
+
 void RuleKeeper::failByDepth() const
 {
     throw std::length_error("The depth is above the limit of " + std::to_string(m_rules.depth));

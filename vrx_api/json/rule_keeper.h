@@ -17,6 +17,7 @@ public:
     explicit RuleKeeper(const ReadRules& rules)
         : m_rules(rules)
         , m_valuesLeft(rules.values)
+        , m_objectsLeft(rules.objects)
     {
     }
 
@@ -32,12 +33,17 @@ public:
     }
 
     /// An object or an array begins, as the innermost of so many.
-    void depth(std::uint64_t count) const
+    void begin(std::uint64_t depth)
     {
-        if (count > m_rules.depth)
+        if (depth > m_rules.depth)
         {
             failByDepth();
         }
+        if (m_objectsLeft == 0)
+        {
+            failByObjects();
+        }
+        --m_objectsLeft;
     }
 
     /// For strict readers: an object begins, has a name, which stays where it is, and ends.
@@ -77,10 +83,12 @@ private:
 
     void requireNamesOnce();
     [[noreturn]] void failByValues() const;
+    [[noreturn]] void failByObjects() const;
     [[noreturn]] void failByDepth() const;
 
     const ReadRules m_rules;
     std::uint64_t m_valuesLeft;
+    std::uint64_t m_objectsLeft;
     std::vector<Object> m_objects;     // that are open
     std::vector<wstring_view> m_names; // of all of them
 };
