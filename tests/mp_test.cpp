@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cstring>
+#include <fstream>
 #include <stdexcept>
 #include <thread>
 
@@ -335,15 +336,26 @@ TEST(SharedBuffer, OfWhichPagesAreMissingIsReadWithoutMakingThem)
     }
 }
 
+// Bytes of memory that this process takes.
+std::size_t residentSize()
+{
+    std::size_t all = 0;
+    std::size_t resident = 0;
+    std::ifstream("/proc/self/statm") >> all >> resident;
+    return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+}
+
 TEST(SharedBuffer, OfWhichMostPagesAreMissingCostsThoseThatItHas)
 {
     constexpr std::size_t kSize = std::size_t{1} << 30U;
     constexpr std::size_t kMiddle = kSize / 2 - 1;
     const SparseObject object(kSize, kMiddle);
     const blkcnt_t blocks = object.blocks();
+    const std::size_t residentBefore = residentSize();
     Buffer buffer;
     buffer.open(object.name(), true);
     const SharedCopy content = buffer.copy();
+    EXPECT_LT(residentSize(), residentBefore + kSize / 2);
     ASSERT_EQ(content.size(), kSize);
     EXPECT_EQ(std::string(content.data() + kMiddle - 1, 5), std::string("\0abc\0", 5));
     EXPECT_EQ(content.data()[0] + content.data()[kSize - 1], 0);

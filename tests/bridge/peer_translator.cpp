@@ -141,7 +141,8 @@ private:
                 break;
             }
         }
-        m_channel.send(resultOf(steps.empty() ? Result::ECode::Ok : Result::ECode::Error));
+        const bool isWhole = steps.empty() && m_channel.receiveObject() == nullptr; // again, and for ever
+        m_channel.send(resultOf(isWhole ? Result::ECode::Ok : Result::ECode::Error));
     }
 
     void doStep(const std::string& step)
