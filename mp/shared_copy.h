@@ -29,7 +29,7 @@ public:
 private:
     friend class SharedBuffer<char>;
 
-    struct Release
+    struct VRX_API Release
     {
         void operator()(char* bytes) const noexcept;
     };
