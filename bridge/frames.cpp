@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <stdexcept>
 #include <streambuf>
 #include <utility>
 
@@ -106,7 +107,7 @@ void writeFrame(const Stream& stream, const mp::wstring& message, const Wait& wa
 {
     if (message.size() > kMaxUnits)
     {
-        throw StreamError("a message is too long for the pipe");
+        throw std::length_error("A message of " + std::to_string(message.size()) + " units is too long for the pipe");
     }
     std::string bytes;
     bytes.reserve(kHeadSize + message.size() * 2);

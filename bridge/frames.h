@@ -55,7 +55,7 @@ private:
 /// One message, for those who read no second one after a wait that was given up.
 VRX_BRIDGE std::optional<mp::wstring> readFrame(const Stream& stream, const Wait& wait = {});
 
-/// Throws StreamError when the other side is gone.
+/// Throws StreamError when the other side is gone, and std::length_error for more than 2^26 units.
 VRX_BRIDGE void writeFrame(const Stream& stream, const mp::wstring& message, const Wait& wait = {});
 
 /// What the message writes of itself.

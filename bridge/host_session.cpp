@@ -4,6 +4,7 @@
 #include "kolt/log.h"
 #include "mp/narrow.h"
 #include "mp/shared_buffer.h"
+#include "vrx_api/geometry/block_geometry.h"
 
 #include <algorithm>
 #include <exception>
@@ -259,7 +260,19 @@ bool HostSession::sendObject(const std::shared_ptr<IExchangeObject>& object)
     ExchangeObjectWrapper envelope;
     envelope.set(object);
     envelope.setCompression(m_compression);
-    return send(envelope);
+    try
+    {
+        return send(envelope);
+    }
+    catch (...)
+    {
+        // The bodies of a block are in shared memory before anybody is told of them.
+        if (const auto bodies = std::dynamic_pointer_cast<ExcBlockGeometry>(object))
+        {
+            bodies->own(true);
+        }
+        throw;
+    }
 }
 
 mp::wstring HostSession::receive()

@@ -24,10 +24,10 @@ namespace vrx::bridge
 {
 
 /// A running translator: sends commands, hands on what comes back. Each operation throws TranslatorFailure when the
-/// translator dies, is silent for too long, breaks the protocol, or the host cancels; the translator has ended then.
-/// When the session ends, in whatever way, all shared memory that the translator left and the session has not loaded is
-/// removed from the system. One thread at a time uses a session, but for `cancel` and `isCancelled`; different sessions
-/// work in different threads at once.
+/// translator dies, is silent for too long, breaks the protocol, or the host cancels, and std::length_error for a
+/// message of more than 2^26 units; the translator has ended then. When the session ends, in whatever way, all shared
+/// memory that the translator left and the session has not loaded is removed from the system. One thread at a time uses
+/// a session, but for `cancel` and `isCancelled`; different sessions work in different threads at once.
 class VRX_BRIDGE HostSession
 {
 public:
@@ -107,9 +107,8 @@ private:
     ECompression m_compression = ECompression::AsTold;
     std::atomic<bool> m_isCancelled = false;
 
-    UndeliveredBuffers m_undelivered; // either way
-    // The names, in the narrow code page, of buffers which are the listener's affair
-    std::set<std::string, std::less<>> m_loaded;
+    UndeliveredBuffers m_undelivered;            // either way
+    std::set<std::string, std::less<>> m_loaded; // buffers that stay, by their names in the narrow code page
     BufferJournal m_journal;
     ChildProcess m_translator;
     FrameReader m_messages{m_translator.output()};

@@ -51,16 +51,27 @@ void reserveMemory(ipc::shared_memory_object& object, ipc::offset_t size)
     static_cast<void>(object);
     static_cast<void>(size);
 #else
-    int error = 0;
-    do
+    constexpr ipc::offset_t kSmall = ipc::offset_t{16} << 20U;
+    ipc::offset_t piece = size;
+    ipc::offset_t begin = 0;
+    while (begin < size)
     {
-        error = posix_fallocate(object.get_mapping_handle().handle, 0, size);
-    } while (error == EINTR);
-    if (error != 0)
-    {
-        // Nobody must find a size that no memory stands behind.
-        object.truncate(0);
-        throw ipc::interprocess_exception(ipc::error_info(error));
+        const int error = posix_fallocate(object.get_mapping_handle().handle, begin, std::min(piece, size - begin));
+        if (error == 0)
+        {
+            begin += piece;
+        }
+        else if (error == EINTR)
+        {
+            // It undoes what it has done. All at once would never end under a timer that is quicker.
+            piece = std::min(piece, kSmall);
+        }
+        else
+        {
+            // Nobody must find a size that no memory stands behind.
+            object.truncate(0);
+            throw ipc::interprocess_exception(ipc::error_info(error));
+        }
     }
 #endif
 }
@@ -264,10 +275,7 @@ void SharedBuffer<char>::fill(std::uint64_t size, const std::function<void(char*
     ipc::mapped_region region;
     withTurnedErrors([&] {
         shared.truncate(static_cast<ipc::offset_t>(size));
-        if (size != 0)
-        {
-            reserveMemory(shared, static_cast<ipc::offset_t>(size));
-        }
+        reserveMemory(shared, static_cast<ipc::offset_t>(size));
         region = ipc::mapped_region(shared, ipc::read_write);
         mapAllPages(region);
     });

@@ -27,7 +27,7 @@ class SharedBuffer;
 /// A named block of bytes that outlives the process that made it: one process writes it, another reads and removes it.
 /// The content is exactly the bytes given to `write`; the size of the object is the length of the data.
 /// All operations throw `SharedMemoryException`, and `std::bad_alloc`. On POSIX only the user who made an object may
-/// open it.
+/// open it. One thread at a time uses an object of this class; its static functions are for any thread.
 template <>
 class VRX_API SharedBuffer<char>
 {

@@ -256,13 +256,15 @@ TEST(Compressor, RefusesPlainDataAboveTheLimit)
     {
         const std::uint64_t size = decompressed(stream).size();
         vrx::Bytes out;
-        Compressor::decompress(out, stream.data(), stream.size(), {size});
+        Compressor::decompress(out, stream.data(), stream.size(), vrx::ReadRules::upToPlainBytes(size));
         EXPECT_EQ(out.size(), size);
         for (const std::uint64_t limit : {size - 1, size / 2, std::uint64_t{0}})
         {
             vrx::Bytes refused;
-            EXPECT_EQ(test::thrownBy<std::length_error>(
-                          [&] { Compressor::decompress(refused, stream.data(), stream.size(), {limit}); }),
+            EXPECT_EQ(test::thrownBy<std::length_error>([&] {
+                          Compressor::decompress(refused, stream.data(), stream.size(),
+                                                 vrx::ReadRules::upToPlainBytes(limit));
+                      }),
                       "Decompressed data is above the limit of " + std::to_string(limit) + " bytes");
             EXPECT_LE(refused.capacity(), limit + 1);
         }

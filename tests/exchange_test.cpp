@@ -433,18 +433,20 @@ TEST(Load, TakesNoMoreThanTheLimit)
     for (const auto& [content, text] : contents)
     {
         const wstring refused = test::leaveBuffer(content);
-        EXPECT_EQ(test::thrownBy<std::length_error>([&] { openedWithin({53}, refused, false); }), text);
+        EXPECT_EQ(
+            test::thrownBy<std::length_error>([&] { openedWithin(ReadRules::upToPlainBytes(53), refused, false); }),
+            text);
         EXPECT_EQ(test::takeBuffer(refused), "");
 
         const wstring refusedLater = test::leaveBuffer(content);
-        const auto object = openedWithin({53}, refusedLater, true);
+        const auto object = openedWithin(ReadRules::upToPlainBytes(53), refusedLater, true);
         EXPECT_EQ(test::thrownBy<std::length_error>([&] { object->load(); }), text);
         EXPECT_FALSE(object->isLoaded());
         EXPECT_EQ(test::takeBuffer(refusedLater), "");
     }
     for (const std::string& content : {plain, packed})
     {
-        EXPECT_TRUE(openedWithin({54}, test::leaveBuffer(content), false)->isLoaded());
+        EXPECT_TRUE(openedWithin(ReadRules::upToPlainBytes(54), test::leaveBuffer(content), false)->isLoaded());
     }
 }
 

@@ -279,12 +279,12 @@ TEST_F(SentBodies, AboveTheLimitThrow)
         send(compress);
         {
             ExcBlockGeometry geometry = received();
-            geometry.setReadRules({size - 1});
+            geometry.setReadRules(ReadRules::upToPlainBytes(size - 1));
             Bodies bodies;
             Ids ids;
             EXPECT_THROW(geometry.getGeometry(bodies.list(), ids), std::length_error);
             EXPECT_EQ(bodies.list().count() + static_cast<int>(ids.size()), 0);
-            geometry.setReadRules({size});
+            geometry.setReadRules(ReadRules::upToPlainBytes(size));
             expectBodies(geometry);
         }
         EXPECT_FALSE(isInSystem());

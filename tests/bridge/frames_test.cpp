@@ -76,7 +76,7 @@ TEST_F(Frames, AreNoTextWithoutACount)
 TEST_F(Frames, AreNoLongerThanAMessageMayBe)
 {
     constexpr std::size_t kMostUnits = 1U << 26;
-    EXPECT_THROW(writeFrame(writer(), mp::wstring(kMostUnits + 1, WIDE('x'))), StreamError);
+    EXPECT_THROW(writeFrame(writer(), mp::wstring(kMostUnits + 1, WIDE('x'))), std::length_error);
     put(std::string("\1\0\0\4", 4));
     EXPECT_THROW(readFrame(reader()), NoMessage);
     put(std::string("\0\0\0\4", 4));

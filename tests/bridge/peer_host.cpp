@@ -119,7 +119,7 @@ void talk(bridge::HostSession& session, const std::string& manner)
     }
     if (manner == "limits")
     {
-        session.setReadRules({10});
+        session.setReadRules(ReadRules::upToPlainBytes(10));
     }
     else if (manner == "loads")
     {

@@ -195,7 +195,7 @@ private:
 BinaryValue checkBinary(const char* data, std::uint64_t size, const ReadRules& rules)
 {
     const auto all = static_cast<std::size_t>(size);
-    rules.asksForForm() ? Checker(data, all, RuleKeeper(rules)).check() : Checker(data, all, NoRules()).check();
+    rules.hasRulesOfForm() ? Checker(data, all, RuleKeeper(rules)).check() : Checker(data, all, NoRules()).check();
     return BinaryValue(data);
 }
 

@@ -14,7 +14,7 @@ namespace vrx
 /// Compression of the binary form (RFC 1951 data): gzip streams (RFC 1952) are written, gzip and zlib (RFC 1950)
 /// streams are read. zlib sets the rules; where the library is built with libdeflate, that does most of the work, and
 /// takes some damaged streams that zlib refuses, when their checksum and size still fit the content. The data of one
-/// call must be below 4 GiB; otherwise `std::length_error` is thrown.
+/// call must be below 4 GiB; otherwise `std::length_error` is thrown. Any number of threads may use it at once.
 class VRX_API Compressor
 {
 public:

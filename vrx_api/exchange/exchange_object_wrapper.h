@@ -10,7 +10,7 @@ namespace vrx
 {
 
 /// The envelope in which an exchange object crosses: a small JSON text that names the object and holds its JSON, or the
-/// name of the shared memory buffer that holds its binary form.
+/// name of the shared memory buffer that holds its binary form. One thread at a time uses an envelope and its object.
 class VRX_API ExchangeObjectWrapper : public mp::ISerializable
 {
 public:

@@ -14,7 +14,8 @@ namespace vrx
 {
 
 /// The binary form of JSON: tagged little-endian values, in which no number is printed and no string escaped, so that a
-/// double comes back bit for bit. Neither direction recurses, whatever the depth of the tree.
+/// double comes back bit for bit. Neither direction recurses, whatever the depth of the tree. Any number of threads may
+/// use it at once, each with its own documents.
 class VRX_API JsonBinaryIO
 {
 public:

@@ -321,7 +321,7 @@ wistream& JsonTextIO::read(wistream& stream, JsonDocument& document, const ReadR
 
 void JsonTextIO::check(const wstring& text, const ReadRules& rules)
 {
-    if (!rules.asksForForm())
+    if (!rules.hasRulesOfForm())
     {
         return;
     }

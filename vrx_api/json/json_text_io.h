@@ -8,6 +8,7 @@ namespace vrx
 {
 
 /// The text form of JSON on a wide stream, which holds one value and no more: no byte order mark, no terminator.
+/// Any number of threads may use it at once, each with its own streams and documents.
 class VRX_API JsonTextIO
 {
 public:

@@ -3,6 +3,13 @@
 namespace vrx
 {
 
+ReadRules ReadRules::upToPlainBytes(std::uint64_t count)
+{
+    ReadRules rules;
+    rules.plainBytes = count;
+    return rules;
+}
+
 ReadRules ReadRules::strict()
 {
     ReadRules rules;

@@ -28,8 +28,11 @@ struct VRX_API ReadRules
     /// text with a NUL in it, a member's name that is no string, and a name twice in an object.
     bool isStrict = false;
 
-    /// Whether anything is asked of a text or a binary form.
-    bool asksForForm() const { return isStrict || values != kNoLimit || depth != kNoLimit; }
+    /// Whether there is a rule for texts and binary forms.
+    bool hasRulesOfForm() const { return isStrict || values != kNoLimit || depth != kNoLimit; }
+
+    /// Only a limit on the content.
+    static ReadRules upToPlainBytes(std::uint64_t count);
 
     /// Without limits.
     static ReadRules strict();

@@ -103,7 +103,7 @@ struct FieldShape
     wstring_view needs;           ///< The key of a boolean without which a reader passes over this one; or empty.
 };
 
-/// A class of the library that crosses.
+/// A class of the library that crosses. Shapes are never changed: any number of threads may look at them.
 class VRX_API ClassShape
 {
 public:

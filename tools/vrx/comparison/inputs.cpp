@@ -37,7 +37,8 @@ vrx::Bytes plainBytes(const Item& item, std::uint64_t limit)
     vrx::Bytes bytes;
     if (item.isCompressed)
     {
-        vrx::Compressor::decompress(bytes, item.content.data(), item.content.size(), {limit});
+        vrx::Compressor::decompress(bytes, item.content.data(), item.content.size(),
+                                    vrx::ReadRules::upToPlainBytes(limit));
     }
     else
     {

@@ -36,7 +36,7 @@ vrx::Bytes decompressed(const std::vector<char>& bytes, std::uint64_t limit)
     vrx::Bytes plain;
     try
     {
-        vrx::Compressor::decompress(plain, bytes.data(), bytes.size(), {limit});
+        vrx::Compressor::decompress(plain, bytes.data(), bytes.size(), vrx::ReadRules::upToPlainBytes(limit));
     }
     catch (const std::length_error& error)
     {
@@ -190,6 +190,7 @@ bool readSharedBuffer(const mp::wstring& name, std::vector<char>& bytes, std::ui
         }
         requireSize(buffer.size(), limit);
         const mp::SharedCopy content = buffer.copy(limit);
+        requireSize(buffer.size(), limit); // it may have grown
         bytes.assign(content.data(), content.data() + content.size());
         return true;
     }
