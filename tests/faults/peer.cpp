@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <exception>
+#include <stdexcept>
 
 using namespace vrx;
 
@@ -25,7 +26,12 @@ void receive(bridge::TranslatorChannel& channel)
 {
     while (const auto object = channel.receiveObject())
     {
-        channel.message(std::dynamic_pointer_cast<ExcProductStructure>(object)->productName());
+        const auto product = std::dynamic_pointer_cast<ExcProductStructure>(object);
+        if (!object->isLoaded())
+        {
+            throw std::runtime_error("bodies are not loaded");
+        }
+        channel.message(product == nullptr ? object->objectName() : product->productName());
     }
     channel.send(Result());
 }

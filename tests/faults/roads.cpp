@@ -102,6 +102,22 @@ private:
     std::unique_ptr<T> m_read;
 };
 
+// A failure of bodies is told by false.
+void require(bool isDone)
+{
+    if (!isDone)
+    {
+        throw std::runtime_error("there are no bodies");
+    }
+}
+
+std::shared_ptr<ExcBlockGeometry> blockOf(const test::Bodies& bodies, bool compresses)
+{
+    auto block = std::make_shared<ExcBlockGeometry>();
+    require(block->setGeometry(bodies.list(), compresses));
+    return block;
+}
+
 class Bodies : public OneWay
 {
 public:
@@ -116,8 +132,7 @@ public:
 protected:
     void write(mp::wostream& stream) override
     {
-        const auto geometry = std::make_shared<ExcBlockGeometry>();
-        require(geometry->setGeometry(m_saved.list(), m_compresses));
+        const auto geometry = blockOf(m_saved, m_compresses);
         try
         {
             ExchangeObjectWrapper envelope;
@@ -144,15 +159,6 @@ protected:
     void forgetRead() override { m_restored.reset(); }
 
 private:
-    // A failure of bodies is told by false.
-    static void require(bool isDone)
-    {
-        if (!isDone)
-        {
-            throw std::runtime_error("there are no bodies");
-        }
-    }
-
     bool m_compresses;
     test::Bodies m_saved;
     std::unique_ptr<test::Bodies> m_restored;
@@ -246,6 +252,8 @@ private:
 class Session : public Road
 {
 public:
+    Session() { m_bodies.addBrick("exported"); }
+
     void run() override
     {
         bridge::HostSession session({VRX_FAULTS_PEER});
@@ -255,16 +263,34 @@ public:
         const auto importOptions = Command::newImportOptions();
         session.importFile(importOptions, ear);
         const auto exportOptions = Command::newExportOptions();
-        std::shared_ptr<IExchangeObject> next = structure(WIDE("exported"));
+        int place = 0;
         session.exportFile(
-            exportOptions, [&next] { return std::exchange(next, nullptr); }, ear);
+            exportOptions, [&] { return exported(place++); }, ear);
         m_told = ear.told();
     }
     std::string result() override { return m_told; }
-    void forget() override { m_told = std::string(); }
+    void forget() override
+    {
+        m_told = std::string();
+        set_global_error_info(nullptr); // The kernel keeps its last error.
+    }
     bool startsProcess() const override { return true; }
 
 private:
+    std::shared_ptr<IExchangeObject> exported(int place) const
+    {
+        switch (place)
+        {
+        case 0:
+            return structure(WIDE("exported"));
+        case 1:
+            return blockOf(m_bodies, false);
+        default:
+            return nullptr;
+        }
+    }
+
+    test::Bodies m_bodies;
     std::string m_told;
 };
 
