@@ -242,8 +242,12 @@ TEST(Compressor, ASizeThatLiesCostsNoMemory)
 TEST(Compressor, RefusesWhatItCanNotDo)
 {
     std::string out;
-    EXPECT_EQ(test::thrownBy<std::runtime_error>([&] { Compressor::compress(out, "a", 1, 10); }),
-              "deflate init failed");
+    const std::string data = sample(5000);
+    for (const std::size_t size : {std::size_t{1}, data.size()})
+    {
+        EXPECT_EQ(test::thrownBy<std::runtime_error>([&] { Compressor::compress(out, data.data(), size, 10); }),
+                  "deflate init failed");
+    }
     const std::uint64_t tooMuch = std::uint64_t{1} << 32;
     EXPECT_THROW(Compressor::compress(out, "a", tooMuch, -1), std::length_error);
     EXPECT_THROW(Compressor::decompress(out, "a", tooMuch), std::length_error);
@@ -281,7 +285,7 @@ TEST(Compressor, TellsCompressedDataByItsFirstTwoBytes)
     {
         EXPECT_TRUE(is(hex)) << hex;
     }
-    for (const char* const hex : {"", "78", "789C", "1F8B", "780000", "1F8A00", "9C7800", "030000", "8B1F00"})
+    for (const char* const hex : {"", "78", "789C", "1F8B", "780000", "1F8A00", "009C00", "9C7800", "030000", "8B1F00"})
     {
         EXPECT_FALSE(is(hex)) << hex;
     }

@@ -351,6 +351,24 @@ TEST(Peek, LeavesTheBufferInPlace)
     EXPECT_FALSE(test::takeBuffer(head.bufferName).empty());
 }
 
+TEST(Load, IsTracedFromTheEnvelopeOn)
+{
+    const auto namesOf = [](const test::LogCapture& log) {
+        std::string names;
+        for (const std::string& line : log.lines("TRACE"))
+        {
+            names += line.substr(line.find("): ") + 3) + ' ';
+        }
+        return names;
+    };
+    const test::LogCapture writing;
+    const std::string envelope = envelopeOf(std::make_shared<ExcProductStructure>());
+    EXPECT_EQ(namesOf(writing), "writeObject writeObject compress ");
+    const test::LogCapture reading;
+    test::opened(envelope);
+    EXPECT_EQ(namesOf(reading), "readObject load decompress readObject ");
+}
+
 TEST(Load, IsOnceAndLater)
 {
     const std::string envelope = envelopeOf(structureNamed(WIDE("vise")));

@@ -112,6 +112,7 @@ TEST(JsonTextIO, TakesTheEscapeOfALoneLowSurrogateForItsUnit)
     const std::pair<const char*, wstring> rows[] = {
         {R"("\uDc0f\udFFFa\uDCA9")", {0xDC0F, 0xDFFF, u'a', 0xDCA9}},
         {R"("\ud800\udc00\udc00")", {0xD800, 0xDC00, 0xDC00}},
+        {R"("\n\uDC00")", {u'\n', 0xDC00}},
         {R"("\u0000\uDC00\\udc00")", {0, 0xDC00, u'\\', u'u', u'd', u'c', u'0', u'0'}},
     };
     for (const auto& [text, units] : rows)

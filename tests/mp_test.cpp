@@ -57,8 +57,8 @@ TEST(Narrow, ReplacesEachMalformedByte)
 {
     // A lone continuation, a cut sequence, an overlong one, a surrogate, a character behind the last.
     const std::pair<const char*, std::size_t> texts[] = {
-        {"80", 1},       {"E282", 2}, {"C0AF", 2},     {"E08080", 3}, {"EDA080", 3},
-        {"F4908080", 4}, {"F5", 1},   {"FC808080", 4}, {"FF", 1},
+        {"80", 1},     {"E282", 2},     {"C0AF", 2}, {"E08080", 3},   {"EDA080", 3},
+        {"EDB080", 3}, {"F4908080", 4}, {"F5", 1},   {"FC808080", 4}, {"FF", 1},
     };
     for (const auto& [hex, replaced] : texts)
     {
@@ -185,6 +185,17 @@ TEST(SharedBuffer, IsRemovedOnceByItsName)
     EXPECT_THROW(Buffer::remove({}), SharedMemoryException);
 }
 
+TEST(SharedBuffer, IsRemovedByOneThatFoundIt)
+{
+    const wstring name = test::leaveBuffer("left");
+    {
+        Buffer buffer;
+        EXPECT_TRUE(buffer.openExisting(name));
+        buffer.setRemoveOnClose(true);
+    }
+    EXPECT_FALSE(Buffer::remove(name));
+}
+
 TEST(SharedBuffer, IsToldOfBeforeItIsMade)
 {
     const wstring name = vrx::IExchangeObject::generateUUID();
@@ -307,19 +318,21 @@ TEST(SharedBuffer, ThatAnotherMakesShorterEndsNoReader)
 TEST(SharedBuffer, OfWhichPagesAreMissingIsReadWithoutMakingThem)
 {
     constexpr std::size_t kSize = 100001;
-    constexpr std::size_t kMiddle = 50000;
-    std::string expected(kSize, '\0');
-    expected.replace(kMiddle, 3, "abc");
+    for (const std::size_t place : {0U, 50000U})
+    {
+        std::string expected(kSize, '\0');
+        expected.replace(place, 3, "abc");
 
-    const SparseObject object(kSize, kMiddle);
-    const blkcnt_t blocks = object.blocks();
-    Buffer buffer;
-    buffer.open(object.name(), true);
-    EXPECT_TRUE(textOf(buffer.copy()) == expected);
-    std::vector<char> bytes;
-    buffer.read(bytes);
-    EXPECT_TRUE(std::equal(bytes.begin(), bytes.end(), expected.begin(), expected.end()));
-    EXPECT_EQ(object.blocks(), blocks);
+        const SparseObject object(kSize, static_cast<off_t>(place));
+        const blkcnt_t blocks = object.blocks();
+        Buffer buffer;
+        buffer.open(object.name(), true);
+        EXPECT_TRUE(textOf(buffer.copy()) == expected);
+        std::vector<char> bytes;
+        buffer.read(bytes);
+        EXPECT_TRUE(std::equal(bytes.begin(), bytes.end(), expected.begin(), expected.end()));
+        EXPECT_EQ(object.blocks(), blocks);
+    }
 }
 
 TEST(SharedBuffer, OfWhichMostPagesAreMissingCostsThoseThatItHas)

@@ -193,6 +193,9 @@ TEST(ReadRules, ForTheUntrustedAdmitAllClasses)
     {
         EXPECT_EQ(errorOf(row.out, ReadRules::forUntrusted()), "nothing") << row.out;
     }
+    const auto nested = [](std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); };
+    EXPECT_EQ(errorOf(nested(100), ReadRules::forUntrusted()), "nothing");
+    EXPECT_EQ(errorOf(nested(101), ReadRules::forUntrusted()), "The depth is above the limit of 100");
 }
 
 } // namespace

@@ -61,6 +61,48 @@ TEST(ChildProcess, IsKilledWhenItDoesNotHear)
     EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "a child is not cleared away";
 }
 
+TEST(ChildProcess, HasTheEnvironmentAndStandardError)
+{
+    ::setenv("VRX_TEST_WORDS", "two words", 1);
+    Pipe pipe = Stream::pipe();
+    const OwnedHandle before(::dup(STDERR_FILENO));
+    ::dup2(static_cast<int>(pipe.writeEnd.handle().get()), STDERR_FILENO);
+    ChildProcess child({"sh", "-c", "printf %s \"$VRX_TEST_WORDS\" >&2"});
+    ::dup2(static_cast<int>(before.get()), STDERR_FILENO);
+    pipe.writeEnd.close();
+    EXPECT_EQ(test::readAll(pipe.readEnd), "two words");
+    EXPECT_EQ(child.end(seconds(20)), "it exited with code 0");
+}
+
+TEST(ChildProcess, LeavesOtherChildren)
+{
+    ChildProcess other(peer({"words"}));
+    {
+        ChildProcess child(peer({"words"}));
+        child.end(seconds(20));
+        siginfo_t end = {};
+        ASSERT_EQ(::waitid(P_ALL, 0, &end, WEXITED | WNOWAIT), 0);
+    }
+    EXPECT_EQ(other.end(seconds(20)), "it exited with code 7");
+}
+
+TEST(ChildProcess, TakesSignalsThatItsStarterIgnores)
+{
+    for (const int signal : {SIGPIPE, SIGTERM, SIGXFSZ})
+    {
+        const auto before = std::signal(signal, SIG_IGN);
+        ChildProcess child({"sh", "-c", "kill -" + std::to_string(signal) + " $$"});
+        EXPECT_THAT(child.end(seconds(20)), testing::StartsWith("it was ended by signal " + std::to_string(signal)));
+        std::signal(signal, before);
+    }
+}
+
+TEST(ChildProcess, EndsWhenNobodyReadsWhatItWrites)
+{
+    ChildProcess child({"yes"});
+    EXPECT_EQ(child.end(seconds(20)), "it was ended by signal 13 (Broken pipe)");
+}
+
 TEST(ChildProcess, EndsWithItsObject)
 {
     char number[16] = "";
@@ -108,6 +150,24 @@ TEST(ChildProcess, NotesItsBuffersInEachJournal)
 }
 
 #ifndef _WIN32
+TEST(BufferJournal, TellsNamesBehindAnyBytes)
+{
+    const BufferJournal journal;
+    std::string bytes = std::string(5000, 'x') + '\0';
+    std::vector<mp::wstring> names;
+    for (int i = 0; i < 300; ++i)
+    {
+        names.push_back(vrx::IExchangeObject::generateUUID());
+        bytes += mp::toNarrow(names.back()) + '\0';
+    }
+    ASSERT_EQ(::write(static_cast<int>(journal.inherited()), bytes.data(), bytes.size()),
+              static_cast<ssize_t>(bytes.size()));
+    std::vector<mp::wstring> told = journal.names();
+    ASSERT_EQ(told.size(), names.size() + 1);
+    told.erase(told.begin());
+    EXPECT_TRUE(told == names);
+}
+
 TEST(BufferJournal, OfAHostileChildCostsLittle)
 {
     const BufferJournal journal;

@@ -1,4 +1,5 @@
 #include "support.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <gmock/gmock.h>
 
@@ -52,6 +53,11 @@ protected:
         command.setExportOptions(vrx::Command::newExportOptions());
         put(vrx::bridge::toText(command));
     }
+    void putObject(const mp::wstring& object, const mp::wstring& buffer) const
+    {
+        put(WIDE(R"({"exchange_object_name":")") + object + WIDE(R"(","binary":true,"exchange_object_data":")") +
+            buffer + WIDE("\"}"));
+    }
     vrx::Result result() const
     {
         vrx::Result result;
@@ -81,7 +87,7 @@ TEST_F(Translator, DropsAnObjectThatItDoesNotKnow)
     mp::SharedBuffer<char> buffer;
     buffer.open(name, false);
     putExport();
-    put(WIDE(R"({"exchange_object_name":"exc_newer","binary":true,"exchange_object_data":")") + name + WIDE("\"}"));
+    putObject(WIDE("exc_newer"), name);
     put(vrx::bridge::toText(vrx::Result()));
     EXPECT_EQ(result().code(), vrx::Result::ECode::Ok);
     EXPECT_FALSE(mp::SharedBuffer<char>::remove(name));
@@ -93,6 +99,28 @@ TEST_F(Translator, TakesTheNextCommandForTheEndOfAnExport)
     put(WIDE(R"({"command":"ping"})"));
     EXPECT_EQ(result().code(), vrx::Result::ECode::Ok);
     EXPECT_EQ(result().code(), vrx::Result::ECode::Ok);
+}
+
+TEST_F(Translator, FailsWhenBytesStandBehindAnObject)
+{
+    constexpr char kObjectAndMore[] = "\3\0\0\0\0\0\0\0\0\0\0\0";
+    const mp::wstring name = vrx::IExchangeObject::generateUUID();
+    mp::SharedBuffer<char> buffer;
+    buffer.open(name, true);
+    buffer.write(kObjectAndMore, sizeof(kObjectAndMore));
+    putExport();
+    putObject(vrx::ExcProductStructure::objName(), name);
+    process().closeInput();
+    EXPECT_THAT(test::readAll(process().output()), testing::IsEmpty());
+}
+
+TEST_F(Translator, FailsWhenAnObjectHasANameTwice)
+{
+    putExport();
+    put(WIDE(R"({"exchange_object_name":"exc_product_structure","binary":false,"binary":false,)"
+             R"("exchange_object_data":{}})"));
+    process().closeInput();
+    EXPECT_THAT(test::readAll(process().output()), testing::IsEmpty());
 }
 
 TEST_F(Translator, AnswersACommandAgainstTheRulesThatEndsAnExport)

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <string>
 #include <thread>
 
@@ -123,6 +124,20 @@ TEST_F(Frames, AreKnownToBeThereBeforeTheyAreRead)
 }
 
 #ifndef _WIN32
+TEST_F(Frames, LeaveASignalThatWasPending)
+{
+    sigset_t signal;
+    sigemptyset(&signal);
+    sigaddset(&signal, SIGPIPE);
+    pthread_sigmask(SIG_BLOCK, &signal, nullptr);
+    std::raise(SIGPIPE);
+    closeReader();
+    EXPECT_THROW(writeFrame(writer(), WIDE("text")), StreamError);
+    const timespec now = {};
+    EXPECT_EQ(sigtimedwait(&signal, nullptr, &now), SIGPIPE);
+    pthread_sigmask(SIG_UNBLOCK, &signal, nullptr);
+}
+
 TEST_F(Frames, AreNotWrittenForEverIntoAFullPipe)
 {
     const mp::wstring longText(3000000, WIDE('x'));

@@ -5,6 +5,7 @@
 #include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
@@ -217,6 +218,10 @@ private:
 #ifndef _WIN32
             std::signal(SIGTERM, SIG_IGN);
 #endif
+        }
+        else if (step == "told")
+        {
+            std::raise(SIGTERM);
         }
         else if (step == "hang")
         {

@@ -1,5 +1,6 @@
 #include "support.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
+#include "vrx_api/vrx_api_exchange_structure.h"
 
 #include <gmock/gmock.h>
 
@@ -52,6 +53,14 @@ const SessionCase kCases[] = {
      "message now one\nexc_product_structure one\nmessage now two\nexc_product_structure two\nresult 1\nping "
      "failure 0 ",
      2},
+#ifndef _WIN32
+    {"TranslatorThatIsToldToEnd",
+     "dawdles",
+     {"one", "two", "told"},
+     "message now one\nexc_product_structure one\nmessage now two\nexc_product_structure two\nresult 1\nping "
+     "failure 0 ",
+     2},
+#endif
     {"HostThatPicks", "picks", {"one", "bodies"}, "message now one\nexc_block_geometry\nresult 1\nping 1\n", 2},
     {"NewerTranslator", "loads", {"newer"}, "result 1\nping 1\n", 1},
     {"KilledTranslator",
@@ -187,6 +196,20 @@ TEST(SessionCommand, GoesByTheInterfaceOfItsOptions)
     session.importFile(Command::newLegacyImportOptions(), messages);
     session.exportFile(Command::newLegacyExportOptions(), nothing, messages);
     EXPECT_EQ(messages.texts(), std::vector<mp::wstring>(2, WIDE("by the older interface")));
+}
+
+TEST(SessionCommand, AsksForNoMoreObjectsAfterTheAnswer)
+{
+    vrx::bridge::HostSession session({VRX_BRIDGE_TEST_PEER, "translator", "stray"});
+    vrx::bridge::Listener listener;
+    constexpr int kAll = 300;
+    int asked = 0;
+    const auto next = [&asked] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(asked == 0 ? 0 : 10));
+        return ++asked == kAll ? nullptr : std::make_shared<vrx::ExcProductStructure>();
+    };
+    EXPECT_EQ(session.exportFile(vrx::Command::newExportOptions(), next, listener).code(), vrx::Result::ECode::Error);
+    EXPECT_LT(asked, kAll);
 }
 
 #ifndef _WIN32

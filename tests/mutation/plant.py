@@ -4,8 +4,8 @@
 usage: plant.py COMPILE_COMMANDS TREE FAULTS FOLDER...
 
 Parses the sources of the folders as the compiler does, and writes them into TREE so that each fault is a choice at run
-time (planted.h). All other files are copied as they are. FAULTS gets the list. Each file has numbers of its own, so that
-a change to one leaves the others as they were built.
+time (planted.h). All other files are copied as they are. FAULTS gets the list. Each file has numbers of its own, so
+that a change to one leaves the others as they were built.
 """
 
 import json
@@ -146,13 +146,13 @@ class Planter:
         for place, child in enumerate(children):
             if kind == Kind.CASE_STMT and place == 0:
                 self.pass_over(child)
-            elif kind in NAMES and unwrapped(child).kind in LITERALS:
+            elif kind in NAMES and unwrapped(child).kind in LITERALS | {Kind.DECL_REF_EXPR}:
                 self.pass_over(child)  # template arguments
             elif kind in (Kind.VAR_DECL, Kind.FIELD_DECL) and (
                     begin(child) < name_end and child.kind not in (Kind.CALL_EXPR,)
                     or self.source.before(begin(child)) in "[:"):
                 self.pass_over(child)  # types, sizes of arrays, bit-fields
-            elif kind == Kind.IF_STMT and place == 0 and "constexpr" in self.source.text(begin(node), begin(child)):
+            elif place == 0 and self.is_constant_if(node):
                 self.pass_over(child)
             else:
                 self.walk(child)
@@ -166,6 +166,10 @@ class Planter:
             return is_constexpr  # a template of a variable
         return node.kind == Kind.VAR_DECL and (
             is_constexpr or node.semantic_parent.kind in (Kind.NAMESPACE, Kind.TRANSLATION_UNIT))
+
+    def is_constant_if(self, node):
+        condition = next(node.get_children(), None)
+        return node.kind == Kind.IF_STMT and "constexpr" in self.source.text(begin(node), begin(condition))
 
     def plant_at(self, node):
         kind = node.kind
@@ -228,6 +232,8 @@ class Planter:
             self.source.plant("statement left out", node, "if (!{on}) ")
 
     def condition(self, node):
+        if self.is_constant_if(node):
+            return
         if node.kind == Kind.CONDITIONAL_OPERATOR:
             self.negate(next(node.get_children()))
             return
@@ -274,8 +280,8 @@ def is_ours(path, folders):
 
 
 def our_files():
-    names = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT, check=True,
-                           capture_output=True, text=True).stdout.split("\0")
+    names = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"], cwd=ROOT,
+                           check=True, capture_output=True, text=True).stdout.split("\0")
     return sorted(path for path in map(ROOT.joinpath, filter(None, names)) if path.is_file())
 
 

@@ -1,15 +1,17 @@
 #!/usr/bin/python3
 """Tells which planted faults no test sees.
 
-usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--again] [--untried] [--file PART] [--recorded] [--jobs N]
-                     [--most N] [--thin N]
+usage: try_faults.py BUILD FAULTS RESULTS [--sample N] [--seed S] [--file PART] [--again] [--resume] [--minutes N]
+                     [--most N] [--thin N] [--jobs N]
 
 Runs each test of BUILD once to learn which faults it comes by, then each fault with the tests that come by it, until
-one fails: first those that are quick and come by few faults. --most: at most so many tests for one fault; --thin: of a test
-that has more than 30 parameters every so-many-th is used; both can only make fewer faults seen.
---sample: only so many faults, taken by chance; --file: those of files whose name has this part; --again: what the last
-run saw is not tried again; --untried: what the last run tried is not; --recorded: what is known of a test from the last
-run is not learnt again. RESULTS keeps what was seen.
+one fails: first those that are quick and come by few faults. RESULTS keeps what was seen.
+--sample: only so many faults, taken by chance from the seed; --file: those of files whose name has this part.
+--again: what the last run saw is not tried again. --resume: goes on after an interrupted run: what it tried is not
+tried again, and what it learnt of a test is not learnt again; with --again only the latter. --minutes: no fault is
+begun after this time.
+--most: at most so many tests for one fault; --thin: of a test that has more than 30 parameters every so-many-th is
+used. Both can only make fewer faults seen.
 """
 
 import argparse
@@ -27,7 +29,7 @@ import time
 
 HERE = pathlib.Path(__file__).resolve().parent
 FIRST_TESTS = 12
-NOISE = 2  # seconds that a test takes on a busy machine
+NOISE = 0.5  # seconds: below it tests count as equally quick
 MEMORY = 6 << 20  # kilobytes of address space
 
 # Each test has the processes, the shared memory and the temporary files for itself, and all of them end with it.
@@ -51,11 +53,14 @@ class Test:
 
 
 def run(command, folder, seconds, environment):
-    """True when the command succeeds within the limits. Time in a queue for the processor counts little."""
-    limits = [str(MEMORY), str(int(10 + 10 * seconds)), str(int(30 + 20 * seconds))]
-    return subprocess.run(APART + ["sh", "-c", WITHIN, "sh"] + limits + command, cwd=folder,
-                          env={**os.environ, **environment}, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                          stderr=subprocess.DEVNULL, check=False).returncode == 0
+    """Whether the command succeeds within the limits, and the seconds of processor time that it took."""
+    limits = [str(MEMORY), str(int(5 + 5 * seconds)), str(int(30 + 20 * seconds))]
+    process = subprocess.Popen(APART + ["sh", "-c", WITHIN, "sh"] + limits + command, cwd=folder,
+                               env={**os.environ, **environment}, stdin=subprocess.DEVNULL,
+                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    _, status, used = os.wait4(process.pid, 0)
+    process.returncode = os.waitstatus_to_exitcode(status)
+    return process.returncode == 0, used.ru_utime + used.ru_stime
 
 
 def keep(path, data):
@@ -76,9 +81,7 @@ def record(test, size, folder):
     with tempfile.NamedTemporaryFile(dir=folder) as reached:
         reached.write(bytes(size))
         reached.flush()
-        start = time.monotonic()
-        passed = run(test.command, test.folder, 100, {"VRX_FAULT_RECORD": reached.name})
-        test.seconds = time.monotonic() - start
+        passed, test.seconds = run(test.command, test.folder, 100, {"VRX_FAULT_RECORD": reached.name})
         test.faults = {number for number, byte in enumerate(pathlib.Path(reached.name).read_bytes()) if byte}
     return passed
 
@@ -125,7 +128,7 @@ def is_seen(number, tests, most):
     tests = sorted(tests, key=lambda test: max(test.seconds, NOISE) * len(test.faults))
     for part in (tests[:FIRST_TESTS], tests[FIRST_TESTS:most]):
         for command, folder, seconds in sorted(programs(part), key=lambda item: item[2]):
-            if not run(command, folder, seconds, {"VRX_FAULT": str(number)}):
+            if not run(command, folder, seconds, {"VRX_FAULT": str(number)})[0]:
                 return True
     return False
 
@@ -189,7 +192,8 @@ def main():
     options.add_argument("--jobs", type=int, default=2)
     options.add_argument("--thin", type=int, default=1)
     options.add_argument("--most", type=int)
-    for name in ("--again", "--untried", "--recorded"):
+    options.add_argument("--minutes", type=float, default=float("inf"))
+    for name in ("--again", "--resume"):
         options.add_argument(name, action="store_true")
     options.add_argument("--file", default="")
     given = options.parse_args()
@@ -198,16 +202,21 @@ def main():
     results_path = pathlib.Path(given.results)
     kept = json.loads(results_path.read_text()) if results_path.is_file() else []
     last = {tuple(key): outcome for *key, outcome in kept}
-    results = dict(last) if given.again or given.untried or given.file else {}
+    results = dict(last) if given.again or given.resume or given.file else {}
     lock = threading.Lock()
+    stop = time.monotonic() + 60 * given.minutes
     with concurrent.futures.ThreadPoolExecutor(given.jobs) as pool:
         size = 1 + max(fault["number"] for fault in faults)
-        tests = record_all(thinned(tests_of(given.build), given.thin), size, results_path.resolve().parent, pool, given.recorded)
+        tests = record_all(thinned(tests_of(given.build), given.thin), size, results_path.resolve().parent, pool,
+                           given.resume)
         print(f"{len(tests)} tests recorded", flush=True)
 
         def attempt(fault):
+            if time.monotonic() > stop:
+                return
             able = [test for test in tests if fault["number"] in test.faults]
-            outcome = "not reached" if not able else "seen" if is_seen(fault["number"], able, given.most) else "not seen"
+            is_found = bool(able) and is_seen(fault["number"], able, given.most)
+            outcome = "seen" if is_found else "not seen" if able else "not reached"
             with lock:
                 results[key_of(fault)] = outcome
                 keep(results_path, [[*key, result] for key, result in results.items()])
@@ -215,7 +224,7 @@ def main():
         chosen = [fault for fault in faults if given.file in fault["file"]]
         if given.sample:
             chosen = random.Random(given.seed).sample(chosen, min(given.sample, len(chosen)))
-        done = {key for key, outcome in last.items() if given.untried or (given.again and outcome == "seen")}
+        done = {key for key, outcome in last.items() if (outcome == "seen" if given.again else given.resume)}
         list(pool.map(attempt, [fault for fault in chosen if key_of(fault) not in done]))
     return 0 if report(faults, results) >= 90 else 1
 
