@@ -4,6 +4,7 @@
 #include "mp/narrow.h"
 
 #include <algorithm>
+#include <memory>
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
@@ -54,16 +55,20 @@ std::wstring upperName(const std::wstring& entry)
     return name;
 }
 
+struct FreeEnvironment
+{
+    void operator()(wchar_t* block) const noexcept { FreeEnvironmentStringsW(block); }
+};
+
 // The environment of this process, with the journals; sorted by names, as the system wants it.
 std::wstring environmentWith(const std::vector<NativeHandle>& journals)
 {
     std::vector<std::wstring> entries;
-    wchar_t* const block = GetEnvironmentStringsW();
-    for (const wchar_t* entry = block; *entry != 0; entry += entries.back().size() + 1)
+    const std::unique_ptr<wchar_t, FreeEnvironment> block(GetEnvironmentStringsW());
+    for (const wchar_t* entry = block.get(); *entry != 0; entry += entries.back().size() + 1)
     {
         entries.emplace_back(entry);
     }
-    FreeEnvironmentStringsW(block);
     const std::wstring name = mp::toWide(kJournalsVariable);
     entries.erase(std::remove_if(entries.begin(), entries.end(),
                                  [&name](const std::wstring& entry) { return upperName(entry) == name; }),

@@ -31,7 +31,7 @@ bool isThere(const std::string& name)
     }
 }
 
-// On POSIX it needs no memory.
+// It needs no memory, on Windows once a buffer was opened.
 void removeBuffer(mp::wstring_view name) noexcept
 {
     if (isBufferName(name))

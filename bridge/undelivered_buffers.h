@@ -36,7 +36,7 @@ public:
     /// Forgets those that are no more in the system, or another user's.
     void forgetLoaded();
 
-    /// Removes those that are left from the system. On POSIX it needs no memory.
+    /// Removes those that are left from the system. It needs no memory, on Windows once a buffer was opened.
     void removeAll() noexcept;
 
 private:

@@ -1,7 +1,7 @@
 #include "kolt/logger.h"
 
+#include <array>
 #include <ctime>
-#include <iomanip>
 #include <locale>
 #include <memory>
 #include <thread>
@@ -34,7 +34,8 @@ const char* tag(int level)
     }
 }
 
-std::tm localTime()
+// Without memory std::put_time ends the process with some runtimes.
+std::array<char, 32> localTime()
 {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
@@ -43,7 +44,9 @@ std::tm localTime()
 #else
     localtime_r(&now, &local);
 #endif
-    return local;
+    std::array<char, 32> text{};
+    std::strftime(text.data(), text.size(), "%d.%m.%Y %H:%M:%S", &local);
+    return text;
 }
 
 } // namespace
@@ -64,8 +67,7 @@ bool Logger::isOpen() const
 
 std::ostream& Logger::begin(int level)
 {
-    const std::tm now = localTime();
-    m_file << tag(level) << '[' << std::put_time(&now, "%d.%m.%Y %H:%M:%S") << "] ";
+    m_file << tag(level) << '[' << localTime().data() << "] ";
     return m_file;
 }
 

@@ -21,6 +21,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
+#include <exception>
 #include <new>
 #include <utility>
 
@@ -92,6 +93,31 @@ void mapAllPages(const ipc::mapped_region& region)
 bool isPath(std::string_view name)
 {
     return name.find_first_of("/\\:") != std::string_view::npos;
+}
+
+// With a separator at its end; known from the first object on, when there may be no memory for it.
+const std::string& objectFolder()
+{
+    static const std::string folder = [] {
+        std::string path;
+        ipc::ipcdetail::get_shared_dir(path);
+        return path + '/';
+    }();
+    return folder;
+}
+
+// The layer below first gives an object that is open another name, for which it needs memory.
+bool removeFile(std::string_view name)
+{
+    const std::string_view folder = objectFolder();
+    std::array<char, MAX_PATH> path = {};
+    if (folder.size() + name.size() >= path.size())
+    {
+        return false;
+    }
+    char* const nameInPath = path.data() + folder.copy(path.data(), folder.size());
+    name.copy(nameInPath, name.size());
+    return ipc::shared_memory_object::remove(nameInPath) || DeleteFileA(path.data()) != 0;
 }
 #endif
 
@@ -175,6 +201,9 @@ void SharedBuffer<char>::open(const wstring& name, bool removeOnClose)
         watcher(name);
     }
     withTurnedErrors([&] {
+#ifdef _WIN32
+        objectFolder();
+#endif
         m_object = std::make_unique<ipc::shared_memory_object>(ipc::open_or_create, narrowName.c_str(), ipc::read_write,
                                                                ownerOnly());
     });
@@ -218,9 +247,9 @@ bool SharedBuffer<char>::removeNarrow(std::string_view narrowName) noexcept
 #ifdef _WIN32
     try
     {
-        return !isPath(narrowName) && ipc::shared_memory_object::remove(std::string(narrowName).c_str());
+        return !isPath(narrowName) && removeFile(narrowName);
     }
-    catch (const std::bad_alloc&)
+    catch (const std::exception&)
     {
         return false;
     }

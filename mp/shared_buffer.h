@@ -48,8 +48,8 @@ public:
     /// Takes the object of this name out of the system, and tells whether there was one.
     static bool remove(const wstring& name);
 
-    /// The same with a name in the system's narrow code page; false also for what is no name. On POSIX it needs no
-    /// memory.
+    /// The same with a name in the system's narrow code page; false also for what is no name. It needs no memory, on
+    /// Windows once `open` was called.
     static bool removeNarrow(std::string_view narrowName) noexcept;
 
     /// Replaces the content. To write nothing empties the object and throws: `clear` is for that.

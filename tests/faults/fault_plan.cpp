@@ -3,16 +3,9 @@
 #include "mp/narrow.h"
 #include "mp/shared_buffer.h"
 
-#include <sys/mman.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <cstdlib>
 #include <cstring>
-#include <iterator>
 #include <new>
-#include <system_error>
 
 namespace faults
 {
@@ -20,22 +13,11 @@ namespace faults
 namespace
 {
 
-constexpr const char* kPlanVariable = "VRX_FAULT_PLAN"; // the file of the plan that a process joins
 constexpr int kNobody = 0;
 constexpr int kWhoeverJoins = -1;
 
 FaultPlan ownPlan;
 FaultPlan* plan = &ownPlan;
-
-void* mapped(int file)
-{
-    void* const place = ::mmap(nullptr, sizeof(FaultPlan), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
-    if (place == MAP_FAILED) // NOLINT: as the system has it
-    {
-        throw std::system_error(errno, std::generic_category(), "the plan of faults");
-    }
-    return place;
-}
 
 } // namespace
 
@@ -46,35 +28,36 @@ FaultPlan& FaultPlan::instance()
 
 void FaultPlan::share()
 {
-    const int file = ::memfd_create("vrx fault plan", 0);
-    if (file < 0 || ::ftruncate(file, sizeof(FaultPlan)) != 0)
-    {
-        throw std::system_error(errno, std::generic_category(), "the plan of faults");
-    }
-    plan = new (mapped(file)) FaultPlan();
-    ::setenv(kPlanVariable, std::to_string(file).c_str(), 1); // NOLINT(concurrency-mt-unsafe): there is one thread
+    plan = new (makeSharedMemory(sizeof(FaultPlan))) FaultPlan();
 }
 
 void FaultPlan::join()
 {
-    if (const char* const file = std::getenv(kPlanVariable)) // NOLINT(concurrency-mt-unsafe): there is one thread
+    if (void* const memory = inheritedSharedMemory(sizeof(FaultPlan)))
     {
-        plan = static_cast<FaultPlan*>(mapped(std::atoi(file))); // NOLINT(cert-err34-c)
+        plan = static_cast<FaultPlan*>(memory);
         int expected = kWhoeverJoins;
-        plan->m_process.compare_exchange_strong(expected, ::getpid());
+        plan->m_process.compare_exchange_strong(expected, thisProcess());
     }
+}
+
+void FaultPlan::leave()
+{
+    int expected = thisProcess();
+    plan->m_process.compare_exchange_strong(expected, kNobody);
 }
 
 void FaultPlan::arm(const Fault& fault)
 {
     armForOther(fault);
-    m_process = ::getpid();
+    m_process = thisProcess();
 }
 
 void FaultPlan::armForOther(const Fault& fault)
 {
     m_fault = fault;
     m_count = 0;
+    m_struck = {};
     m_process = kWhoeverJoins;
 }
 
@@ -84,14 +67,25 @@ bool FaultPlan::disarm()
     return m_count >= m_fault.place;
 }
 
-bool FaultPlan::strikes(ECalls calls, EMode mode)
+bool FaultPlan::strikes(ECalls calls, EMode mode, const char* call)
 {
-    if (m_process <= kNobody || m_fault.calls != calls || m_fault.mode != mode || m_process != ::getpid())
+    if (m_process <= kNobody || m_fault.calls != calls || m_fault.mode != mode || m_process != thisProcess())
     {
         return false;
     }
     const int place = ++m_count;
-    return place == m_fault.place || (mode == EMode::FailsOnward && place > m_fault.place);
+    const bool strikes = place == m_fault.place || (mode == EMode::FailsOnward && place > m_fault.place);
+    if (strikes)
+    {
+        std::strncpy(m_struck.data(), call, m_struck.size() - 1);
+    }
+    return strikes;
+}
+
+bool FaultPlan::hasNoMemory()
+{
+    return strikes(ECalls::Allocations, EMode::Fails, "malloc") ||
+           strikes(ECalls::Allocations, EMode::FailsOnward, "malloc");
 }
 
 void FaultPlan::noteObject(const char* name)
@@ -101,7 +95,7 @@ void FaultPlan::noteObject(const char* name)
         m_objects.begin(), end, [name](const Object& object) { return std::strcmp(object.name.data(), name) == 0; });
     if (noted == end && end != m_objects.end())
     {
-        end->process = ::getpid();
+        end->process = thisProcess();
         std::strncpy(end->name.data(), name, end->name.size() - 1);
         ++m_objectCount;
     }

@@ -45,6 +45,9 @@ public:
     /// A started process takes the fault that was meant for it. Does nothing without a plan.
     static void join();
 
+    /// No fault happens to it any more.
+    static void leave();
+
     /// From now on the calls of this process count, or those of the process that joins.
     void arm(const Fault& fault);
     void armForOther(const Fault& fault);
@@ -53,10 +56,19 @@ public:
     bool disarm();
 
     /// Counts a call, and tells whether the fault happens to it.
-    bool strikes(ECalls calls, EMode mode);
+    bool strikes(ECalls calls, EMode mode, const char* call);
+
+    /// The same for an allocation.
+    bool hasNoMemory();
+
+    /// The last call that a fault has happened to, or "".
+    const char* struck() const { return m_struck.data(); }
 
     /// A shared memory object was made.
     void noteObject(const char* name);
+
+    /// Whether there was one since `leftObjects` last said that there is none.
+    bool hasObjects() const { return m_objectCount > 0; }
 
     struct Object
     {
@@ -74,11 +86,19 @@ private:
     std::atomic<int> m_process; // whose calls count
     Fault m_fault;
     std::atomic<int> m_count;
+    std::array<char, 20> m_struck;
     std::atomic<int> m_objectCount;
     std::array<Object, 100> m_objects;
 };
 
-/// What this process holds.
+/// The memory of a plan, in the process that starts the others and in these: null where none was made.
+void* makeSharedMemory(std::size_t size);
+void* inheritedSharedMemory(std::size_t size);
+constexpr const char* kPlanVariable = "VRX_FAULT_PLAN"; // of the environment, which tells them of it
+
+int thisProcess();
+
+/// What this process holds: blocks of memory that it has not freed, and open files, on Windows all handles.
 struct Holdings
 {
     long blocks;

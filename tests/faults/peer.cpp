@@ -1,4 +1,4 @@
-// A translator that joins the plan of faults. An exception without a text ends it by a signal.
+// A translator that joins the plan of faults. An exception without a text ends it as one that nobody catches.
 
 #include "bridge/bridge.h"
 #include "tests/faults/fault_plan.h"
@@ -6,6 +6,7 @@
 
 #include <cstdlib>
 #include <exception>
+#include <stdexcept>
 
 using namespace vrx;
 
@@ -25,7 +26,12 @@ void receive(bridge::TranslatorChannel& channel)
 {
     while (const auto object = channel.receiveObject())
     {
-        channel.message(std::dynamic_pointer_cast<ExcProductStructure>(object)->productName());
+        const auto product = std::dynamic_pointer_cast<ExcProductStructure>(object);
+        if (!object->isLoaded())
+        {
+            throw std::runtime_error("bodies are not loaded");
+        }
+        channel.message(product == nullptr ? object->objectName() : product->productName());
     }
     channel.send(Result());
 }
@@ -57,6 +63,7 @@ void translate()
 int main()
 {
     faults::FaultPlan::join();
+    int code = 0;
     try
     {
         translate();
@@ -67,7 +74,10 @@ int main()
         {
             std::abort();
         }
-        return 3;
+        code = 1; // that of an abort on Windows is 3
     }
-    return 0;
+#ifdef _WIN32
+    faults::FaultPlan::leave(); // Boost.Interprocess needs memory when a process ends.
+#endif
+    return code;
 }

@@ -4,6 +4,8 @@
 #include "tests/full_rows/full_rows.h"
 #include "tests/support/bodies.h"
 #include "tests/support/json_text.h"
+#include "tests/support/log_capture.h"
+#include "vrx_api/exchange/json_binary_io.h"
 #include "vrx_api/vrx_api.h"
 
 #include <stdexcept>
@@ -100,6 +102,22 @@ private:
     std::unique_ptr<T> m_read;
 };
 
+// A failure of bodies is told by false.
+void require(bool isDone)
+{
+    if (!isDone)
+    {
+        throw std::runtime_error("there are no bodies");
+    }
+}
+
+std::shared_ptr<ExcBlockGeometry> blockOf(const test::Bodies& bodies, bool compresses)
+{
+    auto block = std::make_shared<ExcBlockGeometry>();
+    require(block->setGeometry(bodies.list(), compresses));
+    return block;
+}
+
 class Bodies : public OneWay
 {
 public:
@@ -114,13 +132,18 @@ public:
 protected:
     void write(mp::wostream& stream) override
     {
-        const auto geometry = std::make_shared<ExcBlockGeometry>();
-        require(geometry->setGeometry(m_saved.list(), m_compresses));
-        geometry->own(true); // until the reader is told of them
-        ExchangeObjectWrapper envelope;
-        envelope.set(geometry);
-        envelope.writeObject(stream);
-        geometry->own(false);
+        const auto geometry = blockOf(m_saved, m_compresses);
+        try
+        {
+            ExchangeObjectWrapper envelope;
+            envelope.set(geometry);
+            envelope.writeObject(stream);
+        }
+        catch (const std::exception&)
+        {
+            geometry->own(true); // Nobody is told of the buffer, so that it is this program's to remove.
+            throw;
+        }
     }
     void read(mp::wistream& stream) override
     {
@@ -136,18 +159,73 @@ protected:
     void forgetRead() override { m_restored.reset(); }
 
 private:
-    // A failure of bodies is told by false.
-    static void require(bool isDone)
-    {
-        if (!isDone)
-        {
-            throw std::runtime_error("there are no bodies");
-        }
-    }
-
     bool m_compresses;
     test::Bodies m_saved;
     std::unique_ptr<test::Bodies> m_restored;
+};
+
+// A tree of the text or the binary form, read by rules.
+class Tree : public Road
+{
+public:
+    Tree(std::string text, bool isBinary, const ReadRules& rules)
+        : m_text(std::move(text))
+        , m_isBinary(isBinary)
+        , m_rules(rules)
+    {
+        JsonBinaryIO::write(m_bytes, test::parsed(m_text));
+    }
+
+    void prepare() override
+    {
+        m_stream = std::make_unique<mp::wistringstream>(test::wide(m_text));
+        m_read = std::make_unique<JsonDocument>();
+    }
+    void run() override
+    {
+        m_isBinary ? JsonBinaryIO::read(m_bytes.data(), m_bytes.size(), *m_read, m_read->GetAllocator(), m_rules)
+                   : static_cast<void>(JsonTextIO::read(*m_stream, *m_read, m_rules));
+    }
+    std::string result() override { return test::textOf(*m_read); }
+    void forget() override
+    {
+        m_stream.reset();
+        m_read.reset();
+    }
+
+private:
+    std::string m_text;
+    bool m_isBinary;
+    ReadRules m_rules;
+    Bytes m_bytes;
+    std::unique_ptr<mp::wistringstream> m_stream;
+    std::unique_ptr<JsonDocument> m_read;
+};
+
+// Another road, with all lines of the log.
+class Logged : public Road
+{
+public:
+    explicit Logged(std::shared_ptr<Road> road)
+        : m_road(std::move(road))
+    {
+    }
+
+    void prepare() override
+    {
+        test::LogFile::instance().open();
+        m_road->prepare();
+    }
+    void run() override { m_road->run(); }
+    std::string result() override { return m_road->result(); }
+    void forget() override
+    {
+        m_road->forget();
+        test::LogFile::close();
+    }
+
+private:
+    std::shared_ptr<Road> m_road;
 };
 
 std::shared_ptr<ExcProductStructure> structure(const mp::wstring& name)
@@ -174,6 +252,8 @@ private:
 class Session : public Road
 {
 public:
+    Session() { m_bodies.addBrick("exported"); }
+
     void run() override
     {
         bridge::HostSession session({VRX_FAULTS_PEER});
@@ -183,15 +263,34 @@ public:
         const auto importOptions = Command::newImportOptions();
         session.importFile(importOptions, ear);
         const auto exportOptions = Command::newExportOptions();
-        std::shared_ptr<IExchangeObject> next = structure(WIDE("exported"));
+        int place = 0;
         session.exportFile(
-            exportOptions, [&next] { return std::exchange(next, nullptr); }, ear);
+            exportOptions, [&] { return exported(place++); }, ear);
         m_told = ear.told();
     }
     std::string result() override { return m_told; }
-    void forget() override { m_told = std::string(); }
+    void forget() override
+    {
+        m_told = std::string();
+        set_global_error_info(nullptr); // The kernel keeps its last error.
+    }
+    bool startsProcess() const override { return true; }
 
 private:
+    std::shared_ptr<IExchangeObject> exported(int place) const
+    {
+        switch (place)
+        {
+        case 0:
+            return structure(WIDE("exported"));
+        case 1:
+            return blockOf(m_bodies, false);
+        default:
+            return nullptr;
+        }
+    }
+
+    test::Bodies m_bodies;
     std::string m_told;
 };
 
@@ -222,6 +321,13 @@ public:
         add(title, filled);
     }
 
+    void addTree(const std::string& title, bool isBinary, const ReadRules& rules)
+    {
+        const std::string text =
+            R"({"text":"longer than what fits in a value","array":[1,2.5,true,null,{"":[]}],"o":{}})";
+        all.push_back({title, std::make_shared<Tree>(text, isBinary, rules), EManner::Reads});
+    }
+
     void addBodies(const std::string& title, bool compresses)
     {
         all.push_back({title + " written", std::make_shared<Bodies>(EManner::Writes, compresses), EManner::Writes});
@@ -249,6 +355,11 @@ std::vector<NamedRoad> allRoads()
     roads.addObject("large object", large);
     roads.addObject("large object fast", large, ECompression::Fast);
     roads.addObject("large object plain", large, ECompression::None);
+    roads.all.push_back(
+        {"large object read and logged", std::make_shared<Logged>(roads.all.back().road), EManner::Reads});
+    roads.addTree("binary form as a tree", true, {});
+    roads.addTree("binary form as a tree strictly", true, ReadRules::forUntrusted());
+    roads.addTree("text as a tree strictly", false, ReadRules::forUntrusted());
     roads.addBodies("bodies", false);
     roads.addBodies("bodies compressed", true);
     roads.addMessage<Command>("command", R"({"ferrant_interface":"connect","command":"import","options":{"file":"f",)"

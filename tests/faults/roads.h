@@ -29,6 +29,8 @@ public:
 
     /// Lets go what `prepare` and `run` have made.
     virtual void forget() = 0;
+
+    virtual bool startsProcess() const { return false; }
 };
 
 /// Who meets the faults.

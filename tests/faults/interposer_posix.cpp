@@ -31,11 +31,6 @@ namespace
 
 std::atomic<long> liveBlocks = 0; // of memory, that are not freed
 
-bool strikes(EMode mode)
-{
-    return FaultPlan::instance().strikes(ECalls::SystemCalls, mode);
-}
-
 enum class EGives
 {
     MinusOne, // and errno
@@ -49,6 +44,7 @@ class Call
 public:
     Call(Function*, const char* name, int error, bool isInterruptible = false, EGives gives = EGives::MinusOne)
         : m_real(reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name)))
+        , m_name(name)
         , m_error(error)
         , m_isInterruptible(isInterruptible)
         , m_gives(gives)
@@ -80,6 +76,8 @@ public:
     }
 
 private:
+    bool strikes(EMode mode) const { return FaultPlan::instance().strikes(ECalls::SystemCalls, mode, m_name); }
+
     template <class Result>
     Result failed(int error) const
     {
@@ -96,6 +94,7 @@ private:
     }
 
     Function* m_real;
+    const char* m_name;
     int m_error;
     bool m_isInterruptible;
     EGives m_gives;
@@ -103,7 +102,8 @@ private:
 
 size_t taken(size_t size)
 {
-    return size > 1 && strikes(EMode::IsShort) ? size / 2 : size;
+    const bool isShort = size > 1 && FaultPlan::instance().strikes(ECalls::SystemCalls, EMode::IsShort, "");
+    return isShort ? size / 2 : size;
 }
 
 const char* noted(const char* name, int flags)
@@ -123,9 +123,7 @@ void* counted(void* block)
 
 bool hasNoMemory()
 {
-    FaultPlan& plan = FaultPlan::instance();
-    const bool fails =
-        plan.strikes(ECalls::Allocations, EMode::Fails) || plan.strikes(ECalls::Allocations, EMode::FailsOnward);
+    const bool fails = FaultPlan::instance().hasNoMemory();
     errno = fails ? ENOMEM : errno;
     return fails;
 }
