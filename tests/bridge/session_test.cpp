@@ -74,7 +74,8 @@ const SessionCase kCases[] = {
     {"Garbage",
      "loads",
      {"untold", "garbage"},
-     "failure 3 The translator sent no message: what stands on the pipe is no message: 1953701985 units are above the limit of 67108864\n",
+     "failure 3 The translator sent no message: what stands on the pipe is no message: 1953701985 units are above the "
+     "limit of 67108864\n",
      1},
     {"AnotherMessage", "loads", {"command"}, "failure 3 The translator sent neither an object nor a result.\n", 0},
     {"ResultWithoutACode",
