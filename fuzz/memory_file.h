@@ -25,7 +25,7 @@ public:
     int descriptor() const { return static_cast<int>(m_stream.handle().get()); }
 
     /// Replaces the content; the next read begins at its front, and so does the next write to an empty one.
-    void fill(const std::string& bytes)
+    void fill(const std::string& bytes) const
     {
         require(::ftruncate(descriptor(), 0) == 0);
         require(::pwrite(descriptor(), bytes.data(), bytes.size(), 0) == static_cast<ssize_t>(bytes.size()));
