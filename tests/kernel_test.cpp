@@ -1,4 +1,4 @@
-#include "acis_kernel/kernel_trace.h"
+#include "kernel_standin/kernel_trace.h"
 #include "tests/support/bodies.h"
 #include "tests/support/helpers.h"
 #include "vrx_api/common/subent_id.h"

@@ -1,4 +1,4 @@
 #pragma once
 
 // What a build with a foreign kernel includes in the stand-in's place.
-#include <acis_kernel/acis_kernel.h>
+#include <kernel_standin/kernel_standin.h>

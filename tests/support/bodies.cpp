@@ -1,6 +1,6 @@
 #include "tests/support/bodies.h"
 
-#include "acis_kernel/checksum.h"
+#include "kernel_standin/checksum.h"
 
 #include <algorithm>
 #include <cstring>

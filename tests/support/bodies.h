@@ -1,6 +1,6 @@
 #pragma once
 
-#include "acis_kernel/acis_kernel.h"
+#include "kernel_standin/kernel_standin.h"
 
 #include <string>
 #include <vector>

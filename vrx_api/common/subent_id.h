@@ -41,7 +41,8 @@ public:
     std::uint64_t index() const { return m_index; }
     void setIndex(std::uint64_t index) { m_index = index; }
 
-    /// The nearest body above the entity, or null; a body itself is asked for what owns it.
+    /// The nearest body above the entity, or null; a body itself is asked for what owns it. Throws `std::logic_error`
+    /// when the library was built without a kernel, as `fillSubentId` does.
     static ENTITY* getOwnerBody(ENTITY* entity);
 
     /// Names a live entity, or nothing if it is no body and no face, edge or vertex of one. Lists all parts of its kind

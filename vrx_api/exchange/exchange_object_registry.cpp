@@ -1,9 +1,15 @@
 #include "vrx_api/exchange/exchange_object_registry.h"
 
+#include "vrx_api/exchange_classes.h"
+
 namespace vrx
 {
 
-ExchangeObjectRegistry::ExchangeObjectRegistry() = default;
+ExchangeObjectRegistry::ExchangeObjectRegistry()
+{
+    linkExchangeClasses();
+}
+
 ExchangeObjectRegistry::~ExchangeObjectRegistry() = default;
 
 ExchangeObjectRegistry& ExchangeObjectRegistry::instance()

@@ -45,13 +45,14 @@ public:
 
     /// Saves the bodies into a new buffer. A failure is logged and gives false; only a user's interrupt of the kernel,
     /// or a kernel that can't be entered, passes out as the kernel's exception, here and in `getGeometry`. Throws
-    /// `std::length_error` when 4 GiB or more are to be compressed.
+    /// `std::length_error` when 4 GiB or more are to be compressed, and `std::logic_error` when the library was built
+    /// without a kernel.
     bool setGeometry(const ENTITY_LIST& entities, bool compress);
 
     /// Restores the bodies, and appends them and their ids, both in the order in which they were saved; as often as
     /// wanted. A failure is logged and gives false. Throws `mp::SharedMemoryException`, `std::length_error` for what
-    /// is above the limit of the read rules, and `std::runtime_error` for damaged compressed data and what a strict
-    /// reader refuses.
+    /// is above the limit of the read rules, `std::runtime_error` for damaged compressed data and what a strict reader
+    /// refuses, and `std::logic_error` when the library was built without a kernel.
     bool getGeometry(ENTITY_LIST& entities, std::vector<std::uint64_t>& ids) const;
 
     /// The id of a body: its address, which is unique within one run of the producer and a mere label elsewhere.

@@ -1,9 +1,9 @@
-#include "acis_kernel/acis_kernel.h"
 #include "common/import_conventions.h"
 #include "host/find_property.h"
 #include "host/tree_output.h"
 #include "iges_sample.h"
 #include "imported.h"
+#include "kernel_standin/kernel_standin.h"
 #include "mp/narrow.h"
 #include "vrx_api/vrx_api_format_options.h"
 

@@ -1,8 +1,8 @@
-#include "acis_kernel/acis_kernel.h"
 #include "bodies/solid_body.h"
 #include "data/modelling.h"
 #include "host/measured_body.h"
 #include "host/model_failure.h"
+#include "kernel_standin/kernel_standin.h"
 
 #include <gtest/gtest.h>
 

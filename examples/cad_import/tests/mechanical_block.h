@@ -1,7 +1,7 @@
 #pragma once
 
-#include "acis_kernel/acis_kernel.h"
 #include "host/mechanical/mechanical_model.h"
+#include "kernel_standin/kernel_standin.h"
 
 #include <rapidjson/document.h>
 

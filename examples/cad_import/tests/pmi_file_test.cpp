@@ -1,9 +1,9 @@
-#include "acis_kernel/acis_kernel.h"
 #include "common/pmi_conventions.h"
 #include "host/pmi/received_pmi.h"
 #include "host/received_bodies.h"
 #include "host/restored_bodies.h"
 #include "imported.h"
+#include "kernel_standin/kernel_standin.h"
 #include "translator/pmi/feature_count.h"
 
 #include <BRepAdaptor_Surface.hxx>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "acis_kernel/acis_kernel.h"
+#include "kernel_standin/kernel_standin.h"
 #include "vrx_api/vrx_api_exchange_mechanical.h"
 #include "vrx_api/vrx_api_exchange_structure.h"
 

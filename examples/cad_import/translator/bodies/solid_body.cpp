@@ -1,6 +1,6 @@
 #include "bodies/solid_body.h"
 
-#include "acis_kernel/acis_kernel.h"
+#include "kernel_standin/kernel_standin.h"
 
 #include <BinTools.hxx>
 #include <NCollection_DataMap.hxx>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "acis_kernel/entity_list.h"
+#include "kernel_standin/entity_list.h"
 
 /// Entities of a list that are destroyed with this object: those without an owner, with all that they hold, each once
 /// whatever the order in the list. A part may be listed beside the body that it goes with. Nothing outside the list may
 /// hold any of what is destroyed.
-class ACIS_KERNEL OwnedEntities
+class KERNEL_STANDIN OwnedEntities
 {
 public:
     OwnedEntities() = default;

@@ -1,8 +1,8 @@
-#include "acis_kernel/api.h"
-#include "acis_kernel/call.h"
-#include "acis_kernel/checksum.h"
-#include "acis_kernel/save_format.h"
-#include "acis_kernel/topology.h"
+#include "kernel_standin/api.h"
+#include "kernel_standin/call.h"
+#include "kernel_standin/checksum.h"
+#include "kernel_standin/save_format.h"
+#include "kernel_standin/topology.h"
 
 #include <algorithm>
 #include <utility>

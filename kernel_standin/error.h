@@ -1,11 +1,11 @@
 #pragma once
 
-#include "acis_kernel/acis_kernel_export.h"
+#include "kernel_standin/kernel_standin_export.h"
 
 using logical = int;
 
 /// Why an operation failed. Shared by counting: it ends with the last of those who hold it.
-class ACIS_KERNEL error_info_base
+class KERNEL_STANDIN error_info_base
 {
 public:
     error_info_base(const error_info_base&) = delete;
@@ -29,14 +29,14 @@ private:
 };
 
 /// The information that an outcome carries.
-class ACIS_KERNEL error_info : public error_info_base
+class KERNEL_STANDIN error_info : public error_info_base
 {
 protected:
     ~error_info() override;
 };
 
 /// Holds information about an error for as long as it lives itself.
-class ACIS_KERNEL ErrorInfoHold
+class KERNEL_STANDIN ErrorInfoHold
 {
 public:
     explicit ErrorInfoHold(error_info_base* info = nullptr);
@@ -52,7 +52,7 @@ private:
 
 /// What an operation of the kernel returns: 0 when all went well, otherwise the number of an error and, it may be,
 /// information about it.
-class ACIS_KERNEL outcome
+class KERNEL_STANDIN outcome
 {
 public:
     explicit outcome(int number, error_info* info = nullptr);
@@ -68,7 +68,7 @@ private:
 };
 
 /// What the kernel throws.
-class ACIS_KERNEL acis_exception
+class KERNEL_STANDIN acis_exception
 {
 public:
     acis_exception(int number, error_info_base* info);
@@ -85,7 +85,7 @@ private:
 };
 
 /// The state of error handling around a guarded call: `begin` notes it, the destructor brings it back.
-class ACIS_KERNEL exception_save
+class KERNEL_STANDIN exception_save
 {
 public:
     exception_save() = default;
@@ -107,7 +107,7 @@ enum problems_list_prop_type
 };
 
 /// Gathers the problems of the calls within a call. The stand-in's operations report none beside their outcome.
-class ACIS_KERNEL problems_list_prop
+class KERNEL_STANDIN problems_list_prop
 {
 public:
     problems_list_prop();
@@ -118,22 +118,22 @@ public:
 };
 
 /// Ends a call with an error: it becomes the global one and is thrown as `acis_exception`.
-[[noreturn]] ACIS_KERNEL void sys_error(int number, error_info_base* info);
+[[noreturn]] KERNEL_STANDIN void sys_error(int number, error_info_base* info);
 
 /// Does so when the outcome is an error.
-ACIS_KERNEL void check_outcome(const outcome& result);
+KERNEL_STANDIN void check_outcome(const outcome& result);
 
 /// The information as an outcome takes it. Information of another kind is replaced by its text, and the caller's hold
 /// goes over to that.
-ACIS_KERNEL error_info* base_to_err_info(error_info_base*& info);
+KERNEL_STANDIN error_info* base_to_err_info(error_info_base*& info);
 
-ACIS_KERNEL void set_global_error_info(error_info_base* info);
+KERNEL_STANDIN void set_global_error_info(error_info_base* info);
 
 /// Not 0 while a guarded call runs.
-ACIS_KERNEL int& get_error_mark();
+KERNEL_STANDIN int& get_error_mark();
 
 /// Throws when the calling thread is in no state to enter the kernel.
-ACIS_KERNEL void ACISExceptionCheck(const char* where);
+KERNEL_STANDIN void ACISExceptionCheck(const char* where);
 
 /// True from the user's interrupt until `sys_error` reports it.
-ACIS_KERNEL logical acis_interrupted();
+KERNEL_STANDIN logical acis_interrupted();

@@ -1,4 +1,4 @@
-#include "acis_kernel/entity_list.h"
+#include "kernel_standin/entity_list.h"
 
 ENTITY* ENTITY_LIST::operator[](int index) const
 {

@@ -1,6 +1,6 @@
-#include "acis_kernel/error.h"
+#include "kernel_standin/error.h"
 
-#include "acis_kernel/call.h"
+#include "kernel_standin/call.h"
 
 #include <utility>
 

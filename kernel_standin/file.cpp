@@ -1,6 +1,6 @@
-#include "acis_kernel/file.h"
+#include "kernel_standin/file.h"
 
-#include "acis_kernel/call.h"
+#include "kernel_standin/call.h"
 
 #include <array>
 #include <cassert>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "acis_kernel/error.h"
+#include "kernel_standin/error.h"
 
 #include <initializer_list>
 #include <new>

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "acis_kernel/entity.h"
+#include "kernel_standin/entity.h"
 
 #include <unordered_map>
 #include <vector>
 
 /// Entities in the order in which they were added, each once. The list does not own them.
-class ACIS_KERNEL ENTITY_LIST
+class KERNEL_STANDIN ENTITY_LIST
 {
 public:
     int count() const { return static_cast<int>(m_entities.size()); }

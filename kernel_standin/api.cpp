@@ -1,7 +1,7 @@
-#include "acis_kernel/api.h"
+#include "kernel_standin/api.h"
 
-#include "acis_kernel/call.h"
-#include "acis_kernel/topology.h"
+#include "kernel_standin/call.h"
+#include "kernel_standin/topology.h"
 
 // Ends: the chain of parts is seven long at most.
 void collect(ENTITY* entity, ENTITY_LIST& all)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "acis_kernel/acis_kernel_export.h"
+#include "kernel_standin/kernel_standin_export.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -9,7 +9,7 @@
 using FilePosition = std::int64_t;
 
 /// Where entities are saved to and restored from. Reading throws `acis_exception` when the data end too early.
-class ACIS_KERNEL FileInterface
+class KERNEL_STANDIN FileInterface
 {
 public:
     FileInterface() = default;
@@ -32,7 +32,7 @@ public:
 };
 
 /// A file of binary data, numbers with their lowest byte first. A subclass gives the two marks and the two blocks.
-class ACIS_KERNEL BinaryFile : public FileInterface
+class KERNEL_STANDIN BinaryFile : public FileInterface
 {
 public:
     BinaryFile();

@@ -1,6 +1,6 @@
-#include "acis_kernel/kernel_trace.h"
+#include "kernel_standin/kernel_trace.h"
 
-#include "acis_kernel/call.h"
+#include "kernel_standin/call.h"
 
 #include <map>
 #include <optional>

@@ -1,6 +1,6 @@
-#include "acis_kernel/owned_entities.h"
+#include "kernel_standin/owned_entities.h"
 
-#include "acis_kernel/topology.h"
+#include "kernel_standin/topology.h"
 
 OwnedEntities::~OwnedEntities()
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "acis_kernel/acis_kernel_export.h"
+#include "kernel_standin/kernel_standin_export.h"
 
 #include <memory>
 #include <string>
@@ -8,7 +8,7 @@
 
 /// For tests: notes the calls that reach the kernel on this thread while it lives, and makes some of them fail.
 /// One at a time.
-class ACIS_KERNEL KernelTrace
+class KERNEL_STANDIN KernelTrace
 {
 public:
     KernelTrace();

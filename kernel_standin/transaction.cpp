@@ -1,7 +1,7 @@
-#include "acis_kernel/transaction.h"
+#include "kernel_standin/transaction.h"
 
-#include "acis_kernel/call.h"
-#include "acis_kernel/kernel_trace.h"
+#include "kernel_standin/call.h"
+#include "kernel_standin/kernel_trace.h"
 
 static thread_local int s_open = 0;
 static thread_local int s_logging = 1;

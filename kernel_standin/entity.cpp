@@ -1,7 +1,7 @@
-#include "acis_kernel/entity.h"
+#include "kernel_standin/entity.h"
 
-#include "acis_kernel/call.h"
-#include "acis_kernel/topology.h"
+#include "kernel_standin/call.h"
+#include "kernel_standin/topology.h"
 
 ENTITY::~ENTITY() = default;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "acis_kernel/acis_kernel_export.h"
+#include "kernel_standin/kernel_standin_export.h"
 
 #include <cstdint>
 #include <vector>
@@ -21,7 +21,7 @@ enum class EntityType : std::uint8_t
 /// A piece of a model's topology. It holds parts in an order that lasts; an edge or a vertex may be held by several
 /// entities, any other by one. The first that holds an entity is its owner.
 /// Entities are made by `new` and end with the entity that stands above them: see `api_del_entity`, `OwnedEntities`.
-class ACIS_KERNEL ENTITY
+class KERNEL_STANDIN ENTITY
 {
 public:
     ENTITY(const ENTITY&) = delete;
@@ -53,7 +53,7 @@ private:
 };
 
 /// Solid, sheet and wire bodies: lumps and wires.
-class ACIS_KERNEL BODY final : public ENTITY
+class KERNEL_STANDIN BODY final : public ENTITY
 {
 public:
     BODY()
@@ -70,7 +70,7 @@ private:
 };
 
 /// One connected piece of a body: shells.
-class ACIS_KERNEL LUMP final : public ENTITY
+class KERNEL_STANDIN LUMP final : public ENTITY
 {
 public:
     LUMP()
@@ -80,7 +80,7 @@ public:
 };
 
 /// Faces and wires that hang together.
-class ACIS_KERNEL SHELL final : public ENTITY
+class KERNEL_STANDIN SHELL final : public ENTITY
 {
 public:
     SHELL()
@@ -90,7 +90,7 @@ public:
 };
 
 /// A piece of surface within its loops.
-class ACIS_KERNEL FACE final : public ENTITY
+class KERNEL_STANDIN FACE final : public ENTITY
 {
 public:
     FACE()
@@ -100,7 +100,7 @@ public:
 };
 
 /// A boundary of a face: edges, or a vertex that stands alone in the face.
-class ACIS_KERNEL LOOP final : public ENTITY
+class KERNEL_STANDIN LOOP final : public ENTITY
 {
 public:
     LOOP()
@@ -110,7 +110,7 @@ public:
 };
 
 /// Edges that bound no face.
-class ACIS_KERNEL WIRE final : public ENTITY
+class KERNEL_STANDIN WIRE final : public ENTITY
 {
 public:
     WIRE()
@@ -120,7 +120,7 @@ public:
 };
 
 /// A piece of curve between its vertices; a closed one holds its vertex twice.
-class ACIS_KERNEL EDGE final : public ENTITY
+class KERNEL_STANDIN EDGE final : public ENTITY
 {
 public:
     EDGE()
@@ -130,7 +130,7 @@ public:
 };
 
 /// A point where edges end.
-class ACIS_KERNEL VERTEX final : public ENTITY
+class KERNEL_STANDIN VERTEX final : public ENTITY
 {
 public:
     VERTEX()
@@ -140,7 +140,7 @@ public:
 };
 
 /// The type tests: false for null.
-ACIS_KERNEL bool is_BODY(const ENTITY* entity);
-ACIS_KERNEL bool is_FACE(const ENTITY* entity);
-ACIS_KERNEL bool is_EDGE(const ENTITY* entity);
-ACIS_KERNEL bool is_VERTEX(const ENTITY* entity);
+KERNEL_STANDIN bool is_BODY(const ENTITY* entity);
+KERNEL_STANDIN bool is_FACE(const ENTITY* entity);
+KERNEL_STANDIN bool is_EDGE(const ENTITY* entity);
+KERNEL_STANDIN bool is_VERTEX(const ENTITY* entity);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "acis_kernel/entity_list.h"
+#include "kernel_standin/entity_list.h"
 
 #include <memory>
 
