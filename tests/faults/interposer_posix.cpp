@@ -1,7 +1,7 @@
 // The calls of the C library that a fault can happen to, in place of its own: the libraries that this program loads
 // find these first.
 
-#include "tests/faults/fault_plan.h"
+#include "tests/faults/blocks.h"
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -13,7 +13,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
@@ -22,14 +21,15 @@
 
 // NOLINTBEGIN: the names, parameters and memory of the C library
 
+using faults::counted;
 using faults::ECalls;
 using faults::EMode;
 using faults::FaultPlan;
+using faults::hasNoMemory;
+using faults::liveBlocks;
 
 namespace
 {
-
-std::atomic<long> liveBlocks = 0; // of memory, that are not freed
 
 enum class EGives
 {
@@ -113,19 +113,6 @@ const char* noted(const char* name, int flags)
         FaultPlan::instance().noteObject(name + 1);
     }
     return name;
-}
-
-void* counted(void* block)
-{
-    liveBlocks += block != nullptr ? 1 : 0;
-    return block;
-}
-
-bool hasNoMemory()
-{
-    const bool fails = FaultPlan::instance().hasNoMemory();
-    errno = fails ? ENOMEM : errno;
-    return fails;
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // The calls of the C library that a fault can happen to, in place of its own: in the import tables of this program and
 // of the libraries that it brings. What the system allocates for itself does not count.
 
-#include "tests/faults/fault_plan.h"
+#include "tests/faults/blocks.h"
 
 #include <windows.h>
 // After the one above
@@ -9,18 +9,17 @@
 
 #include <algorithm>
 #include <array>
-#include <atomic>
-#include <cerrno>
 #include <cstring>
 
 // NOLINTBEGIN: the names, parameters and memory of the system
 
+using faults::counted;
 using faults::FaultPlan;
+using faults::hasNoMemory;
+using faults::liveBlocks;
 
 namespace
 {
-
-std::atomic<long> liveBlocks = 0; // of memory, that are not freed
 
 template <class Function>
 Function* found(const char* library, const char* name, Function*)
@@ -34,19 +33,6 @@ const auto realCalloc = REAL("msvcrt.dll", calloc);
 const auto realRealloc = REAL("msvcrt.dll", realloc);
 const auto realFree = REAL("msvcrt.dll", free);
 const auto realCreateFile = REAL("kernel32.dll", CreateFileA);
-
-void* counted(void* block)
-{
-    liveBlocks += block != nullptr ? 1 : 0;
-    return block;
-}
-
-bool hasNoMemory()
-{
-    const bool fails = FaultPlan::instance().hasNoMemory();
-    errno = fails ? ENOMEM : errno;
-    return fails;
-}
 
 void* ownMalloc(size_t size)
 {
