@@ -1,7 +1,7 @@
 """The binary form of JSON: tagged values, least significant byte first."""
 
 import struct
-from typing import Any
+from typing import Any, NoReturn
 
 from .errors import FormatError, LimitError
 from .limits import DEFAULT_LIMITS, Limits
@@ -9,9 +9,11 @@ from .numbers import read_run
 
 _NULL, _FALSE, _TRUE, _OBJECT, _ARRAY, _STRING, _INT, _UINT, _INT64, _UINT64, _DOUBLE = range(11)
 _CONSTANTS = {_NULL: None, _FALSE: False, _TRUE: True}
-_NUMBERS = {tag: struct.Struct("<" + code) for tag, code in zip(range(_INT, _DOUBLE + 1), "iIqQd")}
 _TAG = struct.Struct("<I")
-_SIZE = struct.Struct("<Q")
+_HEAD = struct.Struct("<IQ")
+"""The tag and the size of an object, an array or a string."""
+_NUMBERS = {tag: struct.Struct("<4x" + code) for tag, code in zip(range(_INT, _DOUBLE + 1), "iIqQd")}
+"""A number behind its tag."""
 
 
 def is_binary_form(data: bytes) -> bool:
@@ -32,7 +34,7 @@ class _Decoder:
         self._data = data
         self._limits = limits
         self._bulk = bulk
-        self._count = 0
+        self._left = limits.values
         self._names: dict[bytes, str] = {}
         self._opened: tuple[Any, int] | None = None
 
@@ -40,6 +42,7 @@ class _Decoder:
         root, position = self._value(0, len(self._data))
         outer: list[tuple[Any, int]] = []
         container, end = self._opened or (None, position)
+        self._require_depth(container is not None, position)
         while container is not None:
             if position >= end:
                 container, end = outer.pop() if outer else (None, end)
@@ -54,48 +57,62 @@ class _Decoder:
                 container.append(value)
             if self._opened is not None:
                 outer.append((container, end))
-                if len(outer) >= self._limits.depth:
-                    raise LimitError(f"the binary form is nested deeper than {self._limits.depth} at byte {position}")
                 container, end = self._opened
+                self._require_depth(len(outer) + 1, position)
         return root
 
     def _value(self, position: int, end: int) -> tuple[Any, int]:
         """The value and the position behind it, or that of the first child of a container, which is opened."""
-        tag, position = self._take(_TAG, position, end)
-        self._add(1)
-        if tag in _NUMBERS:
-            return self._take(_NUMBERS[tag], position, end)
+        data = self._data
+        if end - position < _TAG.size:
+            raise _cut_off(position)
+        (tag,) = _TAG.unpack_from(data, position)
+        self._left -= 1
+        if self._left < 0:
+            self._refuse_count()
+        form = _NUMBERS.get(tag)
+        if form is not None:
+            if end - position < form.size:
+                raise _cut_off(position)
+            return form.unpack_from(data, position)[0], position + form.size
+        if tag in _CONSTANTS:
+            return _CONSTANTS[tag], position + _TAG.size
         if tag == _STRING:
             units, position = self._units(position, end)
             return units.decode("utf-16-le", "surrogatepass"), position
-        if tag in _CONSTANTS:
-            return _CONSTANTS[tag], position
         if tag not in (_OBJECT, _ARRAY):
-            raise FormatError(f"unknown tag {tag} at byte {position - 4}")
-        size, position = self._take(_SIZE, position, end)
+            raise FormatError(f"unknown tag {tag} at byte {position}")
+        return self._container(position, end)
+
+    def _container(self, position: int, end: int) -> tuple[Any, int]:
+        if end - position < _HEAD.size:
+            raise _cut_off(position)
+        tag, size = _HEAD.unpack_from(self._data, position)
+        position += _HEAD.size
         if size > end - position:
-            raise FormatError(f"an object or array at byte {position - 12} goes beyond its end")
-        run = read_run(self._data, position, position + size) if tag == _ARRAY and size != 0 else None
-        if run is not None:
-            return self._run(run), position + size
-        self._opened = ({} if tag == _OBJECT else [], position + size)
-        if self._limits.depth < 1:
-            raise LimitError("the binary form is nested deeper than 0")
+            raise FormatError(f"an object or array at byte {position - _HEAD.size} goes beyond its end")
+        behind = position + size
+        if tag == _ARRAY and size != 0:
+            run = read_run(self._data, position, behind)
+            if run is not None:
+                return self._of_run(run), behind
+        self._opened = ({} if tag == _OBJECT else [], behind)
         return self._opened[0], position
 
-    def _run(self, run: Any) -> Any:
-        if type(run) is list:
-            self._add(len(run))
-        elif not self._bulk:
-            self._add(len(run))
-            return run.tolist()
-        return run
+    def _of_run(self, run: Any) -> Any:
+        if type(run) is not list and self._bulk:
+            return run
+        self._left -= len(run)
+        if self._left < 0:
+            self._refuse_count()
+        return run if type(run) is list else run.tolist()
 
     def _name(self, position: int, end: int) -> tuple[str, int]:
-        tag, position = self._take(_TAG, position, end)
-        if tag != _STRING:
-            raise FormatError(f"the name of a member at byte {position - 4} is no string")
-        self._add(1)
+        if end - position < _TAG.size:
+            raise _cut_off(position)
+        if _TAG.unpack_from(self._data, position)[0] != _STRING:
+            raise FormatError(f"the name of a member at byte {position} is no string")
+        self._left -= 1
         units, position = self._units(position, end)
         name = self._names.get(units)
         if name is None:
@@ -103,19 +120,21 @@ class _Decoder:
         return name, position
 
     def _units(self, position: int, end: int) -> tuple[bytes, int]:
-        count, position = self._take(_SIZE, position, end)
-        behind = position + 2 * count
+        if end - position < _HEAD.size:
+            raise _cut_off(position)
+        begin = position + _HEAD.size
+        behind = begin + 2 * _HEAD.unpack_from(self._data, position)[1]
         if behind > end:
-            raise FormatError(f"a string at byte {position - 12} goes beyond its end")
-        return self._data[position:behind], behind
+            raise FormatError(f"a string at byte {position} goes beyond its end")
+        return self._data[begin:behind], behind
 
-    def _take(self, form: struct.Struct, position: int, end: int) -> tuple[Any, int]:
-        behind = position + form.size
-        if behind > end:
-            raise FormatError(f"the binary form ends within a value at byte {position}")
-        return form.unpack_from(self._data, position)[0], behind
+    def _require_depth(self, depth: int, position: int) -> None:
+        if depth > self._limits.depth:
+            raise LimitError(f"the binary form is nested deeper than {self._limits.depth} at byte {position}")
 
-    def _add(self, count: int) -> None:
-        self._count += count
-        if self._count > self._limits.values:
-            raise LimitError(f"the binary form has more than {self._limits.values} values")
+    def _refuse_count(self) -> NoReturn:
+        raise LimitError(f"the binary form has more than {self._limits.values} values")
+
+
+def _cut_off(position: int) -> FormatError:
+    return FormatError(f"the binary form ends within a value at byte {position}")

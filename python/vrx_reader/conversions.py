@@ -4,7 +4,7 @@ from enum import StrEnum
 from typing import Any
 
 from .errors import SchemaError
-from .model import Convert, Field, Object, make_class
+from .model import Choose, ChosenField, Convert, Field, Object, make_class
 from .numbers import as_bulk
 
 _REFERENCE = "#/$defs/"
@@ -42,7 +42,7 @@ class Conversions:
 
     def of_choice(self, node: Any, value: Any) -> Any:
         """The value by the branch of if, then and else that it fits."""
-        branch = _branch(node, value)
+        branch = _branch(node, value) if "if" in node else None
         return self._of_node(branch, "")(value) if isinstance(branch, dict) and isinstance(value, dict) else value
 
     def _definition(self, name: str) -> dict[str, Any]:
@@ -113,23 +113,30 @@ class Conversions:
         return lambda value: made(value) if isinstance(value, dict) else value
 
     def _make_class(self, node: dict[str, Any], name: str) -> type[Object]:
-        def choose(key: str, members: dict[str, Any]) -> Convert | None:
+        fields = {key: self._field(node, key, name) for key in node.get("properties", {})}
+        return make_class(name, fields, node.get("description", ""))
+
+    def _field(self, owner: dict[str, Any], key: str, name: str) -> Field:
+        node = owner["properties"][key]
+        convert = self._of_node(node, f"{name}.{key}")
+        target = self._definition(_referred(node)) if "$ref" in node else node
+        is_list = target.get("type") == "array" and "maxItems" not in target
+        make_empty = (lambda: convert([])) if is_list else _nothing
+        doc = node.get("description", "")
+        if "allOf" in owner:
+            return ChosenField(key, convert, doc, make_empty, self._choice(owner, key, name))
+        return Field(key, convert, doc, make_empty)
+
+    def _choice(self, node: dict[str, Any], key: str, name: str) -> Choose:
+        def choose(members: dict[str, Any]) -> Convert | None:
             chosen = _chosen(node, key, members)
             return self._of_node(chosen, f"{name}.{key}") if chosen else None
 
-        def no_choice(key: str, members: dict[str, Any]) -> None:
-            return None
+        return choose
 
-        fields = {
-            key: Field(
-                key,
-                self._of_node(one, f"{name}.{key}"),
-                choose if "allOf" in node else no_choice,
-                one.get("description", ""),
-            )
-            for key, one in node.get("properties", {}).items()
-        }
-        return make_class(name, fields, node.get("description", ""))
+
+def _nothing() -> None:
+    return None
 
 
 def _same(value: Any) -> Any:
@@ -194,7 +201,7 @@ def _chosen(node: dict[str, Any], key: str, members: dict[str, Any]) -> dict[str
     """What the rules of a class say of a key, which depends on the other members."""
     for rule in node.get("allOf", ()):
         branch = _branch(rule, members)
-        found = branch.get("properties", {}).get(key) if isinstance(branch, dict) else None
+        found: dict[str, Any] | None = branch.get("properties", {}).get(key) if isinstance(branch, dict) else None
         if found and "const" not in found:
             return found
     return None

@@ -70,19 +70,15 @@ class FrameReader:
         head = self._take(_HEAD.size)
         if not head:
             return None
-        if len(head) < _HEAD.size:
-            return self._cut()
-        kind, time, size = _HEAD.unpack(head)
+        kind, time, size = _HEAD.unpack(head) if len(head) == _HEAD.size else (0, 0, 0)
         payload = self._take(size)
         checksum = self._take(_SUM.size)
-        if len(payload) < size or len(checksum) < _SUM.size:
-            return self._cut()
+        if len(head) < _HEAD.size or len(payload) < size or len(checksum) < _SUM.size:
+            self.is_cut = True
+            return None
         if zlib.crc32(payload, zlib.crc32(head)) != _SUM.unpack(checksum)[0]:
             raise DamageError("the capture has a frame with a wrong checksum", offset)
         return kind, time, offset, payload
-
-    def _cut(self) -> None:
-        self.is_cut = True
 
     def _take(self, size: int) -> bytes:
         """Fewer bytes at the end of the file. The size is no promise: memory is taken for what comes."""
@@ -92,9 +88,8 @@ class FrameReader:
             pieces.append(piece)
             left -= len(piece)
             if size - left > self._limits.content_bytes:
-                raise LimitError(
-                    f"the frame at byte {self._offset - _HEAD.size} is above the limit of {self._limits.content_bytes} bytes"
-                )
+                most = self._limits.content_bytes
+                raise LimitError(f"the frame at byte {self._offset - _HEAD.size} is above the limit of {most} bytes")
         self._offset += size - left
         return pieces[0] if len(pieces) == 1 else b"".join(pieces)
 

@@ -68,7 +68,7 @@ class Message:
             return self._string(data, _BODIES)
         return self._string(self.json, _DATA) if self.json.get(_BINARY) is True else ""
 
-    @property
+    @cached_property
     def plain(self) -> Any:
         """The exchange object as plain values, or the message itself when it is no envelope. None when the object is in
         a buffer that is not there."""
@@ -76,7 +76,8 @@ class Message:
             return self.json
         if self.json.get(_BINARY) is not True:
             return self.json.get(_DATA)
-        return self.buffer.plain() if self._has_object else None
+        buffer = self._buffer_of_object
+        return None if buffer is None else buffer.plain()
 
     @cached_property
     def object(self) -> Any:
@@ -89,7 +90,8 @@ class Message:
             return self.plain
         if self.json.get(_BINARY) is not True:
             return self._schema.read(self.plain, self.object_name)
-        return self.buffer.read(self._schema, self.object_name) if self._has_object else None
+        buffer = self._buffer_of_object
+        return None if buffer is None else buffer.read(self._schema, self.object_name)
 
     @property
     def bodies(self) -> bytes | None:
@@ -98,8 +100,8 @@ class Message:
         return self.buffer.data if holds_bodies and self.buffer is not None else None
 
     @property
-    def _has_object(self) -> bool:
-        return self.buffer is not None and isinstance(self.json.get(_DATA), str)
+    def _buffer_of_object(self) -> Buffer | None:
+        return self.buffer if isinstance(self.json.get(_DATA), str) else None
 
     @staticmethod
     def _string(members: dict[str, Any], key: str) -> str:

@@ -4,12 +4,14 @@ from collections.abc import Callable, Iterator
 from typing import Any
 
 Convert = Callable[[Any], Any]
+Choose = Callable[[dict[str, Any]], Convert | None]
 
 
 class Object:
-    """The base of the classes that a schema makes. Each key of the class is an attribute, None when it is absent. A key
-    that the class does not know is an attribute where the sender wrote it. `object["key"]` is the same for all keys,
-    `"key" in object` tells whether the sender wrote it, and an iteration gives the keys that were written."""
+    """The base of the classes that a schema makes. Each key of the class is an attribute. An absent list is empty, all
+    else that is absent is None. A key that the class does not know is an attribute where the sender wrote it.
+    `object["key"]` is the same for all keys, `"key" in object` tells whether the sender wrote it, and an iteration
+    gives the keys that were written."""
 
     _fields: dict[str, "Field"] = {}
 
@@ -48,10 +50,10 @@ class Object:
 class Field:
     """An attribute that is converted at its first use, and kept in the object then."""
 
-    def __init__(self, key: str, convert: Convert, choose: Callable[[str, Any], Convert | None], doc: str) -> None:
+    def __init__(self, key: str, convert: Convert, doc: str, make_empty: Callable[[], Any]) -> None:
         self._key = key
         self._convert = convert
-        self._choose = choose
+        self._make_empty = make_empty
         self.__doc__ = doc
 
     def __get__(self, one: Object | None, owner: type) -> Any:
@@ -61,12 +63,26 @@ class Field:
         known = members.get(self._key, members)
         if known is not members:
             return known
-        data = members["_data"]
-        value = data.get(self._key)
-        if value is not None:
-            value = (self._choose(self._key, data) or self._convert)(value)
-        members[self._key] = value
-        return value
+        value = members["_data"].get(self._key)
+        made = self._make_empty() if value is None else self._conversion(members["_data"])(value)
+        members[self._key] = made
+        return made
+
+    def _conversion(self, members: dict[str, Any]) -> Convert:
+        return self._convert
+
+
+class ChosenField(Field):
+    """An attribute whose class depends on the other members; `choose` gives None where it does not."""
+
+    def __init__(
+        self, key: str, convert: Convert, doc: str, make_empty: Callable[[], Any], choose: Choose
+    ) -> None:
+        super().__init__(key, convert, doc, make_empty)
+        self._choose = choose
+
+    def _conversion(self, members: dict[str, Any]) -> Convert:
+        return self._choose(members) or self._convert
 
 
 def make_class(name: str, fields: dict[str, Field], doc: str) -> type[Object]:
@@ -76,7 +92,8 @@ def make_class(name: str, fields: dict[str, Field], doc: str) -> type[Object]:
 
 def data_of(one: Object) -> dict[str, Any]:
     """What the object was made of."""
-    return one.__dict__["_data"]
+    data: dict[str, Any] = one.__dict__["_data"]
+    return data
 
 
 def _brief(value: Any) -> str:

@@ -18,10 +18,10 @@ _FEW = 16
 _IS_FAST = sys.byteorder == "little" and array("i").itemsize == 4
 
 
-def read_run(data: bytes, begin: int, end: int) -> array | list | None:
+def read_run(data: bytes, begin: int, end: int) -> "array[Any] | list[Any] | None":
     """The numbers between two positions of a binary form: a list of few, an array of many. None when these bytes are
     no run of numbers that all have the same tag."""
-    tag = int.from_bytes(data[begin : begin + 4], "little")
+    tag = int.from_bytes(data[begin:begin + 4], "little")
     words = _WORDS.get(tag)
     if words is None or (end - begin) % (4 * words) != 0:
         return None
@@ -37,7 +37,7 @@ def _few(tag: int, count: int) -> struct.Struct:
     return struct.Struct("<" + ("I" + _TYPE_CODES[tag]) * count)
 
 
-def _many(data: bytes, tag: int, words: int, count: int) -> array | None:
+def _many(data: bytes, tag: int, words: int, count: int) -> "array[Any] | None":
     """All by slices: none of the numbers becomes a Python object."""
     all_words = array("I", data)
     if all_words[0::words].count(tag) != count:
@@ -71,5 +71,5 @@ def is_numpy(value: Any) -> bool:
     return numpy is not None and isinstance(value, numpy.ndarray)
 
 
-def _for_users(numbers: array) -> Any:
+def _for_users(numbers: "array[Any]") -> Any:
     return numbers if numpy is None else numpy.asarray(numbers)

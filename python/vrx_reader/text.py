@@ -19,7 +19,7 @@ def decode_text(data: bytes, limits: Limits = DEFAULT_LIMITS) -> str:
         raise LimitError(f"a text of {len(data)} bytes is above the limit of {limits.text_bytes}")
     for mark, encoding in _BYTE_ORDER_MARKS:
         if data.startswith(mark):
-            return _decoded(data[len(mark) :], encoding)
+            return _decoded(data[len(mark):], encoding)
     # The first character of a JSON text is ASCII.
     if len(data) >= 2 and (data[0] == 0) != (data[1] == 0):
         return _decoded(data, "utf-16-le" if data[1] == 0 else "utf-16-be")
