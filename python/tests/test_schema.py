@@ -9,7 +9,7 @@ from array import array
 from pathlib import Path
 from unittest import mock
 
-from support import FROZEN, FULL_ROWS, PACKAGE, VRX, schema
+from support import FROZEN, FULL_ROWS, PACKAGE, VRX, encoded, schema
 
 from vrx_reader import Buffer, Capture, Object, Schema, SchemaError, find_schema, numbers, plain
 
@@ -52,16 +52,27 @@ class Objects(unittest.TestCase):
             self.assertEqual(type(feature.pattern).__name__, name)
 
     def test_bulk_numbers(self) -> None:
-        face = {"vertices": [0.5, 1.0, 2.0], "polygons": [{"indices": [0, 1]}, {"indices": [0, 0.5]}]}
+        indices = ([0, 1], [0, 0.5], [1 << 31])
+        face = {"vertices": [0.5, 1.0, 2.0], "polygons": [{"indices": each} for each in indices]}
         read = schema().read({**face, "normals": [True]}, "ExcVisuFace")
         self.assertEqual(list(read.vertices), [0.5, 1.0, 2.0])
         # What is no index is not made one.
         self.assertEqual((read.polygons[1].indices, read.normals), ([0, 0.5], [True]))
+        self.assertEqual(read.polygons[2].indices, [1 << 31])
         self.assertEqual(plain(read), {**face, "normals": [True]})
         with mock.patch.object(numbers, "numpy", None):
             without = schema().read(face, "ExcVisuFace")
             self.assertEqual((without.vertices, without.normals), (array("d", face["vertices"]), array("d")))
             self.assertEqual(without.polygons[0].indices, array("i", [0, 1]))
+
+    def test_runs_of_another_type(self) -> None:
+        """Integers of 64 bits where the schema tells 32 become such, where they fit, and keep their own type else."""
+        for last in (7, 1 << 31):
+            values = [0] * 50 + [last]
+            read = Buffer(encoded({"line_indices": values})).read(schema(), "ExcVisuEdge")
+            self.assertEqual(plain(read), {"line_indices": values})
+            if numbers.numpy is not None:
+                self.assertEqual(read.line_indices.dtype.itemsize, 4 if last == 7 else 8)
 
     @unittest.skipIf(numbers.numpy is None, "numpy is not there")
     def test_bulk_numbers_of_numpy(self) -> None:

@@ -8,13 +8,14 @@ import tracemalloc
 import unittest
 import uuid
 import zlib
-from array import array
 from pathlib import Path
+from unittest import mock
 
 from support import FROZEN, encoded, sized, tagged
 
-from vrx_reader import Buffer, FormatError, LimitError, Limits, ReaderError, plain, read_message
+from vrx_reader import Buffer, FormatError, LimitError, Limits, ReaderError, numbers, plain, read_message
 from vrx_reader.binary import decode_binary
+from vrx_reader.numbers import is_run
 from vrx_reader.text import parse_json
 
 DEEP = 200_000
@@ -22,17 +23,23 @@ DEEP = 200_000
 
 class Binary(unittest.TestCase):
     def test_runs_of_numbers(self) -> None:
+        self.try_runs_of_numbers()
+        with mock.patch.object(numbers, "numpy", None):
+            self.try_runs_of_numbers()
+
+    def try_runs_of_numbers(self) -> None:
         ends = {6: (-(1 << 31), (1 << 31) - 1), 7: (0, (1 << 32) - 1), 8: (-(1 << 63), 7), 9: (0, (1 << 64) - 1)}
         for tag, some in {**ends, 10: (-0.1, 1e300)}.items():
             for count in (1, 8, 500):
-                numbers = list(some) * count
-                data = sized(4, b"".join(tagged(tag, each) for each in numbers))
-                self.assertEqual(decode_binary(data), numbers)
+                values = list(some) * count
+                data = sized(4, b"".join(tagged(tag, each) for each in values))
+                self.assertEqual(decode_binary(data), values)
                 bulk = decode_binary(data, bulk=True)
-                self.assertEqual((list(bulk), type(bulk)), (numbers, array if count == 500 else list))
-                # One of another kind among them.
-                other = data[:4] + (len(data) - 4).to_bytes(8, "little") + data[12:] + tagged(6 if tag != 6 else 7, 5)
-                self.assertEqual(decode_binary(other, bulk=True), [*numbers, 5])
+                self.assertEqual((list(bulk), is_run(bulk)), (values, count == 500))
+                # One of another kind, and of the same size, among them.
+                other, number = {6: (7, 1 << 31), 7: (6, -5), 8: (9, 1 << 63), 9: (8, -5), 10: (9, 1 << 63)}[tag]
+                mixed = sized(4, data[12:] + tagged(other, number))
+                self.assertEqual(decode_binary(mixed, bulk=True), [*values, number])
 
     def test_strings_keep_lone_surrogates_and_nul(self) -> None:
         value = {"a\ud800\0": "\udc00b\U0001f600\ud83d", "": [None, True, False, {}, [], ""]}
@@ -66,6 +73,8 @@ class Binary(unittest.TestCase):
 
     def test_wrong_forms(self) -> None:
         behind_end = (b"\3\0\0\0" + b"\xff" * 8, b"\5\0\0\0" + b"\xff" * 8, sized(4, sized(4, b"")[:-1]))
+        # They end within their container, but not within the data.
+        behind_end += (sized(4, sized(4, encoded("ab")[:-2]) + b"b\0"), sized(4, sized(3, b"")[:-1]) + b"\0")
         for data in (b"", b"\1", b"\x0b\0\0\0", sized(3, encoded(1) * 2), sized(3, encoded("a")), *behind_end):
             with self.subTest(data), self.assertRaises(FormatError):
                 decode_binary(data)

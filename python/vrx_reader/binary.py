@@ -23,7 +23,7 @@ def is_binary_form(data: bytes) -> bool:
 
 def decode_binary(data: bytes, limits: Limits = DEFAULT_LIMITS, *, bulk: bool = False) -> Any:
     """The value at the front of the bytes; what stands behind it is passed over. With `bulk` a long run of numbers is
-    an array.array, and otherwise a list."""
+    an array, numpy's where numpy is there, and otherwise a list."""
     return _Decoder(data, limits, bulk).decode()
 
 

@@ -86,7 +86,7 @@ class ChosenField(Field):
 
 
 def make_class(name: str, fields: dict[str, Field], doc: str) -> type[Object]:
-    attributes = {key: one for key, one in fields.items() if not key.startswith("_")}
+    attributes: dict[str, Any] = {key: one for key, one in fields.items() if not key.startswith("_")}
     return type(name, (Object,), {**attributes, "_fields": fields, "__doc__": doc})
 
 

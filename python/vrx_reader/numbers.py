@@ -11,14 +11,17 @@ try:
 except ImportError:
     numpy = None  # type: ignore[assignment]
 
-# The tags of numbers in the binary form: the type code of their arrays, and the 32-bit words of tag and number.
+# By the tags of numbers in the binary form: the type code of their arrays, and the 32-bit words of tag and number.
 _TYPE_CODES = {6: "i", 7: "I", 8: "q", 9: "Q", 10: "d"}
 _WORDS = {6: 2, 7: 2, 8: 3, 9: 3, 10: 3}
 _FEW = 16
 _IS_FAST = sys.byteorder == "little" and array("i").itemsize == 4
 
+Run = Any
+"""An array.array or numpy's array."""
 
-def read_run(data: bytes, begin: int, end: int) -> "array[Any] | list[Any] | None":
+
+def read_run(data: bytes, begin: int, end: int) -> Run | list[Any] | None:
     """The numbers between two positions of a binary form: a list of few, an array of many. None when these bytes are
     no run of numbers that all have the same tag."""
     tag = int.from_bytes(data[begin:begin + 4], "little")
@@ -29,6 +32,8 @@ def read_run(data: bytes, begin: int, end: int) -> "array[Any] | list[Any] | Non
     if count <= _FEW:
         flat = _few(tag, count).unpack_from(data, begin)
         return list(flat[1::2]) if flat[0::2] == (tag,) * count else None
+    if numpy is not None:
+        return _many_by_numpy(data, begin, tag, count)
     return _many(data[begin:end], tag, words, count) if _IS_FAST else None
 
 
@@ -37,7 +42,13 @@ def _few(tag: int, count: int) -> struct.Struct:
     return struct.Struct("<" + ("I" + _TYPE_CODES[tag]) * count)
 
 
-def _many(data: bytes, tag: int, words: int, count: int) -> "array[Any] | None":
+def _many_by_numpy(data: bytes, begin: int, tag: int, count: int) -> Run | None:
+    form = numpy.dtype([("tag", "<u4"), ("number", numpy.dtype(_TYPE_CODES[tag]).newbyteorder("<"))])
+    pairs = numpy.frombuffer(data, form, count, begin)
+    return pairs["number"].astype(_TYPE_CODES[tag]) if (pairs["tag"] == tag).all() else None
+
+
+def _many(data: bytes, tag: int, words: int, count: int) -> Run | None:
     """All by slices: none of the numbers becomes a Python object."""
     all_words = array("I", data)
     if all_words[0::words].count(tag) != count:
@@ -54,22 +65,24 @@ def _many(data: bytes, tag: int, words: int, count: int) -> "array[Any] | None":
 def as_bulk(value: Any, type_code: str) -> Any:
     """The numbers as an array of this type, one of numpy's where numpy is there. What is no list of such numbers stays
     as it is."""
-    if isinstance(value, array) and value.typecode == type_code:
-        return _for_users(value)
-    if not isinstance(value, (array, list)):
+    if is_run(value):
+        code = value.typecode if isinstance(value, array) else value.dtype
+        if code == type_code:
+            return value
+        numbers = value.tolist()
+    elif isinstance(value, list):
+        numbers = value
+    else:
         return value
     allowed = {int, float} if type_code == "d" else {int}
-    if not set(map(type, value)) <= allowed:
+    if not set(map(type, numbers)) <= allowed:
         return value
     try:
-        return _for_users(array(type_code, value))
+        made = array(type_code, numbers)
     except OverflowError:
         return value
+    return made if numpy is None else numpy.asarray(made)
 
 
-def is_numpy(value: Any) -> bool:
-    return numpy is not None and isinstance(value, numpy.ndarray)
-
-
-def _for_users(numbers: "array[Any]") -> Any:
-    return numbers if numpy is None else numpy.asarray(numbers)
+def is_run(value: Any) -> bool:
+    return isinstance(value, array) or (numpy is not None and isinstance(value, numpy.ndarray))

@@ -1,11 +1,10 @@
 """Plain values: dict, list, str, int, float, bool and None, as a JSON text gives them."""
 
-from array import array
 from enum import Enum
 from typing import Any
 
 from .model import Object, data_of
-from .numbers import is_numpy
+from .numbers import is_run
 
 
 def plain(value: Any) -> Any:
@@ -22,7 +21,7 @@ def plain(value: Any) -> Any:
         elif isinstance(one, (list, tuple)):
             target[key] = items = [None] * len(one)
             todo.extend((items, place, child) for place, child in enumerate(one))
-        elif isinstance(one, array) or is_numpy(one):
+        elif is_run(one):
             target[key] = one.tolist()
         else:
             target[key] = one.value if isinstance(one, Enum) else one
