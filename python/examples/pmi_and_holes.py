@@ -22,7 +22,8 @@ roots = list(capture.objects("exc_root_mechanical_data"))
 
 # %% Tables and texts
 def print_table(title: str, heads: tuple[str, ...], rows: Iterable[tuple[str, ...]]) -> None:
-    lines = [heads, *rows]
+    # A text from elsewhere must not steer the terminal.
+    lines = [heads, *(tuple("".join(c if c.isprintable() else "�" for c in cell) for cell in row) for row in rows)]
     if len(lines) == 1:
         return
     widths = [min(60, max(map(len, column))) for column in zip(*lines)]

@@ -42,9 +42,13 @@ def _few(tag: int, count: int) -> struct.Struct:
     return struct.Struct("<" + ("I" + _TYPE_CODES[tag]) * count)
 
 
+@lru_cache(maxsize=None)
+def _pair(tag: int) -> Any:
+    return numpy.dtype([("tag", "<u4"), ("number", numpy.dtype(_TYPE_CODES[tag]).newbyteorder("<"))])
+
+
 def _many_by_numpy(data: bytes, begin: int, tag: int, count: int) -> Run | None:
-    form = numpy.dtype([("tag", "<u4"), ("number", numpy.dtype(_TYPE_CODES[tag]).newbyteorder("<"))])
-    pairs = numpy.frombuffer(data, form, count, begin)
+    pairs = numpy.frombuffer(data, _pair(tag), count, begin)
     return pairs["number"].astype(_TYPE_CODES[tag]) if (pairs["tag"] == tag).all() else None
 
 
