@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # usage: tests/debugger/run_test.sh BUILD_DIR
-# GDB looks at the test programs: while they run, at their core dumps, and with the printers that it loads by itself. Each
-# time it must print what stands in the transcripts beside this script. GDB may not call functions in the programs.
+# GDB looks at the test programs: while they run, at their core dumps, and with the printers that it loads by itself.
+# Each time it must print what stands in the transcripts beside this script. It may not call functions in the programs.
 set -euo pipefail
 
 readonly build=${1:?the build folder is missing}
@@ -19,7 +19,7 @@ commands_of() {
     sed -n 's/^(gdb) \(.*\)/echo (gdb) \1\\n\n\1/p' "$1"
 }
 
-# compare NAME TRANSCRIPT OPTION...: what GDB prints, without addresses and the numbers of its values, is the transcript.
+# compare NAME TRANSCRIPT OPTION...: what GDB prints, without addresses and its values' numbers, is the transcript.
 compare() {
     local name=$1 transcript=$2
     shift 2

@@ -2,8 +2,7 @@
 
     (gdb) source vrx_gdb.py
 
-Installed as <the library's real file name>-gdb.py, in GDB's folder auto-load or beside the library, it is loaded by
-itself.
+Installed as <the library's real file name>-gdb.py, in GDB's auto-load or beside the library, it is loaded by itself.
 
 It runs nothing in the program: it works on core dumps, too. An object that is damaged or not made yet is shown with
 what is wrong with it; `print /r` shows the bare members. GDB knows the members of a class from the debug information of
@@ -46,7 +45,7 @@ def words(error: Exception) -> str:
 
 
 def require_readable(address: int, size: int, what: str) -> None:
-    """Whether the first and the last byte are there."""
+    """The first and the last byte must be there."""
     try:
         for place in (address, address + size - 1):
             gdb.selected_inferior().read_memory(place, 1)
@@ -59,7 +58,8 @@ def text_at(pointer: gdb.Value, length: int) -> str:
     units = min(length, MOST_UNITS)
     if units == 0:
         return ""
-    text = gdb.selected_inferior().read_memory(int(pointer), 2 * units).tobytes().decode("utf-16-le", "backslashreplace")
+    memory = gdb.selected_inferior().read_memory(int(pointer), 2 * units)
+    text = memory.tobytes().decode("utf-16-le", "backslashreplace")
     text = "".join(f"\\{c}" if c == '"' else c if c.isprintable() else f"\\x{ord(c):02x}" for c in text)
     return text + ("..." if length > units else "")
 
@@ -342,6 +342,8 @@ def check_container(value: gdb.Value) -> None:
         count, root = int(tree["_M_node_count"]), int(tree["_M_header"]["_M_parent"])
         if count != 0 or root != 0:
             require_readable(root, 8, f"a map of {count}")
+        if count > MOST_ROOM:
+            raise Damaged(f"a map of {count}")
     elif name.startswith("std::shared_ptr<"):
         for pointer in (value["_M_ptr"], value["_M_refcount"]["_M_pi"]):
             if int(pointer) != 0:
