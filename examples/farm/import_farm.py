@@ -1,0 +1,251 @@
+#!/usr/bin/python3
+"""Imports a folder of CAD files on many workers of Dask. Each job is one import with a recorder between the host and
+the translator; its result is a capture. A second run does what the first has not done."""
+
+import argparse
+import contextlib
+import os
+import pathlib
+import queue
+import shlex
+import signal
+import sys
+import tempfile
+import time
+import typing
+import urllib.parse
+import uuid
+
+import dask
+import distributed
+
+import farm_files
+import farm_job
+import farm_report
+from farm_report import say
+
+ALL_IMPORTED, SOME_FAILED, WRONG_USAGE, NOT_STARTED, INTERRUPTED = 0, 1, 2, 3, 130
+MARGIN = 60  # seconds by which nothing of a living job is ever too old
+
+
+class NotStarted(Exception):
+    """The jobs cannot run at all."""
+
+
+def arguments() -> argparse.Namespace:
+    """Those of the command line."""
+    parser = argparse.ArgumentParser(
+        description=__doc__, epilog="exit codes: 0 all is imported, 1 some files failed, 2 wrong usage, 3 the jobs "
+        "cannot run, 130 interrupted")
+    parser.add_argument("folder", help="with CAD files, also in folders below")
+    parser.add_argument("captures", help="the folder for captures, made as needed: FILE.vrxcap in the same order of "
+                        f"folders, and {farm_report.TABLE}")
+    parser.add_argument("--scheduler", type=address, metavar="ADDRESS", help="of a running dask scheduler, as tcp://host:8786; "
+                        "without it workers are started on this machine")
+    parser.add_argument("--workers", type=positive(int), metavar="N",
+                        help="how many to start on this machine; default: as many as it has processors")
+    parser.add_argument("--time-limit", type=positive(float), default=600, metavar="SECONDS",
+                        help="for one import; default: 600")
+    parser.add_argument("--retries", type=positive(int, 0), default=1, metavar="N",
+                        help="how often an import that failed is tried again; default: 1")
+    parser.add_argument("--worker-deaths", type=positive(int, 0), metavar="N",
+                        help="how many workers may die with a job before it has failed; default: 3; "
+                        "with --scheduler it is that scheduler's affair")
+    parser.add_argument("--patience", type=positive(float), default=60, metavar="SECONDS",
+                        help="how long to wait while there is no worker; default: 60")
+    parser.add_argument("--again", action="store_true", help="imports also what is done")
+    parser.add_argument("--suffixes", default=".step,.stp,.iges,.igs", metavar="LIST",
+                        help="how the names of CAD files end; default: %(default)s")
+    parser.add_argument("--programs", default="", metavar="FOLDER",
+                        help="where vrx, the host and the translator are; default: PATH of the workers")
+    parser.add_argument("--host", default="cad_reader", metavar="PROGRAM",
+                        help="is started as PROGRAM FILE TRANSLATOR...; default: cad_reader")
+    parser.add_argument("--translator", default="cad_translator", metavar="COMMAND",
+                        help="the translator with its arguments, quoted as for a shell; default: cad_translator")
+    parser.add_argument("--clean-after", type=positive(int), metavar="SECONDS",
+                        help="the age from which shared memory and unfinished captures that nobody uses are removed; "
+                        f"at least the time limit and {MARGIN}; default: 3600 or that")
+    given = parser.parse_args()
+    least = int(given.time_limit) + MARGIN
+    if given.clean_after is not None and given.clean_after < least:
+        parser.error(f"--clean-after {given.clean_after} is less than the time limit and {MARGIN}")
+    given.clean_after = given.clean_after or max(3600, least)
+    if given.scheduler and (given.workers is not None or given.worker_deaths is not None):
+        parser.error("--workers and --worker-deaths are for workers on this machine, without --scheduler")
+    try:
+        given.translator = tuple(shlex.split(given.translator))
+    except ValueError as error:
+        parser.error(f"--translator: {error}")
+    if not given.translator:
+        parser.error("--translator is empty")
+    given.suffixes = tuple(suffix.lower() for suffix in given.suffixes.split(",") if suffix)
+    if not given.suffixes:
+        parser.error("--suffixes is empty")
+    return given
+
+
+def address(text: str) -> str:
+    """Reads the address of a scheduler."""
+    parts = urllib.parse.urlsplit(text)
+    if parts.scheme not in ("tcp", "tls") or not parts.hostname or parts.port is None:
+        raise ValueError(text)
+    return text
+
+
+def positive(kind: type, least: float | None = None) -> typing.Callable[[str], typing.Any]:
+    """Reads a number that is more than zero, or no less than the least."""
+    def read(text: str) -> typing.Any:
+        value = kind(text)
+        if not (value > 0 if least is None else value >= least) or value == float("inf"):
+            raise argparse.ArgumentTypeError(f"{text} is too small or too large")
+        return value
+    read.__name__ = "number"
+    return read
+
+
+@contextlib.contextmanager
+def connected(given: argparse.Namespace) -> typing.Iterator[distributed.Client]:
+    """A client of the scheduler that is named, or of one that ends with it."""
+    with contextlib.ExitStack() as stack:
+        where = given.scheduler
+        if where is None:
+            limits = {"distributed.scheduler.allowed-failures": 3 if given.worker_deaths is None else
+                      given.worker_deaths,
+                      "distributed.scheduler.worker-saturation": 1.0}  # a worker that dies has one job only
+            stack.enter_context(dask.config.set(limits))
+            scratch = stack.enter_context(tempfile.TemporaryDirectory(prefix="farm-", ignore_cleanup_errors=True))
+            where = stack.enter_context(distributed.LocalCluster(
+                n_workers=given.workers or os.cpu_count(), threads_per_worker=1, processes=True, host="127.0.0.1",
+                dashboard_address=None, memory_limit=0, local_directory=scratch, silence_logs="CRITICAL"))
+        try:
+            client = stack.enter_context(distributed.Client(where, timeout=10, set_as_default=False))
+            client.wait_for_workers(1, timeout=given.patience)
+        except (OSError, TimeoutError, ValueError) as error:
+            raise NotStarted(f"no worker at {where}: {error}") from None
+        yield client
+
+
+def prepare(client: distributed.Client, settings: farm_job.Settings) -> None:
+    """Gives the workers their program. Raises NotStarted when one of them cannot do the jobs."""
+    client.upload_file(farm_job.__file__)
+    lacks = client.run(farm_job.complaints, settings, on_error="return")
+    told = {f"{worker}: {what}" for worker, found in lacks.items()
+            for what in (found if isinstance(found, list) else [repr(found)])}
+    if told:
+        raise NotStarted("\n  ".join(["workers cannot do the jobs:", *sorted(told)]))
+
+
+def clean(client: distributed.Client, settings: farm_job.Settings, seconds: int) -> None:
+    """Removes what killed jobs have left in the shared memory of all machines that have a worker."""
+    one_of_each = {urllib.parse.urlsplit(worker).hostname: worker for worker in client.scheduler_info()["workers"]}
+    results = client.run(farm_job.clean_shared_memory, settings, seconds, workers=list(one_of_each.values()),
+                         on_error="return") if one_of_each else {}
+    for worker, result in results.items():
+        if isinstance(result, BaseException):
+            say(f"the shared memory at {worker} is not cleaned: {result}")
+        elif result:
+            say(f"removed {result} old buffers from shared memory at {worker}")
+
+
+class Crew:
+    """Tells of workers that come and go."""
+
+    def __init__(self, client: distributed.Client) -> None:
+        self._client = client
+        self._known = set(client.scheduler_info()["workers"])
+        self._seen = time.monotonic()
+
+    def look(self) -> float:
+        """Returns for how many seconds there was no worker."""
+        there = set(self._client.scheduler_info()["workers"])
+        for verb, workers in (("is gone", self._known - there), ("has come", there - self._known)):
+            for worker in sorted(workers):
+                say(f"worker {worker} {verb}")
+        self._known = there
+        if there:
+            self._seen = time.monotonic()
+        return time.monotonic() - self._seen
+
+
+def run_jobs(client: distributed.Client, settings: farm_job.Settings, files: list[str], given: argparse.Namespace,
+             report: farm_report.Report) -> None:
+    """Has Dask do all jobs, and reports what comes of them."""
+    client.subscribe_topic(settings.run, report.on_event)
+    crew = Crew(client)
+    jobs = client.map(farm_job.run_job, [settings] * len(files), range(len(files)), files, retries=given.retries,
+                      pure=False)
+    numbers = {job.key: number for number, job in enumerate(jobs)}
+    ended: queue.Queue[distributed.Future] = queue.Queue()
+    for job in jobs:
+        job.add_done_callback(ended.put)
+    looked = time.monotonic()
+    while not report.is_complete:
+        with contextlib.suppress(queue.Empty):
+            job = ended.get(timeout=1)
+            if job.status == "finished":
+                report.on_end(numbers[job.key], None)
+            elif job.status == "error":
+                report.on_end(numbers[job.key], job.exception())
+            else:
+                report.on_end(numbers[job.key], NotStarted(f"Dask has {job.status} it"))
+        if time.monotonic() - looked >= 1:
+            looked = time.monotonic()
+            if crew.look() > given.patience:
+                client.cancel(jobs)
+                report.give_up("there was no worker any more")
+
+
+def farm(given: argparse.Namespace) -> int:
+    """Returns the exit code."""
+    folder, captures = os.path.abspath(given.folder), os.path.abspath(given.captures)
+    if not os.path.isdir(folder):
+        raise NotStarted(f"there is no folder {folder}")
+    found, errors = farm_files.find_files(folder, given.suffixes)
+    if not found and not errors:
+        raise NotStarted(f"no file in {folder} ends in {' or '.join(given.suffixes)}")
+    os.makedirs(captures, exist_ok=True)
+    files = [file for file in found if given.again or not farm_files.is_done(folder, captures, file)]
+    settings = farm_job.Settings(
+        run="vrx-" + uuid.uuid4().hex, folder=folder, captures=captures,
+        programs=os.path.abspath(given.programs) if given.programs else "", host=given.host,
+        translator=given.translator, time_limit=given.time_limit)
+    farm_files.remove_parts(captures, seconds=given.clean_after)
+    report = farm_report.Report(files, given.retries)
+    report.failures += [farm_report.Failure(os.path.relpath(error.filename, folder), str(error)) for error in errors]
+    is_interrupted = False
+    if files:
+        with connected(given) as client:
+            prepare(client, settings)
+            clean(client, settings, given.clean_after)
+            try:
+                run_jobs(client, settings, files, given, report)
+                clean(client, settings, given.clean_after)
+            except KeyboardInterrupt:
+                is_interrupted = True
+                report.give_up("interrupted")
+        farm_files.remove_parts(captures, settings.run)
+    table = report.write_table(captures)
+    report.print_table()
+    if not report.all_imported:
+        say(f"in full: {table}")
+    say(report.summary(len(found) - len(files)))
+    return INTERRUPTED if is_interrupted else ALL_IMPORTED if report.all_imported else SOME_FAILED
+
+
+def main() -> int:
+    """Returns the exit code."""
+    signal.signal(signal.SIGTERM, signal.default_int_handler)
+    given = arguments()
+    try:
+        return farm(given)
+    except (NotStarted, OSError) as error:
+        print(f"import_farm: {farm_report.printable(str(error)) if isinstance(error, OSError) else error}",
+              file=sys.stderr)
+        return NOT_STARTED
+    except KeyboardInterrupt:
+        print("import_farm: interrupted", file=sys.stderr)
+        return INTERRUPTED
+
+
+if __name__ == "__main__":
+    sys.exit(main())
