@@ -127,8 +127,7 @@ class Report:
         """How many there were of what, and the time since the jobs began."""
         failed = len(self.failures)
         return (f"{len(self._done)} imported, {skipped} done before, {failed} failed, "
-                f"{len(self._given_up)} given up, "
-                f"{time.monotonic() - self._started:.1f} s")
+                f"{len(self._given_up)} given up, {time.monotonic() - self._started:.1f} s")
 
     def _fail(self, failure: Failure) -> None:
         self.failures.append(failure)
