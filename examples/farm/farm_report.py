@@ -76,8 +76,6 @@ class Report:
 
     def on_end(self, number: int, error: BaseException | None) -> None:
         """A job has ended, with an error if it made no capture."""
-        if number not in self._open:
-            return
         self._open.discard(number)
         if error is None:
             done = self._done[number]

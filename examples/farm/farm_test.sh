@@ -168,17 +168,22 @@ expect 1 "1 files are given up: there was no worker any more" --scheduler "$addr
 nothing_is_left "after the last worker"
 expect 3 "no worker at $address" --scheduler "$address" --patience 1 --again "$files" "$captures"
 
-# Workers of its own, with a translator that hangs, one that kills the recorder, and a host that kills its worker.
+# Workers of its own, with a translator that hangs, one that kills the recorder, a host that kills its worker, and a disk
+# that is full for the recorder only.
 expect 1 "not done in 1 s" --again --workers 1 --time-limit 1 --retries 0 --translator "sleep 50" "$files" "$captures"
 # shellcheck disable=SC2016 # they are for the scripts
 printf '#!/bin/sh\nkill -KILL $PPID\n' >"$scratch/translator"
 # shellcheck disable=SC2016
 printf '#!/bin/sh\nkill -KILL $(ps -o ppid= -p $PPID)\nsleep 50\n' >"$scratch/host"
-chmod +x "$scratch/translator" "$scratch/host"
+printf '#!/bin/sh\nulimit -S -f 200\nexec "%s/cad_reader" "$@"\n' "$programs" >"$scratch/short_of_room"
+printf '#!/bin/sh\nulimit -S -f unlimited\nexec "%s/cad_translator"\n' "$programs" >"$scratch/with_room"
+chmod +x "$scratch"/{translator,host,short_of_room,with_room}
 expect 1 "b/vise1.step  exit code 1  1 " --again --workers 1 --retries 0 --translator "$scratch/translator" "$files" \
     "$captures"
 expect 1 "2 workers died while they had it" --again --workers 1 --worker-deaths 1 --host "$scratch/host" "$files" \
     "$captures"
+expect 1 "the capture is not whole" --again --workers 1 --retries 0 --host "$scratch/short_of_room" \
+    --translator "$scratch/with_room" "$files" "$captures"
 [[ $(stat -c %Y.%i "$vise") == "$before" ]] || fail "a failure has touched a good capture"
 expect 0 "1 imported, 0 done before, 0 failed" --again --workers 1 "$files" "$captures"
 [[ $(stat -c %Y.%i "$vise") != "$before" ]] || fail "nothing was imported again"

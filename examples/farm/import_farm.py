@@ -4,8 +4,8 @@ the translator; its result is a capture. A second run does what the first has no
 
 import argparse
 import contextlib
+import logging
 import os
-import pathlib
 import queue
 import shlex
 import signal
@@ -157,7 +157,7 @@ class Crew:
 
     def look(self) -> float:
         """Returns for how many seconds there was no worker."""
-        there = set(self._client.scheduler_info()["workers"])
+        there = set(self._client.scheduler_info().get("workers", ()))
         for verb, workers in (("is gone", self._known - there), ("has come", there - self._known)):
             for worker in sorted(workers):
                 say(f"worker {worker} {verb}")
@@ -168,8 +168,8 @@ class Crew:
 
 
 def run_jobs(client: distributed.Client, settings: farm_job.Settings, files: list[str], given: argparse.Namespace,
-             report: farm_report.Report) -> None:
-    """Has Dask do all jobs, and reports what comes of them."""
+             report: farm_report.Report) -> bool:
+    """Has Dask do all jobs, and reports what comes of them. Returns whether all have come to their end."""
     client.subscribe_topic(settings.run, report.on_event)
     crew = Crew(client)
     jobs = client.map(farm_job.run_job, [settings] * len(files), range(len(files)), files, retries=given.retries,
@@ -187,12 +187,15 @@ def run_jobs(client: distributed.Client, settings: farm_job.Settings, files: lis
             elif job.status == "error":
                 report.on_end(numbers[job.key], job.exception())
             else:
-                report.on_end(numbers[job.key], NotStarted(f"Dask has {job.status} it"))
+                report.give_up(f"Dask has {job.status} it, as it does when the scheduler is gone")
+                return False
         if time.monotonic() - looked >= 1:
             looked = time.monotonic()
             if crew.look() > given.patience:
                 client.cancel(jobs)
                 report.give_up("there was no worker any more")
+                return False
+    return True
 
 
 def farm(given: argparse.Namespace) -> int:
@@ -218,8 +221,8 @@ def farm(given: argparse.Namespace) -> int:
             prepare(client, settings)
             clean(client, settings, given.clean_after)
             try:
-                run_jobs(client, settings, files, given, report)
-                clean(client, settings, given.clean_after)
+                if run_jobs(client, settings, files, given, report):
+                    clean(client, settings, given.clean_after)
             except KeyboardInterrupt:
                 is_interrupted = True
                 report.give_up("interrupted")
@@ -235,6 +238,7 @@ def farm(given: argparse.Namespace) -> int:
 def main() -> int:
     """Returns the exit code."""
     signal.signal(signal.SIGTERM, signal.default_int_handler)
+    logging.getLogger("distributed").setLevel(logging.CRITICAL)  # the report tells what became of jobs and workers
     given = arguments()
     try:
         return farm(given)
