@@ -19,7 +19,7 @@ def arguments(description: str) -> argparse.Namespace:
     parser.add_argument("captures", help="the folder for captures, made as needed: FILE.vrxcap in the same order of "
                         f"folders, and {farm_report.TABLE}")
     parser.add_argument("--scheduler", type=address, metavar="ADDRESS",
-                        help="of a running dask scheduler, as tcp://host:8786; without it workers are started on this machine")
+                        help="of a running dask scheduler, as tcp://host:8786; without it workers are started here")
     parser.add_argument("--workers", type=positive(int), metavar="N",
                         help="how many to start on this machine; default: as many as it has processors")
     parser.add_argument("--time-limit", type=positive(float), default=600, metavar="SECONDS",
