@@ -1,7 +1,7 @@
 #pragma once
 
 #include "mp/narrow.h"
-#include "tests/support/helpers.h"
+#include "tests/support/json_text.h"
 #include "tests/support/units.h"
 #include "vrx_api/structure/product_structure.h"
 
