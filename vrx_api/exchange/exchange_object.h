@@ -17,6 +17,7 @@ public:
     void readObject(const JsonValue& value) override = 0;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override = 0;
 
+    /// The name of the class on the wire, by which the other side makes an object of it.
     virtual const wstring& objectName() const = 0;
 
     /// A new default object of the class; nothing of this object is copied.
@@ -54,6 +55,7 @@ protected:
 
     wstring m_source;
     bool m_loaded = false;
+    /// What `load` asks of the content.
     ReadRules m_readRules;
 };
 
