@@ -16,6 +16,7 @@ namespace vrx
 class VRX_API ExcVisuFace : public IJsonObject
 {
 public:
+    /// A run of indices into the vertices of the face.
     struct Polygon
     {
         std::int32_t type = 0;
