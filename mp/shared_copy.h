@@ -33,7 +33,6 @@ private:
 
     struct VRX_API Release
     {
-        /// Frees the memory of a copy.
         void operator()(char* bytes) const noexcept;
     };
 

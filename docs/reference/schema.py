@@ -1,0 +1,124 @@
+"""The classes' own outline, as `vrx schema` tells it: the keys of each class, their kinds, and who holds whom."""
+
+from collections.abc import Iterator
+from dataclasses import dataclass
+
+INTEGERS = {-2147483648: "32-bit integer", 0: "unsigned integer"}
+
+
+@dataclass(frozen=True)
+class Row:
+    """One key of a class; the path of a nested one names the objects around it."""
+
+    path: str
+    kind: str  # with the names of classes as {ExcBlock}
+    note: str
+    targets: tuple[str, ...]  # the classes that stand there
+
+    @property
+    def key(self) -> str:
+        return self.path.rsplit(".", 1)[-1]
+
+
+def cpp_name(definition: str) -> str:
+    """The class of a definition, without the arguments of a template."""
+    return definition.split(".")[0].removeprefix("imp::")
+
+
+def named(reference: str) -> str:
+    return "{" + cpp_name(reference.removeprefix("#/$defs/")) + "}"
+
+
+def kind(shape: dict) -> str:
+    """The kind of a value in words."""
+    if "$ref" in shape:
+        return named(shape["$ref"])
+    if "anyOf" in shape:
+        return " or ".join(dict.fromkeys(kind(each) for each in shape["anyOf"]))
+    if "enum" in shape:
+        return "name"
+    what = shape.get("type")
+    if what == "array":
+        size = f"{shape['minItems']} " if "minItems" in shape else ""
+        parts = [shape["items"]] if "items" in shape else shape["prefixItems"]
+        inner = " and ".join(dict.fromkeys(kind(part) for part in parts))
+        return f"array of {size}{inner if inner.startswith('{') else plural(inner)}"
+    if what == "object" and "additionalProperties" in shape:
+        return f"object of {plural(kind(shape['additionalProperties']))} under {'names' if 'propertyNames' in shape else 'any names'}"
+    if what == "integer":
+        return INTEGERS[shape["minimum"]] if shape["maximum"] != 2**64 - 1 else "64-bit unsigned integer"
+    return {"string": "text", "number": "number", "boolean": "true or false", "null": "null", None: "any value"}.get(what, what)
+
+
+def plural(inner: str) -> str:
+    if inner.startswith("{") or inner in ("true or false", "text"):
+        return {"text": "texts"}.get(inner, inner)
+    first, _, rest = inner.partition(" of ")
+    return f"{first}s of {rest}" if rest else f"{first}s"
+
+
+def references(shape: object) -> Iterator[str]:
+    """The classes that stand in a value, but for those under keys of its own."""
+    if isinstance(shape, dict):
+        if "$ref" in shape:
+            yield cpp_name(shape["$ref"].removeprefix("#/$defs/"))
+        for key, part in shape.items():
+            if key not in ("properties", "if"):
+                yield from references(part)
+    elif isinstance(shape, list):
+        for part in shape:
+            yield from references(part)
+
+
+def rows(shape: object, path: str = "") -> Iterator[Row]:
+    """All keys of a class, with those of the objects in it that are no classes."""
+    if isinstance(shape, list):
+        for part in shape:
+            yield from rows(part, path)
+        return
+    if not isinstance(shape, dict):
+        return
+    for key, part in shape.get("properties", {}).items():
+        inner = f"{path}.{key}" if path else key
+        yield Row(inner, kind(part), part.get("description", ""), tuple(dict.fromkeys(references(part))))
+        yield from rows(part, inner)
+    for key in ("items", "prefixItems", "additionalProperties", "anyOf"):
+        yield from rows(shape.get(key), path)
+
+
+class Schema:
+    def __init__(self, document: dict) -> None:
+        self.definitions: dict[str, dict] = {}
+        for name, shape in document["$defs"].items():
+            self.definitions.setdefault(cpp_name(name), shape)
+        self.rows = {name: list(rows(shape)) for name, shape in self.definitions.items()}
+        self.rows["ExchangeObjectWrapper"] = self.of_envelope(self.rows["ExchangeObjectWrapper"])
+        self.holders: dict[str, list[tuple[str, Row | None]]] = {}
+        for name in sorted(self.definitions):
+            for row in self.rows[name]:
+                for target in row.targets:
+                    self.holders.setdefault(target, []).append((name, row))
+            if "properties" not in self.definitions[name]:
+                for target in dict.fromkeys(references(self.definitions[name])):
+                    self.holders.setdefault(target, []).append((name, None))
+
+    def whole(self, name: str) -> str:
+        """What a value without keys looks like."""
+        told = kind(self.definitions[name])
+        return told[:1].upper() + told[1:]
+
+    def of_envelope(self, found: list[Row]) -> list[Row]:
+        """An envelope holds the objects that its rules name."""
+        rules = self.definitions["ExchangeObjectWrapper"].get("allOf", [])
+        objects = {
+            cpp_name(part["$ref"].removeprefix("#/$defs/"))
+            for rule in rules
+            for part in rule["then"].get("properties", {}).values()
+            if "$ref" in part
+        }
+        return [
+            Row(row.path, "an exchange object, or the name of its buffer", row.note, tuple(sorted(objects)))
+            if row.key == "exchange_object_data"
+            else row
+            for row in found
+        ]
