@@ -70,7 +70,7 @@ class Annotator:
         for other in self.model.rows(name):
             found = re.search(r'Positions in "(\w+)", where (\d+) numbers make one', other.note)
             if found and found.group(1) == row.key and found.group(2) != "1":
-                return f" {found.group(2)} numbers make one of what `{other.path}` counts."
+                return f" {found.group(2)} numbers make one point; `{other.path}` counts points."
         return ""
 
     def uses_of_enumerations(self) -> dict[str, list[str]]:
@@ -110,7 +110,7 @@ class Annotator:
                 )
                 told = self.note(each, row) + self.indexed_by(each, row)
                 table += f"<tr><td>`{row.path}`</td><td>{self.kind(each, row)}</td><td>{told}</td>"
-                table += f"<td>{' '.join(members)}</td></tr>"
+                table += f"<td>{', '.join(members)}</td></tr>"
             lines += ["", "@par Keys", table + "</table>"]
         elif name in self.model.schema.definitions:
             shape = self.model.schema.whole(name)
@@ -221,6 +221,8 @@ class Annotator:
         text = []
         origins = []
         for number, line in enumerate(reader.text.splitlines()):
+            if number in reader.private:
+                continue
             indent = line[: len(line) - len(line.lstrip())]
             for told in added.get(number, []):
                 text.append(f"{indent}/// {told}".rstrip())

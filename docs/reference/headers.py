@@ -36,6 +36,7 @@ class HeaderReader:
         self.text = path.read_text()
         self.code = without_comments(self.text)
         self.found: list[Declaration] = []
+        self.private: set[int] = set()  # the lines of private sections, counted from 0
         self.read(0, len(self.text), "", True, self.found)
 
     def read(self, place: int, end: int, scope: str, public: bool, into: list[Declaration]) -> None:
@@ -57,6 +58,11 @@ class HeaderReader:
                     line = self.text[place:end].split("\n", 1)[0]
             elif line in ("public:", "protected:", "private:"):
                 public = line != "private:"
+                if not public:
+                    section = re.compile(r"^\s*(?:public|protected):", re.MULTILINE).search(self.text, place, end)
+                    behind = section.start() if section else end
+                    first = self.text.count("\n", 0, place)
+                    self.private.update(range(first, self.text.count("\n", 0, behind)))
             elif line and not line.startswith("//"):
                 group = comment or group
                 before = len(into)

@@ -36,8 +36,10 @@ def folders(root: Path) -> dict[str, str]:
     for names, holds in re.findall(r"^\| (`[^|]+) \| (.+) \|$", (root / "README.md").read_text(), re.MULTILINE):
         told = re.findall(r"`([\w/]+)`", names)
         above = told[0].rsplit("/", 1)[0] + "/" if "/" in told[0] else ""
-        for name in told:
-            found[name if name.startswith(above) else above + name] = holds
+        # Two folders in one row may have a part of it each.
+        parts = holds.split("; ") if holds.count("; ") == len(told) - 1 else [holds] * len(told)
+        for name, part in zip(told, parts):
+            found[name if name.startswith(above) else above + name] = part
     return found
 
 
@@ -93,6 +95,8 @@ def main() -> int:
     for page in pages:
         text = page.read_text()
         if page.suffix == ".md":
+            # A page with the title of the project would hide the main page.
+            text = re.sub(r"\A# vrx_api$", "# README", text, flags=re.MULTILINE)
             text = with_drawings(with_own_links(page, text, root, pages))
         write(target / page.relative_to(root), text)
     return 0

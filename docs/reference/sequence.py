@@ -70,8 +70,11 @@ def draw(source: str) -> str:
     """The picture of a text; ValueError for a line that is none of the above."""
     lines = [line.strip() for line in source.strip().splitlines() if line.strip()]
     names = [name.strip() for name in lines[0].split("|")]
-    drawing = Drawing({name: MARGIN + place * COLUMN for place, name in enumerate(names)})
-    width = 2 * MARGIN + (len(names) - 1) * COLUMN
+    # The columns are as wide as the longest message between two of them.
+    between = re.findall(r"^[^:>]+? --?> [^:]+?: (.*)$", "\n".join(lines), re.MULTILINE)
+    column = max([COLUMN] + [round(len(words) * LETTER) + 40 for words in between])
+    drawing = Drawing({name: MARGIN + place * column for place, name in enumerate(names)})
+    width = 2 * MARGIN + (len(names) - 1) * column
     for line in lines[1:]:
         message = re.fullmatch(r"([^:>]+?) (--?>) ([^:]+?): (.*)", line)
         note = re.fullmatch(r"note ([^:]+): (.*)", line)
@@ -90,7 +93,7 @@ def draw(source: str) -> str:
     back = Drawing(drawing.columns)
     for name, x in drawing.columns.items():
         back.line(x, TOP, x, height - 8, "life")
-        box = max(len(name) * 7.4 + 24, 90)
+        box = max(len(name) * 8.5 + 24, 90)
         back.parts.append(f'<rect x="{x - box / 2:g}" y="{TOP - 40}" width="{box:g}" height="32" rx="4" class="who"/>')
         back.text(x, TOP - 19, name, "who")
     inner = "".join(back.parts + drawing.parts)
