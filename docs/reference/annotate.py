@@ -11,13 +11,9 @@ from headers import Declaration, HeaderReader, all_of
 from model import Model, short
 from schema import Row
 
-SPECIAL = {
-    "default": "Makes one with the defaults of its members.",
-    "copy": "Copies.",
-    "no copy": "Is not copied.",
-    "move": "Moves.",
-    "end": "Ends it.",
-}
+# Of constructors and assignments without a comment.
+DEFAULT = "Makes one with the defaults of its members."
+NO_COPY = "Is not copied."
 
 
 def link(name: str, label: str = "") -> str:
@@ -44,9 +40,12 @@ class Annotator:
                 return link(self.public[each], each)
         return f"`{name}`"
 
+    def with_links(self, kind: str) -> str:
+        return re.sub(r"\{([^}]+)\}", lambda found: self.class_link(str(found.group(1))), kind)
+
     def kind(self, name: str, row: Row) -> str:
         line = self.model.line(name, row.path)
-        told = re.sub(r"\{([^}]+)\}", lambda found: self.class_link(found.group(1)), row.kind)
+        told = self.with_links(row.kind)
         if (name, row.path) in self.names:
             enumeration = self.names[name, row.path]
             told = re.sub(r"\bnames?\b", link(self.public[enumeration], enumeration), told, count=1)
@@ -104,9 +103,9 @@ class Annotator:
             table = "<table class='keys'><tr><th>Key</th><th>Kind</th><th>When</th><th>Member</th></tr>"
             for each, row in rows:
                 members = dict.fromkeys(
-                    link(f"{self.qualified(member)}", member.name)
+                    link(self.qualified(each, member), member.name)
                     for member in self.model.accessors(each, row)
-                    if self.is_public(member)
+                    if self.qualified(each, member)
                 )
                 told = self.note(each, row) + self.indexed_by(each, row)
                 table += f"<tr><td>`{row.path}`</td><td>{self.kind(each, row)}</td><td>{told}</td>"
@@ -114,31 +113,29 @@ class Annotator:
             lines += ["", "@par Keys", table + "</table>"]
         elif name in self.model.schema.definitions:
             shape = self.model.schema.whole(name)
-            lines += ["", "@par JSON", re.sub(r"\{([^}]+)\}", lambda it: self.class_link(it.group(1)), shape) + "."]
+            lines += ["", "@par JSON", self.with_links(shape) + "."]
         held = [self.held_by(holder, row) for each in names for holder, row in self.model.schema.holders.get(each, [])]
         if held:
             lines += ["", "@par Held by", ", ".join(dict.fromkeys(held)) + "."]
         return lines
 
-    def qualified(self, member: Declaration) -> str:
-        """The member of the public class, for one of a class behind an interface."""
-        scope = short(member.scope)
-        for each in self.model.bases(scope):
+    def qualified(self, name: str, member: Declaration) -> str:
+        """The public member that is meant, which may be that of an interface; empty for none."""
+        if short(member.scope) in self.public:
+            return member.qualified
+        for each in self.model.bases(name):
             declared = self.model.classes.get(each)
             if each in self.public and declared and any(inner.name == member.name for inner in declared.inner):
                 return f"{self.public[each]}::{member.name}"
-        return member.qualified
-
-    def is_public(self, member: Declaration) -> bool:
-        return self.qualified(member).rsplit("::", 1)[0] in self.public.values()
+        return ""
 
     def held_by(self, holder: str, row: Row | None) -> str:
         if row is None:
             return self.class_link(holder)
-        getters = [member for member in self.model.accessors(holder, row) if self.is_public(member)]
         told = self.class_link(holder)
-        if getters and holder in self.public:
-            told = link(self.qualified(getters[0]), f"{holder}::{getters[0].name}")
+        members = [each for each in self.model.accessors(holder, row) if self.qualified(holder, each)]
+        if members and holder in self.public:
+            told = link(self.qualified(holder, members[0]), f"{holder}::{members[0].name}")
         return f"{told} (`{row.path}`)"
 
     def of_member(self, declared: Declaration) -> list[str]:
@@ -175,20 +172,24 @@ class Annotator:
         """Constructors, assignments and destructors that have nothing to tell."""
         last = declared.scope.rsplit("::", 1)[-1]
         text = declared.text
-        if declared.name.startswith("~"):
-            return [SPECIAL["end"]]
         if text.startswith("template <>"):
             types = dict.fromkeys(re.findall(r"\bE[A-Z]\w+", text))
             return [f"The function template of this name for {', '.join(types)}."]
         if declared.name not in (last, "operator="):
             return []
         if "= delete" in text:
-            return [SPECIAL["no copy"]] if "&" in text else []
+            return [NO_COPY]
         if re.search(rf"\({last}(<\w+>)?&& ?\w*\)", text):
-            return [SPECIAL["move"]]
+            return ["Moves."]
         if re.search(rf"\(const {last}(<\w+>)?& ?\w*\)", text):
-            return [SPECIAL["copy"]]
-        return [SPECIAL["default"]] if re.search(rf"\b{last}\(\)", text) else []
+            return ["Copies."]
+        return [DEFAULT] if re.search(rf"\b{last}\(\)", text) else []
+
+    @staticmethod
+    def tells_nothing(declared: Declaration) -> bool:
+        """A destructor, and what the compiler would copy or move by itself; on one line, and without a comment."""
+        copies = "= default" in declared.text and "&" in declared.text
+        return declared.kind == "function" and not declared.comment and (declared.name.startswith("~") or copies)
 
     def lines_for(self, declared: Declaration, group: str) -> list[str]:
         own = {
@@ -215,13 +216,17 @@ class Annotator:
         """The text, and for each line the line of the header that it stands for."""
         reader = self.readers[header]
         added: dict[int, list[str]] = {}
+        left_out = set(reader.private)
         for declared in all_of(reader.found):
-            if declared.public:
-                added[reader.text.count("\n", 0, declared.place)] = self.lines_for(declared, group)
+            number = reader.text.count("\n", 0, declared.place)
+            if self.tells_nothing(declared):
+                left_out.add(number)
+            elif declared.public:
+                added[number] = self.lines_for(declared, group)
         text = []
         origins = []
         for number, line in enumerate(reader.text.splitlines()):
-            if number in reader.private:
+            if number in left_out:
                 continue
             indent = line[: len(line) - len(line.lstrip())]
             for told in added.get(number, []):

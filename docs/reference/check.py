@@ -1,7 +1,7 @@
 """usage: check.py SCHEMA FOLDER
 
-Checks the reference that Doxygen made in FOLDER: no warning, a page for each public class, each key of each class of SCHEMA
-on the page of the class, the wire strings of the enumerations, no link that leads nowhere, and nothing to be fetched.
+Checks the reference that Doxygen made in FOLDER: no warning, a page for each public class, each key of each class of
+SCHEMA on the page of the class, the wire strings of the enumerations, no link that leads nowhere, and nothing to fetch.
 """
 
 import html
@@ -16,7 +16,8 @@ from headers import HeaderReader, all_of
 from model import Model, short
 from schema import Schema
 
-FETCHED = re.compile(r"<(?:link|script|img|iframe|object|source)\b[^>]*\b(?:href|src|data)=\"(?:https?:)?//[^\"]+|url\((?:https?:)?//|@import")
+LOADS = r"<(?:link|script|img|iframe|object|source)\b[^>]*\b(?:href|src|data)=\"(?:https?:)?//[^\"]+"
+FETCHED = re.compile(LOADS + r"|url\([\"']?(?:https?:)?//[^)]*|@import[^;]*")
 LINK = re.compile(r"href=\"([^\"#:]*)(?:#([^\"]*))?\"")
 
 
@@ -29,7 +30,7 @@ class Checker:
         self.problems: list[str] = []
         tags = ElementTree.parse(folder / "vrx_api.tag").getroot()
         self.pages = {
-            each.findtext("name"): each.findtext("filename")
+            each.findtext("name", ""): each.findtext("filename", "")
             for each in tags.iter("compound")
             if each.get("kind") in ("class", "struct")
         }
@@ -39,7 +40,7 @@ class Checker:
         origins = json.loads((self.folder / "origins.json").read_text())
         place = re.compile(rf"^{re.escape(str((self.folder / 'source').resolve()))}/([^:]+):(\d+)", re.MULTILINE)
 
-        def original(found: re.Match) -> str:
+        def original(found: re.Match[str]) -> str:
             header, line = found.group(1), int(found.group(2))
             known = origins.get(header, [])
             return f"{header}:{known[line - 1] if line <= len(known) else line}"
@@ -74,6 +75,8 @@ class Checker:
                     self.problems.append(f"{header}: {each.qualified} is shown without its wire string")
 
     def links(self) -> None:
+        for sheet in (self.folder / "html").glob("*.css"):
+            self.problems += [f"{sheet.name} would fetch {found}" for found in FETCHED.findall(sheet.read_text())]
         for name, text in self.texts.items():
             self.problems += [f"{name} would fetch {found}" for found in FETCHED.findall(text)]
             for target, anchor in LINK.findall(text):

@@ -6,6 +6,8 @@ from pathlib import Path
 
 from cpp_text import arguments, body_behind, closing, without_comments
 
+SHARED_TABLES = "vrx_api/format_options/shared_mode_tables.h"
+
 # How many arguments stand before the field; see the table of verbs in docs/adding_a_class.md.
 VERBS = {
     "always": (0, "written always"),
@@ -80,8 +82,8 @@ class SourceReader:
         for path, text in self.texts.items():
             self.read_tables(text)
             self.read_descriptions(path, text)
-            for name, wire in re.findall(r"^const wstring (\w+)::s_objectName = WIDE\(\"(\w+)\"\);", text, re.MULTILINE):
-                self.facts.object_names[name] = wire
+            object_name = re.compile(r"^const wstring (\w+)::s_objectName = WIDE\(\"(\w+)\"\);", re.MULTILINE)
+            self.facts.object_names.update(object_name.findall(text))
 
     def key_name(self, text: str, constants: dict[str, str]) -> str | None:
         literal = re.search(r'WIDE\("([^"]+)"\)', text)
@@ -144,7 +146,7 @@ class SourceReader:
         self.facts.others[path] = self.keys_of(rest, constants)
 
     def read_tables(self, text: str) -> None:
-        every = text if "kAllOrNone[" in text else text + self.texts.get("vrx_api/format_options/shared_mode_tables.h", "")
+        every = text if "kAllOrNone[" in text else text + self.texts.get(SHARED_TABLES, "")
         aliases = dict(re.findall(r"^using (\w+) = ([\w:]+);", text, re.MULTILINE))
         for match in re.finditer(r"enumTable\(([\w:]+)\)\s*\{\s*return (\w+)", text):
             table = re.search(rf"\b{match.group(2)}\[\w*\] =\s*\{{", every)

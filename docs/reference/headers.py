@@ -42,13 +42,14 @@ class HeaderReader:
     def read(self, place: int, end: int, scope: str, public: bool, into: list[Declaration]) -> None:
         comment = group = ""
         while place < end:
-            blank = re.compile(r"[ \t]*\n?").match(self.text, place, end)
-            if blank.group(0).endswith("\n"):
+            if self.text[place] in " \t":
+                place += 1
+                continue
+            if self.text[place] == "\n":
                 if self.text[place - 1] == "\n":
                     comment = group = ""
-                place = blank.end()
+                place += 1
                 continue
-            place = blank.end()
             line = self.text[place:end].split("\n", 1)[0]
             if line.startswith("///"):
                 comment += line[3:].strip() + " "
@@ -92,9 +93,9 @@ class HeaderReader:
             return behind.end() if behind and behind.group(1) == ";" else last + 1
         what, head = kind.groups()
         head = re.sub(r"\b(?:VRX_API|VRX_BRIDGE|MP_API|KOLT_API|[A-Z]+_(?:API|EXPORT))\s+", "", head)
-        name = re.match(r"[\w:]*", head).group(0)
+        name = "".join(re.findall(r"^[\w:]*", head))
         # A base that a template makes of a class stands for that class, too.
-        bases = re.findall(r"\b(?!public\b)[\w:]+", re.split(r"(?<!:):(?!:)", head, maxsplit=1)[1]) if re.search(r"(?<!:):(?!:)", head) else []
+        bases = re.findall(r"\b(?!public\b)[\w:]+", "".join(re.split(r"(?<!:):(?!:)", head, maxsplit=1)[1:]))
         inner_scope = "::".join(part for part in (scope, name) if part)
         if what == "namespace":
             self.read(place + 1, last, inner_scope, True, into)

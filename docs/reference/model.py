@@ -75,7 +75,8 @@ class Model:
             lines += described.keys if described else []
             lines += self.facts.others.get(self.facts.sources.get(each, ""), [])
         lines += self.shared
-        told = [line for line in lines if line.name == path.rsplit(".", 1)[-1]] or [line for line in lines if not line.name]
+        key = path.rsplit(".", 1)[-1]
+        told = [line for line in lines if line.name == key] or [line for line in lines if line.name is None]
         return next((line for line in told if line.nested == ("." in path)), told[0] if told else None)
 
     @cache
@@ -86,7 +87,8 @@ class Model:
         described = self.description(name)
         if described is None:
             return []
-        wanted = {line.name for each in self.bases(name) if self.description(each) for line in self.facts.classes[each].keys}
+        described_bases = [each for each in self.bases(name) if self.description(each)]
+        wanted = {line.name for each in described_bases for line in self.facts.classes[each].keys}
         for each in self.derived(name):
             found = [row for row in self.schema.rows.get(each, []) if row.path in wanted]
             if found:
@@ -132,17 +134,26 @@ class Model:
         found: dict[str, Declaration] = {}
         for each in self.bases(name):
             declared = self.classes.get(each)
-            inner = all_of(declared.inner) if declared and line else []
-            for member in inner:
-                if (is_accessor(member, each) or is_field(member)) and self.members_of(each, member).intersection(line.members):
+            for member in all_of(declared.inner) if declared else []:
+                usable = is_accessor(member, each) or is_field(member)
+                if line and usable and self.reaches(each, member, line, row.key):
                     found.setdefault(member.name, member)
+        if not found and "." in row.path:
+            above = row.path.rsplit(".", 1)[0]
+            return next((self.accessors(name, other) for other in self.rows(name) if other.path == above), [])
         return list(found.values())
+
+    def reaches(self, name: str, member: Declaration, line: Key, key: str) -> bool:
+        """By the variable, or by its name where the description names no variable."""
+        if line.members:
+            return bool(self.members_of(name, member).intersection(line.members))
+        return key.replace("_", "") in member.name.lower()
 
     def is_bulk(self, name: str, line: Key | None) -> str:
         """The type of an array of numbers in memory, or nothing."""
         declared = self.classes.get(name)
-        for member in declared.inner if declared and line else []:
-            bulk = BULK.search(member.text) if member.name in line.members else None
+        for member in declared.inner if declared else []:
+            bulk = BULK.search(member.text) if line and member.name in line.members else None
             if bulk:
                 return {"float": "32-bit floats", "double": "64-bit floats"}.get(bulk.group(1), "32-bit integers")
         return ""

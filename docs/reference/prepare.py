@@ -48,14 +48,14 @@ def group_of(header: str) -> str:
 
 
 def with_own_links(page: Path, text: str, root: Path, pages: list[Path]) -> str:
-    """A link to another page is told from the root, and one to a file that is not in the reference becomes its label."""
+    """A link to a page is told from the root, and one to a file that is not in the reference becomes its label."""
 
-    def kept(link: re.Match) -> str:
+    def kept(link: re.Match[str]) -> str:
         label, path, anchor = link.groups()
         target = (page.parent / path).resolve()
         if target in pages:
             return f"[{label}]({target.relative_to(root)}{anchor or ''})"
-        return link.group(0) if path.endswith(".html") else label
+        return str(link.group(0) if path.endswith(".html") else label)
 
     return re.sub(r"(?<!!)\[([^\]]+)\]\((?!https?:)([^)#\s]+)(#[^)\s]*)?\)", kept, text)
 
@@ -70,7 +70,8 @@ def main() -> int:
     target = Path(sys.argv[2])
     shutil.rmtree(target, ignore_errors=True)
     model = Model(root, Schema(json.loads(Path(sys.argv[1]).read_text())))
-    missing = [f"{name}: {row.path}" for name in model.schema.rows for row in model.rows(name) if not model.line(name, row.path)]
+    keys = [(name, row.path) for name in model.schema.rows for row in model.rows(name)]
+    missing = [f"{name}: {path}" for name, path in keys if not model.line(name, path)]
     if missing:
         print("No description of these keys was found:", *missing, sep="\n  ", file=sys.stderr)
         return 1

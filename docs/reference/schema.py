@@ -2,6 +2,7 @@
 
 from collections.abc import Iterator
 from dataclasses import dataclass
+from typing import Any
 
 INTEGERS = {-2147483648: "32-bit integer", 0: "unsigned integer"}
 
@@ -29,7 +30,7 @@ def named(reference: str) -> str:
     return "{" + cpp_name(reference.removeprefix("#/$defs/")) + "}"
 
 
-def kind(shape: dict) -> str:
+def kind(shape: dict[str, Any]) -> str:
     """The kind of a value in words."""
     if "$ref" in shape:
         return named(shape["$ref"])
@@ -44,10 +45,11 @@ def kind(shape: dict) -> str:
         inner = " and ".join(dict.fromkeys(kind(part) for part in parts))
         return f"array of {size}{inner if inner.startswith('{') else plural(inner)}"
     if what == "object" and "additionalProperties" in shape:
-        return f"object of {plural(kind(shape['additionalProperties']))} under {'names' if 'propertyNames' in shape else 'any names'}"
+        names = "names" if "propertyNames" in shape else "any names"
+        return f"object of {plural(kind(shape['additionalProperties']))} under {names}"
     if what == "integer":
         return INTEGERS[shape["minimum"]] if shape["maximum"] != 2**64 - 1 else "64-bit unsigned integer"
-    return {"string": "text", "number": "number", "boolean": "true or false", "null": "null", None: "any value"}.get(what, what)
+    return {"string": "text", "boolean": "true or false"}.get(what, what) if what else "any value"
 
 
 def plural(inner: str) -> str:
@@ -87,8 +89,8 @@ def rows(shape: object, path: str = "") -> Iterator[Row]:
 
 
 class Schema:
-    def __init__(self, document: dict) -> None:
-        self.definitions: dict[str, dict] = {}
+    def __init__(self, document: dict[str, Any]) -> None:
+        self.definitions: dict[str, dict[str, Any]] = {}
         for name, shape in document["$defs"].items():
             self.definitions.setdefault(cpp_name(name), shape)
         self.rows = {name: list(rows(shape)) for name, shape in self.definitions.items()}

@@ -15,7 +15,7 @@ COLUMN = 240
 ROW = 38
 TOP = 56
 MARGIN = 110
-LETTER = 6.6  # the width of a letter, about
+LETTER = 7.2  # the width of a letter, at most about
 
 
 @dataclass
@@ -23,6 +23,7 @@ class Drawing:
     columns: dict[str, int] = field(default_factory=dict)
     parts: list[str] = field(default_factory=list)
     y: int = TOP + 30
+    right: float = 0  # how far the texts reach
     frames: list[tuple[int, str]] = field(default_factory=list)
 
     def text(self, x: float, y: float, words: str, kind: str) -> None:
@@ -42,6 +43,7 @@ class Drawing:
             self.parts.append(f'<path d="M{x1} {self.y - 8} h34 v16 h-26" class="{kind}"/>')
             self.head(x1 + 1, self.y + 8, False)
             self.text(x1 + 42, self.y + 4, words, "own")
+            self.right = max(self.right, x1 + 42 + len(words) * LETTER)
         else:
             self.line(x1, self.y, x2, self.y, kind)
             self.head(x2, self.y, x2 > x1)
@@ -49,11 +51,13 @@ class Drawing:
         self.y += ROW
 
     def note(self, over: list[str], words: str) -> None:
-        middle = sum(self.columns[name] for name in over) / len(over)
-        spread = max(self.columns[name] for name in over) - min(self.columns[name] for name in over)
-        width = max(len(words) * LETTER + 20, spread + 40 if len(over) > 1 else 0)
-        self.parts.append(f'<rect x="{middle - width / 2:g}" y="{self.y - 16}" width="{width:g}" height="24" class="note"/>')
-        self.text(middle, self.y, words, "label")
+        places = [self.columns[name] for name in over]
+        spread = max(places) - min(places)
+        width = max(len(words) * LETTER + 16, spread + 40 if len(over) > 1 else 0)
+        left = max(sum(places) / len(places) - width / 2, 8)
+        self.parts.append(f'<rect x="{left:g}" y="{self.y - 16}" width="{width:g}" height="24" class="note"/>')
+        self.text(left + width / 2, self.y, words, "label")
+        self.right = max(self.right, left + width)
         self.y += ROW
 
     def end_frame(self, width: int) -> None:
@@ -90,6 +94,7 @@ def draw(source: str) -> str:
         else:
             raise ValueError(f"no line of a sequence: {line}")
     height = drawing.y
+    width = max(width, round(drawing.right) + 10)
     back = Drawing(drawing.columns)
     for name, x in drawing.columns.items():
         back.line(x, TOP, x, height - 8, "life")
