@@ -34,6 +34,7 @@ class Model:
         self.facts = read_sources(folder)
         self.classes: dict[str, Declaration] = {}
         self.bodies: dict[tuple[str, str], str] = {}
+        self.of_entries: set[str] = set()  # the sources whose classes have the keys of a shared header
         self.touched: dict[int, set[str]] = {}
         for path in sorted(folder.glob("vrx_api/*/*.h")) + sorted(folder.glob("bridge/*.h")):
             for each in all_of(HeaderReader(path).found):
@@ -48,6 +49,8 @@ class Model:
                     self.bodies[at] = self.bodies.get(at, "") + body_behind(text, head.end() - 1)
             for name in re.findall(r"enterShape\(typeid\((\w+)\)|outlineOf<(\w+)>", text):
                 self.facts.sources.setdefault(name[0] or name[1], str(path.relative_to(folder)))
+            if "outlineEntries(" in text:
+                self.of_entries.add(str(path.relative_to(folder)))
         self.shared = [key for path, keys in self.facts.others.items() if path.endswith(".h") for key in keys]
 
     @cache
@@ -74,7 +77,8 @@ class Model:
             described = self.description(each)
             lines += described.keys if described else []
             lines += self.facts.others.get(self.facts.sources.get(each, ""), [])
-        lines += self.shared
+        if any(self.facts.sources.get(each) in self.of_entries for each in self.bases(name)):
+            lines += self.shared
         key = path.rsplit(".", 1)[-1]
         told = [line for line in lines if line.name == key] or [line for line in lines if line.name is None]
         return next((line for line in told if line.nested == ("." in path)), told[0] if told else None)

@@ -81,6 +81,8 @@ def rows(shape: object, path: str = "") -> Iterator[Row]:
     if not isinstance(shape, dict):
         return
     for key, part in shape.get("properties", {}).items():
+        if "const" in part:
+            continue  # a condition on a key of the class that stands there
         inner = f"{path}.{key}" if path else key
         yield Row(inner, kind(part), part.get("description", ""), tuple(dict.fromkeys(references(part))))
         yield from rows(part, inner)
