@@ -59,6 +59,7 @@ class Annotator:
         line = self.model.line(name, row.path)
         told = line.when if line else ""
         note = row.note.replace("Written, and not read.", "").replace("Read, and not written.", "").strip()
+        note = note.replace("Read only where", "Written and read only where")
         if "Written, and not read." in row.note and "never read" not in told:
             told += "; never read"
         note = re.sub(r'"(\w+)"', r"`\1`", note)

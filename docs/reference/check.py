@@ -50,6 +50,7 @@ class Checker:
 
     def keys(self, schema: Schema) -> None:
         """On the page of a class, or on that of the interface that it is made behind."""
+        every = "".join(self.texts.values())
         for name in schema.rows:
             page = next((self.page_of(each) for each in self.model.bases(name) if self.page_of(each)), "")
             if not page:
@@ -57,6 +58,8 @@ class Checker:
             for row in schema.rows[name]:
                 if page and f"<code>{row.path}</code>" not in page:
                     self.problems.append(f"{name}: the page does not show the key {row.path}")
+                lost = [wire for wire in row.names if f"On the wire: <code>{wire}</code>" not in every]
+                self.problems += [f"{name}: no enumeration shows {wire}, a name of {row.path}" for wire in lost]
 
     def page_of(self, name: str) -> str:
         declared = self.model.classes.get(name)

@@ -18,7 +18,7 @@ VERBS = {
     "flagged": (0, "written when {} is set; a reader that finds it sets that flag"),
     "optional": (0, "written when {} is set; a reader sets that flag by whether it is there"),
     "readOnly": (0, "read, and never written"),
-    "writeOnly": (1, "written, and never read"),
+    "writeOnly": (1, "written when {}, and never read"),
     "classKey": (0, "written always; it tells the class"),
     "apart": (0, "read and written by operations of the class's own"),
 }
@@ -61,8 +61,9 @@ def in_words(condition: str) -> str:
     """A condition of a description as the reader of a page may know it."""
     words = re.sub(r"!\s*self\.m_(\w+)\.empty\(\)", r"`\1` is not empty", condition)
     words = re.sub(r"self\.m_(\w+) (==|!=) ([\w:]+)", r"`\1` \2 `\3`", words)
-    words = re.sub(r"(?:self\.|material\.)?m_(\w+)", r"`\1`", words)
-    words = words.replace(" == ", " is ").replace(" != ", " is not ")
+    words = re.sub(r"(?:\w+\.)?m_(\w+)", r"`\1`", words)
+    for sign, word in {"==": "is", "!=": "is not", "||": "or", "&&": "and"}.items():
+        words = words.replace(f" {sign} ", f" {word} ")
     return f"{words} is set" if re.fullmatch(r"`\w+`", words) else words
 
 
@@ -74,6 +75,7 @@ class SourceReader:
         self.texts = {str(path): without_comments(path.read_text()) for path in paths}
         every = "\n".join(self.texts.values())
         self.constants = dict(re.findall(r"\bconst(?:expr|) (?:Key|wstring) (\w+) = WIDE\(\"(\w+)\"\)", every))
+        self.numbers = dict(re.findall(r"\bconstexpr std::int32_t (\w+) = (\d+);", every))
         self.helpers = {
             name: body_behind(every, match.end())
             for match in re.finditer(r"^(?:void|auto) ((\w+))\(Fields& fields,", every, re.MULTILINE)
@@ -93,7 +95,7 @@ class SourceReader:
         before, when = VERBS[verb]
         name = self.key_name(call[before], constants)
         condition = ""
-        if verb == "when":
+        if verb in ("when", "writeOnly"):
             condition = in_words(self.condition(call[0], body))
         elif verb in ("flagged", "optional"):
             condition = in_words(call[1]).removesuffix(" is set")
@@ -101,13 +103,15 @@ class SourceReader:
         for names, member in re.findall(r"\[([\w, ]+)\] = self\.(m_\w+);", body):
             if set(names.split(", ")).intersection(re.findall(r"\w+", call[-1])):
                 members.append(member)
-        return Key(name, verb, when.format(condition), members, walk != "fields")
+        told = when.format(condition).replace("when true", "always")
+        return Key(name, verb, told, members, walk != "fields")
 
-    @staticmethod
-    def condition(text: str, body: str) -> str:
-        """A condition may be a variable of the description."""
-        told = re.search(rf"const bool {re.escape(text)} =\s*([^;]+);", body)
-        return " ".join(told.group(1).split()) if told else text
+    def condition(self, text: str, body: str) -> str:
+        """A condition may name variables of the description, and constants."""
+        for name in re.findall(r"\b[a-z]\w*\b", text):
+            for told in re.findall(rf"const bool {name} =\s*([^;]+);", body):
+                text = re.sub(rf"\b{name}\b", self.condition(" ".join(told.split()), body), text)
+        return re.sub(r"\bk[A-Z]\w+", lambda name: self.numbers.get(name.group(0), name.group(0)), text)
 
     def keys_of(self, text: str, constants: dict[str, str]) -> list[Key]:
         found = []

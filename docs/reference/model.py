@@ -81,7 +81,9 @@ class Model:
             lines += self.shared
         key = path.rsplit(".", 1)[-1]
         told = [line for line in lines if line.name == key] or [line for line in lines if line.name is None]
-        return next((line for line in told if line.nested == ("." in path)), told[0] if told else None)
+        # A key that is only read by its line may be written by the class's own operations, which another line tells.
+        told.sort(key=lambda line: (line.nested != ("." in path), line.verb == "readOnly"))
+        return told[0] if told else None
 
     @cache
     def rows(self, name: str) -> list[Row]:

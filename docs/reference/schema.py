@@ -15,6 +15,7 @@ class Row:
     kind: str  # with the names of classes as {ExcBlock}
     note: str
     targets: tuple[str, ...]  # the classes that stand there
+    names: tuple[str, ...] = ()  # of an enumeration
 
     @property
     def key(self) -> str:
@@ -84,36 +85,49 @@ def rows(shape: object, path: str = "") -> Iterator[Row]:
         if "const" in part:
             continue  # a condition on a key of the class that stands there
         inner = f"{path}.{key}" if path else key
-        yield Row(inner, kind(part), part.get("description", ""), tuple(dict.fromkeys(references(part))))
+        names = part.get("enum") or part.get("items", {}).get("enum") or ()
+        yield Row(inner, kind(part), part.get("description", ""), tuple(dict.fromkeys(references(part))), tuple(names))
         yield from rows(part, inner)
     for key in ("items", "prefixItems", "additionalProperties", "anyOf"):
         yield from rows(shape.get(key), path)
 
 
+def merged(shapes: list[dict[str, Any]]) -> list[Row]:
+    """The keys of all classes that one template makes."""
+    found: dict[str, Row] = {}
+    for row in (row for shape in shapes for row in rows(shape)):
+        before = found.get(row.path, row)
+        kinds = dict.fromkeys([*before.kind.split(" or "), row.kind] if before.kind != row.kind else [row.kind])
+        targets = tuple(dict.fromkeys(before.targets + row.targets))
+        names = tuple(dict.fromkeys(before.names + row.names))
+        found[row.path] = Row(row.path, " or ".join(kinds), row.note, targets, names)
+    return list(found.values())
+
+
 class Schema:
     def __init__(self, document: dict[str, Any]) -> None:
-        self.definitions: dict[str, dict[str, Any]] = {}
+        self.definitions: dict[str, list[dict[str, Any]]] = {}  # several of a template
         for name, shape in document["$defs"].items():
-            self.definitions.setdefault(cpp_name(name), shape)
-        self.rows = {name: list(rows(shape)) for name, shape in self.definitions.items()}
+            self.definitions.setdefault(cpp_name(name), []).append(shape)
+        self.rows = {name: merged(shapes) for name, shapes in self.definitions.items()}
         self.rows["ExchangeObjectWrapper"] = self.of_envelope(self.rows["ExchangeObjectWrapper"])
         self.holders: dict[str, list[tuple[str, Row | None]]] = {}
         for name in sorted(self.definitions):
             for row in self.rows[name]:
                 for target in row.targets:
                     self.holders.setdefault(target, []).append((name, row))
-            if "properties" not in self.definitions[name]:
+            if not self.rows[name]:
                 for target in dict.fromkeys(references(self.definitions[name])):
                     self.holders.setdefault(target, []).append((name, None))
 
     def whole(self, name: str) -> str:
         """What a value without keys looks like."""
-        told = kind(self.definitions[name])
+        told = " or ".join(dict.fromkeys(kind(shape) for shape in self.definitions[name]))
         return told[:1].upper() + told[1:]
 
     def of_envelope(self, found: list[Row]) -> list[Row]:
         """An envelope holds the objects that its rules name."""
-        rules = self.definitions["ExchangeObjectWrapper"].get("allOf", [])
+        rules = self.definitions["ExchangeObjectWrapper"][0].get("allOf", [])
         objects = {
             cpp_name(part["$ref"].removeprefix("#/$defs/"))
             for rule in rules
