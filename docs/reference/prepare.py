@@ -87,6 +87,9 @@ def main() -> int:
     groups = "/** @defgroup vrx_api vrx_api\nThe library. */\n"
     for folder in dict.fromkeys(str(Path(header).parent) for header in headers):
         if folder != "vrx_api":
+            if folder not in told:
+                print(f"The table of folders in README.md does not have {folder}.", file=sys.stderr)
+                return 1
             holds = told[folder][:1].upper() + told[folder][1:] + "."
             name = folder.replace("/", "_")
             inside = "\n@ingroup vrx_api" if folder.startswith("vrx_api/") else ""
