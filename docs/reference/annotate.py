@@ -77,7 +77,7 @@ class Annotator:
         """For each enumeration the keys whose values are its names."""
         found: dict[str, list[str]] = {}
         for name in sorted(self.model.classes):
-            for row in self.model.rows(name) if name in self.model.schema.rows else []:
+            for row in self.model.rows(name):
                 for accessor in self.model.accessors(name, row):
                     wanted = re.search(r"\b((?:\w+::)*E[A-Z]\w+)\b", accessor.text)
                     if wanted is None or "name" not in row.kind:
@@ -88,7 +88,7 @@ class Annotator:
                     told = f"`{row.path}` of {self.class_link(name)}"
                     if known:
                         self.names[name, row.path] = known
-                    if known and told not in found.setdefault(known, []):
+                    if name in self.model.schema.rows and known and told not in found.setdefault(known, []):
                         found[known].append(told)
         return found
 
@@ -115,8 +115,11 @@ class Annotator:
         elif name in self.model.schema.definitions:
             shape = self.model.schema.whole(name)
             lines += ["", "@par JSON", self.with_links(shape) + "."]
-        held = [self.held_by(holder, row) for each in names for holder, row in self.model.schema.holders.get(each, [])]
-        if held:
+        # What is held as a base is one of the classes derived from it.
+        meant = names if name in self.model.schema.rows else names + self.model.derived(name)
+        holders = [each for meaning in meant for each in self.model.schema.holders.get(meaning, [])]
+        held = [self.held_by(name, holder, row) for holder, row in holders]
+        if held and name != "IJsonObject":
             lines += ["", "@par Held by", ", ".join(dict.fromkeys(held)) + "."]
         return lines
 
@@ -130,11 +133,13 @@ class Annotator:
                 return f"{self.public[each]}::{member.name}"
         return ""
 
-    def held_by(self, holder: str, row: Row | None) -> str:
+    def held_by(self, name: str, holder: str, row: Row | None) -> str:
         if row is None:
             return self.class_link(holder)
         told = self.class_link(holder)
         members = [each for each in self.model.accessors(holder, row) if self.qualified(holder, each)]
+        # The first of them, or rather one that deals with just this class.
+        members.sort(key=lambda member: not re.search(rf"\b{name}\b", member.text))
         if members and holder in self.public:
             told = link(self.qualified(holder, members[0]), f"{holder}::{members[0].name}")
         return f"{told} (`{row.path}`)"
@@ -153,6 +158,8 @@ class Annotator:
         told = []
         for holder, row in keys:
             note = self.note(holder, row) + self.indexed_by(holder, row)
+            only = self.model.only_in(name, row.path) if name not in self.model.schema.rows else []
+            note += f" Only in {' and '.join(map(self.class_link, only))}." if 0 < len(only) < 4 else ""
             told += ["", f"Key `{row.path}`, {self.kind(holder, row)}. {note}"]
         return told
 

@@ -99,7 +99,8 @@ class SourceReader:
             condition = in_words(self.condition(call[0], body))
         elif verb in ("flagged", "optional"):
             condition = in_words(call[1]).removesuffix(" is set")
-        members = MEMBER.findall(", ".join(call[before + 1 :]))
+        # The settings of formats are chosen by the file, which has a key of its own.
+        members = MEMBER.findall(", ".join(call[before + 1 :]).replace("forFile(self.m_file", "forFile("))
         for names, member in re.findall(r"\[([\w, ]+)\] = self\.(m_\w+);", body):
             if set(names.split(", ")).intersection(re.findall(r"\w+", call[-1])):
                 members.append(member)

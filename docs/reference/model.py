@@ -10,6 +10,8 @@ from headers import Declaration, HeaderReader, all_of
 from schema import Row, Schema
 
 DEFINITION = re.compile(r"^[\w:<>&*, ]*?\b([\w:]+?)(?:<\w+>)?::(~?\w+)\(", re.MULTILINE)
+# The bases of all, whose members belong to no key.
+FRAME = ("IJsonObject", "IExchangeObject")
 BULK = re.compile(r"std::vector<(float|double|std::int32_t)>")
 
 
@@ -96,6 +98,9 @@ class Model:
         described_bases = [each for each in self.bases(name) if self.description(each)]
         wanted = {line.name for each in described_bases for line in self.facts.classes[each].keys}
         for each in self.derived(name):
+            described = self.description(each)
+            if described and not described.base_is_read:
+                continue
             found = [row for row in self.schema.rows.get(each, []) if row.path in wanted]
             if found:
                 return found
@@ -115,6 +120,8 @@ class Model:
 
     def keys_of(self, name: str, declared: Declaration) -> list[tuple[str, Row]]:
         """The keys, each with its class, that a member of a class reads or sets."""
+        if name in FRAME:
+            return []
         found: dict[str, tuple[str, Row]] = {}
         touched = {name: self.members_of(name, declared)}
         for each in self.derived(name):
@@ -153,7 +160,13 @@ class Model:
         """By the variable, or by its name where the description names no variable."""
         if line.members:
             return bool(self.members_of(name, member).intersection(line.members))
-        return key.replace("_", "") in member.name.lower()
+        return key.replace("_", "") in member.name.lower() and not member.name.startswith("new")
+
+    def only_in(self, name: str, path: str) -> list[str]:
+        """The classes derived from this one that have a key, when some don't."""
+        derived = [each for each in self.derived(name) if each in self.schema.rows]
+        having = [each for each in derived if any(row.path == path for row in self.schema.rows[each])]
+        return [] if len(having) == len(derived) else having
 
     def is_bulk(self, name: str, line: Key | None) -> str:
         """The type of an array of numbers in memory, or nothing."""

@@ -29,6 +29,7 @@ public:
     /// True when that form is compressed.
     virtual bool compress() const;
 
+    /// Whether `load` has been done.
     virtual bool isLoaded() const;
 
     /// Fills a binary object from its source, which is removed from the system; does nothing without a source or a
@@ -53,7 +54,9 @@ protected:
     IExchangeObject& operator=(const IExchangeObject&) = default;
     IExchangeObject& operator=(IExchangeObject&&) = default;
 
+    /// The name of the buffer that `load` reads; empty for none.
     wstring m_source;
+    /// Whether `load` has been done.
     bool m_loaded = false;
     /// What `load` asks of the content.
     ReadRules m_readRules;
