@@ -9,6 +9,7 @@
 namespace vrx::bridge
 {
 
+/// The characters of a buffer's name.
 constexpr std::size_t kBufferNameSize = 36;
 
 /// Whether shared memory of this name is one of this library's buffers: the name is a UUID of version 4 in lower case

@@ -27,7 +27,9 @@ public:
     /// Ends the child, without a grace, if it still runs.
     ~ChildProcess();
 
+    /// The end to which its standard input leads: what is written here, the child reads.
     const Stream& input() const { return m_input; }
+    /// The end from which its standard output is read.
     const Stream& output() const { return m_output; }
 
     /// The child reads the end of its input then, which ends a healthy one.

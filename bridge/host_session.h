@@ -55,7 +55,9 @@ public:
     /// Of what an export sends.
     void setCompression(ECompression compression) { m_compression = compression; }
 
+    /// Asks the translator what it is and which formats it can do.
     FerrantInfo info();
+    /// Asks whether the translator answers.
     Result ping();
 
     /// The options say by which interface. The listener gets each object when it comes, while the translator works on

@@ -24,9 +24,13 @@ public:
     /// What the message of the next object says of it, before anything is loaded.
     virtual void onHead(const MessageHead& head);
 
+    /// How far the translator has come.
     virtual void onProgress(const ExcProgress& progress);
+    /// A text for the user.
     virtual void onMessage(const mp::wstring& text);
+    /// A line for the host's log.
     virtual void onLog(const mp::wstring& text);
+    /// A stage of the translation is complete.
     virtual void onStage(ExcStageFinished::EStage stage);
 
     /// An object of any other class: loaded, unless the session is lazy.

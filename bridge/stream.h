@@ -17,6 +17,7 @@ class VRX_BRIDGE Stream
 {
 public:
     Stream() = default;
+    /// Takes over what is open.
     explicit Stream(OwnedHandle handle)
         : m_handle(std::move(handle))
     {
@@ -34,8 +35,11 @@ public:
     /// nowhere.
     static Stream takeStandardOutput();
 
+    /// Whether there is something to read or to write.
     bool isOpen() const { return m_handle.isOpen(); }
+    /// The partner reads the end of the stream then, or cannot write any more.
     void close() noexcept { m_handle.close(); }
+    /// For calls of the system; still owned here.
     const OwnedHandle& handle() const { return m_handle; }
 
     /// Waits for the first bytes and reads those that are there; none at the end of the stream. Throws TimedOut and
@@ -58,7 +62,9 @@ private:
 /// What is written to the one end is read from the other.
 struct Pipe
 {
+    /// Gives what was written, in its order.
     Stream readEnd;
+    /// Takes what is to be read.
     Stream writeEnd;
 };
 

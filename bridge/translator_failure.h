@@ -12,6 +12,7 @@ namespace vrx::bridge
 class VRX_BRIDGE TranslatorFailure : public std::runtime_error
 {
 public:
+    /// Why the work came to nothing.
     enum class EKind
     {
         Died,       ///< It ended by itself.
@@ -21,6 +22,7 @@ public:
         Unloadable, ///< An object that it sent cannot be loaded.
     };
 
+    /// The text for `what()`, and how the process ended in words.
     TranslatorFailure(EKind kind, const std::string& text, const std::string& end)
         : std::runtime_error(text)
         , m_kind(kind)
@@ -28,6 +30,7 @@ public:
     {
     }
 
+    /// Why the work came to nothing.
     EKind kind() const { return m_kind; }
 
     /// How the process ended, in words.

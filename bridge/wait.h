@@ -13,9 +13,12 @@ namespace vrx::bridge
 /// signal handler.
 struct VRX_BRIDGE Wait
 {
+    /// The wait ends at this time with TimedOut; nothing for no limit.
     std::optional<std::chrono::steady_clock::time_point> deadline;
+    /// The wait ends with Cancelled when it becomes true; it must outlive the wait. Null for no flag.
     const std::atomic<bool>* cancelled = nullptr;
 
+    /// Whether only the other side ends the wait.
     bool isEndless() const { return !deadline && cancelled == nullptr; }
 
     /// Throws Cancelled or TimedOut when the wait is over.

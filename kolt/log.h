@@ -19,10 +19,14 @@ void log(int level, const Parts&... parts)
 /// A place in the sources, by default that of the caller.
 struct SourcePlace
 {
+    /// The path of the source, as the compiler got it.
     const char* file;
+    /// Counted from 1.
     unsigned line;
+    /// The name without its parameters.
     const char* function;
 
+    /// As a default argument it is the place of the call.
     static constexpr SourcePlace current(const char* file = __builtin_FILE(), unsigned line = __builtin_LINE(),
                                          const char* function = __builtin_FUNCTION())
     {

@@ -35,8 +35,11 @@ public:
     /// Writes the head of a line and returns the stream for its text.
     virtual std::ostream& begin(int level) = 0;
 
+    /// Keeps other threads from writing until `unlock`. It is not recursive.
     virtual void lock() = 0;
+    /// Lets other threads write.
     virtual void unlock() = 0;
+    /// Hands on what is still in this process.
     virtual void flush() = 0;
 
     /// Ends the current line and flushes.
@@ -47,6 +50,7 @@ public:
 class VRX_API Logger : public ILogger
 {
 public:
+    /// Opens the file to append to it; `isOpen` tells whether that went well.
     explicit Logger(const std::string& path);
 
     bool isOpen() const override;
@@ -66,6 +70,7 @@ private:
 class VRX_API MTLogger
 {
 public:
+    /// Waits for the lock. The logger lives longer.
     explicit MTLogger(ILogger& logger);
     MTLogger(const MTLogger&) = delete;
     MTLogger& operator=(const MTLogger&) = delete;
@@ -83,6 +88,7 @@ private:
 class VRX_API LoggerHolder
 {
 public:
+    /// Whether a line of this level is written: the test that all logging begins with.
     static bool levelEnabled(int level) { return level <= s_level && s_logger != nullptr && s_logger->isOpen(); }
 
     /// Null until a log file has been opened.

@@ -21,6 +21,7 @@ public:
     /// The text is converted to the system's narrow code page, in which `what()` gives it.
     explicit SharedMemoryException(const wstring& text);
 
+    /// The text, in the system's narrow code page.
     const char* what() const noexcept override;
 
 private:

@@ -16,8 +16,10 @@ VRX_API wstring toWide(std::string_view text);
 /// Streams wide text into a narrow stream, converted only when it is really written.
 struct Narrow
 {
+    /// What is converted; it must live until then.
     wstring_view text;
 
+    /// Writes the text as `toNarrow` gives it.
     friend std::ostream& operator<<(std::ostream& stream, const Narrow& narrow)
     {
         return stream << toNarrow(narrow.text);

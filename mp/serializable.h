@@ -12,7 +12,9 @@ class VRX_API ISerializable
 {
 public:
     virtual ~ISerializable();
+    /// Writes the message as JSON text.
     virtual void writeObject(wostream& stream) const = 0;
+    /// Reads the message from all that the stream holds. A class tells what it throws for other texts.
     virtual void readObject(wistream& stream) = 0;
 
 protected:

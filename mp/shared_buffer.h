@@ -72,8 +72,10 @@ public:
     /// Makes the content empty.
     void clear();
 
+    /// The name by which it was opened.
     const wstring& name() const { return m_name; }
 
+    /// Whether closing removes the object from the system.
     void setRemoveOnClose(bool removeOnClose) { m_removeOnClose = removeOnClose; }
 
 private:

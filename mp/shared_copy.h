@@ -23,7 +23,9 @@ class VRX_API SharedCopy
 public:
     SharedCopy() = default;
 
+    /// The bytes, as many as `size` tells; null when there are none.
     const char* data() const { return m_bytes.get(); }
+    /// The number of bytes.
     std::uint64_t size() const { return m_bytes == nullptr ? 0 : m_size; }
 
 private:

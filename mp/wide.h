@@ -20,6 +20,7 @@ using wchar = char16_t;
 
 static_assert(sizeof(wchar) == 2, "a wide unit has 16 bits");
 
+/// Text, and streams of text, in these units.
 using wstring = std::basic_string<wchar>;
 using wstring_view = std::basic_string_view<wchar>;
 using wistream = std::basic_istream<wchar>;

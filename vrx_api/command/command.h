@@ -19,6 +19,7 @@ namespace vrx
 class VRX_API Command : public mp::ISerializable
 {
 public:
+    /// What is asked.
     enum class EType : std::int32_t
     {
         Unknown = 0,
@@ -42,6 +43,7 @@ public:
     EFerrantInterface internalInterface() const { return m_internalInterface; }
     void setInternalInterface(EFerrantInterface interfaceType) { m_internalInterface = interfaceType; }
 
+    /// Empty options, for an import and for an export: a command takes no others.
     static std::shared_ptr<ImportOptions> newImportOptions();
     static std::shared_ptr<ExportOptions> newExportOptions();
 
@@ -53,6 +55,7 @@ public:
     void setExportOptions(const std::shared_ptr<ExportOptions>& options);
     std::shared_ptr<ExportOptions> exportOptions() const { return m_exportOptions; }
 
+    /// Empty options of the older interface, for an import and for an export.
     static std::shared_ptr<LegacyImportOptions> newLegacyImportOptions();
     static std::shared_ptr<LegacyExportOptions> newLegacyExportOptions();
 

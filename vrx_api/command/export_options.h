@@ -11,10 +11,13 @@ namespace vrx
 class VRX_API ExportOptions : public FerrantOptions
 {
 public:
+    /// Export.
     EOperationType operationType() const override;
 
+    /// The version of the target format.
     virtual const wstring& formatVersion() const = 0;
     virtual void setFormatVersion(const wstring& version) = 0;
+    /// Flags for the geometry.
     virtual int geometryFlags() const = 0;
     virtual void setGeometryFlags(int flags) = 0;
 };

@@ -10,8 +10,10 @@ namespace vrx
 class VRX_API FerrantOptions : public IJsonObject
 {
 public:
+    /// The path of the CAD file that is read or written.
     virtual const wstring& file() const = 0;
     virtual void setFile(const wstring& file) = 0;
+    /// Whether it is an import or an export.
     virtual EOperationType operationType() const = 0;
 };
 

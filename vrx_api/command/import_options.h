@@ -14,6 +14,7 @@ namespace vrx
 class VRX_API ImportOptions : public FerrantOptions
 {
 public:
+    /// Import.
     EOperationType operationType() const override;
 
     /// The settings for a format, or null.

@@ -12,6 +12,7 @@ namespace vrx
 class VRX_API Result : public mp::ISerializable
 {
 public:
+    /// How the work of a command ended.
     enum class ECode : std::int32_t
     {
         Unknown = 0,
@@ -21,6 +22,7 @@ public:
         Interrupted = 4,
     };
 
+    /// Writes the code, the flag, and the message where there is one.
     void writeObject(mp::wostream& stream) const override;
 
     /// Throws `std::invalid_argument` for a text that is no JSON object, or has no code.

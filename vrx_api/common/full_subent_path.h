@@ -15,6 +15,7 @@ class VRX_API ExcFullSubentPath : public IJsonObject
 {
 public:
     ExcFullSubentPath() = default;
+    /// A path without block references: within one block.
     ExcFullSubentPath(std::uint64_t bodyId, const ExcSubentId& subentId)
         : m_bodyId(bodyId)
         , m_subentId(subentId)

@@ -22,6 +22,7 @@ public:
     ExcVector3d& row(std::size_t index);
     const ExcVector3d& row(std::size_t index) const;
 
+    /// As `row`.
     ExcVector3d& operator[](std::size_t index) { return row(index); }
     const ExcVector3d& operator[](std::size_t index) const { return row(index); }
 

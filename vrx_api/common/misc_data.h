@@ -34,6 +34,7 @@ public:
     const wstring& value() const { return m_value; }
     ExcMiscProperty& setValue(const wstring& value);
 
+    /// Sets the type and the value.
     ExcMiscProperty& set(EType type, const wstring& value);
 
 private:
@@ -54,13 +55,16 @@ public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
+    /// The properties in their order.
     const std::vector<ExcMiscProperty>& properties() const { return m_properties; }
+    /// Whether there is no property; it then does not cross.
     bool isEmpty() const { return m_properties.empty(); }
 
     /// Appends a copy, of a temporary too.
     void emplaceProperty(const ExcMiscProperty& property) { m_properties.push_back(property); }
     void emplaceProperty(ExcMiscProperty&& property) { emplaceProperty(static_cast<const ExcMiscProperty&>(property)); }
 
+    /// Removes all properties.
     void clearProperties() { m_properties.clear(); }
 
 private:

@@ -26,6 +26,7 @@ public:
     };
 
     ExcSubentId() = default;
+    /// A part of a body by its kind and its place in the list of all of that kind.
     ExcSubentId(EType type, std::uint64_t index)
         : m_type(type)
         , m_index(index)

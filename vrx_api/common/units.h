@@ -42,6 +42,7 @@ enum class EMassUnitType : std::int32_t
     Lbfsec2In = 10, // pound-force times second squared per inch
 };
 
+/// A unit of time.
 enum class ETimeUnitType : std::int32_t
 {
     Unknown = 0,
@@ -55,6 +56,7 @@ enum class ETimeUnitType : std::int32_t
     Day = 8,
 };
 
+/// A unit of temperature.
 enum class ETemperatureUnitType : std::int32_t
 {
     Unknown = 0,
@@ -73,12 +75,13 @@ enum class EWorldOrientation : std::int32_t
     UpZ = 3,
 };
 
-/// The name under which a number travels, and back; for the five enumerations above. A number outside the table has the
-/// name of the table's lowest number, a name outside it has the number of the name that sorts lowest: "Meter", say, is
-/// read as centimeters.
+/// The name under which a number travels, for the five enumerations above. A number outside the table has the name of
+/// the table's lowest number.
 template <class T>
 const wstring& enumToString(T value);
 
+/// The number of a name. A name outside the table has the number of the name that sorts lowest: "Meter", say, is read
+/// as centimeters.
 template <class T>
 T enumFromString(const wstring& name);
 

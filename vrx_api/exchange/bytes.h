@@ -22,12 +22,15 @@ public:
     }
 
     // The standard allocator's own would make containers rebind to it.
+    /// The allocator for another type.
     template <class U>
     struct rebind // NOLINT(readability-identifier-naming): the standard's name
     {
+        /// It does not set its elements either.
         using other = UnsetAllocator<U>; // NOLINT(readability-identifier-naming)
     };
 
+    /// Makes an element from values, or leaves its bytes as they are without any.
     template <class U, class... Values>
     void construct(U* element, Values&&... values)
     {
@@ -42,6 +45,7 @@ public:
     }
 };
 
+/// Bytes that cost nothing to make.
 using Bytes = std::vector<char, UnsetAllocator<char>>;
 
 } // namespace vrx

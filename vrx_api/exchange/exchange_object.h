@@ -17,6 +17,7 @@ public:
     void readObject(const JsonValue& value) override = 0;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override = 0;
 
+    /// The name of the class on the wire, by which the other side makes an object of it.
     virtual const wstring& objectName() const = 0;
 
     /// A new default object of the class; nothing of this object is copied.
@@ -28,6 +29,7 @@ public:
     /// True when that form is compressed.
     virtual bool compress() const;
 
+    /// Whether `load` has been done.
     virtual bool isLoaded() const;
 
     /// Fills a binary object from its source, which is removed from the system; does nothing without a source or a
@@ -52,8 +54,11 @@ protected:
     IExchangeObject& operator=(const IExchangeObject&) = default;
     IExchangeObject& operator=(IExchangeObject&&) = default;
 
+    /// The name of the buffer that `load` reads; empty for none.
     wstring m_source;
+    /// Whether `load` has been done.
     bool m_loaded = false;
+    /// What `load` asks of the content.
     ReadRules m_readRules;
 };
 

@@ -14,8 +14,10 @@ namespace vrx
 class VRX_API ExchangeObjectRegistry
 {
 public:
+    /// The one registry of the process.
     static ExchangeObjectRegistry& instance();
 
+    /// Enters a prototype under its name. It must live until `remove`.
     void add(IExchangeObject* object);
 
     /// Removes the entry of the object's name, whichever object it holds.

@@ -22,7 +22,9 @@ public:
     /// and `IExchangeObject::load` throw. A name that no class has gives a null object.
     void readObject(wistream& stream) override;
 
+    /// The object that crosses; null before one was set or read.
     const std::shared_ptr<IExchangeObject>& get() const { return m_pObject; }
+    /// The object that is to be written; it is shared.
     void set(const std::shared_ptr<IExchangeObject>& object) { m_pObject = object; }
 
     /// With delayed loading a binary object is only named by `readObject`; the caller loads it when it wants the

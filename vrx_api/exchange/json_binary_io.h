@@ -21,6 +21,7 @@ class VRX_API JsonBinaryIO
 public:
     JsonBinaryIO() = delete;
 
+    /// Writes the binary form of the value, and gives the stream back.
     static std::ostream& write(std::ostream& stream, const JsonValue& value);
 
     /// Decodes one value; bytes behind it stay in the stream, which must have its whole content at hand, as a string

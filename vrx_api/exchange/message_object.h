@@ -10,10 +10,12 @@ class VRX_API ExcMessageBase : public IExchangeObject
 {
 public:
     ExcMessageBase() = default;
+    /// With its text.
     explicit ExcMessageBase(const wstring& message)
         : m_message(message)
     {
     }
+    /// With its text, which ends with a zero.
     explicit ExcMessageBase(const wchar* message)
         : m_message(message)
     {

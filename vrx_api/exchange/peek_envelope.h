@@ -19,6 +19,7 @@ enum class EMessageKind
 /// What a message says of itself.
 struct MessageHead
 {
+    /// What kind of message it is.
     EMessageKind kind = EMessageKind::Unknown;
     mp::wstring objectName; ///< Of an envelope: the name of the exchange object's class.
     mp::wstring bufferName; ///< Of an envelope: the shared memory that holds its object or bodies; empty for none.

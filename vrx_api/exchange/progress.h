@@ -28,6 +28,7 @@ public:
     const wstring& stage() const { return m_stage; }
     void setStage(const wstring& stage) { m_stage = stage; }
 
+    /// Whether all members are equal.
     bool operator==(const ExcProgress& other) const;
 
 private:

@@ -11,6 +11,7 @@ namespace vrx
 class VRX_API ExcStageFinished : public IExchangeObject
 {
 public:
+    /// The stages of a translation.
     enum class EStage : std::int32_t
     {
         Unknown = 0,
@@ -26,6 +27,7 @@ public:
     static const wstring& objName() { return s_objectName; }
 
     ExcStageFinished() = default;
+    /// For one stage.
     explicit ExcStageFinished(EStage stage)
         : m_stage(stage)
     {
@@ -36,6 +38,7 @@ public:
     const wstring& objectName() const override;
     std::shared_ptr<IExchangeObject> clone() const override;
 
+    /// The stage that is complete. Its name is the whole JSON of the object.
     EStage stage() const { return m_stage; }
     void setStage(EStage stage) { m_stage = stage; }
 

@@ -33,13 +33,17 @@ public:
     /// Goes back to the start.
     void cleanUp();
 
+    /// The name of the shared memory object.
     const wstring& name() const { return m_sharedBuffer.name(); }
+    /// Whether the end of this object removes it from the system.
     void setRemoveOnClose(bool removeOnClose) { m_sharedBuffer.setRemoveOnClose(removeOnClose); }
 
+    /// For the kernel: the place in the bytes, and the way back to it.
     FilePosition set_mark() override;
     FilePosition goto_mark(FilePosition position) override;
 
 protected:
+    /// For the kernel: takes the next bytes, and adds bytes.
     std::size_t read(void* buffer, std::size_t length) override;
     void write(const void* data, std::size_t length) override;
 

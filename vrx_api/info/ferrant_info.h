@@ -24,6 +24,7 @@ enum class EParasolidMode : std::int32_t
 class VRX_API FerrantInfo : public mp::ISerializable
 {
 public:
+    /// Writes the names and modes, and those lists that are not empty.
     void writeObject(wostream& stream) const override;
 
     /// Adds to the lists. Throws `std::invalid_argument` for a text that is no JSON object, and for an element of a

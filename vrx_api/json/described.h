@@ -28,6 +28,7 @@ class FieldWriter;
 template <class T>
 struct Described
 {
+    /// One walk over the description, for one kind of fields.
     static void walk(T& object, FieldReader<TreeValue>& fields);
     static void walk(T& object, FieldReader<BinaryValue>& fields);
     static void walk(const T& object, FieldWriter<TreeWriter>& fields);

@@ -35,6 +35,7 @@ using mp::wstring;
 using mp::wstring_view;
 using mp::wstringstream;
 
+/// RapidJSON with wide text: a value, the memory that it lives in, and a document, which has both.
 using JsonEncoding = rapidjson::UTF16<wchar>;
 using JsonAllocator = rapidjson::MemoryPoolAllocator<rapidjson::CrtAllocator>;
 using JsonValue = rapidjson::GenericValue<JsonEncoding, JsonAllocator>;

@@ -15,6 +15,7 @@ class VRX_API IJsonObject
 {
 public:
     virtual ~IJsonObject();
+    /// Reads the object from its JSON, as its class tells.
     virtual void readObject(const JsonValue& value) = 0;
 
     /// Whatever the given value held is dropped. Keys are added by reference and strings are copied to the allocator.

@@ -11,6 +11,7 @@ namespace vrx
 /// data what is left.
 struct VRX_API ReadRules
 {
+    /// Stands for no limit.
     static constexpr std::uint64_t kNoLimit = ~std::uint64_t{0};
 
     /// The most bytes of the content of a shared memory buffer, when it is decompressed.

@@ -70,6 +70,7 @@ const std::type_info& typeOf(const T& object)
 /// What may stand in one place of a message.
 struct Shape
 {
+    /// What stands there. It decides which of the members below are used.
     EShape kind = EShape::Any;
     bool mayBeNull = false; ///< Null is written for nothing.
 
@@ -85,6 +86,7 @@ struct Shape
     /// Which of several classes a value is, by itself or by the object that holds it: null for none.
     const std::type_info* (*choose)(const JsonValue& value, const JsonValue& holder) = nullptr;
 
+    /// What the value says of other objects, and of which kind they are.
     ERole role = ERole::Plain;
     EIdSpace space = EIdSpace::None;
     wstring_view indexed;       ///< Of an index: the key of the list.
@@ -94,7 +96,9 @@ struct Shape
 /// One key of an object.
 struct FieldShape
 {
+    /// Its name on the wire.
     wstring_view key;
+    /// Its value.
     Shape shape;
     bool isRead = false;          ///< A reader looks at it.
     bool isWritten = false;       ///< A writer may write it.
@@ -107,11 +111,13 @@ struct FieldShape
 class VRX_API ClassShape
 {
 public:
+    /// Entered by the library for each of its classes.
     ClassShape(std::string name, Shape shape);
 
     /// The name in C++ without the outer namespace, such as "ExcPMINote::Text".
     const std::string& name() const { return m_name; }
 
+    /// What an object of the class looks like.
     const Shape& shape() const { return m_shape; }
 
     /// The class of an object, or null for one outside this library.

@@ -22,6 +22,7 @@ public:
     const wstring& objectName() const override;
     std::shared_ptr<IExchangeObject> clone() const override;
 
+    /// The names by their handles.
     const std::map<OdDbHandle, wstring>& map() const { return m_map; }
     void setMap(const std::map<OdDbHandle, wstring>& map) { m_map = map; }
 

@@ -84,6 +84,7 @@ public:
     virtual bool insUnitsScaling() const = 0;
     virtual void setInsUnitsScaling(bool scaling) = 0;
 
+    /// Whether there is a path under a key.
     virtual bool hasAlternateSearchPath(const wstring& key) const = 0;
 
     /// The path under a key that host and translator have agreed upon; empty when there is none.

@@ -32,6 +32,7 @@ public:
     const wstring& objectName() const override;
     std::shared_ptr<IExchangeObject> clone() const override;
 
+    /// The materials by their handles.
     const std::map<OdDbHandle, Material>& map() const { return m_map; }
     void setMap(const std::map<OdDbHandle, Material>& map) { m_map = map; }
 

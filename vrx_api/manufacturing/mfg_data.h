@@ -15,8 +15,10 @@ namespace vrx
 class VRX_API ExcMfgData : public IJsonObject
 {
 public:
+    /// A list of features of one kind.
     template <class T>
     using Features = std::vector<std::shared_ptr<T>>;
+    /// A hole feature with the data of one kind of hole.
     template <class T>
     using Hole = ExcMfgFeatureHoleType<T>;
 

@@ -15,6 +15,7 @@ namespace vrx
 class VRX_API ExcMfgPattern : public IJsonObject
 {
 public:
+    /// How the occurrences lie, which tells the class of a pattern.
     enum class EType : std::int32_t
     {
         Unknown = 0,

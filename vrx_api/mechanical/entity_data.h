@@ -16,6 +16,7 @@ public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
+    /// One element for each entity of which something is known.
     const std::vector<std::shared_ptr<ExcTopologicalEntityInformation>>& data() const { return m_data; }
 
     /// A null pointer is logged and adds nothing.

@@ -16,6 +16,7 @@ namespace vrx
 class VRX_API ExcMiscMaterial : public IJsonObject
 {
 public:
+    /// The physical properties. Each has a key of its own, its name.
     enum class EProperty : std::int32_t
     {
         Unknown = 0,

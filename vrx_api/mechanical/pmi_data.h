@@ -17,6 +17,7 @@ public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
+    /// The annotation sets in their order.
     const std::vector<std::shared_ptr<ExcPMIAnnotationSet>>& annotationSets() const { return m_annotationSets; }
 
     /// Appends; a null pointer is logged and adds nothing.

@@ -15,6 +15,7 @@ class VRX_API ExcUnitComponent : public IJsonObject
 {
 public:
     ExcUnitComponent() = default;
+    /// A base unit with its exponent.
     ExcUnitComponent(T units, std::int32_t dimension)
         : m_dimension(dimension)
         , m_units(units)

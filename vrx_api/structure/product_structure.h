@@ -38,6 +38,7 @@ public:
     const ExcMiscData& miscData() const { return m_miscData; }
     ExcMiscData& miscData() { return m_miscData; }
 
+    /// The unit of the lengths in the product: those of placements and bodies.
     ELengthUnitType units() const { return m_units; }
     void setUnits(ELengthUnitType units) { m_units = units; }
 

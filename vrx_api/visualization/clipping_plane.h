@@ -12,6 +12,7 @@ namespace vrx
 class VRX_API ExcClippingPlane : public IJsonObject
 {
 public:
+    /// The places of the coefficients.
     enum ECoefficient
     {
         CoefficientA = 0,

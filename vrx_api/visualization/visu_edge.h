@@ -26,6 +26,7 @@ public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
+    /// The coordinates of the points, usually three for each, in the unit of the scene.
     const std::vector<float>& points() const { return m_points; }
     void setPoints(const std::vector<float>& points) { m_points = points; }
     void setPoints(std::vector<float>&& points) { std::vector<float>(std::move(points)).swap(m_points); }

@@ -16,6 +16,7 @@ namespace vrx
 class VRX_API ExcVisuFace : public IJsonObject
 {
 public:
+    /// A run of indices into the vertices of the face.
     struct Polygon
     {
         std::int32_t type = 0;
@@ -25,10 +26,12 @@ public:
     void readObject(const JsonValue& value) override;
     void writeObject(JsonValue& value, JsonAllocator& allocator) const override;
 
+    /// The coordinates of the corners, usually three for each, in the unit of the scene.
     const std::vector<float>& vertices() const { return m_vertices; }
     void setVertices(const std::vector<float>& vertices) { m_vertices = vertices; }
     void setVertices(std::vector<float>&& vertices) { std::vector<float>(std::move(vertices)).swap(m_vertices); }
 
+    /// The directions that point outward at the corners, usually three numbers for each.
     const std::vector<float>& normals() const { return m_normals; }
     void setNormals(const std::vector<float>& normals) { m_normals = normals; }
     void setNormals(std::vector<float>&& normals) { std::vector<float>(std::move(normals)).swap(m_normals); }

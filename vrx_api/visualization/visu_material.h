@@ -39,15 +39,20 @@ public:
         Blending = 5,
     };
 
+    /// A colour of one kind. Its JSON is an array of the four numbers.
     struct Color
     {
+        /// The library does not scale it.
         std::uint16_t red = 0;
         std::uint16_t green = 0;
         std::uint16_t blue = 0;
+        /// A double on the wire, as the other three are.
         double alpha = 0.0;
     };
 
+    /// The colours, at most one of a kind.
     using Colors = std::map<EColorType, Color>;
+    /// The stacks of textures, one for each kind.
     using Textures = std::map<ETextureType, std::vector<std::shared_ptr<ExcVisuTexture>>>;
 
     void readObject(const JsonValue& value) override;

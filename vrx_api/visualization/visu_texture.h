@@ -22,6 +22,7 @@ public:
         Replace = 4,
     };
 
+    /// What is shown beyond the edge of the image.
     enum class EWrapMode : std::int32_t
     {
         Undefined = 0,

@@ -26,6 +26,7 @@ public:
     void addSceneRootNodes(const std::vector<std::shared_ptr<ExcVisuNode>>& nodes);
     void setSceneRootNodes(const std::vector<std::shared_ptr<ExcVisuNode>>& nodes);
 
+    /// The unit of all lengths in the scene.
     ELengthUnitType units() const { return m_units; }
     void setUnits(ELengthUnitType units) { m_units = units; }
 
