@@ -48,16 +48,18 @@ def group_of(header: str) -> str:
 
 
 def with_own_links(page: Path, text: str, root: Path, pages: list[Path]) -> str:
-    """A link to a page is told from the root, and one to a file that is not in the reference becomes its label."""
+    """A link to a page is told from the root, and one to a file that is not in the reference becomes its label.
+
+    Doxygen has other names for the places within a page: a link leads to its start."""
 
     def kept(link: re.Match[str]) -> str:
-        label, path, anchor = link.groups()
+        label, path = link.groups()
         target = (page.parent / path).resolve()
         if target in pages:
-            return f"[{label}]({target.relative_to(root)}{anchor or ''})"
+            return f"[{label}]({target.relative_to(root)})"
         return str(link.group(0) if path.endswith(".html") else label)
 
-    return re.sub(r"(?<!!)\[([^\]]+)\]\((?!https?:)([^)#\s]+)(#[^)\s]*)?\)", kept, text)
+    return re.sub(r"(?<!!)\[([^\]]+)\]\((?!https?:)([^)#\s]+)(?:#[^)\s]*)?\)", kept, text)
 
 
 def write(path: Path, text: str) -> None:
