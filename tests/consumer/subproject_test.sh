@@ -14,7 +14,7 @@ parent/static_library
 cmake --install parent --prefix "$PWD/made"
 mv made moved
 
-cmake -S "$sources/tests/consumer" -B by-cmake -G Ninja -DCMAKE_PREFIX_PATH="$PWD/moved" -DLIBRARY_IS_STATIC=ON
+cmake -S "$sources/tests/consumer" -B by-cmake -G Ninja -DCMAKE_PREFIX_PATH="$PWD/moved" -DVRX_API_COMPONENTS=
 cmake --build by-cmake
 by-cmake/consumer
 by-cmake/static_library

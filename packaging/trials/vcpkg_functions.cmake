@@ -1,0 +1,92 @@
+# What portfile.cmake calls of vcpkg: the sources are those of the work tree, they are configured only, and what it takes
+# from what is installed must be in the rules to install. An option that the sources do not know is an error.
+
+function(vcpkg_from_git)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "OUT_SOURCE_PATH;URL;REF;HEAD_REF" "")
+    set(${arg_OUT_SOURCE_PATH} ${sources} PARENT_SCOPE)
+endfunction()
+
+function(vcpkg_check_features)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" OUT_FEATURE_OPTIONS FEATURES)
+    set(known ${arg_FEATURES})
+    set(options)
+    while(known)
+        list(POP_FRONT known feature option)
+        list(APPEND named ${feature})
+        if(feature IN_LIST FEATURES)
+            list(APPEND options -D${option}=ON)
+        else()
+            list(APPEND options -D${option}=OFF)
+        endif()
+    endwhile()
+    file(READ ${CURRENT_PORT_DIR}/vcpkg.json port)
+    string(JSON count LENGTH "${port}" features)
+    math(EXPR last "${count} - 1")
+    foreach(i RANGE ${last})
+        string(JSON feature MEMBER "${port}" features ${i})
+        if(NOT feature IN_LIST named)
+            message(FATAL_ERROR "vcpkg.json has the feature ${feature}, which portfile.cmake does not ask for")
+        endif()
+        list(REMOVE_ITEM named ${feature})
+    endforeach()
+    if(named)
+        message(FATAL_ERROR "portfile.cmake asks for features that vcpkg.json does not have: ${named}")
+    endif()
+    set(${arg_OUT_FEATURE_OPTIONS} ${options} PARENT_SCOPE)
+endfunction()
+
+function(vcpkg_cmake_configure)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" SOURCE_PATH OPTIONS)
+    string(COMPARE EQUAL ${VCPKG_LIBRARY_LINKAGE} dynamic shared)
+    execute_process(
+        COMMAND ${CMAKE_COMMAND} -S ${arg_SOURCE_PATH} -B ${CURRENT_BUILDTREES_DIR} -G Ninja --fresh
+            -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=${shared} -DCMAKE_INSTALL_PREFIX=${CURRENT_PACKAGES_DIR}
+            ${arg_OPTIONS}
+        OUTPUT_QUIET ERROR_VARIABLE errors RESULT_VARIABLE result)
+    if(result OR errors)
+        message(FATAL_ERROR "${errors}")
+    endif()
+endfunction()
+
+function(vcpkg_cmake_install)
+endfunction()
+
+# There is a rule to install what matches this.
+function(require_in_install text)
+    file(GLOB_RECURSE scripts ${CURRENT_BUILDTREES_DIR}/cmake_install.cmake)
+    foreach(script IN LISTS scripts)
+        file(READ ${script} content)
+        if(content MATCHES "${text}")
+            return()
+        endif()
+    endforeach()
+    message(FATAL_ERROR "Nothing that is installed matches ${text}")
+endfunction()
+
+function(vcpkg_cmake_config_fixup)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "PACKAGE_NAME;CONFIG_PATH" "")
+    require_in_install("/${arg_CONFIG_PATH}\".*/${arg_PACKAGE_NAME}-config.cmake")
+endfunction()
+
+function(vcpkg_fixup_pkgconfig)
+    require_in_install("lib/pkgconfig\".*/vrx_api.pc")
+endfunction()
+
+function(vcpkg_copy_tools)
+    cmake_parse_arguments(PARSE_ARGV 0 arg AUTO_CLEAN "" TOOL_NAMES)
+    foreach(name IN LISTS arg_TOOL_NAMES)
+        require_in_install("/bin/${name}\"")
+    endforeach()
+endfunction()
+
+function(vcpkg_copy_pdbs)
+endfunction()
+
+function(vcpkg_install_copyright)
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "" FILE_LIST)
+    foreach(file IN LISTS arg_FILE_LIST)
+        if(NOT EXISTS ${file})
+            message(FATAL_ERROR "There is no ${file}")
+        endif()
+    endforeach()
+endfunction()
