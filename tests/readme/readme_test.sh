@@ -18,7 +18,8 @@ blocks() {
 blocks sh >"$scratch/commands"
 [[ $(wc -l <"$scratch/commands") -gt 15 ]] || { echo "the commands of README.md are not found" >&2; exit 1; }
 CCACHE_DIR=$(ccache --get-config cache_dir)
-export CCACHE_DIR HOME=$scratch
+# Ninja, as in the presets, so that the compiler's cache knows the library from there.
+export CCACHE_DIR HOME=$scratch CMAKE_GENERATOR=Ninja
 bash -xeuo pipefail "$scratch/commands" >"$scratch/output"
 # Text, pictures and programs, not just no error:
 for words in bench_vise exc_product_structure json-schema.org; do
