@@ -22,6 +22,8 @@ const wstring* const kExchangeClassNames[] = {
     &LegacyMaterialMap::s_objectName,
 };
 
-void linkExchangeClasses() {}
+void linkExchangeClasses()
+{
+}
 
 } // namespace vrx
