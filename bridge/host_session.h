@@ -75,6 +75,8 @@ public:
     /// TranslatorFailure. The translator is asked to end, and killed after two seconds. On Windows an operation that
     /// writes to one who does not read goes on.
     void cancel() noexcept { m_isCancelled = true; }
+
+    /// Whether somebody has called `cancel`.
     bool isCancelled() const noexcept { return m_isCancelled; }
 
     /// Lets the translator end while the host goes on: there will be no more commands.

@@ -9,7 +9,8 @@ set(vrx_api_header_folder ${CMAKE_INSTALL_INCLUDEDIR}/vrx_api-${vrx_api_release}
 set(vrx_api_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/vrx_api)
 set(vrx_api_pc_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 # From the folder of a .pc file to where the package is installed: the package can be moved.
-file(RELATIVE_PATH VRX_API_PC_TO_PREFIX /${vrx_api_pc_folder} /)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${vrx_api_pc_folder}
+    OUTPUT_VARIABLE VRX_API_PC_TO_PREFIX)
 
 # vrx_api_library(TARGET MACRO HEADER): TARGET is a library, shared or static as BUILD_SHARED_LIBS says. MACRO marks what it
 # exports, and stands in the generated HEADER.

@@ -1,5 +1,6 @@
 # RapidJSON as vrx_api::rapidjson, and libdeflate, where it is there, as vrx_api::libdeflate. Their packages differ in what
-# they call them, and some bring no target, or nothing for CMake at all. Read by the build and by the installed package.
+# they call them, and some bring no target, or nothing for CMake at all. Read by the build and by the installed package,
+# which look whether RapidJSON was found: vrx_api_rapidjson_folder is set, to NOTFOUND, where it was not.
 
 if(NOT TARGET vrx_api::rapidjson)
     find_package(RapidJSON CONFIG QUIET)
@@ -9,13 +10,13 @@ if(NOT TARGET vrx_api::rapidjson)
     elseif(TARGET RapidJSON)
         target_link_libraries(vrx_api::rapidjson INTERFACE RapidJSON)
     else()
-        find_path(vrx_api_rapidjson_folder rapidjson/document.h HINTS ${RAPIDJSON_INCLUDE_DIRS} REQUIRED)
+        find_path(vrx_api_rapidjson_folder rapidjson/document.h HINTS ${RAPIDJSON_INCLUDE_DIRS})
         mark_as_advanced(vrx_api_rapidjson_folder)
         target_include_directories(vrx_api::rapidjson INTERFACE ${vrx_api_rapidjson_folder})
     endif()
 endif()
 
-if(VRX_API_LIBDEFLATE AND NOT TARGET vrx_api::libdeflate)
+if(vrx_api_wants_libdeflate AND NOT TARGET vrx_api::libdeflate)
     find_package(libdeflate CONFIG QUIET)
     find_library(vrx_api_libdeflate_library NAMES deflate libdeflate)
     find_path(vrx_api_libdeflate_folder libdeflate.h)

@@ -7,8 +7,8 @@ namespace vrx
 
 // Each name stands in the source that enters its class. Of external linkage, so that no compiler leaves it out.
 extern const wstring* const kExchangeClassNames[];
-// Only the addresses are taken.
-const wstring* const kExchangeClassNames[] = { // NOLINT(cppcoreguidelines-interfaces-global-init)
+// NOLINTNEXTLINE(cppcoreguidelines-interfaces-global-init): only the addresses are taken
+const wstring* const kExchangeClassNames[] = {
     &ExcBlockGeometry::s_objectName,
     &ExcBlockMechanicalData::s_objectName,
     &ExcBlockVisualization::s_objectName,

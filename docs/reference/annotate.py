@@ -208,7 +208,8 @@ class Annotator:
             "enumerator": self.of_enumerator,
         }[declared.kind](declared)
         special = [] if declared.comment or declared.kind != "function" else self.of_special(declared)
-        shared = [] if declared.comment or special or not declared.group else [declared.group]
+        is_of_base = declared.name in ("readObject", "writeObject", "objectName", "clone")
+        shared = [] if declared.comment or special or is_of_base or not declared.group else [declared.group]
         lines = special + shared + own
         # A comment begins with what it tells, and a paragraph of its own follows only where something stands above.
         while lines and not lines[0] and not declared.comment:

@@ -31,9 +31,9 @@ def public_headers(root: Path) -> list[str]:
 
 
 def folders(root: Path) -> dict[str, str]:
-    """The folders and what they hold, from the table in the README."""
+    """The folders and what they hold, from their table."""
     found = {}
-    for names, holds in re.findall(r"^\| (`[^|]+) \| (.+) \|$", (root / "README.md").read_text(), re.MULTILINE):
+    for names, holds in re.findall(r"^\| (`[^|]+) \| (.+) \|$", (root / "docs/working.md").read_text(), re.MULTILINE):
         told = re.findall(r"`([\w/]+)`", names)
         above = told[0].rsplit("/", 1)[0] + "/" if "/" in told[0] else ""
         # Two folders in one row may have a part of it each.
@@ -90,7 +90,7 @@ def main() -> int:
     for folder in dict.fromkeys(str(Path(header).parent) for header in headers):
         if folder != "vrx_api":
             if folder not in told:
-                print(f"The table of folders in README.md does not have {folder}.", file=sys.stderr)
+                print(f"The table of folders in docs/working.md does not have {folder}.", file=sys.stderr)
                 return 1
             holds = told[folder][:1].upper() + told[folder][1:] + "."
             name = folder.replace("/", "_")

@@ -62,8 +62,8 @@ class VrxApiConan(ConanFile):
         check_min_cppstd(self, 17)
         if self.settings.os not in ("Linux", "Windows"):
             raise ConanInvalidConfiguration(f"{self.ref} runs on Linux and Windows only")
-        if self.settings.os == "Windows" and self.settings.arch != "x86_64":
-            raise ConanInvalidConfiguration(f"{self.ref} runs on 64-bit Windows only")
+        if self.settings.arch not in ("x86_64", "armv8"):
+            raise ConanInvalidConfiguration(f"{self.ref} runs on 64-bit systems only")
 
     def generate(self) -> None:
         toolchain = CMakeToolchain(self)
@@ -86,7 +86,6 @@ class VrxApiConan(ConanFile):
         # Conan makes such files itself, from what package_info tells.
         rmdir(self, str(package / "lib" / "cmake"))
         rmdir(self, str(package / "lib" / "pkgconfig"))
-        rmdir(self, str(package / "share"))
 
     def package_info(self) -> None:
         self.cpp_info.set_property("cmake_file_name", "vrx_api")

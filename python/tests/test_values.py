@@ -79,6 +79,10 @@ class Binary(unittest.TestCase):
             with self.subTest(data), self.assertRaises(FormatError):
                 decode_binary(data)
 
+    def test_a_string_without_an_end_does_not_take_forever(self) -> None:
+        with self.assertRaises(FormatError):
+            parse_json('"' + '[\\"' * 500_000)
+
     def test_depth(self) -> None:
         data = b""
         for level in range(100):

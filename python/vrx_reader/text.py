@@ -9,7 +9,8 @@ from .errors import FormatError, LimitError
 from .limits import DEFAULT_LIMITS, Limits
 
 _BYTE_ORDER_MARKS = ((codecs.BOM_UTF8, "utf-8"), (codecs.BOM_UTF16_LE, "utf-16-le"), (codecs.BOM_UTF16_BE, "utf-16-be"))
-_STRING = re.compile(r'"[^"\\]*(?:\\.[^"\\]*)*"', re.DOTALL)
+# One without an end goes up to the end of the text: to look for the end of each would take forever.
+_STRING = re.compile(r'"[^"\\]*(?:\\.[^"\\]*)*(?:"|\\?\Z)', re.DOTALL)
 _BRACKET = re.compile(r"[\[\]{}]")
 
 
@@ -62,8 +63,8 @@ def _require_depth(text: str, most: int) -> None:
     if text.count("[") + text.count("{") <= most:
         return
     depth = 0
-    for bracket in _BRACKET.findall(_STRING.sub("", text)):
-        depth += 1 if bracket in "[{" else -1
+    for bracket in _BRACKET.finditer(_STRING.sub("", text)):
+        depth += 1 if bracket.group() in "[{" else -1
         if depth > most:
             raise LimitError(f"the text is nested deeper than {most}")
 

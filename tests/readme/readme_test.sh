@@ -4,6 +4,7 @@
 # lines for CMake that it shows become a host and a translator on the installed package.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+[[ ! -e import.vrxcap ]] || { echo "import.vrxcap is in the way" >&2; exit 1; }
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch" import.vrxcap' EXIT
 

@@ -35,6 +35,7 @@ public:
 
     /// Views are written under "views" and read under "annotation_views": a set that was written arrives without them.
     const std::vector<std::shared_ptr<ExcPMIAnnotationView>>& views() const { return m_views; }
+
     const std::vector<std::shared_ptr<ExcPMICapture>>& captures() const { return m_captures; }
     const std::vector<std::shared_ptr<ExcEntity>>& constructedGeometry() const { return m_constructedGeometry; }
 
