@@ -14,12 +14,5 @@ parent/static_library
 cmake --install parent --prefix "$PWD/made"
 mv made moved
 
-cmake -S "$sources/tests/consumer" -B by-cmake -G Ninja -DCMAKE_PREFIX_PATH="$PWD/moved" -DVRX_API_COMPONENTS=
-cmake --build by-cmake
-by-cmake/consumer
-by-cmake/static_library
-
-flags=$(PKG_CONFIG_PATH=$PWD/moved/lib/pkgconfig pkg-config --cflags --libs vrx_api)
-# shellcheck disable=SC2086 # the flags are words
-g++ -std=c++17 "$sources/tests/consumer/static_library.cpp" $flags -o by-pkg-config
-./by-pkg-config
+CMAKE_PREFIX_PATH=$PWD/moved PKG_CONFIG_PATH=$PWD/moved/lib/pkgconfig \
+    "$sources/tests/consumer/run" consumer consumer static_library
